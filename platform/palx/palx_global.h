@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QtCore/qglobal.h>
+
+/// Marks what programs may use; everything else stays inside the library.
+#define PALX_EXPORT Q_DECL_EXPORT

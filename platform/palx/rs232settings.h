@@ -1,0 +1,83 @@
+#pragma once
+
+#include "palx_global.h"
+
+#include <QSerialPort>
+#include <QString>
+#include <QVariant>
+
+namespace palx {
+
+/// The five parameters of a serial port; a new value is 9600 baud, 8 data bits, no parity, one
+/// stop bit, no flow control. Any number is kept, also one without an enumerator.
+class Rs232PortSettings
+{
+public:
+    QSerialPort::BaudRate baudRate() const { return m_baudRate; }
+    void setBaudRate(QSerialPort::BaudRate baudRate) { m_baudRate = baudRate; }
+
+    QSerialPort::DataBits dataBits() const { return m_dataBits; }
+    void setDataBits(QSerialPort::DataBits dataBits) { m_dataBits = dataBits; }
+
+    QSerialPort::Parity parity() const { return m_parity; }
+    void setParity(QSerialPort::Parity parity) { m_parity = parity; }
+
+    QSerialPort::StopBits stopBits() const { return m_stopBits; }
+    void setStopBits(QSerialPort::StopBits stopBits) { m_stopBits = stopBits; }
+
+    QSerialPort::FlowControl flowControl() const { return m_flowControl; }
+    void setFlowControl(QSerialPort::FlowControl flowControl) { m_flowControl = flowControl; }
+
+private:
+    QSerialPort::BaudRate m_baudRate = QSerialPort::Baud9600;
+    QSerialPort::DataBits m_dataBits = QSerialPort::Data8;
+    QSerialPort::Parity m_parity = QSerialPort::NoParity;
+    QSerialPort::StopBits m_stopBits = QSerialPort::OneStop;
+    QSerialPort::FlowControl m_flowControl = QSerialPort::NoFlowControl;
+};
+
+/// The settings of one serial port under a section name. Setters store what they are given.
+class PALX_EXPORT RS232Settings
+{
+public:
+    /// @param section name of the section that the settings belong to
+    RS232Settings(const QString& section);
+    virtual ~RS232Settings();
+
+    virtual QString portName() const;
+    virtual void setPortName(const QString& portName);
+    virtual QSerialPort::BaudRate baudrate() const;
+    virtual void setBaudrate(QSerialPort::BaudRate baudRate);
+    virtual QSerialPort::FlowControl flowControl() const;
+    virtual void setFlowControl(QSerialPort::FlowControl flowControl);
+    virtual QSerialPort::Parity parityType() const;
+    virtual void setParityType(QSerialPort::Parity parity);
+    virtual QSerialPort::DataBits dataBits() const;
+    virtual void setDataBitsType(QSerialPort::DataBits dataBits);
+    virtual QSerialPort::StopBits stopBits() const;
+    virtual void setStopBits(QSerialPort::StopBits stopBits);
+
+    /// The five port parameters as one value.
+    virtual Rs232PortSettings portSettings() const;
+    virtual void setPortSettings(const Rs232PortSettings& settings);
+
+    virtual QString section() const;
+    virtual void setSection(const QString& section);
+
+    /// One map {"group", "key", "value"} for each setting: the section, the setting's name, its
+    /// text or number.
+    virtual QList<QVariant> toList() const;
+
+    /// Takes every element of this section with setValue().
+    virtual void setList(const QList<QVariant>& list);
+
+    /// Takes one setting; another section's, or one with an unknown name, is ignored.
+    virtual void setValue(const QVariantMap& setting);
+
+private:
+    QString m_section;
+    QString m_portName;
+    Rs232PortSettings m_portSettings;
+};
+
+} // namespace palx

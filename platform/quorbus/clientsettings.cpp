@@ -1,0 +1,15 @@
+#include "clientsettings.h"
+
+namespace quorbus {
+
+ClientSettings::ClientSettings(const QList<QVariant>& settings)
+    : m_settings(settings)
+{
+}
+
+QList<QVariant> ClientSettings::settings() const
+{
+    return m_settings;
+}
+
+} // namespace quorbus

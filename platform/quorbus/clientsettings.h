@@ -1,0 +1,23 @@
+#pragma once
+
+#include "quorbus_global.h"
+
+#include <QList>
+#include <QVariant>
+
+namespace quorbus {
+
+/// The acceptor service's settings as the bus client received them.
+class QUORBUS_EXPORT ClientSettings
+{
+public:
+    /// @param settings maps {"group", "key", "value"}, in the order of the service
+    ClientSettings(const QList<QVariant>& settings);
+
+    QList<QVariant> settings() const;
+
+private:
+    QList<QVariant> m_settings;
+};
+
+} // namespace quorbus

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "quorbus_global.h"
+
+#include <QDateTime>
+#include <QString>
+
+namespace quorbus {
+
+/// The acceptor service's published state as the bus client received it.
+class QUORBUS_EXPORT ClientState
+{
+public:
+    /// @param state the service state as JSON text
+    /// @param dt when the service published it
+    ClientState(const QString& state, const QDateTime& dt);
+
+    QString state() const;
+    QDateTime dt() const;
+
+private:
+    QString m_state;
+    QDateTime m_dt;
+};
+
+} // namespace quorbus

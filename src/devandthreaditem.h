@@ -1,0 +1,35 @@
+#pragma once
+
+#include "velmolib_global.h"
+
+#include <QString>
+#include <QVariant>
+
+QT_WARNING_PUSH
+// There is no virtual destructor on purpose: the class's virtual table holds toMap() and fromMap()
+// only. Never delete a derived record through a pointer to this class.
+QT_WARNING_DISABLE_GCC("-Wnon-virtual-dtor")
+QT_WARNING_DISABLE_CLANG("-Wnon-virtual-dtor")
+
+/// One device of the service and the service thread that drives it.
+class VELMOLIB_EXPORT DevAndThreadItem
+{
+public:
+    static const QString DEVICE_ID; ///< "device_id": int
+    static const QString THREAD_ID; ///< "thread_id": int, sign-extended
+
+    virtual QVariantMap toMap() const;
+
+    /// Reads the device, then the thread.
+    /// @param error receives the bare text of the first missing key; may be null
+    /// @return whether both keys were there
+    virtual bool fromMap(const QVariantMap& map, QString* error = nullptr);
+
+    bool operator==(const DevAndThreadItem& other) const;
+    bool operator!=(const DevAndThreadItem& other) const { return !(*this == other); }
+
+    qint32 deviceId = 0;
+    qint16 threadId = -1; ///< takes the low 16 bits of what a map holds
+};
+
+QT_WARNING_POP

@@ -1,0 +1,26 @@
+#include "acceptfilter.h"
+
+#include <QDebug>
+
+AbstractFilter::FilterResult AcceptFilter::validate()
+{
+    qDebug().noquote() << QStringLiteral("Accept filter");
+    return m_acceptAll ? FILTER_ACCEPT : FILTER_REJECT;
+}
+
+QString AcceptFilter::getFilterName() const
+{
+    return QStringLiteral("accept filter");
+}
+
+QList<FieldDescription> AcceptFilter::getFieldsDescription() const
+{
+    return {{QStringLiteral("acceptAll"), tr("Accept(1) or reject(0) notes"), QStringLiteral("int"),
+             QStringLiteral("^(0|1)$")}};
+}
+
+QString AcceptFilter::getFilterDescription() const
+{
+    return tr("Accept filter|If enabled and set to false, coin acceptors and BNVs shall reject all "
+              "coins and notes");
+}

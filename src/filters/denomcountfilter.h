@@ -1,0 +1,24 @@
+#pragma once
+
+#include "abstractfilter.h"
+
+/// Caps how many notes or coins of one denomination a session may take.
+///
+/// Properties: denom, the face value that is capped (0); count, the number of accepted notes from
+/// which on it is refused (0).
+class VELMOLIB_EXPORT DenomCountFilter : public AbstractFilter
+{
+    Q_OBJECT
+    Q_PROPERTY(int denom MEMBER m_denom)
+    Q_PROPERTY(qint16 count MEMBER m_count)
+
+public:
+    FilterResult validate() override;
+    QString getFilterName() const override;
+    QList<FieldDescription> getFieldsDescription() const override;
+    QString getFilterDescription() const override;
+
+private:
+    int m_denom = 0;
+    qint16 m_count = 0;
+};

@@ -1,0 +1,67 @@
+#include "filterfactory.h"
+
+#include "acceptfilter.h"
+#include "attemptsfilter.h"
+#include "denomcountfilter.h"
+#include "sessionsumfilter.h"
+
+#include <memory>
+
+namespace filters {
+
+const char* const ACCEPT_FILTER = "AcceptFilter";
+const char* const ATTEMPTS_FILTER = "AttemptsFilter";
+const char* const DENOM_COUNT_FILTER = "DenomCountFilter";
+const char* const SESSION_SUM_FILTER = "SessionSumFilter";
+
+} // namespace filters
+
+namespace {
+
+template <typename Filter>
+AbstractFilter* make()
+{
+    return new Filter;
+}
+
+const struct
+{
+    QLatin1String name;
+    AbstractFilter* (*make)();
+} knownFilters[] = {
+    {QLatin1String(filters::SESSION_SUM_FILTER), make<SessionSumFilter>},
+    {QLatin1String(filters::ACCEPT_FILTER), make<AcceptFilter>},
+    {QLatin1String(filters::ATTEMPTS_FILTER), make<AttemptsFilter>},
+    {QLatin1String(filters::DENOM_COUNT_FILTER), make<DenomCountFilter>},
+};
+
+} // namespace
+
+AbstractFilter* FilterFactory::createFilter(const QString& name, const QVariantMap& params)
+{
+    for (const auto& known : knownFilters) {
+        if (name == known.name)
+            return known.make()->setParams(params);
+    }
+    return nullptr;
+}
+
+QStringList FilterFactory::getFilters()
+{
+    QStringList names;
+    for (const auto& known : knownFilters)
+        names.append(known.name);
+    return names;
+}
+
+QList<FieldDescription> FilterFactory::getFieldsDesc(const QString& name)
+{
+    const std::unique_ptr<AbstractFilter> filter(createFilter(name, {}));
+    return filter ? filter->getFieldsDescription() : QList<FieldDescription>();
+}
+
+QString FilterFactory::getFilterDesc(const QString& name)
+{
+    const std::unique_ptr<AbstractFilter> filter(createFilter(name, {}));
+    return filter ? filter->getFilterDescription() : QString();
+}

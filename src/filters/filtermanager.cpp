@@ -1,0 +1,5 @@
+#include "filtermanager.h"
+
+FilterManager::FilterManager() = default;
+
+FilterManager::~FilterManager() = default;

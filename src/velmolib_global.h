@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QtCore/qglobal.h>
+
+/// Marks what programs may use; everything else stays inside the library.
+#if defined(velmolib_EXPORTS)
+#define VELMOLIB_EXPORT Q_DECL_EXPORT
+#else
+#define VELMOLIB_EXPORT Q_DECL_IMPORT
+#endif

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// Signed 32-bit sums of numbers that come from outside: they wrap around, like the devices'
+/// own counters, instead of overflowing.
+constexpr qint32 wrappingSum(qint32 a, qint32 b)
+{
+    return static_cast<qint32>(static_cast<quint32>(a) + static_cast<quint32>(b));
+}
+
+constexpr qint32 wrappingDifference(qint32 a, qint32 b)
+{
+    return static_cast<qint32>(static_cast<quint32>(a) - static_cast<quint32>(b));
+}
