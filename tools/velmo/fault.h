@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+/// What is wrong with the input, the output or the command line. Thrown where it is found; main()
+/// reports it and ends with exitBadInput.
+struct Fault
+{
+    QString message; ///< names the file, the place in it and the fault
+};
+
+constexpr int exitSuccess = 0;
+constexpr int exitBadInput = 2;
+
+/// Writes "velmo: <message>" and a line feed to standard error.
+void printError(const QString& message);

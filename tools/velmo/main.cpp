@@ -1,0 +1,79 @@
+#include "commandline.h"
+#include "fault.h"
+#include "replaycommand.h"
+#include "velmolib.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QLoggingCategory>
+
+#include <cstdio>
+
+namespace {
+
+const struct Command
+{
+    QLatin1String name;
+    QLatin1String summary;
+    int (*run)(const QStringList& arguments);
+} commands[] = {
+    {QLatin1String("replay"),
+     QLatin1String("What happened in a session, and why notes were refused."), replayCommand},
+};
+
+int runWithoutCommand(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    QString description = QStringLiteral("Answers questions about the cash devices of a kiosk.\n\n"
+                                         "Commands (velmo COMMAND --help tells more):");
+    for (const Command& command : commands)
+        description += QStringLiteral("\n  %1  %2").arg(command.name, command.summary);
+    parser.setApplicationDescription(description);
+    parser.addPositionalArgument(QStringLiteral("COMMAND"), QStringLiteral("One of the commands."));
+    const QCommandLineOption help = helpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    parser.addOption(help);
+
+    if (!parseArguments(parser, arguments, help))
+        return exitSuccess;
+    if (parser.isSet(version)) {
+        const palx::AppVersion library = VelmoLib::version();
+        printf("velmo %s (library built %s)\n", qUtf8Printable(library.version()),
+               qUtf8Printable(library.buildTime()));
+    } else if (parser.positionalArguments().isEmpty()) {
+        throw Fault{QStringLiteral("no command given; velmo --help lists them")};
+    } else {
+        throw Fault{QStringLiteral("unknown command \"%1\"; velmo --help lists them")
+                        .arg(parser.positionalArguments().constFirst())};
+    }
+    return exitSuccess;
+}
+
+int run(const QStringList& arguments)
+{
+    for (const Command& command : commands) {
+        if (arguments.value(1) == command.name)
+            return command.run(arguments);
+    }
+    return runWithoutCommand(arguments);
+}
+
+} // namespace
+
+void printError(const QString& message)
+{
+    fprintf(stderr, "velmo: %s\n", qUtf8Printable(message));
+}
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    // The library's progress messages; QT_LOGGING_RULES=default.debug=true brings them back.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    try {
+        return run(QCoreApplication::arguments());
+    } catch (const Fault& fault) {
+        printError(fault.message);
+        return exitBadInput;
+    }
+}
