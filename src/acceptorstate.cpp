@@ -48,8 +48,8 @@ QVariantMap registryByChannel(const QVariantList& rows)
             QStringLiteral("%1_%2_%3_%4")
                 .arg(row.value(Row::BILL_TYPE).toString(), row.value(Row::CHANNEL).toString(),
                      row.value(Row::DENOMINATION).toString(), row.value(Row::CURRENCY).toString());
-        for (const QString& filed : {Row::THREAD_ID, Row::DEVICE_ID, Row::CHANNEL})
-            row.remove(filed);
+        for (const QString& owner : {Row::THREAD_ID, Row::DEVICE_ID, Row::CHANNEL})
+            row.remove(owner);
         registry.insert(key, row);
     }
     return registry;

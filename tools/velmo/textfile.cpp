@@ -26,6 +26,8 @@ bool TextFile::readLine(QByteArray& line)
         checkRead();
         return false;
     }
+    if (line.endsWith('\n'))
+        line.chop(1);
     ++m_lineNumber;
     return true;
 }

@@ -13,7 +13,7 @@ class TextFile
 public:
     explicit TextFile(const QString& name);
 
-    /// Reads the next line; false at the end of the file.
+    /// Reads the next line, without its line feed; false at the end of the file.
     bool readLine(QByteArray& line);
 
     QByteArray readAll();

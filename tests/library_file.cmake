@@ -1,0 +1,43 @@
+# Checks a built libvelmolib: its SONAME, what it needs at run time, and that nothing but the
+# documented classes and constants is exported.
+
+execute_process(COMMAND ${READELF} -d ${LIBRARY}
+    OUTPUT_VARIABLE dynamic COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND ${NM} -DC --defined-only ${LIBRARY}
+    OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+
+if(NOT dynamic MATCHES "SONAME[^\n]*\\[libvelmolib\\.so\\.5\\]")
+    message(SEND_ERROR "The SONAME is not libvelmolib.so.5:\n${dynamic}")
+endif()
+if(NOT LIBRARY MATCHES "libvelmolib\\.so\\.5\\.0\\.6$")
+    message(SEND_ERROR "The file version is not 5.0.6: ${LIBRARY}")
+endif()
+
+set(allowed "Qt5Core\\.so\\.5|Qt5SerialPort\\.so\\.5|stdc\\+\\+\\.so\\.6|gcc_s\\.so\\.1")
+string(APPEND allowed "|c\\.so\\.6|m\\.so\\.6")
+if(SANITIZED)
+    string(APPEND allowed "|[at]san\\.so\\.[0-9]|ubsan\\.so\\.[0-9]")
+endif()
+string(REGEX MATCHALL "NEEDED[^\n]*" needed "${dynamic}")
+foreach(entry IN LISTS needed)
+    if(NOT entry MATCHES "\\[lib(${allowed})\\]")
+        message(SEND_ERROR "Needs more than Qt5Core, Qt5SerialPort and the run time: ${entry}")
+    endif()
+endforeach()
+
+foreach(private RecordReader converted wrappingSum "\\(anonymous namespace\\)")
+    if(symbols MATCHES "[^\n]*${private}[^\n]*")
+        message(SEND_ERROR "A private helper is exported: ${CMAKE_MATCH_0}")
+    endif()
+endforeach()
+foreach(public Acceptors::search BasicNoteItem::BILL_TYPE "vtable for StatItem"
+        "DRListRoutines::sortDevices" "operator-\\(DispenserRegistryItem" deviceStatesConst::DS_BUSY
+        deviceStateDescConst::ONLINE DeviceState::parse DeviceStateWorker::staticMetaObject
+        AcceptorState::ACCEPTOR_STATE_BUSY filters::ACCEPT_FILTER FilterFactory::createFilter
+        FilterManager::FilterManager VelmoLib::version palx::RS232Settings::toList
+        palx::AppVersionManager::addVersion quorbus::ClientState::dt
+        quorbus::ClientSettings::settings)
+    if(NOT symbols MATCHES "${public}")
+        message(SEND_ERROR "Not exported: ${public}")
+    endif()
+endforeach()
