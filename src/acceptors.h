@@ -21,7 +21,7 @@ class VELMOLIB_EXPORT Acceptors
 {
 public:
     /// Catalogue identifier of a device model, the number by which settings and states name it:
-    /// 1 to 99 handle banknotes, 100 to 199 coins, 200 and above cards.
+    /// 1 to 99 handle banknotes, 100 to 199 coins, 200 and 201 are card terminals.
     enum Supported : qint32 {
         CCNet = 1,
         Ebds = 2,

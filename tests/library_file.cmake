@@ -13,6 +13,10 @@ if(NOT LIBRARY MATCHES "libvelmolib\\.so\\.5\\.0\\.6$")
     message(SEND_ERROR "The file version is not 5.0.6: ${LIBRARY}")
 endif()
 
+if(NOT dynamic MATCHES "NODELETE")
+    message(SEND_ERROR "The library can be unloaded while Qt still knows its types:\n${dynamic}")
+endif()
+
 set(allowed "Qt5Core\\.so\\.5|Qt5SerialPort\\.so\\.5|stdc\\+\\+\\.so\\.6|gcc_s\\.so\\.1")
 string(APPEND allowed "|c\\.so\\.6|m\\.so\\.6")
 if(SANITIZED)

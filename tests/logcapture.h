@@ -1,62 +1,38 @@
 #pragma once
 
-#include <QList>
 #include <QMessageLogContext>
-#include <QString>
+#include <QStringList>
 
 /// Collects the log lines that are written while it lives.
 class LogCapture
 {
 public:
-    struct Line
-    {
-        QtMsgType level;
-        QString category;
-        QString file;
-        QString function; ///< signature without blanks, which compilers set differently
-        QString text;
-    };
-
     LogCapture()
+        : m_previous(qInstallMessageHandler(collect))
     {
-        s_lines.clear();
-        m_previous = qInstallMessageHandler(collect);
+        s_texts.clear();
+        s_places.clear();
     }
 
     ~LogCapture() { qInstallMessageHandler(m_previous); }
 
-    QList<Line> lines() const { return s_lines; }
+    /// Level and text of each line, for example "debug: Clearing chain".
+    QStringList texts() const { return s_texts; }
 
-    /// Each line's level and text, for example "debug: Clearing chain".
-    QStringList texts() const
-    {
-        QStringList texts;
-        for (const Line& line : s_lines)
-            texts += levelName(line.level) + QStringLiteral(": ") + line.text;
-        return texts;
-    }
+    /// Category, file and signature of each line; no blanks, which compilers set differently.
+    QStringList places() const { return s_places; }
 
 private:
-    static QString levelName(QtMsgType level)
-    {
-        switch (level) {
-        case QtDebugMsg:
-            return QStringLiteral("debug");
-        case QtWarningMsg:
-            return QStringLiteral("warning");
-        case QtCriticalMsg:
-            return QStringLiteral("critical");
-        default:
-            return QStringLiteral("other");
-        }
-    }
-
     static void collect(QtMsgType level, const QMessageLogContext& context, const QString& text)
     {
-        s_lines.append({level, QString::fromUtf8(context.category), QString::fromUtf8(context.file),
-                        QString::fromUtf8(context.function).remove(QLatin1Char(' ')), text});
+        static const char* const levels[] = {"debug: ", "warning: ", "critical: ", "fatal: "};
+        s_texts += QLatin1String(levels[level]) + text;
+        s_places += QStringLiteral("%1 %2 ").arg(QLatin1String(context.category),
+                                                 QLatin1String(context.file))
+            + QString::fromLatin1(context.function).remove(QLatin1Char(' '));
     }
 
-    inline static QList<Line> s_lines;
+    inline static QStringList s_texts;
+    inline static QStringList s_places;
     QtMessageHandler m_previous;
 };

@@ -1,39 +1,45 @@
-#include "devicestate.h"
-#include "literals.h"
+#include "devicestateworker.h"
+#include "testtable.h"
 
-#include <QJsonDocument>
-#include <QtTest>
+#include <QSignalSpy>
+#include <QThread>
 
 #include <climits>
 
 namespace {
 
-const QStringList keys{"enabled"_s,      "state"_s,           "stacker_present"_s, "stacker_full"_s,
-                       "cash"_s,         "error_text"_s,      "error_critical"_s,  "halt"_s,
-                       "state_text"_s,   "thread_id"_s,       "device_id"_s,       "session_sum"_s,
-                       "current_note"_s, "current_channel"_s, "dispensed_sum"_s,   "id_string"_s,
-                       "online"_s};
+const QStringList keys =
+    "enabled state stacker_present stacker_full cash error_text error_critical halt state_text "
+    "thread_id device_id session_sum current_note current_channel dispensed_sum id_string "
+    "online"_s.split(QLatin1Char(' '));
 
 // Differs from a new record in every field.
 DeviceState everyFieldSet()
 {
-    DeviceState s;
-    s.enabled = s.stackerFull = s.errCritical = s.halt = s.online = true;
-    s.stackerPresent = false;
-    s.state = STATE_EMPTIED;
-    s.cash = s.threadId = s.deviceId = s.dispensedSum = UINT_MAX;
-    s.sessionSum = INT_MIN;
-    s.currentNote = INT_MAX;
-    s.currentChannel = -1;
-    s.errorText = "jam \"A\"\n"_s;
-    s.stateText = u8"принято"_s;
-    s.idString = "x"_s;
-    return s;
+    DeviceStateWorker worker;
+    worker.setEnabled(true);
+    worker.setState(STATE_EMPTIED);
+    worker.setStackerPresent(false);
+    worker.setStackerFull(true);
+    worker.setCash(UINT_MAX);
+    worker.setErrorText("jam\tA\n"_s);
+    worker.setErrCritical(true);
+    worker.setHalt(true);
+    worker.setStateText("принято"_s);
+    worker.setThreadId(UINT_MAX - 1);
+    worker.setDeviceId(UINT_MAX - 2);
+    worker.setSessionSum(INT_MIN);
+    worker.setCurrentNote(INT_MAX);
+    worker.setCurrentChannel(-1);
+    worker.setDispensedSum(UINT_MAX - 3);
+    worker.setIdString("x"_s);
+    worker.setOnline(true);
+    return *worker.getState();
 }
 
-DispenserRegistryItem row(int count)
+DispenserRegistryItem row(unsigned count)
 {
-    return {1, 7, 2, Acceptors::Bill, "RUB"_s, 100, static_cast<unsigned>(count), 0};
+    return {1, 7, 2, Acceptors::Bill, "RUB"_s, 100, count, 0};
 }
 
 } // namespace
@@ -43,183 +49,205 @@ class tst_DeviceState : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void newRecordSerializesToItsExactText();
-    void everyStateHasOneName();
-    void unknownStatesHaveNoName();
-    void readingStopsAtFirstMissingKey();
-    void unknownStateNameStopsReading();
-    void textReadsBackAllButTheRegistry();
-    void registryTravelsOnlyOutwards();
-    void badTextChangesNothing_data();
-    void badTextChangesNothing();
-    void numbersTakeTheirLowBits();
-    void comparisonSeesEveryField();
-    void resetsKeepWhatTheyShould();
+    void recordsSerializeToTheirExactText()
+    {
+        QCOMPARE(
+            DeviceState().serialize(),
+            R"({"cash":0,"current_channel":0,"current_note":0,"device_id":0,"dispensed_sum":0,)"
+            R"("enabled":false,"error_critical":false,"error_text":"","halt":false,)"
+            R"("id_string":"","online":false,"session_sum":0,"stacker_full":false,)"
+            R"("stacker_present":true,"state":"busy","state_text":"","thread_id":0})"_s);
+        QCOMPARE(everyFieldSet().serialize(),
+                 R"({"cash":4294967295,"current_channel":-1,"current_note":2147483647,)"
+                 R"("device_id":4294967293,"dispensed_sum":4294967292,"enabled":true,)"
+                 R"("error_critical":true,"error_text":"jam\tA\n","halt":true,)"
+                 R"("id_string":"x","online":true,"session_sum":-2147483648,)"
+                 R"("stacker_full":true,"stacker_present":false,"state":"emptied",)"
+                 R"("state_text":"принято","thread_id":4294967294})"_s);
+    }
+
+    void statesAndNamesMatch()
+    {
+        const QStringList names =
+            "idling accepting accepted rejected stacking stacked returning returned jammed busy "
+            "error updating dispensing dispensed floating floated emptying emptied"_s.split(
+                QLatin1Char(' '));
+        for (int value = -1; value <= names.size(); ++value) {
+            DeviceState s;
+            s.state = static_cast<State>(value);
+            QCOMPARE(s.stateAsString(), names.value(value));
+            QCOMPARE(DeviceState().fromMap(s.toMap()), value >= 0 && value < names.size());
+            State read = STATE_JAMMED;
+            QCOMPARE(DeviceState::stateFromString(names.value(value), read),
+                     value >= 0 && value < names.size());
+            QCOMPARE(int(read), names.value(value).isNull() ? int(STATE_JAMMED) : value);
+        }
+        State state = STATE_JAMMED;
+        QVERIFY(!DeviceState::stateFromString("Idling"_s, state));
+    }
+
+    void readingStopsAtFirstMissingKey()
+    {
+        const QVariantMap complete = everyFieldSet().toMap();
+        const QVariantMap defaults = DeviceState().toMap();
+        QCOMPARE(complete.size(), keys.size());
+        for (int missing = 0; missing < keys.size(); ++missing) {
+            QVariantMap map = complete;
+            map.remove(keys.at(missing));
+            DeviceState s;
+            QVERIFY(!s.fromMap(map));
+            const QVariantMap read = s.toMap();
+            for (int i = 0; i < keys.size(); ++i)
+                QCOMPARE(read[keys.at(i)], (i < missing ? complete : defaults)[keys.at(i)]);
+        }
+        QVariantMap map = complete;
+        map["state"_s] = "BUSY"_s;
+        DeviceState s;
+        DeviceState expected;
+        expected.enabled = true;
+        QVERIFY(!s.fromMap(map));
+        QCOMPARE(s, expected);
+    }
+
+    void registryTravelsOnlyOutwards()
+    {
+        DeviceState s = everyFieldSet();
+        s.setDispenserRegistry({row(5), row(6)});
+        QCOMPARE(s.toMap().value("dispenser_registry"_s),
+                 QVariant(QVariantList{row(5).toMap(), row(6).toMap()}));
+        QVERIFY(s.serialize().contains(
+            R"(,"dispenser_registry":[{"bill_type":0,"channel":2,"count":5,)"_s));
+        DeviceState read;
+        QVERIFY(read.parse(s.serialize()));
+        QCOMPARE(read, everyFieldSet());
+        QVERIFY(s.parse(read.serialize()));
+        QCOMPARE(s.dispenserRegistry.size(), 2);
+    }
+
+    void badTextChangesNothing()
+    {
+        const QString good = everyFieldSet().serialize();
+        const QString texts[] = {QString(), good.chopped(1), "["_s + good + "]"_s, good + "x"_s};
+        for (const QString& text : texts) {
+            DeviceState s;
+            QVERIFY(!s.parse(text));
+            QCOMPARE(s, DeviceState());
+        }
+    }
+
+    void numbersTakeTheirLowBits()
+    {
+        QVariantMap map = DeviceState().toMap();
+        map.insert({{"current_channel"_s, 98303}, {"cash"_s, -1}, {"device_id"_s, "12"_s}});
+        map["session_sum"_s] = "abc"_s;
+        DeviceState s = everyFieldSet();
+        QVERIFY(s.fromMap(map));
+        QCOMPARE(s.currentChannel, qint16(32767));
+        QCOMPARE(s.cash, UINT_MAX);
+        QCOMPARE(s.deviceId, 12U);
+        QCOMPARE(s.sessionSum, 0);
+    }
+
+    void comparisonAndCopySeeEveryField()
+    {
+        const QVariantMap changed = everyFieldSet().toMap();
+        for (const QString& key : keys) {
+            QVariantMap map = DeviceState().toMap();
+            map[key] = changed.value(key);
+            DeviceState s;
+            QVERIFY(s.fromMap(map));
+            QVERIFY2(s != DeviceState(), qPrintable(key));
+            DeviceState copy;
+            copy = s;
+            QCOMPARE(copy, s);
+        }
+        DeviceState a;
+        DeviceState b;
+        a.setDispenserRegistry({row(5)});
+        b.setDispenserRegistry({row(6)});
+        QVERIFY(a != b);
+        b = a;
+        QCOMPARE(b, a);
+    }
+
+    void resetsKeepWhatTheyShould()
+    {
+        DeviceState kept;
+        kept.threadId = UINT_MAX - 1;
+        kept.deviceId = UINT_MAX - 2;
+        kept.dispenserRegistry = {row(5)};
+        DeviceState whole = everyFieldSet();
+        whole.dispenserRegistry = kept.dispenserRegistry;
+        DeviceState oper = whole;
+        whole.reset();
+        QCOMPARE(whole, kept);
+        kept.cash = UINT_MAX;
+        kept.sessionSum = INT_MIN;
+        kept.idString = "x"_s;
+        kept.online = true;
+        oper.resetOper();
+        QCOMPARE(oper, kept);
+    }
+
+    void workerSendsUntilSaved()
+    {
+        DeviceStateWorker worker;
+        QSignalSpy sent(&worker, &DeviceStateWorker::deviceStateChanged);
+        QVERIFY(!worker.checkState());
+        worker.setSessionSum(100);
+        QVERIFY(worker.checkState());
+        QVERIFY(worker.checkState());
+        worker.saveState();
+        worker.setSessionSum(100);
+        QVERIFY(!worker.checkState());
+        worker.setDispenserRegistryList({row(1)});
+        QVERIFY(worker.checkState());
+        worker.saveState();
+        worker.sendState();
+        QCOMPARE(sent.size(), 4);
+        QCOMPARE(sent.at(0).at(0).value<DeviceState>().sessionSum, 100);
+        QCOMPARE(worker.getStatesList()->size(), 4);
+        QCOMPARE(worker.getStatesList()->at(1).dispenserRegistry.size(), 0);
+        QCOMPARE(worker.getStatesList()->constLast(), *worker.getState());
+    }
+
+    void newSessionKeepsTheRest()
+    {
+        DeviceStateWorker worker;
+        *worker.getState() = everyFieldSet();
+        worker.sendState();
+        worker.saveState();
+        worker.startSession();
+        QVERIFY(worker.getStatesList()->isEmpty());
+        DeviceState expected = everyFieldSet();
+        expected.sessionSum = expected.currentNote = expected.currentChannel = 0;
+        expected.dispensedSum = 0;
+        QCOMPARE(*worker.getState(), expected);
+        QVERIFY(worker.checkState());
+    }
+
+    void signalCrossesThreads()
+    {
+        QThread thread;
+        QObject receiver;
+        receiver.moveToThread(&thread);
+        DeviceStateWorker worker;
+        DeviceState received;
+        QObject::connect(&worker, &DeviceStateWorker::deviceStateChanged, &receiver,
+                         [&received, &thread](const DeviceState& state) {
+                             received = state;
+                             thread.quit();
+                         });
+        // By name as well: this form finds the type only when it is registered.
+        QSignalSpy byName(&worker, SIGNAL(deviceStateChanged(DeviceState)));
+        worker.setIdString("BNV"_s);
+        worker.sendState();
+        thread.start();
+        QVERIFY(thread.wait(5000));
+        QCOMPARE(received.idString, "BNV"_s);
+        QCOMPARE(byName.size(), 1);
+    }
 };
 
-void tst_DeviceState::newRecordSerializesToItsExactText()
-{
-    QCOMPARE(DeviceState().serialize(),
-             R"({"cash":0,"current_channel":0,"current_note":0,"device_id":0,"dispensed_sum":0,)"
-             R"("enabled":false,"error_critical":false,"error_text":"","halt":false,)"
-             R"("id_string":"","online":false,"session_sum":0,"stacker_full":false,)"
-             R"("stacker_present":true,"state":"busy","state_text":"","thread_id":0})"_s);
-}
-
-void tst_DeviceState::everyStateHasOneName()
-{
-    const QStringList names =
-        "idling accepting accepted rejected stacking stacked returning returned jammed busy error "
-        "updating dispensing dispensed floating floated emptying emptied"_s.split(QLatin1Char(' '));
-    for (int value = 0; value < 18; ++value) {
-        DeviceState s;
-        s.state = static_cast<State>(value);
-        QCOMPARE(s.stateAsString(), names.at(value));
-        State read = STATE_BUSY;
-        QVERIFY(DeviceState::stateFromString(names.at(value), read));
-        QCOMPARE(int(read), value);
-    }
-}
-
-void tst_DeviceState::unknownStatesHaveNoName()
-{
-    State state = STATE_JAMMED;
-    QVERIFY(!DeviceState::stateFromString("Idling"_s, state));
-    QVERIFY(!DeviceState::stateFromString(QString(), state));
-    QCOMPARE(state, STATE_JAMMED);
-    for (const int value : {-1, 18, INT_MAX, INT_MIN}) {
-        DeviceState s;
-        s.state = static_cast<State>(value);
-        QVERIFY(s.stateAsString().isNull());
-        QVERIFY(!DeviceState().fromMap(s.toMap()));
-    }
-}
-
-void tst_DeviceState::readingStopsAtFirstMissingKey()
-{
-    const QVariantMap complete = everyFieldSet().toMap();
-    const QVariantMap defaults = DeviceState().toMap();
-    QCOMPARE(complete.size(), keys.size());
-    for (int missing = 0; missing < keys.size(); ++missing) {
-        QVariantMap map = complete;
-        map.remove(keys.at(missing));
-        DeviceState s;
-        QVERIFY(!s.fromMap(map));
-        const QVariantMap read = s.toMap();
-        for (int i = 0; i < keys.size(); ++i)
-            QCOMPARE(read.value(keys.at(i)), (i < missing ? complete : defaults).value(keys.at(i)));
-    }
-}
-
-void tst_DeviceState::unknownStateNameStopsReading()
-{
-    QVariantMap map = everyFieldSet().toMap();
-    map["state"_s] = "BUSY"_s;
-    DeviceState s;
-    QVERIFY(!s.fromMap(map));
-    DeviceState expected;
-    expected.enabled = true;
-    QCOMPARE(s, expected);
-}
-
-void tst_DeviceState::textReadsBackAllButTheRegistry()
-{
-    DeviceState written = everyFieldSet();
-    written.setDispenserRegistry({row(5)});
-    DeviceState read;
-    QVERIFY(read.parse(written.serialize()));
-    QCOMPARE(read, everyFieldSet());
-    QVERIFY(QMetaType::type("DeviceState") != QMetaType::UnknownType);
-}
-
-void tst_DeviceState::registryTravelsOnlyOutwards()
-{
-    DeviceState s;
-    QVERIFY(!s.toMap().contains("dispenser_registry"_s));
-    s.setDispenserRegistry({row(5), row(6)});
-    QCOMPARE(s.toMap().value("dispenser_registry"_s),
-             QVariant(QVariantList{row(5).toMap(), row(6).toMap()}));
-    QVERIFY(s.serialize().contains(
-        R"("dispensed_sum":0,"dispenser_registry":[{"bill_type":0,"channel":2,"count":5,)"_s));
-    QVERIFY(s.fromMap(everyFieldSet().toMap()));
-    QCOMPARE(s.dispenserRegistry.size(), 2);
-}
-
-void tst_DeviceState::badTextChangesNothing_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("empty") << QString();
-    QTest::newRow("truncated") << everyFieldSet().serialize().chopped(1);
-    QTest::newRow("array") << "[{\"enabled\":true}]"_s;
-    QTest::newRow("trailing text") << everyFieldSet().serialize() + QLatin1Char('x');
-}
-
-void tst_DeviceState::badTextChangesNothing()
-{
-    QFETCH(QString, text);
-    DeviceState s;
-    QVERIFY(!s.parse(text));
-    QCOMPARE(s, DeviceState());
-}
-
-void tst_DeviceState::numbersTakeTheirLowBits()
-{
-    QVariantMap map = DeviceState().toMap();
-    map["current_channel"_s] = 65535;
-    map["cash"_s] = -1;
-    map["device_id"_s] = "12"_s;
-    map["session_sum"_s] = "abc"_s;
-    DeviceState s;
-    s.sessionSum = 5;
-    QVERIFY(s.fromMap(map));
-    QCOMPARE(s.currentChannel, qint16(-1));
-    QCOMPARE(s.cash, UINT_MAX);
-    QCOMPARE(s.deviceId, 12U);
-    QCOMPARE(s.sessionSum, 0);
-    QCOMPARE(s.toMap().value("current_channel"_s), QVariant(-1));
-}
-
-void tst_DeviceState::comparisonSeesEveryField()
-{
-    const QVariantMap changed = everyFieldSet().toMap();
-    for (const QString& key : keys) {
-        QVariantMap map = DeviceState().toMap();
-        map[key] = changed.value(key);
-        DeviceState s;
-        QVERIFY(s.fromMap(map));
-        QVERIFY2(s != DeviceState(), qPrintable(key));
-        DeviceState copy;
-        copy = s;
-        QCOMPARE(copy, s);
-    }
-    DeviceState a;
-    DeviceState b;
-    a.setDispenserRegistry({row(5)});
-    b.setDispenserRegistry({row(6)});
-    QVERIFY(a != b);
-    b = a;
-    QCOMPARE(b.dispenserRegistry, a.dispenserRegistry);
-}
-
-void tst_DeviceState::resetsKeepWhatTheyShould()
-{
-    DeviceState kept;
-    kept.threadId = kept.deviceId = UINT_MAX;
-    kept.dispenserRegistry = {row(5)};
-    DeviceState whole = everyFieldSet();
-    whole.dispenserRegistry = kept.dispenserRegistry;
-    DeviceState oper = whole;
-
-    whole.reset();
-    QCOMPARE(whole, kept);
-
-    kept.cash = UINT_MAX;
-    kept.sessionSum = INT_MIN;
-    kept.idString = "x"_s;
-    kept.online = true;
-    oper.resetOper();
-    QCOMPARE(oper, kept);
-}
-
-QTEST_APPLESS_MAIN(tst_DeviceState)
+QTEST_GUILESS_MAIN(tst_DeviceState)
 #include "tst_devicestate.moc"

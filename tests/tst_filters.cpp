@@ -1,37 +1,31 @@
 #include "filterchain.h"
 #include "filterfactory.h"
 #include "filtermanager.h"
-#include "literals.h"
 #include "logcapture.h"
+#include "testtable.h"
 
 #include <QRegularExpression>
-#include <QtTest>
 
-#include <climits>
 #include <memory>
 
 namespace {
 
-// A session, oldest state first: "<state> <note>, ...".
+// A session, oldest state first: "<state> <note> <session sum>, ...".
 StatesList session(const QString& text)
 {
     StatesList events;
     for (const QString& event : text.split(", "_s, Qt::SkipEmptyParts)) {
+        const QStringList words = event.split(QLatin1Char(' '));
         DeviceState state;
-        DeviceState::stateFromString(event.section(QLatin1Char(' '), 0, 0), state.state);
-        state.currentNote = event.section(QLatin1Char(' '), 1).toInt();
+        DeviceState::stateFromString(words.at(0), state.state);
+        state.currentNote = words.at(1).toInt();
+        state.sessionSum = words.value(2).toInt();
         events.append(state);
     }
     return events;
 }
 
-AbstractFilter::FilterResult verdict(const QString& filter, const QVariantMap& params,
-                                     StatesList* events)
-{
-    const std::unique_ptr<AbstractFilter> f(FilterFactory::createFilter(filter, params));
-    return f->setEvents(events)->validate();
-}
-
+// Counts its calls, and takes 100 off when it is deleted.
 class CountingFilter : public AbstractFilter
 {
 public:
@@ -63,301 +57,191 @@ class tst_Filters : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void judgesTheNewestEvent_data();
-    void judgesTheNewestEvent();
-    void sessionSumWrapsAround_data();
-    void sessionSumWrapsAround();
-    void noEventMeansNoPermission();
-    void parametersConvertOrStay();
-    void unknownParameterIsLogged();
-    void everyFilterDescribesItself_data();
-    void everyFilterDescribesItself();
-    void descriptionReadsAllOrNothing();
-    void chainStopsAtTheFirstRefusal();
-    void chainWithoutEventsGivesNoPermission();
-    void filtersKeepTheSourceTheyWereAddedWith();
-    void chainOwnsItsFilters();
-    void chainLogsItsSteps();
-};
-
-void tst_Filters::judgesTheNewestEvent_data()
-{
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<int>("limit");
-    QTest::addColumn<QString>("events");
-    QTest::addColumn<bool>("accepts");
-
-    const auto attempts = [](const char* tag, int limit, const QString& events, bool accepts) {
-        QTest::newRow(tag) << "AttemptsFilter"_s << limit << events << accepts;
-    };
-    attempts("fished", 2, "idling 0, rejected 7, rejected 500, accepting 500"_s, false);
-    attempts("one short", 3, "idling 0, rejected 500, rejected 500, accepting 500"_s, true);
-    attempts("stacked between", 2,
-             "idling 0, rejected 500, stacked 500, rejected 500, accepting 500"_s, true);
-    attempts("stacked before", 2,
-             "idling 0, stacked 1, rejected 500, rejected 500, accepting 500"_s, false);
-    attempts("oldest is not examined", 1, "rejected 500, accepting 500"_s, true);
-    attempts("newest counts", 1, "idling 0, rejected 500"_s, false);
-    attempts("other note", 1, "idling 0, rejected 500, accepting 100"_s, true);
-    attempts("limit 0", 0, "idling 0, accepting 500"_s, false);
-    attempts("limit 0, stacked", 0, "idling 0, stacked 500"_s, false);
-    attempts("limit 0, one event", 0, "accepting 500"_s, true);
-
-    const auto count = [](const char* tag, int limit, const QString& events, bool accepts) {
-        QTest::newRow(tag) << "DenomCountFilter"_s << limit << events << accepts;
-    };
-    const QString repeated = "idling 0, accepted 500, accepted 500, stacked 500, accepted 100, "
-                             "stacked 100, accepting 500"_s;
-    count("run counts once", 2, repeated, true);
-    count("run counts", 1, repeated, false);
-    count("newest of the run is another note", 1,
-          "idling 0, accepted 500, accepted 100, accepting 500"_s, true);
-    count("two runs", 2, "idling 0, accepted 500, stacked 500, accepted 500, accepting 500"_s,
-          false);
-    count("newest is accepted", 1, "idling 0, accepted 500"_s, false);
-    count("oldest is not counted", 1, "accepted 500, accepting 500"_s, true);
-    count("not the capped note", 0, "idling 0, accepting 100"_s, true);
-    count("count 0", 0, "idling 0, accepting 500"_s, false);
-}
-
-void tst_Filters::judgesTheNewestEvent()
-{
-    QFETCH(QString, filter);
-    QFETCH(QString, events);
-    QFETCH(int, limit);
-    const LogCapture log;
-    StatesList list = session(events);
-    const QString limitName = filter == "AttemptsFilter"_s ? "attempts"_s : "count"_s;
-    QTEST(verdict(filter, {{"denom"_s, 500}, {limitName, limit}}, &list)
-              == AbstractFilter::FILTER_ACCEPT,
-          "accepts");
-}
-
-void tst_Filters::sessionSumWrapsAround_data()
-{
-    QTest::addColumn<int>("maximum");
-    QTest::addColumn<int>("sum");
-    QTest::addColumn<int>("note");
-    QTest::addColumn<bool>("accepts");
-    QTest::newRow("reached") << 1000 << 900 << 100 << true;
-    QTest::newRow("exceeded") << 1000 << 901 << 100 << false;
-    QTest::newRow("wraps to the least") << INT_MIN << INT_MAX << 1 << true;
-    QTest::newRow("wraps to the greatest") << 0 << INT_MIN << -1 << false;
-}
-
-void tst_Filters::sessionSumWrapsAround()
-{
-    QFETCH(int, maximum);
-    QFETCH(int, sum);
-    QFETCH(int, note);
-    const LogCapture log;
-    StatesList events{DeviceState()};
-    events.last().sessionSum = sum;
-    events.last().currentNote = note;
-    QTEST(verdict("SessionSumFilter"_s, {{"sessionSum"_s, maximum}}, &events)
-              == AbstractFilter::FILTER_ACCEPT,
-          "accepts");
-}
-
-void tst_Filters::noEventMeansNoPermission()
-{
-    const LogCapture log;
-    StatesList empty;
-    for (const QString& name : FilterFactory::getFilters()) {
-        const auto expected = name == "AcceptFilter"_s ? AbstractFilter::FILTER_ACCEPT
-                                                       : AbstractFilter::FILTER_REJECT;
-        const QVariantMap params{{"acceptAll"_s, true}, {"denom"_s, 1}, {"sessionSum"_s, 5000}};
-        QCOMPARE(verdict(name, params, &empty), expected);
-        QCOMPARE(verdict(name, params, nullptr), expected);
-    }
-    QCOMPARE(verdict("AcceptFilter"_s, {}, nullptr), AbstractFilter::FILTER_REJECT);
-}
-
-void tst_Filters::parametersConvertOrStay()
-{
-    const LogCapture log;
-    const std::unique_ptr<AbstractFilter> filter(FilterFactory::createFilter(
-        "AttemptsFilter"_s, {{"denom"_s, "1000"_s}, {"attempts"_s, 90.0}}));
-    QCOMPARE(filter->property("denom"), QVariant(1000));
-    QCOMPARE(filter->property("attempts").toInt(), 90);
-    filter->setParams({{"denom"_s, "many"_s}, {"attempts"_s, QVariantList()}, {"extra"_s, 1}});
-    QCOMPARE(filter->property("denom"), QVariant(1000));
-    QCOMPARE(filter->property("attempts").toInt(), 90);
-    QVERIFY(filter->dynamicPropertyNames().isEmpty());
-}
-
-void tst_Filters::unknownParameterIsLogged()
-{
-    const LogCapture log;
-    const std::unique_ptr<AbstractFilter> filter(
-        FilterFactory::createFilter("AcceptFilter"_s, {{"acceptAll"_s, "1"_s}, {"foo"_s, 5}}));
-    QCOMPARE(log.texts(),
-             QStringList({"debug: Setting property acceptAll to 1"_s,
-                          "debug: Setting property foo to 5"_s,
-                          "warning: Property foo does not exists"_s}));
-    QCOMPARE(filter->setParams({}), filter.get());
-    QCOMPARE(filter->validate(), AbstractFilter::FILTER_ACCEPT);
-    QCOMPARE(log.lines().size(), 4);
-    const LogCapture::Line written = log.lines().at(2);
-    QCOMPARE(written.category, "default"_s);
-    QCOMPARE(written.file, "src/filters/abstractfilter.cpp"_s);
-    QCOMPARE(written.function,
-             "virtualAbstractFilter*AbstractFilter::setParams(constQVariantMap&)"_s);
-    QCOMPARE(log.lines().at(3).text, "Accept filter"_s);
-}
-
-void tst_Filters::everyFilterDescribesItself_data()
-{
-    QTest::addColumn<QString>("fields");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("fits");
-    QTest::addColumn<QString>("misfits");
-    QTest::newRow("SessionSumFilter") << "sessionSum"_s
-                                      << "Max session sum filter"_s
-                                      << "0 5000"_s
-                                      << "-1 x"_s;
-    QTest::newRow("AcceptFilter") << "acceptAll"_s
-                                  << "Accept filter"_s
-                                  << "0 1"_s
-                                  << "2 true"_s;
-    QTest::newRow("AttemptsFilter") << "denom attempts"_s
-                                    << "Max attempts filter"_s
-                                    << "1 09 10 090"_s
-                                    << "0 11 100"_s;
-    QTest::newRow("DenomCountFilter") << "denom count"_s
-                                      << "Denomination count filter"_s
-                                      << "0 12"_s
-                                      << "-1 1.5"_s;
-}
-
-void tst_Filters::everyFilterDescribesItself()
-{
-    const QString name = QString::fromUtf8(QTest::currentDataTag());
-    QFETCH(QString, fits);
-    QFETCH(QString, misfits);
-    QVERIFY(FilterFactory::getFilters().contains(name));
-    QTEST(FilterFactory::getFilterDesc(name).section(QLatin1Char('|'), 0, 0), "title");
-    QVERIFY(!FilterFactory::getFilterDesc(name).section(QLatin1Char('|'), 1).isEmpty());
-
-    const QList<FieldDescription> fields = FilterFactory::getFieldsDesc(name);
-    const std::unique_ptr<AbstractFilter> filter(FilterFactory::createFilter(name, {}));
-    QStringList names;
-    for (const FieldDescription& field : fields) {
-        names += field.name;
-        QVERIFY(filter->property(field.name.toUtf8().constData()).isValid());
-    }
-    QTEST(names.join(QLatin1Char(' ')), "fields");
-    const QRegularExpression pattern(fields.last().regexp);
-    for (const QString& text : fits.split(QLatin1Char(' ')))
-        QVERIFY2(pattern.match(text).hasMatch(), qPrintable(text));
-    for (const QString& text : misfits.split(QLatin1Char(' ')))
-        QVERIFY2(!pattern.match(text).hasMatch(), qPrintable(text));
-}
-
-void tst_Filters::descriptionReadsAllOrNothing()
-{
-    QCOMPARE(FilterFactory::createFilter("acceptfilter"_s, {}), nullptr);
-    QVERIFY(FilterFactory::getFieldsDesc("acceptfilter"_s).isEmpty());
-    QVERIFY(FilterFactory::getFilterDesc(QString()).isEmpty());
-
-    const FieldDescription written("a"_s, "b"_s, "c"_s, "d"_s);
-    for (const QString& key : written.toMap().keys()) {
-        QVariantMap map = written.toMap();
-        map.remove(key);
-        FieldDescription read;
-        QVERIFY(!read.fromMap(map));
-        QCOMPARE(read, FieldDescription());
-        map[key] = "x"_s;
-        QVERIFY(read.fromMap(map));
-        QVERIFY(read != written);
-    }
-}
-
-void tst_Filters::chainStopsAtTheFirstRefusal()
-{
-    const LogCapture log;
-    int refusing = 0;
-    int behind = 0;
-    StatesList events{DeviceState()};
-    FilterChain chain;
-    chain.setEvents(&events);
-    QCOMPARE(chain.validate(), AbstractFilter::FILTER_ACCEPT);
-    chain.add(new CountingFilter(&refusing, AbstractFilter::FILTER_NO_EVENTS))
-        ->add(new CountingFilter(&behind));
-    QCOMPARE(chain.validate(), AbstractFilter::FILTER_NO_EVENTS);
-    QCOMPARE(refusing, 1);
-    QCOMPARE(behind, 0);
-}
-
-void tst_Filters::chainWithoutEventsGivesNoPermission()
-{
-    const LogCapture log;
-    int calls = 0;
-    FilterChain chain;
-    QCOMPARE(chain.validate(), AbstractFilter::FILTER_NO_EVENTS);
-    chain.add(new CountingFilter(&calls));
-    QCOMPARE(chain.validate(), AbstractFilter::FILTER_NO_EVENTS);
-    QCOMPARE(calls, 0);
-}
-
-void tst_Filters::filtersKeepTheSourceTheyWereAddedWith()
-{
-    const LogCapture log;
-    int calls = 0;
-    StatesList first{DeviceState()};
-    StatesList second{DeviceState()};
-    FilterChain chain;
-    auto* const early = new CountingFilter(&calls);
-    auto* const late = new CountingFilter(&calls);
-    chain.setEvents(&first)->add(early)->setEvents(&second)->add(late);
-    QCOMPARE(early->source(), &first);
-    QCOMPARE(late->source(), &second);
-    QCOMPARE(chain.validate(), AbstractFilter::FILTER_ACCEPT);
-    QCOMPARE(calls, 2);
-}
-
-void tst_Filters::chainOwnsItsFilters()
-{
-    const LogCapture log;
-    const FilterManager manager;
-    int first = 0;
-    int second = 0;
+    void judgesTheNewestEvent_data()
     {
+        // The guarded note is 500. The third cell is the limit.
+        addRows(R"(
+            reject | AttemptsFilter   | 2 | idling 0, rejected 7, rejected 500, accepting 500
+            accept | AttemptsFilter   | 3 | idling 0, rejected 7, rejected 500, accepting 500
+            accept | AttemptsFilter   | 2 | idling 0, rejected 9, stacked 9, rejected 9, accepting 500
+            reject | AttemptsFilter   | 2 | idling 0, stacked 9, rejected 9, rejected 9, accepting 500
+            accept | AttemptsFilter   | 1 | rejected 500, accepting 500
+            reject | AttemptsFilter   | 1 | idling 0, rejected 500
+            accept | AttemptsFilter   | 1 | idling 0, rejected 500, accepting 100
+            reject | AttemptsFilter   | 0 | idling 0, accepting 500
+            reject | AttemptsFilter   | 0 | idling 0, stacked 500
+            accept | AttemptsFilter   | 0 | accepting 500
+            reject | AttemptsFilter   | 0 |
+            accept | DenomCountFilter | 2 | idling 0, accepted 500, accepted 500, stacked 500, accepted 9, stacked 9, accepting 500
+            reject | DenomCountFilter | 1 | idling 0, accepted 500, accepted 500, stacked 500, accepted 9, stacked 9, accepting 500
+            accept | DenomCountFilter | 1 | idling 0, accepted 500, accepted 9, accepting 500
+            reject | DenomCountFilter | 2 | idling 0, accepted 500, stacked 500, accepted 500, accepting 500
+            reject | DenomCountFilter | 1 | idling 0, accepted 500
+            accept | DenomCountFilter | 1 | accepted 500, accepting 500
+            accept | DenomCountFilter | 0 | idling 0, accepting 100
+            reject | DenomCountFilter | 0 | idling 0, accepting 500
+            reject | DenomCountFilter | 0 |
+            accept | SessionSumFilter | 1000 | accepting 100 900
+            reject | SessionSumFilter | 1000 | accepting 100 901
+            accept | SessionSumFilter | -2147483648 | accepting 1 2147483647
+            reject | SessionSumFilter | 0 | accepting -1 -2147483648
+            reject | SessionSumFilter | 0 |
+            accept | AcceptFilter     | 1 |
+            reject | AcceptFilter     | 0 | idling 0)"_s);
+    }
+
+    void judgesTheNewestEvent()
+    {
+        QFETCH(QStringList, row);
+        const LogCapture log;
+        const FieldDescription limit = FilterFactory::getFieldsDesc(row.at(1)).constLast();
+        StatesList events = session(row.at(3));
+        const std::unique_ptr<AbstractFilter> filter(
+            FilterFactory::createFilter(row.at(1), {{"denom"_s, 500}, {limit.name, row.at(2)}}));
+        const int expected = row.at(0) == "accept"_s ? 0 : 1;
+        QCOMPARE(int(filter->setEvents(&events)->validate()), expected);
+        if (events.isEmpty())
+            QCOMPARE(int(filter->setEvents(nullptr)->validate()), expected);
+    }
+
+    void parametersConvertOrStay()
+    {
+        const LogCapture log;
+        const std::unique_ptr<AbstractFilter> filter(FilterFactory::createFilter(
+            "AttemptsFilter"_s, {{"denom"_s, "1000"_s}, {"attempts"_s, 90.0}}));
+        filter->setParams({{"denom"_s, "many"_s}, {"attempts"_s, QVariantList()}, {"foo"_s, 1}});
+        QCOMPARE(filter->property("denom"), QVariant(1000));
+        QCOMPARE(filter->property("attempts").toInt(), 90);
+        QVERIFY(filter->dynamicPropertyNames().isEmpty());
+        QCOMPARE(filter->setParams({}), filter.get());
+        QCOMPARE(log.texts().mid(4, 2),
+                 QStringList({"debug: Setting property foo to 1"_s,
+                              "warning: Property foo does not exists"_s}));
+        QCOMPARE(log.places().constLast(),
+                 "default src/filters/abstractfilter.cpp "
+                 "virtualAbstractFilter*AbstractFilter::setParams(constQVariantMap&)"_s);
+    }
+
+    void everyFilterDescribesItself_data()
+    {
+        addRows(R"(
+            SessionSumFilter | sessionSum     | Max session sum filter    | 0 5000      | -1 x
+            AcceptFilter     | acceptAll      | Accept filter             | 0 1         | 2 true
+            AttemptsFilter   | denom attempts | Max attempts filter       | 1 09 10 090 | 0 11 100
+            DenomCountFilter | denom count    | Denomination count filter | 0 12        | -1 1.5)"_s);
+    }
+
+    void everyFilterDescribesItself()
+    {
+        QFETCH(QStringList, row);
+        const QString& name = row.at(0);
+        QVERIFY(FilterFactory::getFilters().contains(name));
+        QCOMPARE(FilterFactory::getFilterDesc(name).section(QLatin1Char('|'), 0, 0), row.at(2));
+        const QList<FieldDescription> fields = FilterFactory::getFieldsDesc(name);
+        const std::unique_ptr<AbstractFilter> filter(FilterFactory::createFilter(name, {}));
+        QStringList names;
+        for (const FieldDescription& field : fields) {
+            names += field.name;
+            QVERIFY(filter->property(field.name.toUtf8().constData()).isValid());
+        }
+        QCOMPARE(names.join(QLatin1Char(' ')), row.at(1));
+        const QRegularExpression pattern(fields.last().regexp);
+        for (const QString& text : row.at(3).split(QLatin1Char(' ')))
+            QVERIFY2(pattern.match(text).hasMatch(), qPrintable(text));
+        for (const QString& text : row.at(4).split(QLatin1Char(' ')))
+            QVERIFY2(!pattern.match(text).hasMatch(), qPrintable(text));
+    }
+
+    void unknownNamesGiveNothing()
+    {
+        QCOMPARE(FilterFactory::createFilter("acceptfilter"_s, {}), nullptr);
+        QVERIFY(FilterFactory::getFieldsDesc("acceptfilter"_s).isEmpty());
+        QVERIFY(FilterFactory::getFilterDesc(QString()).isEmpty());
+    }
+
+    void descriptionReadsAllOrNothing()
+    {
+        const FieldDescription written("a"_s, "b"_s, "c"_s, "d"_s);
+        for (const QString& key : written.toMap().keys()) {
+            QVariantMap map = written.toMap();
+            map.remove(key);
+            FieldDescription read;
+            QVERIFY(!read.fromMap(map));
+            QCOMPARE(read, FieldDescription());
+            map[key] = "x"_s;
+            QVERIFY(read.fromMap(map));
+            QVERIFY(read != written);
+        }
+    }
+
+    void chainStopsAtTheFirstRefusal()
+    {
+        const LogCapture log;
+        int first = 0;
+        int second = 0;
+        StatesList events{DeviceState()};
         FilterChain chain;
-        chain.add(new CountingFilter(&first))->clear()->add(new CountingFilter(&second));
+        QCOMPARE(chain.add(new CountingFilter(&first))->validate(),
+                 AbstractFilter::FILTER_NO_EVENTS);
+        QCOMPARE(first, 0);
+        QCOMPARE(chain.clear()->setEvents(&events)->validate(), AbstractFilter::FILTER_ACCEPT);
         QCOMPARE(first, -100);
+        chain.add(new CountingFilter(&first, AbstractFilter::FILTER_NO_EVENTS))
+            ->add(new CountingFilter(&second));
+        QCOMPARE(chain.validate(), AbstractFilter::FILTER_NO_EVENTS);
+        QCOMPARE(first, -99);
         QCOMPARE(second, 0);
     }
-    QCOMPARE(first, -100);
-    QCOMPARE(second, -100);
-}
 
-void tst_Filters::chainLogsItsSteps()
-{
-    const LogCapture log;
-    StatesList events{DeviceState()};
+    void filtersKeepTheSourceTheyWereAddedWith()
     {
-        FilterChain chain;
+        const LogCapture log;
+        const FilterManager manager;
         int calls = 0;
-        chain.setEvents(&events)->add(new CountingFilter(&calls, AbstractFilter::FILTER_REJECT));
-        chain.validate();
+        StatesList first{DeviceState()};
+        StatesList second{DeviceState()};
+        {
+            FilterChain chain;
+            auto* const early = new CountingFilter(&calls);
+            auto* const late = new CountingFilter(&calls);
+            chain.setEvents(&first)->add(early)->setEvents(&second)->add(late);
+            QCOMPARE(early->source(), &first);
+            QCOMPARE(late->source(), &second);
+            QCOMPARE(chain.validate(), AbstractFilter::FILTER_ACCEPT);
+            QCOMPARE(calls, 2);
+        }
+        QCOMPARE(calls, 2 - 200);
     }
-    QCOMPARE(log.texts(),
-             QStringList(
-                 {"debug: Creating filter chain"_s, "debug: Setting events source for the chain"_s,
-                  "debug: Append to chain: counting"_s, "debug: Reject raised by counting"_s,
-                  "debug: Deleting filter chain"_s, "debug: Clearing chain"_s}));
-    const QStringList functions{"FilterChain::FilterChain()"_s,
-                                "FilterChain*FilterChain::setEvents(StatesList*)"_s,
-                                "FilterChain*FilterChain::add(PAbstractFilter)"_s,
-                                "AbstractFilter::FilterResultFilterChain::validate()"_s,
-                                "FilterChain::~FilterChain()"_s,
-                                "FilterChain*FilterChain::clear()"_s};
-    for (int i = 0; i < functions.size(); ++i) {
-        QCOMPARE(log.lines().at(i).file, "src/filters/filterchain.cpp"_s);
-        QCOMPARE(log.lines().at(i).function, functions.at(i));
+
+    void chainLogsItsSteps()
+    {
+        const LogCapture log;
+        StatesList events{DeviceState()};
+        {
+            FilterChain chain;
+            chain.setEvents(&events)->add(FilterFactory::createFilter("AcceptFilter"_s, {}));
+            chain.validate();
+        }
+        QStringList lines;
+        for (int i = 0; i < log.texts().size(); ++i)
+            lines += log.texts().at(i) + QLatin1Char('|') + log.places().at(i).section("/"_s, 2);
+        const QString chainFile = "|filterchain.cpp "_s;
+        QCOMPARE(
+            lines,
+            QStringList(
+                {"debug: Creating filter chain"_s + chainFile + "FilterChain::FilterChain()"_s,
+                 "debug: Setting events source for the chain"_s + chainFile
+                     + "FilterChain*FilterChain::setEvents(StatesList*)"_s,
+                 "debug: Append to chain: accept filter"_s + chainFile
+                     + "FilterChain*FilterChain::add(PAbstractFilter)"_s,
+                 "debug: Accept filter|acceptfilter.cpp "
+                 "virtualAbstractFilter::FilterResultAcceptFilter::validate()"_s,
+                 "debug: Reject raised by accept filter"_s + chainFile
+                     + "AbstractFilter::FilterResultFilterChain::validate()"_s,
+                 "debug: Deleting filter chain"_s + chainFile + "FilterChain::~FilterChain()"_s,
+                 "debug: Clearing chain"_s + chainFile + "FilterChain*FilterChain::clear()"_s}));
     }
-}
+};
 
 QTEST_APPLESS_MAIN(tst_Filters)
 #include "tst_filters.moc"

@@ -17,14 +17,14 @@ struct PortParameter
 };
 
 template <typename T, T (RS232Settings::*Get)() const, void (RS232Settings::*Set)(T)>
-constexpr PortParameter portParameter(QLatin1String name)
+PortParameter portParameter(QLatin1String name)
 {
     return {name, [](const RS232Settings& settings) { return static_cast<int>((settings.*Get)()); },
             [](RS232Settings& settings, int value) { (settings.*Set)(static_cast<T>(value)); }};
 }
 
 using S = RS232Settings;
-constexpr PortParameter portParameters[] = {
+const PortParameter portParameters[] = {
     portParameter<QSerialPort::BaudRate, &S::baudrate, &S::setBaudrate>(QLatin1String("baudrate")),
     portParameter<QSerialPort::DataBits, &S::dataBits, &S::setDataBitsType>(
         QLatin1String("databits")),

@@ -12,5 +12,5 @@ struct Fault
 constexpr int exitSuccess = 0;
 constexpr int exitBadInput = 2;
 
-/// Writes "velmo: <message>" and a line feed to standard error.
+/// Writes "velmo: <message>" to standard error as one line, control characters as \uXXXX.
 void printError(const QString& message);

@@ -6,6 +6,7 @@
 
 #include <QJsonArray>
 
+#include <cctype>
 #include <memory>
 
 namespace {
@@ -22,8 +23,11 @@ bool holds(const AbstractFilter& filter, const QString& param, const QVariant& v
     return isNumber && number == filter.property(param.toUtf8().constData()).toDouble();
 }
 
-std::unique_ptr<AbstractFilter> makeFilter(const QJsonObject& description)
+std::unique_ptr<AbstractFilter> makeFilter(const QJsonValue& element)
 {
+    const QJsonObject description = element.toObject();
+    if (!description.value(nameKey).isString())
+        throw Fault{QStringLiteral("expected an object with the filter's \"name\"")};
     for (const QString& key : description.keys()) {
         if (key != nameKey && key != paramsKey)
             throw Fault{QStringLiteral("unknown key \"%1\"").arg(key)};
@@ -55,27 +59,31 @@ std::unique_ptr<AbstractFilter> makeFilter(const QJsonObject& description)
     return filter;
 }
 
-// The line on which the element at @p index of an array of objects begins. The text is known to
-// be such an array.
+// The line on which the element at @p index of an array begins; the text is known to be one.
 int lineOfElement(const QByteArray& text, int index)
 {
     int depth = 0;
     bool inString = false;
+    bool beforeElement = false;
     for (int i = 0; i < text.size(); ++i) {
         const char c = text.at(i);
-        if (inString) {
-            if (c == '\\')
-                ++i;
-            else if (c == '"')
-                inString = false;
-        } else if (c == '"') {
-            inString = true;
-        } else if (c == '[' || c == '{') {
-            if (++depth == 2 && index-- == 0)
+        if (beforeElement && !isspace(static_cast<unsigned char>(c))) {
+            if (index-- == 0)
                 return 1 + text.left(i).count('\n');
-        } else if (c == ']' || c == '}') {
-            --depth;
+            beforeElement = false;
         }
+        if (inString && c == '\\')
+            ++i;
+        else if (c == '"')
+            inString = !inString;
+        else if (inString)
+            continue;
+        else if (c == '[' || c == '{')
+            beforeElement = ++depth == 1;
+        else if (c == ']' || c == '}')
+            --depth;
+        else if (c == ',')
+            beforeElement = depth == 1;
     }
     return 1;
 }
@@ -93,7 +101,7 @@ QList<AbstractFilter*> loadFilters(const QString& fileName, FilterChain& chain)
     QList<AbstractFilter*> filters;
     for (int i = 0; i < descriptions.size(); ++i) {
         try {
-            filters.append(makeFilter(descriptions.at(i).toObject()).release());
+            filters.append(makeFilter(descriptions.at(i)).release());
         } catch (const Fault& fault) {
             throw file.faultAt(lineOfElement(text, i), fault.message);
         }

@@ -62,7 +62,13 @@ int run(const QStringList& arguments)
 
 void printError(const QString& message)
 {
-    fprintf(stderr, "velmo: %s\n", qUtf8Printable(message));
+    QString line = QStringLiteral("velmo: ");
+    for (const QChar c : message) {
+        const bool printable = c.unicode() >= ' ' && c.unicode() != 0x7f;
+        line += printable ? QString(c)
+                          : QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
+    }
+    fprintf(stderr, "%s\n", qUtf8Printable(line));
 }
 
 int main(int argc, char* argv[])

@@ -53,6 +53,10 @@ std::optional<Options> parseOptions(const QStringList& arguments)
         return std::nullopt;
     if (parser.positionalArguments().size() != 2 || !parser.isSet(filters))
         throw Fault{QStringLiteral("usage: velmo replay SESSION.jsonl --filters FILTERS.json")};
+    const QLatin1String standardInput("-");
+    if (parser.positionalArguments().at(1) == standardInput
+        && parser.value(filters) == standardInput)
+        throw Fault{QStringLiteral("session and filters cannot both come from standard input")};
     return Options{parser.positionalArguments().at(1), parser.value(filters), parser.isSet(json),
                    parser.isSet(keepGoing)};
 }
@@ -135,10 +139,14 @@ class Progress
 public:
     Progress() { m_sinceShown.start(); }
 
-    ~Progress()
+    ~Progress() { erase(); }
+
+    /// Makes room for a line of text.
+    void erase()
     {
         if (m_shown)
             fputs("\r\033[K", stderr);
+        m_shown = false;
     }
 
     void show(qint64 lines)
@@ -225,6 +233,7 @@ int replay(const Options& options)
         } catch (const Fault& fault) {
             if (!options.keepGoing)
                 throw;
+            progress.erase();
             printError(fault.message);
             ++skipped;
             continue;
@@ -236,9 +245,10 @@ int replay(const Options& options)
                                   : tableLine(session.lineNumber(), *step));
     }
     output.finish();
+    progress.erase();
     if (skipped == 0)
         return exitSuccess;
-    printError(QStringLiteral("%1 bad lines skipped").arg(skipped));
+    printError(QStringLiteral("bad lines skipped: %1").arg(skipped));
     return exitBadInput;
 }
 

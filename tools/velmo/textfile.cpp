@@ -2,7 +2,7 @@
 
 #include <QJsonParseError>
 
-#include <cstdio>
+#include <unistd.h>
 
 TextFile::TextFile(const QString& name)
     : m_name(name)
@@ -10,7 +10,7 @@ TextFile::TextFile(const QString& name)
     bool opened = false;
     if (name == QLatin1String("-")) {
         m_name = QStringLiteral("standard input");
-        opened = m_file.open(stdin, QIODevice::ReadOnly);
+        opened = m_file.open(STDIN_FILENO, QIODevice::ReadOnly);
     } else {
         m_file.setFileName(name);
         opened = m_file.open(QIODevice::ReadOnly);

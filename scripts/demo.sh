@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the release preset and replays a sample session in which a
+# fished note is refused.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+
+require_packages "${build_packages[@]}"
+cmake --preset release
+cmake --build --preset release
+
+echo
+echo '$ velmo replay samples/fished-note.jsonl --filters samples/filters.json'
+build/release/tools/velmo/velmo replay samples/fished-note.jsonl --filters samples/filters.json

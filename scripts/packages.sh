@@ -1,0 +1,19 @@
+# Sourced by the other scripts: installs what is missing of the Debian packages that they name.
+
+require_packages()
+{
+    local missing=() package sudo=
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}\n' "$package" 2>/dev/null | grep -q '^install ok installed$' \
+            || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    [ "$(id -u)" -eq 0 ] || sudo=sudo
+    echo "Installing ${missing[*]}"
+    $sudo apt-get update -q
+    $sudo env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -q -y --no-install-recommends "${missing[@]}"
+}
+
+build_packages=(cmake g++ ninja-build qtbase5-dev libqt5serialport5-dev)
+check_packages=(clang clang-format clang-tidy)

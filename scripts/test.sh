@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds with g++ and clang without warnings, and runs all tests, also
+# under the address and undefined-behaviour sanitizers.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+
+require_packages "${build_packages[@]}" "${check_packages[@]}"
+git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
+
+for preset in tidy asan release; do
+    cmake --preset "$preset"
+    cmake --build --preset "$preset"
+done
+ctest --preset asan
+ctest --preset release
