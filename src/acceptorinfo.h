@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+/// A device's identity and serial connection, as service and settings exchange them; see
+/// AcceptorDeviceSettings::toAcceptorInfo() and setAcceptorInfo(). The library only carries text,
+/// number and flag.
+struct AcceptorInfo
+{
+    QString text;
+    qint32 number = -1;
+    quint16 type = 0; ///< Acceptors::Supported
+    QString description; ///< descriptive text, from which the device's name is cut
+    QString portName;
+    bool flag = false;
+    QVariantMap portSettings; ///< texts under the keys of acceptorportsettingsconsts
+};

@@ -1,0 +1,263 @@
+#include "settingsmanager.h"
+
+#include <QDebug>
+
+#include <algorithm>
+
+namespace acceptorSettings {
+
+using SM = SettingsManager;
+
+const QString SM::SM_G_INTERFACE = QStringLiteral("hw_interface");
+const QString SM::SM_P_INTERFACE_TYPE = QStringLiteral("interface_type");
+const QString SM::SM_P_PORTNAME = QStringLiteral("portname");
+const QString SM::SM_P_BAUDRATE = QStringLiteral("baudrate");
+const QString SM::SM_P_DATABITS = QStringLiteral("databits");
+const QString SM::SM_P_PARITY = QStringLiteral("parity");
+const QString SM::SM_P_STOPBITS = QStringLiteral("stopbits");
+const QString SM::SM_P_FLOWCONTROL = QStringLiteral("flowcontrol");
+const QString SM::SM_P_TCP_HOST = QStringLiteral("tcp_host");
+const QString SM::SM_P_TCP_PORT = QStringLiteral("tcp_port");
+
+const QString SM::SM_G_DEBUG = QStringLiteral("debug");
+const QString SM::SM_P_PORT_LOGGING = QStringLiteral("port_logging");
+
+const QString SM::SM_G_DEVICE = QStringLiteral("device");
+const QString SM::SM_P_DEVICE_ID = QStringLiteral("device_id");
+const QString SM::SM_P_DEVICE_NAME = QStringLiteral("device_name");
+const QString SM::SM_P_ACCEPT_ON_JAM = QStringLiteral("accept_on_jam");
+
+const QString SM::SM_G_UNITELLER = QStringLiteral("uniteller_service");
+const QString SM::SM_P_UNI_TERMINAL_ID = QStringLiteral("terminal_id");
+
+const QString SM::SM_G_POSD2000 = QStringLiteral("posd200");
+const QString SM::SM_P_POSD2000_TIMEOUT_ACK = QStringLiteral("timeout_ack");
+const QString SM::SM_P_POSD2000_TIMEOUT_PACKET = QStringLiteral("timeout_packet");
+const QString SM::SM_P_POSD2000_COUNT_NAK = QStringLiteral("count_nak");
+const QString SM::SM_P_POSD2000_PACKET_SIZE = QStringLiteral("packet_size");
+const QString SM::SM_P_POSD2000_POS_ID = QStringLiteral("terminal_id");
+
+const QString SM::SM_G_CCNET = QStringLiteral("ccnet");
+const QString SM::SM_P_CCNET_RESPONSE_TIME = QStringLiteral("response_time");
+const QString SM::SM_P_CCNET_POLLING_INTERVAL = QStringLiteral("polling_interval");
+const QString SM::SM_P_CCNET_BILL_TABLE_INTERVAL = QStringLiteral("bill_table_interval");
+const QString SM::SM_P_CCNET_RESET_INTERVAL = QStringLiteral("reset_interval");
+const QString SM::SM_P_CCNET_REST_INTERVAL = QStringLiteral("rest_interval");
+
+const QString SM::SM_G_ID003 = QStringLiteral("id003");
+const QString SM::SM_P_ID003_RESPONSE_TIME = QStringLiteral("response_time");
+const QString SM::SM_P_ID003_REST_INTERVAL = QStringLiteral("rest_interval");
+const QString SM::SM_P_ID003_POLLING_INTERVAL = QStringLiteral("polling_interval");
+
+const QString SM::SM_G_ICT = QStringLiteral("ict");
+const QString SM::SM_P_ICT_RESET_TIMEOUT = QStringLiteral("reset_timeout");
+
+const QString SM::SM_G_SSP = QStringLiteral("ssp");
+const QString SM::SM_P_SSP_RESPONSE_TIME = QStringLiteral("response_time");
+const QString SM::SM_P_SSP_REST_INTERVAL = QStringLiteral("rest_interval");
+const QString SM::SM_P_SSP_GET_LEVELS_REST_TIME = QStringLiteral("get_levels_rest_time");
+const QString SM::SM_P_SSP_PAYOUT_REST_TIME = QStringLiteral("payout_rest_time");
+const QString SM::SM_P_SSP_LOG_DECRYPTED_MSG = QStringLiteral("log_decrypted_msg");
+
+const QString SM::SM_G_DISPENSER = QStringLiteral("dispenser");
+const QString SM::SM_P_ROUTE_MAP = QStringLiteral("route_map");
+
+const QString SM::SM_G_SERVICE = QStringLiteral("service");
+const QString SM::SM_P_DEVICES_CNT = QStringLiteral("devices_count");
+const QString SM::SM_P_RESET_AFTER_EMPTY_SESSIONS = QStringLiteral("reset_after_empty_sessions");
+const QString SM::SM_P_RESET_IDLE_TIMEOUT = QStringLiteral("reset_idle_timeout");
+
+SettingsManager* SettingsManager::_instance = nullptr;
+
+namespace {
+
+const QLatin1String groupKey("group");
+const QLatin1String nameKey("key");
+const QLatin1String valueKey("value");
+
+// The groups are plain: no row answers for the group of one device. The group "id003" has none.
+const struct
+{
+    const QString& group;
+    const QString& param;
+    QLatin1String value;
+} defaults[] = {
+    {SM::SM_G_INTERFACE, SM::SM_P_BAUDRATE, QLatin1String("115200")},
+    {SM::SM_G_INTERFACE, SM::SM_P_INTERFACE_TYPE, QLatin1String("rs232")},
+    {SM::SM_G_INTERFACE, SM::SM_P_PORTNAME, QLatin1String("")},
+    {SM::SM_G_INTERFACE, SM::SM_P_DATABITS, QLatin1String("8")},
+    {SM::SM_G_INTERFACE, SM::SM_P_PARITY, QLatin1String("none")},
+    {SM::SM_G_INTERFACE, SM::SM_P_STOPBITS, QLatin1String("1")},
+    {SM::SM_G_INTERFACE, SM::SM_P_FLOWCONTROL, QLatin1String("none")},
+    {SM::SM_G_INTERFACE, SM::SM_P_TCP_HOST, QLatin1String("127.0.0.1")},
+    {SM::SM_G_INTERFACE, SM::SM_P_TCP_PORT, QLatin1String("10400")},
+    {SM::SM_G_DEBUG, SM::SM_P_PORT_LOGGING, QLatin1String("false")},
+    {SM::SM_G_DEVICE, SM::SM_P_DEVICE_ID, QLatin1String("0")},
+    {SM::SM_G_DEVICE, SM::SM_P_DEVICE_NAME, QLatin1String("")},
+    {SM::SM_G_DEVICE, SM::SM_P_ACCEPT_ON_JAM, QLatin1String("0")},
+    {SM::SM_G_SERVICE, SM::SM_P_DEVICES_CNT, QLatin1String("0")},
+    {SM::SM_G_SERVICE, SM::SM_P_RESET_AFTER_EMPTY_SESSIONS, QLatin1String("3")},
+    {SM::SM_G_SERVICE, SM::SM_P_RESET_IDLE_TIMEOUT, QLatin1String("3600000")},
+    {SM::SM_G_UNITELLER, SM::SM_P_UNI_TERMINAL_ID, QLatin1String("0000000000")},
+    {SM::SM_G_POSD2000, SM::SM_P_POSD2000_TIMEOUT_ACK, QLatin1String("5000")},
+    {SM::SM_G_POSD2000, SM::SM_P_POSD2000_TIMEOUT_PACKET, QLatin1String("45000")},
+    {SM::SM_G_POSD2000, SM::SM_P_POSD2000_COUNT_NAK, QLatin1String("3")},
+    {SM::SM_G_POSD2000, SM::SM_P_POSD2000_PACKET_SIZE, QLatin1String("1024")},
+    {SM::SM_G_POSD2000, SM::SM_P_POSD2000_POS_ID, QLatin1String("-1")},
+    {SM::SM_G_CCNET, SM::SM_P_CCNET_RESPONSE_TIME, QLatin1String("1000")},
+    {SM::SM_G_CCNET, SM::SM_P_CCNET_POLLING_INTERVAL, QLatin1String("200")},
+    {SM::SM_G_CCNET, SM::SM_P_CCNET_BILL_TABLE_INTERVAL, QLatin1String("5000")},
+    {SM::SM_G_CCNET, SM::SM_P_CCNET_RESET_INTERVAL, QLatin1String("3000")},
+    {SM::SM_G_CCNET, SM::SM_P_CCNET_REST_INTERVAL, QLatin1String("100")},
+    {SM::SM_G_ICT, SM::SM_P_ICT_RESET_TIMEOUT, QLatin1String("0")},
+    {SM::SM_G_SSP, SM::SM_P_SSP_RESPONSE_TIME, QLatin1String("5000")},
+    {SM::SM_G_SSP, SM::SM_P_SSP_REST_INTERVAL, QLatin1String("100")},
+    {SM::SM_G_SSP, SM::SM_P_SSP_GET_LEVELS_REST_TIME, QLatin1String("0")},
+    {SM::SM_G_SSP, SM::SM_P_SSP_PAYOUT_REST_TIME, QLatin1String("0")},
+    {SM::SM_G_SSP, SM::SM_P_SSP_LOG_DECRYPTED_MSG, QLatin1String("false")},
+    {SM::SM_G_DISPENSER, SM::SM_P_ROUTE_MAP, QLatin1String("")},
+};
+
+} // namespace
+
+SettingsItem::SettingsItem(QString groupName, QString settingName, QVariant settingValue)
+    : group(std::move(groupName))
+    , name(std::move(settingName))
+    , value(std::move(settingValue))
+{
+}
+
+SettingsManager::SettingsManager()
+    : items(std::make_unique<QList<SettingsItem>>())
+{
+}
+
+SettingsManager::~SettingsManager() = default;
+
+QString SettingsManager::getDeviceGroupName(const int& device, const QString& group) const
+{
+    return QStringLiteral("device%1/%2").arg(QString::number(device), group);
+}
+
+SettingsItem* SettingsManager::addItem(const QString& group, const QString& name,
+                                       const QVariant& value)
+{
+    items->append(SettingsItem(group, name, value));
+    return &items->last();
+}
+
+SettingsItem* SettingsManager::addItem(int device, const QString& group, const QString& name,
+                                       const QVariant& value)
+{
+    return addItem(getDeviceGroupName(device, group), name, value);
+}
+
+SettingsItem* SettingsManager::find(const QString& group, const QString& name) const
+{
+    const auto item =
+        std::find_if(items->begin(), items->end(), [&group, &name](const SettingsItem& i) {
+            return i.group == group && i.name == name;
+        });
+    return item == items->end() ? nullptr : &*item;
+}
+
+SettingsItem* SettingsManager::find(int device, const QString& group, const QString& name) const
+{
+    return find(getDeviceGroupName(device, group), name);
+}
+
+QVariant SettingsManager::getValue(const QString& group, const QString& name,
+                                   bool* usedDefault) const
+{
+    const SettingsItem* const item = find(group, name);
+    if (usedDefault)
+        *usedDefault = !item;
+    return item ? item->value : getDefault(group, name);
+}
+
+QVariant SettingsManager::getValue(int device, const QString& group, const QString& name,
+                                   bool* usedDefault) const
+{
+    const SettingsItem* const item = find(device, group, name);
+    if (usedDefault)
+        *usedDefault = !item;
+    return item ? item->value : getDefault(group, name);
+}
+
+bool SettingsManager::isExists(const QString& group, const QString& name) const
+{
+    return find(group, name);
+}
+
+bool SettingsManager::isExists(int device, const QString& group, const QString& name) const
+{
+    return find(device, group, name);
+}
+
+void SettingsManager::insUpdItem(const QString& group, const QString& name, const QVariant& value)
+{
+    if (SettingsItem* const item = find(group, name))
+        item->value = value;
+    else
+        addItem(group, name, value);
+}
+
+void SettingsManager::insUpdItem(int device, const QString& group, const QString& name,
+                                 const QVariant& value)
+{
+    insUpdItem(getDeviceGroupName(device, group), name, value);
+}
+
+void SettingsManager::clear()
+{
+    items->clear();
+}
+
+int SettingsManager::count() const
+{
+    return items->size();
+}
+
+bool SettingsManager::isLoaded() const
+{
+    return loaded;
+}
+
+QVariant SettingsManager::getDefault(QString group, QString param) const
+{
+    for (const auto& row : defaults) {
+        if (group == row.group && param == row.param)
+            return QString(row.value);
+    }
+    qCritical().noquote()
+        << QStringLiteral("Default settings not found for param %1 in group %2").arg(param, group);
+    return false;
+}
+
+bool SettingsManager::load(const quorbus::ClientSettings& settings)
+{
+    qDebug().noquote() << QStringLiteral("Parsing settings list...");
+    clear();
+    const QList<QVariant> list = settings.settings();
+    for (const QVariant& element : list) {
+        const QVariantMap map = element.toMap();
+        const SettingsItem* const item = addItem(
+            map.value(groupKey).toString(), map.value(nameKey).toString(), map.value(valueKey));
+        qDebug().noquote() << QStringLiteral("Added [%1/%2 = %3]")
+                                  .arg(item->group, item->name, item->value.toString());
+    }
+    loaded = true;
+    return true;
+}
+
+QList<QVariant> SettingsManager::toList() const
+{
+    QList<QVariant> list;
+    for (const SettingsItem& item : std::as_const(*items)) {
+        list.append(
+            QVariantMap{{groupKey, item.group}, {nameKey, item.name}, {valueKey, item.value}});
+    }
+    return list;
+}
+
+} // namespace acceptorSettings
