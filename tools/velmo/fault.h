@@ -10,6 +10,7 @@ struct Fault
 };
 
 constexpr int exitSuccess = 0;
+constexpr int exitFindings = 1; ///< of a check that read everything and found something
 constexpr int exitBadInput = 2;
 
 /// Writes "velmo: <message>" to standard error as one line, control characters as \uXXXX.

@@ -1,12 +1,12 @@
 #include "filtersfile.h"
 
+#include "acceptorsettings.h"
+#include "arrayfile.h"
+#include "fault.h"
 #include "filterchain.h"
 #include "filterfactory.h"
-#include "textfile.h"
 
-#include <QJsonArray>
-
-#include <cctype>
+#include <climits>
 #include <memory>
 
 namespace {
@@ -59,55 +59,52 @@ std::unique_ptr<AbstractFilter> makeFilter(const QJsonValue& element)
     return filter;
 }
 
-// The line on which the element at @p index of an array begins; the text is known to be one.
-int lineOfElement(const QByteArray& text, int index)
+// Adds a filter for each description; @p place names the one that is at fault.
+template <typename Place>
+QList<AbstractFilter*> addFilters(const QJsonArray& descriptions, FilterChain& chain, Place place)
 {
-    int depth = 0;
-    bool inString = false;
-    bool beforeElement = false;
-    for (int i = 0; i < text.size(); ++i) {
-        const char c = text.at(i);
-        if (beforeElement && !isspace(static_cast<unsigned char>(c))) {
-            if (index-- == 0)
-                return 1 + text.left(i).count('\n');
-            beforeElement = false;
+    QList<AbstractFilter*> filters;
+    for (int i = 0; i < descriptions.size(); ++i) {
+        try {
+            filters.append(makeFilter(descriptions.at(i)).release());
+        } catch (const Fault& fault) {
+            throw Fault{QStringLiteral("%1: %2").arg(place(i), fault.message)};
         }
-        if (inString && c == '\\')
-            ++i;
-        else if (c == '"')
-            inString = !inString;
-        else if (inString)
-            continue;
-        else if (c == '[' || c == '{')
-            beforeElement = ++depth == 1;
-        else if (c == ']' || c == '}')
-            --depth;
-        else if (c == ',')
-            beforeElement = depth == 1;
+        chain.add(filters.last());
     }
-    return 1;
+    return filters;
 }
 
 } // namespace
 
 QList<AbstractFilter*> loadFilters(const QString& fileName, FilterChain& chain)
 {
-    TextFile file(fileName);
-    const QByteArray text = file.readAll();
-    const QJsonDocument document = file.parseJson(text, 1);
-    if (!document.isArray())
-        throw file.faultAt(1, QStringLiteral("expected a list of filters"));
-    const QJsonArray descriptions = document.array();
-    QList<AbstractFilter*> filters;
-    for (int i = 0; i < descriptions.size(); ++i) {
-        try {
-            filters.append(makeFilter(descriptions.at(i)).release());
-        } catch (const Fault& fault) {
-            throw file.faultAt(lineOfElement(text, i), fault.message);
-        }
-        chain.add(filters.last());
+    const ArrayFile file(fileName, QStringLiteral("filters"));
+    return addFilters(file.elements(), chain, [&file](int index) { return file.place(index); });
+}
+
+QList<AbstractFilter*> filtersOfSettings(const QString& fileName, FilterChain& chain)
+{
+    const ArrayFile file(fileName, QStringLiteral("settings"));
+    AcceptorSettings().setList(file.elements().toVariantList());
+
+    QJsonArray descriptions;
+    const auto describe = [&descriptions](const char* name, const QJsonObject& params) {
+        descriptions += QJsonObject{{nameKey, QLatin1String(name)}, {paramsKey, params}};
+    };
+    describe(filters::ACCEPT_FILTER,
+             {{QStringLiteral("acceptAll"), AcceptorSettings::acceptAll()}});
+    for (const AcceptorAttemptFilterItem& limit : AcceptorSettings::attemptsFilter()) {
+        describe(filters::ATTEMPTS_FILTER,
+                 {{QStringLiteral("denom"), limit.denom()},
+                  {QStringLiteral("attempts"), limit.attempts()}});
     }
-    return filters;
+    if (AcceptorSettings::maxSumm() > 0) {
+        // The sums of a session have 32 bits: none exceeds this.
+        const qint64 maximum = qMin<qint64>(AcceptorSettings::maxSumm(), INT_MAX);
+        describe(filters::SESSION_SUM_FILTER, {{QStringLiteral("sessionSum"), maximum}});
+    }
+    return addFilters(descriptions, chain, [&file](int) { return file.name(); });
 }
 
 QString filterName(const AbstractFilter& filter)

@@ -12,6 +12,10 @@ class FilterChain;
 /// filter or parameter and for a value that a parameter cannot hold.
 QList<AbstractFilter*> loadFilters(const QString& fileName, FilterChain& chain);
 
+/// Makes the filters that a settings list implies and adds them to the chain as loadFilters() does:
+/// accept all or nothing, the limits of the rejections, and the maximum sum when it is above 0.
+QList<AbstractFilter*> filtersOfSettings(const QString& fileName, FilterChain& chain);
+
 /// The filter's name as the filters file has it.
 QString filterName(const AbstractFilter& filter);
 

@@ -1,6 +1,7 @@
 #include "commandline.h"
 #include "fault.h"
 #include "replaycommand.h"
+#include "settingscommand.h"
 #include "velmolib.h"
 
 #include <QCommandLineParser>
@@ -19,6 +20,8 @@ const struct Command
 } commands[] = {
     {QLatin1String("replay"),
      QLatin1String("What happened in a session, and why notes were refused."), replayCommand},
+    {QLatin1String("settings"), QLatin1String("Shows, changes and checks the service's settings."),
+     settingsCommand},
 };
 
 int runWithoutCommand(const QStringList& arguments)
@@ -27,7 +30,7 @@ int runWithoutCommand(const QStringList& arguments)
     QString description = QStringLiteral("Answers questions about the cash devices of a kiosk.\n\n"
                                          "Commands (velmo COMMAND --help tells more):");
     for (const Command& command : commands)
-        description += QStringLiteral("\n  %1  %2").arg(command.name, command.summary);
+        description += QStringLiteral("\n  %1  %2").arg(command.name, -8).arg(command.summary);
     parser.setApplicationDescription(description);
     parser.addPositionalArgument(QStringLiteral("COMMAND"), QStringLiteral("One of the commands."));
     const QCommandLineOption help = helpOption();

@@ -1,13 +1,11 @@
 #include "replay.h"
 
-#include "filtersfile.h"
-
 #include <algorithm>
 
-Replay::Replay(const QString& filtersFile)
+Replay::Replay(FilterSource source, const QString& fileName)
 {
     m_chain.setEvents(m_worker.getStatesList());
-    m_filters = loadFilters(filtersFile, m_chain);
+    m_filters = source(fileName, m_chain);
 }
 
 ReplayStep Replay::take(const SessionLine& line)

@@ -27,8 +27,11 @@ struct ReplayStep
 class Replay
 {
 public:
-    /// Throws Fault for a bad filters file.
-    explicit Replay(const QString& filtersFile);
+    /// loadFilters() or filtersOfSettings().
+    using FilterSource = QList<AbstractFilter*> (*)(const QString& fileName, FilterChain& chain);
+
+    /// Throws Fault for a bad file.
+    Replay(FilterSource source, const QString& fileName);
 
     ReplayStep take(const SessionLine& line);
 

@@ -19,6 +19,7 @@ namespace {
 struct Options
 {
     QString sessionFile;
+    Replay::FilterSource filterSource;
     QString filtersFile;
     bool json = false;
     bool keepGoing = false;
@@ -42,23 +43,32 @@ std::optional<Options> parseOptions(const QStringList& arguments)
         QStringLiteral("The note filters: [{\"name\":\"AttemptsFilter\",\"params\":"
                        "{\"denom\":1000,\"attempts\":2}}, ...]"),
         QStringLiteral("FILTERS.json"));
+    const QCommandLineOption settings(
+        QStringLiteral("settings"),
+        QStringLiteral("In place of --filters: the filters that the service's settings imply."),
+        QStringLiteral("SETTINGS.json"));
     const QCommandLineOption json(QStringLiteral("json"),
                                   QStringLiteral("Print one JSON object for every line."));
     const QCommandLineOption keepGoing(
         QStringLiteral("keep-going"),
         QStringLiteral("Skip bad lines and count them; the exit code is still 2."));
-    parser.addOptions({help, filters, json, keepGoing});
+    parser.addOptions({help, filters, settings, json, keepGoing});
 
     if (!parseArguments(parser, arguments, help))
         return std::nullopt;
-    if (parser.positionalArguments().size() != 2 || !parser.isSet(filters))
-        throw Fault{QStringLiteral("usage: velmo replay SESSION.jsonl --filters FILTERS.json")};
+    if (parser.positionalArguments().size() != 2
+        || parser.isSet(filters) == parser.isSet(settings)) {
+        throw Fault{QStringLiteral("usage: velmo replay SESSION.jsonl "
+                                   "(--filters FILTERS.json | --settings SETTINGS.json)")};
+    }
+    const bool ofSettings = parser.isSet(settings);
+    const Options options{
+        parser.positionalArguments().at(1), ofSettings ? filtersOfSettings : loadFilters,
+        parser.value(ofSettings ? settings : filters), parser.isSet(json), parser.isSet(keepGoing)};
     const QLatin1String standardInput("-");
-    if (parser.positionalArguments().at(1) == standardInput
-        && parser.value(filters) == standardInput)
+    if (options.sessionFile == standardInput && options.filtersFile == standardInput)
         throw Fault{QStringLiteral("session and filters cannot both come from standard input")};
-    return Options{parser.positionalArguments().at(1), parser.value(filters), parser.isSet(json),
-                   parser.isSet(keepGoing)};
+    return options;
 }
 
 QString verdictText(AbstractFilter::FilterResult verdict)
@@ -216,7 +226,7 @@ ReplayStep takeLine(Replay& replay, const TextFile& file, const QByteArray& text
 
 int replay(const Options& options)
 {
-    Replay replay(options.filtersFile);
+    Replay replay(options.filterSource, options.filtersFile);
     TextFile session(options.sessionFile);
     Output output(session.isLive() || isatty(STDOUT_FILENO));
     Progress progress;

@@ -18,6 +18,9 @@ public:
 
     QByteArray readAll();
 
+    /// The name for people: "standard input" for "-".
+    QString name() const { return m_name; }
+
     /// The number of the line that was read last, counted from 1.
     qint64 lineNumber() const { return m_lineNumber; }
 

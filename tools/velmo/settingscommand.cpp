@@ -1,0 +1,247 @@
+#include "settingscommand.h"
+
+#include "acceptors.h"
+#include "acceptorsettings.h"
+#include "arrayfile.h"
+#include "commandline.h"
+#include "droutemapitem.h"
+#include "fault.h"
+#include "knownsettings.h"
+#include "settingscheck.h"
+#include "settingsedit.h"
+#include "settingsmanager.h"
+#include "table.h"
+
+#include <QCommandLineParser>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+
+#include <cstdio>
+
+namespace {
+
+void print(const QString& text)
+{
+    const QByteArray bytes = text.toUtf8();
+    const auto size = static_cast<std::size_t>(bytes.size());
+    if (fwrite(bytes.constData(), 1, size, stdout) != size || fflush(stdout) != 0)
+        throw Fault{QStringLiteral("standard output: cannot be written")};
+}
+
+ArrayFile readSettings(const QString& fileName)
+{
+    return {fileName, QStringLiteral("settings")};
+}
+
+// One element a line, like the lists that people write.
+QByteArray listText(const QJsonArray& list)
+{
+    QByteArrayList lines;
+    for (const QJsonValue& element : list) {
+        const QByteArray inBrackets =
+            QJsonDocument(QJsonArray{element}).toJson(QJsonDocument::Compact);
+        lines += "    " + inBrackets.mid(1, inBrackets.size() - 2);
+    }
+    return "[\n" + lines.join(",\n") + "\n]\n";
+}
+
+void save(const QJsonArray& list, const QString& fileName)
+{
+    if (fileName == QLatin1String("-"))
+        return print(QString::fromUtf8(listText(list)));
+    const QByteArray text = listText(list);
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+        throw Fault{QStringLiteral("%1: %2").arg(fileName, file.errorString())};
+}
+
+// Splits GROUP/KEY, in which the group of a device has a slash of its own.
+Assignment assignment(const QString& path, const QString& value)
+{
+    const int keyBegin = path.lastIndexOf(QLatin1Char('/')) + 1;
+    if (keyBegin < 2)
+        throw Fault{QStringLiteral("\"%1\": expected GROUP/KEY").arg(path)};
+    return {path.left(keyBegin - 1), path.mid(keyBegin), value};
+}
+
+// The values of the list form that the model carries now, by path.
+QMap<QString, QString> carriedValues()
+{
+    QMap<QString, QString> values;
+    const QVariantList list = AcceptorSettings().toList();
+    for (const QVariant& element : list) {
+        const QVariantMap map = element.toMap();
+        values.insert(map.value(QStringLiteral("group")).toString() + QLatin1Char('/')
+                          + map.value(QStringLiteral("key")).toString(),
+                      map.value(QStringLiteral("value")).toString());
+    }
+    return values;
+}
+
+// The default of a device's setting; the intervals of ID 003 devices have none.
+bool isDeviceDefault(const QString& subgroup, const QString& key, const QString& value)
+{
+    using acceptorSettings::SettingsManager;
+    return subgroup != SettingsManager::SM_G_ID003
+        && SettingsManager().getDefault(subgroup, key).toString() == value;
+}
+
+QString deviceHeading(int number, const AcceptorDeviceSettings& device)
+{
+    const QString model = Acceptors::devName(static_cast<Acceptors::Supported>(device.type()));
+    const bool isTcp = device.interfaceType() == QLatin1String("tcp");
+    const QString address =
+        isTcp ? QStringLiteral("%1:%2").arg(device.tcpHost(), device.tcpPort()) : device.portName();
+    QString heading = QStringLiteral("Device %1: %2 (%3) \"%4\", %5 %6")
+                          .arg(number)
+                          .arg(model)
+                          .arg(device.type())
+                          .arg(device.name(), device.interfaceType(), address);
+    if (number < 0 || number >= AcceptorSettings::deviceCount())
+        heading += QStringLiteral(" - not below the device count");
+    return heading;
+}
+
+int show(const ArrayFile& file, bool json)
+{
+    const QMap<QString, QString> defaults = carriedValues();
+    AcceptorSettings settings;
+    settings.setList(file.elements().toVariantList());
+    if (json) {
+        const QJsonDocument map(QJsonObject::fromVariantMap(settings.toFormattedMap()));
+        print(QString::fromUtf8(map.toJson()));
+        return exitSuccess;
+    }
+
+    QString text;
+    QString heading = QStringLiteral("Common settings");
+    QList<QStringList> rows;
+    const auto finishBlock = [&](const QString& nextHeading) {
+        text += heading + QLatin1Char('\n')
+            + formatTable({QStringLiteral("  Setting"), QString(), QStringLiteral("Value")}, rows);
+        heading = QLatin1Char('\n') + nextHeading;
+        rows.clear();
+    };
+    std::optional<int> shownDevice;
+    for (const QVariant& element : settings.toList()) {
+        const QVariantMap map = element.toMap();
+        const QString group = map.value(QStringLiteral("group")).toString();
+        const QString key = map.value(QStringLiteral("key")).toString();
+        const QString path = group + QLatin1Char('/') + key;
+        const QString value = map.value(QStringLiteral("value")).toString();
+        const std::optional<DeviceGroup> device = deviceGroup(group);
+        if (device && device->device != shownDevice) {
+            shownDevice = device->device;
+            finishBlock(deviceHeading(*shownDevice, *AcceptorSettings::devices[*shownDevice]));
+        }
+        const bool isDefault =
+            device ? isDeviceDefault(device->subgroup, key, value) : defaults.value(path) == value;
+        rows += QStringList{QStringLiteral("  ") + path,
+                            isDefault ? QStringLiteral("default") : QString(), value.simplified()};
+    }
+    finishBlock(QString());
+    print(text);
+    return exitSuccess;
+}
+
+int get(const ArrayFile& file, const QString& path)
+{
+    const Assignment asked = assignment(path, QString());
+    const std::optional<KnownSetting> known = knownSetting(asked.group, asked.key);
+    if (!known) {
+        throw Fault{QStringLiteral("unknown setting \"%1\" (nearest known: %2)")
+                        .arg(path, nearestKnownPath(path))};
+    }
+    AcceptorSettings().setList(file.elements().toVariantList());
+    const QMap<QString, QString> values = carriedValues();
+    if (!values.contains(known->path))
+        throw Fault{QStringLiteral("%1: %2 is not set").arg(file.name(), known->path)};
+    print(values.value(known->path) + QLatin1Char('\n'));
+    return exitSuccess;
+}
+
+int set(const ArrayFile& file, const QStringList& texts, const QString& outFile)
+{
+    QList<Assignment> assignments;
+    for (const QString& text : texts) {
+        const int equals = text.indexOf(QLatin1Char('='));
+        if (equals < 0)
+            throw Fault{QStringLiteral("\"%1\": expected GROUP/KEY=VALUE").arg(text)};
+        assignments += assignment(text.left(equals), text.mid(equals + 1));
+    }
+    save(editSettings(file.elements(), assignments), outFile);
+    return exitSuccess;
+}
+
+int check(const ArrayFile& file)
+{
+    const QStringList findings = checkSettings(file);
+    for (const QString& finding : findings)
+        print(finding + QLatin1Char('\n'));
+    return findings.isEmpty() ? exitSuccess : exitFindings;
+}
+
+int routes(const ArrayFile& file)
+{
+    AcceptorSettings().setList(file.elements().toVariantList());
+    QList<QStringList> rows;
+    for (const DRouteMapItem& route : DRouteMap::fromJson(AcceptorSettings::routeMap())) {
+        const bool isCoin = route.billType == Acceptors::Coin;
+        rows += QStringList{route.currency, QString::number(route.denomination),
+                            isCoin ? QStringLiteral("coin") : QStringLiteral("note"),
+                            QString::number(route.route), QString::number(route.count)};
+    }
+    print(formatTable({QStringLiteral("Currency"), QStringLiteral(">Face value"),
+                       QStringLiteral("Kind"), QStringLiteral(">Route"), QStringLiteral(">Count")},
+                      rows));
+    return exitSuccess;
+}
+
+} // namespace
+
+int settingsCommand(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Shows, changes and checks a settings list, a JSON array of {\"group\", \"key\", "
+        "\"value\"}. \"-\" reads standard input.\n\n"
+        "Actions:\n"
+        "  show FILE [--json]                        the settings, with what is at its default; "
+        "--json: the formatted map\n"
+        "  get FILE GROUP/KEY                        one value\n"
+        "  set FILE GROUP/KEY=VALUE... [-o OUT]      changes values, in FILE or into OUT\n"
+        "  check FILE                                what the service would ignore or read "
+        "differently; exit code 1 with findings\n"
+        "  routes FILE                               the route map"));
+    parser.addPositionalArgument(QStringLiteral("settings"), QString(), QStringLiteral("settings"));
+    parser.addPositionalArgument(QStringLiteral("ACTION"), QStringLiteral("One of the above."));
+    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("The settings list."));
+    const QCommandLineOption help = helpOption();
+    const QCommandLineOption json(QStringLiteral("json"),
+                                  QStringLiteral("show: print the formatted map."));
+    const QCommandLineOption output({QStringLiteral("o"), QStringLiteral("output")},
+                                    QStringLiteral("set: write to OUT, \"-\" for standard output."),
+                                    QStringLiteral("OUT"));
+    parser.addOptions({help, json, output});
+    if (!parseArguments(parser, arguments, help))
+        return exitSuccess;
+
+    const QStringList words = parser.positionalArguments();
+    const QString action = words.value(1);
+    const QStringList rest = words.mid(3);
+    if (words.size() == 3 && action == QLatin1String("show"))
+        return show(readSettings(words.at(2)), parser.isSet(json));
+    if (words.size() == 4 && action == QLatin1String("get"))
+        return get(readSettings(words.at(2)), words.at(3));
+    if (words.size() > 3 && action == QLatin1String("set")) {
+        return set(readSettings(words.at(2)), rest,
+                   parser.isSet(output) ? parser.value(output) : words.at(2));
+    }
+    if (words.size() == 3 && action == QLatin1String("check"))
+        return check(readSettings(words.at(2)));
+    if (words.size() == 3 && action == QLatin1String("routes"))
+        return routes(readSettings(words.at(2)));
+    throw Fault{QStringLiteral("usage: velmo settings show|get|set|check|routes FILE ...; "
+                               "velmo settings --help tells more")};
+}
