@@ -2,6 +2,7 @@
 
 #include "acceptors.h"
 #include "serialporttexts_p.h"
+#include "settingslist_p.h"
 #include "wraparound_p.h"
 
 #include <QJsonDocument>
@@ -92,20 +93,17 @@ using SerialPortTexts::Form;
 using SerialPortTexts::FormattedMap;
 using SerialPortTexts::ListForm;
 
-const QString groupKey = QStringLiteral("group");
-const QString nameKey = QStringLiteral("key");
-const QString valueKey = QStringLiteral("value");
-
 const QString ccnetGroup = QStringLiteral("ccnet");
 const QString id003Group = QStringLiteral("id003");
 const QString tcpInterface = QStringLiteral("tcp");
 
 QString attemptsText()
 {
-    QVariantList limits;
-    for (const AcceptorAttemptFilterItem& limit : S::attemptsFilter())
-        limits.append(limit.toMap());
-    const QJsonDocument document = QJsonDocument::fromVariant(limits);
+    const QList<AcceptorAttemptFilterItem> limits = S::attemptsFilter();
+    QVariantList elements;
+    for (const AcceptorAttemptFilterItem& limit : limits)
+        elements.append(limit.toMap());
+    const QJsonDocument document = QJsonDocument::fromVariant(elements);
     return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }
 
@@ -335,7 +333,7 @@ void setStopBits(Device& device, const QString& value)
 
 const QString anySubgroup;
 
-enum KeyMatch { ExactKey, KeyInAnyCase };
+enum KeyMatch : qint32 { ExactKey, KeyInAnyCase };
 
 // How a device's settings are read. Which keys are known in any case, and which are not, is part
 // of the format: programs write "portName" and "flowControl", but "baudrate".
@@ -426,11 +424,12 @@ void updateDeviceSetting(Device& device, const QString& subgroup, const QString&
 
 bool applySetting(AcceptorSettings& settings, const QVariantMap& setting)
 {
-    if (!setting.contains(groupKey))
+    if (!setting.contains(SettingsList::groupKey))
         return false;
-    const GroupPath path(setting.value(groupKey).toString());
-    return settings.updateValue(path.group, path.subgroup, setting.value(nameKey).toString(),
-                                setting.value(valueKey).toString());
+    const GroupPath path(setting.value(SettingsList::groupKey).toString());
+    return settings.updateValue(path.group, path.subgroup,
+                                setting.value(SettingsList::nameKey).toString(),
+                                setting.value(SettingsList::valueKey).toString());
 }
 
 Device& deviceAt(int index)
@@ -578,7 +577,7 @@ QVariantList AcceptorSettings::toList() const
 {
     QVariantList list;
     walk(ListForm, [&list](const QString& group, const QString& key, const QVariant& value) {
-        list.append(QVariantMap{{groupKey, group}, {nameKey, key}, {valueKey, value}});
+        list.append(SettingsList::element(group, key, value));
     });
     return list;
 }
@@ -657,22 +656,27 @@ void AcceptorSettings::fromAcceptorInfoList(const QList<AcceptorInfo>& infos)
             infoByType.insert(info.type, info);
     }
 
-    bool renumber = !devices.isEmpty() && devices.firstKey() > 0;
+    int firstIndex = devices.isEmpty() ? -1 : devices.firstKey();
+    bool dropped = false;
     QList<QPair<int, AcceptorDeviceSettings*>> kept;
     for (auto entry = devices.constBegin(); entry != devices.constEnd(); ++entry) {
         AcceptorDeviceSettings* const device = entry.value();
         const bool fixed = device && fixedTypes.contains(device->type());
         if (!device || (!fixed && !infoByType.contains(device->type()))) {
             delete device;
-            renumber = true;
+            dropped = true;
             continue;
         }
         if (!fixed)
             device->setAcceptorInfo(infoByType.value(device->type()));
         kept.append({entry.key(), device});
         infoByType.remove(device->type());
+        // A negative index counts as none: the next device that is kept takes its place.
+        if (firstIndex < 0 || entry.key() < firstIndex)
+            firstIndex = entry.key();
     }
 
+    const bool renumber = firstIndex > 0 || dropped;
     devices.clear();
     for (const auto& [index, device] : std::as_const(kept))
         devices.insert(renumber ? devices.size() : index, device);

@@ -196,8 +196,8 @@ public:
     /// Brings the devices in line with what the service found. Card terminals stay as they are
     /// (fixedDeviceTypes()); of the other devices, the first of each type takes the last
     /// description of its type, the rest are deleted; descriptions that are left become new
-    /// devices at the end. Indexes are renumbered from 0 when the first was not 0 or a device was
-    /// deleted. The device count becomes the number of devices.
+    /// devices at the end. Indexes are renumbered from 0 when the first that is not negative was
+    /// above 0 or a device was deleted. The device count becomes the number of devices.
     void fromAcceptorInfoList(const QList<AcceptorInfo>& infos);
 
     /// The catalogue identifiers of the card terminals. May be called from any thread.

@@ -10,7 +10,7 @@
 namespace SerialPortTexts {
 
 /// The forms in which settings travel; also the columns of the tables below.
-enum Form { ListForm, FormattedMap, FlatRecord };
+enum Form : qint32 { ListForm, FormattedMap, FlatRecord };
 
 template <typename Value>
 struct Row

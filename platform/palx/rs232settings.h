@@ -13,27 +13,40 @@ namespace palx {
 class Rs232PortSettings
 {
 public:
-    QSerialPort::BaudRate baudRate() const { return m_baudRate; }
+    QSerialPort::BaudRate baudRate() const
+    {
+        return static_cast<QSerialPort::BaudRate>(m_baudRate);
+    }
     void setBaudRate(QSerialPort::BaudRate baudRate) { m_baudRate = baudRate; }
 
-    QSerialPort::DataBits dataBits() const { return m_dataBits; }
+    QSerialPort::DataBits dataBits() const
+    {
+        return static_cast<QSerialPort::DataBits>(m_dataBits);
+    }
     void setDataBits(QSerialPort::DataBits dataBits) { m_dataBits = dataBits; }
 
-    QSerialPort::Parity parity() const { return m_parity; }
+    QSerialPort::Parity parity() const { return static_cast<QSerialPort::Parity>(m_parity); }
     void setParity(QSerialPort::Parity parity) { m_parity = parity; }
 
-    QSerialPort::StopBits stopBits() const { return m_stopBits; }
+    QSerialPort::StopBits stopBits() const
+    {
+        return static_cast<QSerialPort::StopBits>(m_stopBits);
+    }
     void setStopBits(QSerialPort::StopBits stopBits) { m_stopBits = stopBits; }
 
-    QSerialPort::FlowControl flowControl() const { return m_flowControl; }
+    QSerialPort::FlowControl flowControl() const
+    {
+        return static_cast<QSerialPort::FlowControl>(m_flowControl);
+    }
     void setFlowControl(QSerialPort::FlowControl flowControl) { m_flowControl = flowControl; }
 
 private:
-    QSerialPort::BaudRate m_baudRate = QSerialPort::Baud9600;
-    QSerialPort::DataBits m_dataBits = QSerialPort::Data8;
-    QSerialPort::Parity m_parity = QSerialPort::NoParity;
-    QSerialPort::StopBits m_stopBits = QSerialPort::OneStop;
-    QSerialPort::FlowControl m_flowControl = QSerialPort::NoFlowControl;
+    // Numbers: 921600 baud is beyond what a variable of the enumeration's type must hold.
+    qint32 m_baudRate = QSerialPort::Baud9600;
+    qint32 m_dataBits = QSerialPort::Data8;
+    qint32 m_parity = QSerialPort::NoParity;
+    qint32 m_stopBits = QSerialPort::OneStop;
+    qint32 m_flowControl = QSerialPort::NoFlowControl;
 };
 
 /// The settings of one serial port under a section name. Setters store what they are given.

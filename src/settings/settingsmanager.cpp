@@ -1,5 +1,7 @@
 #include "settingsmanager.h"
 
+#include "settingslist_p.h"
+
 #include <QDebug>
 
 #include <algorithm>
@@ -70,10 +72,6 @@ const QString SM::SM_P_RESET_IDLE_TIMEOUT = QStringLiteral("reset_idle_timeout")
 SettingsManager* SettingsManager::_instance = nullptr;
 
 namespace {
-
-const QLatin1String groupKey("group");
-const QLatin1String nameKey("key");
-const QLatin1String valueKey("value");
 
 // The groups are plain: no row answers for the group of one device. The group "id003" has none.
 const struct
@@ -241,8 +239,9 @@ bool SettingsManager::load(const quorbus::ClientSettings& settings)
     const QList<QVariant> list = settings.settings();
     for (const QVariant& element : list) {
         const QVariantMap map = element.toMap();
-        const SettingsItem* const item = addItem(
-            map.value(groupKey).toString(), map.value(nameKey).toString(), map.value(valueKey));
+        const SettingsItem* const item =
+            addItem(map.value(SettingsList::groupKey).toString(),
+                    map.value(SettingsList::nameKey).toString(), map.value(SettingsList::valueKey));
         qDebug().noquote() << QStringLiteral("Added [%1/%2 = %3]")
                                   .arg(item->group, item->name, item->value.toString());
     }
@@ -253,10 +252,8 @@ bool SettingsManager::load(const quorbus::ClientSettings& settings)
 QList<QVariant> SettingsManager::toList() const
 {
     QList<QVariant> list;
-    for (const SettingsItem& item : std::as_const(*items)) {
-        list.append(
-            QVariantMap{{groupKey, item.group}, {nameKey, item.name}, {valueKey, item.value}});
-    }
+    for (const SettingsItem& item : std::as_const(*items))
+        list.append(SettingsList::element(item.group, item.name, item.value));
     return list;
 }
 

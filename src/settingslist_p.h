@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+/// An element of the settings list form: a map with exactly these keys.
+namespace SettingsList {
+
+inline const QString groupKey = QStringLiteral("group");
+inline const QString nameKey = QStringLiteral("key");
+inline const QString valueKey = QStringLiteral("value");
+
+inline QVariantMap element(const QString& group, const QString& name, const QVariant& value)
+{
+    return {{groupKey, group}, {nameKey, name}, {valueKey, value}};
+}
+
+} // namespace SettingsList

@@ -1,0 +1,531 @@
+#include "acceptorportsettingsconsts.h"
+#include "acceptorsettings.h"
+#include "testtable.h"
+
+#include <climits>
+#include <random>
+#include <thread>
+
+namespace {
+
+using Devices = QMap<int, AcceptorDeviceSettings*>;
+
+QVariantMap setting(const QString& group, const QString& key, const QVariant& value)
+{
+    return {{"group"_s, group}, {"key"_s, key}, {"value"_s, value}};
+}
+
+AcceptorInfo info(int type, const QString& description = {}, const QString& port = {})
+{
+    AcceptorInfo i;
+    i.type = static_cast<quint16>(type);
+    i.description = description;
+    i.portName = port;
+    return i;
+}
+
+// What the list form has under a group and a key.
+QString carried(const QString& group, const QString& key)
+{
+    QStringList values;
+    for (const QVariant& element : AcceptorSettings().toList()) {
+        const QVariantMap map = element.toMap();
+        if (map.value("group"_s) == group && map.value("key"_s) == key)
+            values += map.value("value"_s).toString();
+    }
+    return values.join("|"_s);
+}
+
+// Index, type and name of each device.
+QString devices()
+{
+    QStringList texts;
+    for (auto d = AcceptorSettings::devices.begin(); d != AcceptorSettings::devices.end(); ++d)
+        texts += "%1:%2%3"_s.arg(d.key()).arg(d.value()->type()).arg(d.value()->name());
+    return texts.join(QLatin1Char(' '));
+}
+
+// A device that is counted while it lives.
+class CountedDevice : public AcceptorDeviceSettings
+{
+public:
+    explicit CountedDevice(int type)
+    {
+        setType(type);
+        ++s_living;
+    }
+    ~CountedDevice() override { --s_living; }
+    inline static int s_living = 0;
+};
+
+class Random
+{
+public:
+    explicit Random(unsigned seed)
+        : m_engine(seed)
+    {
+    }
+    int upTo(int max) { return std::uniform_int_distribution<int>(0, max)(m_engine); }
+    int number() { return static_cast<int>(m_engine()); }
+    template <typename T>
+    T oneOf(std::initializer_list<T> values)
+    {
+        return values.begin()[upTo(static_cast<int>(values.size()) - 1)];
+    }
+    QString text() { return oneOf({QString(), "tty \"S0\"\n"_s, "прибор"_s, "7"_s}); }
+
+private:
+    std::mt19937 m_engine;
+};
+
+const auto models = {-1, 0, 1, 3, 5, 6, 7, 51, 150, 200, 201, 65535};
+
+void randomise(AcceptorDeviceSettings& d, Random& random)
+{
+    d.setType(random.oneOf(models));
+    d.setName(random.text());
+    d.setCardReaderQuorId(random.text());
+    d.setInterfaceType(random.oneOf({"rs232"_s, "tcp"_s, "TCP"_s}));
+    d.setPortName(random.text());
+    d.setTcpHost(random.text());
+    d.setTcpPort(random.text());
+    d.setResponse_time(random.number());
+    d.setPolling_interval(random.number());
+    d.setBill_table_interval(random.number());
+    d.setReset_interval(random.number());
+    d.setRest_interval(random.number());
+    d.setBaudrate(random.oneOf({QSerialPort::Baud1200, QSerialPort::Baud115200}));
+    d.setFlowControl(static_cast<QSerialPort::FlowControl>(random.upTo(2)));
+    d.setParityType(
+        random.oneOf({QSerialPort::NoParity, QSerialPort::EvenParity, QSerialPort::OddParity,
+                      QSerialPort::SpaceParity, QSerialPort::MarkParity}));
+    d.setDataBitsType(static_cast<QSerialPort::DataBits>(5 + random.upTo(3)));
+    d.setStopBits(static_cast<QSerialPort::StopBits>(1 + random.upTo(2)));
+}
+
+// Devices in no order and a configuration around them.
+void randomiseSettings(Random& random)
+{
+    AcceptorSettings settings;
+    settings.setList({});
+    for (int i = random.upTo(4); i > 0; --i)
+        randomise(*(AcceptorSettings::devices[i * 3 - 4] = new AcceptorDeviceSettings), random);
+    settings.setDeviceCount(random.upTo(12));
+    settings.setAcceptAll(random.upTo(1) == 0);
+    settings.setPortLogs(random.upTo(1) == 0);
+    settings.setMaxSumm(qint64(random.number()) * INT_MAX);
+    settings.setResetIdleTimeout(qint64(random.number()) * INT_MAX);
+    settings.setCleanStatistics(static_cast<AcceptorSettings::ECleanStatistics>(random.upTo(4)));
+    settings.setRouteMap(random.text());
+    settings.setAttemptsFilter({});
+    for (int i = random.upTo(3); i > 0; --i)
+        settings.addAttemptsFilter(random.number(), random.number());
+}
+
+} // namespace
+
+class tst_Settings : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // The fresh model, before any test changes it.
+    void initTestCase()
+    {
+        const AcceptorSettings settings;
+        QVERIFY(settings.isEmpty() && settings.acceptAll() && !settings.portLogs());
+        QCOMPARE(settings.toList().size(), 8);
+        QCOMPARE(carried("acceptor_common"_s, "attempts_filter_settings"_s), "[]"_s);
+        QCOMPARE(carried("service"_s, "devices_count"_s), "0"_s);
+        const QVariantMap map = settings.toFormattedMap();
+        QCOMPARE(map.keys(), QStringList({"acceptor_common"_s, "dispenser"_s, "service"_s}));
+        QCOMPARE(
+            map.value("service"_s).toMap(),
+            QVariantMap({{"devices_count"_s, -1}, {"reset_idle_timeout"_s, qlonglong(3600000)}}));
+    }
+
+    void init()
+    {
+        AcceptorSettings().setList({});
+        AcceptorSettings::setAttemptsFilter({});
+        AcceptorSettings::setAcceptAll(true);
+    }
+
+    void cleanupTestCase() { AcceptorSettings().setList({}); }
+
+    void textsOfTheRecordParse_data()
+    {
+        // Parser, text, value; flow controls: 0 none, 1 hardware, 2 software.
+        addRows(R"(
+            flow | xonxoff  | 2
+            flow | hardware | 1
+            flow | XONXOFF  | 0
+            flow |          | 0
+            par  | even     | 2
+            par  | odd      | 3
+            par  | EVEN     | 0
+            par  | space    | 0
+            par  |          | 0
+            data | 5        | 5
+            data | 7        | 7
+            data | 9        | 8
+            stop | 2        | 2
+            stop | 1.5      | 1
+            baud | 921600   | 921600
+            baud | abc      | 9600
+            baud |          | 9600)"_s);
+    }
+
+    void textsOfTheRecordParse()
+    {
+        QFETCH(QStringList, row);
+        AcceptorDeviceSettings d;
+        d.setFlowControlStr(row.at(0) == "flow"_s ? row.at(1) : "none"_s);
+        d.setParityTypeStr(row.at(0) == "par"_s ? row.at(1) : "none"_s);
+        d.setDataBitsTypeStr(row.at(0) == "data"_s ? row.at(1) : "8"_s);
+        d.setStopBitsStr(row.at(0) == "stop"_s ? row.at(1) : "1"_s);
+        d.setBaudrateStr(row.at(0) == "baud"_s ? row.at(1) : "9600"_s);
+        const QMap<QString, int> values{{"flow"_s, d.flowControl()},
+                                        {"par"_s, d.parityType()},
+                                        {"data"_s, d.dataBits()},
+                                        {"stop"_s, d.stopBits()},
+                                        {"baud"_s, d.baudrate()}};
+        QCOMPARE(QString::number(values.value(row.at(0))), row.at(2));
+    }
+
+    void nameIsCutFromTheDescription_data()
+    {
+        addRows(R"(
+            Model A S/N 41A001 Firmware 1.21 | Model A_
+            Model B firmware 4.1 s/n 99      | Model B_
+            s/n 5 firmware 2                 | s/n 5 firmware 2
+            Validator s/n 123                | Validator_
+            Validator FIRMWARE 2             | Validator_
+            firmware                         | firmware
+            Validator                        | Validator)"_s);
+    }
+
+    void nameIsCutFromTheDescription()
+    {
+        QFETCH(QStringList, row);
+        QCOMPARE(AcceptorDeviceSettings(info(1, row.at(0))).name(),
+                 QString(row.at(1)).replace(QLatin1Char('_'), QLatin1Char(' ')));
+    }
+
+    void recordCarriesThePortOnly()
+    {
+        using namespace acceptorportsettingsconsts;
+        AcceptorDeviceSettings d;
+        QCOMPARE(d.toAcceptorInfo().type, quint16(65535));
+        d.setMaxNakCount(3);
+        d.setReset_interval(3000);
+        QCOMPARE(d.bill_table_interval() + d.maxPackageSize(), 3003);
+        d.setInterfaceType("tcp"_s);
+        d.setTcpHost("host"_s);
+        d.setPortName("ttyS1"_s);
+        d.setBaudrate(QSerialPort::Baud19200);
+        d.setParityType(QSerialPort::MarkParity);
+        d.setStopBits(QSerialPort::OneAndHalfStop);
+        d.setDataBitsType(QSerialPort::UnknownDataBits);
+        d.setFlowControl(static_cast<QSerialPort::FlowControl>(3));
+        AcceptorInfo record = d.toAcceptorInfo();
+        QCOMPARE(record.portSettings,
+                 QVariantMap({{MAP_BAUDRATE, "19200"_s},
+                              {MAP_PORTNAME, "ttyS1"_s},
+                              {MAP_FLOWCONTROL, ""_s},
+                              {MAP_PARITY, "none"_s},
+                              {MAP_DATABITS, "8"_s},
+                              {MAP_STOPBITS, "1"_s}}));
+        record.portName.clear();
+        record.portSettings.remove(MAP_BAUDRATE);
+        d.setAcceptorInfo(record);
+        QCOMPARE(d.interfaceType() + d.portName() + d.tcpHost(), "rs232host"_s);
+        QCOMPARE(d.type(), 65535);
+        QCOMPARE(d.baudrate(), QSerialPort::Baud19200);
+        QCOMPARE(d.maxNakCount(), 3);
+    }
+
+    void recordReadsBack()
+    {
+        Random random(3);
+        for (int round = 0; round < 50; ++round) {
+            AcceptorDeviceSettings written;
+            randomise(written, random);
+            const AcceptorInfo record = written.toAcceptorInfo();
+            const AcceptorInfo read = AcceptorDeviceSettings(record).toAcceptorInfo();
+            // Space and mark parity and one and a half stop bits are lost in writing.
+            QCOMPARE(read.portSettings, record.portSettings);
+            QCOMPARE(read.portName, written.portName());
+            QCOMPARE(read.type, record.type);
+        }
+    }
+
+    void singleValuesAreApplied_data()
+    {
+        // Group path, key, value, result, the value carried; further what else it is read from.
+        addRows(R"(
+            acceptor_common      | acceptAll          | 1           | true  | 1
+            acceptor_common      | acceptAll          | true        | true  | 0
+            acceptor_common      | maxSumm            | 5000000000  | true  | 5000000000
+            acceptor_common      | maxSumm            | much        | true  | 0
+            acceptor_common      | reset_stats        | 4           | true  | 4
+            acceptor_common      | reset_stats        | 5           | true  | 0
+            acceptor_common      | reset_stats        | -1          | true  | 0
+            acceptor_common      | port_logging       | 1           | true  | 1
+            acceptor_common      | unknown            | 1           | true  |
+            acceptor_common/x    | reset_stats        | 2           | true  | 2
+            acceptor_common      | attempts_filter_settings | [{"denom":"9"},{},7,{"attempts":3}] | true | [{"attempts":"1","denom":"9"},{"attempts":"3","denom":"1"}]
+            acceptor_common      | attempts_filter_settings | {} | true | []
+            service              | reset_idle_timeout | -1          | true  | -1
+            dispenser            | route_map          | x           | true  | x
+            other                | acceptAll          | 0           | false |
+            device0/hw_interface | interface_type     | tcp         | true  | tcp
+            device0/hw_interface | portname           | COM1        | true  | COM1
+            device0/hw_interface | baudrate           | 230400      | true  | 230400
+            device0/hw_interface | BaudRate           | 300         | true  | | baudrate | 9600
+            device0/hw_interface | PortName           | COM1        | true  | | portname | COM1
+            device0/hw_interface | FlowControl        | dtr/str     | true  | | flowcontrol | hardware
+            device0/hw_interface | flowcontrol        | xon/xoff    | true  | xonxoff
+            device0/hw_interface | flowcontrol        | XonXoff     | true  | xonxoff
+            device0/hw_interface | flowcontrol        | off         | true  | none
+            device0/hw_interface | parity             | Space       | true  | space
+            device0/hw_interface | parity             | mark        | true  | none
+            device0/hw_interface | Parity             | odd         | true  | | parity | none
+            device0/hw_interface | DataBits           | 7           | true  | | databits | 7
+            device0/hw_interface | stopbits           | 6           | true  | 2
+            device0/hw_interface | StopBit            | 3           | true  | | stopbits | 3
+            device0/device       | device_name        | A           | true  | A
+            device0/device       | device_id          | 200         | true  | 200
+            device0/debug        | port_logging       | 1           | false | false
+            device0              | response_time      | 5           | false |
+            device-7/device      | device_id          | 3           | true  | 3
+            mydevice             | x                  | 3           | false |)"_s);
+    }
+
+    void singleValuesAreApplied()
+    {
+        QFETCH(QStringList, row);
+        AcceptorSettings settings;
+        settings.setPortLogs(false);
+        const bool known = settings.setValue(setting(row.at(0), row.at(1), row.at(2)));
+        QCOMPARE(known ? "true"_s : "false"_s, row.at(3));
+        QCOMPARE(carried(QString(row.at(0)).remove("/x"_s), row.at(1)), row.at(4));
+        if (row.size() > 6)
+            QCOMPARE(carried(row.at(0), row.at(5)), row.at(6));
+        QCOMPARE(AcceptorSettings::devices.size(), row.at(0).contains("device"_s) ? 1 : 0);
+    }
+
+    void protocolParametersReachTheirDevice()
+    {
+        AcceptorSettings settings;
+        QVERIFY(!settings.setValue({{"key"_s, "maxSumm"_s}, {"value"_s, 5}}));
+        QVERIFY(settings.setValue(setting("service"_s, "devices_count"_s, 3)));
+        QCOMPARE(settings.deviceCount(), 3);
+        for (const QString& key : {"response_time"_s, "polling_interval"_s, "rest_interval"_s,
+                                   "bill_table_interval"_s, "reset_interval"_s})
+            QVERIFY(!settings.updateValue("device4"_s, "any"_s, key, QString::number(key.size())));
+        const AcceptorDeviceSettings& d = *AcceptorSettings::devices.value(4);
+        QCOMPARE(QList<int>({d.response_time(), d.polling_interval(), d.bill_table_interval(),
+                             d.reset_interval(), d.rest_interval()}),
+                 QList<int>({13, 16, 19, 14, 13}));
+        for (const QString& key :
+             {"timeout_ack"_s, "timeout_packet"_s, "count_nak"_s, "packet_size"_s, "terminal_id"_s})
+            QVERIFY(!settings.updateValue("device4"_s, "posd200"_s, key, "77"_s));
+        QCOMPARE(d.timeOutAck() + d.packetTimeout() + d.maxNakCount() + d.maxPackageSize(), 308);
+        QCOMPARE(d.cardReaderQuorId(), "77"_s);
+        QVERIFY(!settings.updateValue("device4"_s, "uniteller_service"_s, "terminal_id"_s, "x"_s));
+        QCOMPARE(d.cardReaderQuorId(), "x"_s);
+    }
+
+    void listKeepsItsOrder()
+    {
+        AcceptorSettings settings;
+        settings.updateValue("device0"_s, "device"_s, "device_id"_s, "1"_s);
+        settings.updateValue("device2"_s, "device"_s, "device_id"_s, "201"_s);
+        settings.updateValue("device2"_s, "hw_interface"_s, "interface_type"_s, "tcp"_s);
+        QStringList order;
+        QString types;
+        for (const QVariant& element : settings.toList().mid(8)) {
+            const QVariantMap map = element.toMap();
+            order += map.value("group"_s).toString().mid(6) + "."_s + map.value("key"_s).toString();
+            types += QLatin1Char(*map.value("value"_s).typeName());
+        }
+        QCOMPARE(order.join(QLatin1Char(' ')),
+                 "0/debug.port_logging 0/ccnet.response_time 0/ccnet.polling_interval "
+                 "0/ccnet.bill_table_interval 0/ccnet.reset_interval 0/ccnet.rest_interval "
+                 "0/device.device_id 0/device.device_name 0/hw_interface.interface_type "
+                 "0/hw_interface.portname 0/hw_interface.baudrate 0/hw_interface.flowcontrol "
+                 "0/hw_interface.parity 0/hw_interface.databits 0/hw_interface.stopbits "
+                 "2/debug.port_logging 2/device.device_id 2/device.device_name "
+                 "2/posd200.terminal_id 2/posd200.timeout_ack 2/posd200.timeout_packet "
+                 "2/posd200.count_nak 2/posd200.packet_size 2/hw_interface.interface_type "
+                 "2/hw_interface.tcp_host 2/hw_interface.tcp_port 2/hw_interface.baudrate "
+                 "2/hw_interface.flowcontrol 2/hw_interface.parity 2/hw_interface.databits "
+                 "2/hw_interface.stopbits"_s);
+        // bool, int and QString, by their first letter.
+        QCOMPARE(types, "biiiiiiQQQQQQQQbiQQiiiiQQQQQQQQ"_s);
+    }
+
+    void formattedMapShowsAndKeepsDevicesBelowTheCount()
+    {
+        AcceptorSettings settings;
+        settings.fromAcceptorInfoList({info(3, "A"_s, "ttyS0"_s), info(1)});
+        QCOMPARE(devices(), "0:1 1:3A"_s);
+        AcceptorSettings::devices.value(1)->setFlowControl(QSerialPort::SoftwareControl);
+        QCOMPARE(settings.toFormattedMap().value("device1/hw_interface"_s).toMap(),
+                 QVariantMap({{"interface_type"_s, "rs232"_s},
+                              {"portName"_s, "ttyS0"_s},
+                              {"baudrate"_s, 9600},
+                              {"flowControl"_s, "XON/XOFF"_s},
+                              {"key"_s, "parity"_s},
+                              {"parity"_s, "NONE"_s},
+                              {"dataBits"_s, 8},
+                              {"stopBit"_s, 1}}));
+        settings.setDeviceCount(1);
+        QCOMPARE(settings.toFormattedMap().size(), 3 + 3);
+        settings.setFotmattedMap(
+            {{"device7/debug"_s, QVariantMap{{"port_logging"_s, true}}}, {"device0/device"_s, 7}});
+        QCOMPARE(devices(), "0:1"_s);
+        settings.setDeviceCount(-1);
+        settings.setFotmattedMap({});
+        QCOMPARE(devices(), QString());
+    }
+
+    void devicesFollowWhatWasFound()
+    {
+        AcceptorSettings settings;
+        settings.fromAcceptorInfoList({info(1, "a"_s), info(201), info(51), info(1, "b"_s)});
+        QCOMPARE(devices(), "0:1b 1:1a 2:51"_s);
+        settings.fromAcceptorInfoList({info(51, "c"_s), info(1, "d"_s)});
+        QCOMPARE(devices(), "0:1d 1:51c"_s);
+        QCOMPARE(settings.deviceCount(), 2);
+
+        settings.setList({setting("device0/device"_s, "device_id"_s, 1),
+                          setting("device1/device"_s, "device_id"_s, 200),
+                          setting("device2/device"_s, "device_id"_s, 3)});
+        settings.fromAcceptorInfoList({info(3, "e"_s), info(51), info(200, "f"_s)});
+        QCOMPARE(devices(), "0:200 1:3e 2:51"_s);
+        QCOMPARE(settings.fixedDevices().size(), 1);
+        QCOMPARE(settings.fixedDeviceTypes(), QSet<int>({200, 201}));
+        settings.removeDeviceByIndex(0);
+        settings.removeDeviceByIndex(2);
+        settings.removeDeviceByIndex(-1);
+        QCOMPARE(devices(), "1:3e 2:51"_s);
+        QCOMPARE(settings.deviceCount(), 2);
+        settings.fromAcceptorInfoList({info(3), info(51)});
+        QCOMPARE(devices(), "0:3 1:51"_s);
+
+        settings.setList({setting("device-2/device"_s, "device_id"_s, 200),
+                          setting("device3/device"_s, "device_id"_s, 201)});
+        settings.fromAcceptorInfoList({info(1)});
+        QCOMPARE(devices(), "0:200 1:201 2:1"_s);
+
+        // Indexes at the ends of their range, and an entry without a device.
+        settings.setList({setting("device2147483647/device"_s, "device_id"_s, 201),
+                          setting("device0/device"_s, "device_id"_s, 200),
+                          setting("device-2147483648/device"_s, "device_id"_s, 201)});
+        settings.fromAcceptorInfoList({info(1)});
+        QCOMPARE(devices(), "-2147483648:201 -2147483647:1 0:200 2147483647:201"_s);
+        AcceptorSettings::devices[5] = nullptr;
+        QCOMPARE(settings.fixedDevices().size(), 3);
+        QCOMPARE(settings.toList().size(), 8 + 3 * 15 + 11);
+        settings.fromAcceptorInfoList({info(1)});
+        QCOMPARE(devices(), "0:201 1:1 2:200 3:201"_s);
+    }
+
+    // What the list does not carry: the parameters of the other protocols, the TCP endpoint of a
+    // serial device and the port name of a TCP device, mark parity, and a device count of its own.
+    void listReadsBack()
+    {
+        Random random(1);
+        for (int round = 0; round < 100; ++round) {
+            randomiseSettings(random);
+            AcceptorSettings settings;
+            const QVariantList list = settings.toList();
+            settings.setAttemptsFilter({});
+            settings.setRouteMap("x"_s);
+            settings.setList(list);
+            QCOMPARE(settings.toList(), list);
+            QCOMPARE(settings.deviceCount(), AcceptorSettings::devices.size());
+        }
+    }
+
+    // What the map does not carry: devices not below the count, TCP endpoints, protocol
+    // parameters and mark parity.
+    void formattedMapReadsBack()
+    {
+        Random random(2);
+        for (int round = 0; round < 100; ++round) {
+            randomiseSettings(random);
+            AcceptorSettings settings;
+            const QVariantMap map = settings.toFormattedMap();
+            settings.setList({});
+            settings.setAttemptsFilter({});
+            settings.setFotmattedMap(map);
+            QCOMPARE(settings.toFormattedMap(), map);
+        }
+    }
+
+    void devicesAreDeletedOnce()
+    {
+        Random random(4);
+        AcceptorSettings settings;
+        for (int step = 0; step < 2000; ++step) {
+            AcceptorDeviceSettings*& d = AcceptorSettings::devices[random.upTo(20)];
+            if (!d)
+                d = new CountedDevice(random.oneOf(models));
+            settings.setDeviceCount(random.upTo(20));
+            switch (random.upTo(6)) {
+            case 0:
+                settings.removeDeviceByIndex(random.upTo(20) - 2);
+                break;
+            case 1:
+                settings.setFotmattedMap(settings.toFormattedMap());
+                break;
+            case 2:
+                settings.fromAcceptorInfoList({info(random.oneOf(models)), info(7)});
+                break;
+            case 3:
+                settings.setList(random.upTo(3) == 0 ? QVariantList() : settings.toList());
+                break;
+            default:
+                break;
+            }
+        }
+        settings.setList({});
+        QCOMPARE(CountedDevice::s_living, 0);
+        QVERIFY(AcceptorSettings::devices.isEmpty());
+    }
+
+    // Each thread loads a configuration of its own number again and again; an interleaved load
+    // would leave a mixture.
+    void bulkLoadsDoNotInterleave()
+    {
+        const auto load = [](int number) {
+            AcceptorSettings settings;
+            QVariantList list{setting("service"_s, "devices_count"_s, number),
+                              setting("service"_s, "reset_idle_timeout"_s, number),
+                              setting("acceptor_common"_s, "maxSumm"_s, number)};
+            for (int i = 0; i < number; ++i)
+                list += setting("device%1/device"_s.arg(i), "device_id"_s, number);
+            const QVariantMap map{{"device0/device"_s, QVariantMap{{"device_id"_s, number}}}};
+            for (int round = 0; round < 200; ++round) {
+                settings.setList(list);
+                settings.setValue(setting("device0/device"_s, "device_id"_s, number));
+                settings.setFotmattedMap(map);
+                settings.setList(list);
+            }
+        };
+        std::thread threads[] = {std::thread(load, 2), std::thread(load, 3), std::thread(load, 4)};
+        for (std::thread& thread : threads)
+            thread.join();
+        AcceptorSettings().setValue(setting("service"_s, "unknown"_s, 0)); // not locked for good
+        const int number = AcceptorSettings::deviceCount();
+        QCOMPARE(AcceptorSettings::resetIdleTimeout(), qint64(number));
+        QCOMPARE(AcceptorSettings::maxSumm(), qint64(number));
+        QCOMPARE(AcceptorSettings::devices.size(), number);
+    }
+};
+
+QTEST_APPLESS_MAIN(tst_Settings)
+#include "tst_settings.moc"
