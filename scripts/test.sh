@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds with g++ and clang without warnings, and runs all tests, also
-# under the address and undefined-behaviour sanitizers.
+# under the address, undefined-behaviour and thread sanitizers.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -8,9 +8,10 @@ cd "$(dirname "$0")/.."
 require_packages "${build_packages[@]}" "${check_packages[@]}"
 git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
 
-for preset in tidy asan release; do
+cmake --preset tidy
+cmake --build --preset tidy
+for preset in asan tsan release; do
     cmake --preset "$preset"
     cmake --build --preset "$preset"
+    ctest --preset "$preset"
 done
-ctest --preset asan
-ctest --preset release

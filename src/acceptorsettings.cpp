@@ -646,6 +646,7 @@ void AcceptorSettings::removeDeviceByIndex(int position)
     deviceCount_ = wrappingDifference(deviceCount_, 1);
 }
 
+// It changes the settings, though they are not the object's. NOLINTNEXTLINE(readability-make-*)
 void AcceptorSettings::fromAcceptorInfoList(const QList<AcceptorInfo>& infos)
 {
     const QSet<int> fixedTypes = fixedDeviceTypes();

@@ -29,7 +29,7 @@ foreach(entry IN LISTS needed)
     endif()
 endforeach()
 
-foreach(private RecordReader converted wrappingSum "\\(anonymous namespace\\)")
+foreach(private RecordReader converted wrappingSum SerialPortTexts SettingsList "\\(anonymous namespace\\)")
     if(symbols MATCHES "[^\n]*${private}[^\n]*")
         message(SEND_ERROR "A private helper is exported: ${CMAKE_MATCH_0}")
     endif()
@@ -38,7 +38,11 @@ foreach(public Acceptors::search BasicNoteItem::BILL_TYPE "vtable for StatItem"
         "DRListRoutines::sortDevices" "operator-\\(DispenserRegistryItem" deviceStatesConst::DS_BUSY
         deviceStateDescConst::ONLINE DeviceState::parse DeviceStateWorker::staticMetaObject
         AcceptorState::ACCEPTOR_STATE_BUSY filters::ACCEPT_FILTER FilterFactory::createFilter
-        FilterManager::FilterManager VelmoLib::version palx::RS232Settings::toList
+        FilterManager::FilterManager DRouteMap::toJson "vtable for DRouteMapItem"
+        acceptorSettings::SettingsManager::SM_G_POSD2000 acceptorSettings::SettingsManager::load
+        acceptorportsettingsconsts::MAP_PARITY "vtable for AcceptorDeviceSettings"
+        "vtable for TcpSettings" AcceptorSettings::MAPPED_ANTIFISHING AcceptorSettings::devices
+        AcceptorAttemptFilterItem::loadFromMap VelmoLib::version palx::RS232Settings::toList
         palx::AppVersionManager::addVersion quorbus::ClientState::dt
         quorbus::ClientSettings::settings)
     if(NOT symbols MATCHES "${public}")

@@ -57,13 +57,6 @@ private Q_SLOTS:
             R"("enabled":false,"error_critical":false,"error_text":"","halt":false,)"
             R"("id_string":"","online":false,"session_sum":0,"stacker_full":false,)"
             R"("stacker_present":true,"state":"busy","state_text":"","thread_id":0})"_s);
-        QCOMPARE(everyFieldSet().serialize(),
-                 R"({"cash":4294967295,"current_channel":-1,"current_note":2147483647,)"
-                 R"("device_id":4294967293,"dispensed_sum":4294967292,"enabled":true,)"
-                 R"("error_critical":true,"error_text":"jam\tA\n","halt":true,)"
-                 R"("id_string":"x","online":true,"session_sum":-2147483648,)"
-                 R"("stacker_full":true,"stacker_present":false,"state":"emptied",)"
-                 R"("state_text":"принято","thread_id":4294967294})"_s);
     }
 
     void statesAndNamesMatch()

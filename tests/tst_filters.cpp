@@ -222,24 +222,24 @@ private Q_SLOTS:
             chain.setEvents(&events)->add(FilterFactory::createFilter("AcceptFilter"_s, {}));
             chain.validate();
         }
-        QStringList lines;
+        QString lines;
         for (int i = 0; i < log.texts().size(); ++i)
-            lines += log.texts().at(i) + QLatin1Char('|') + log.places().at(i).section("/"_s, 2);
-        const QString chainFile = "|filterchain.cpp "_s;
-        QCOMPARE(
-            lines,
-            QStringList(
-                {"debug: Creating filter chain"_s + chainFile + "FilterChain::FilterChain()"_s,
-                 "debug: Setting events source for the chain"_s + chainFile
-                     + "FilterChain*FilterChain::setEvents(StatesList*)"_s,
-                 "debug: Append to chain: accept filter"_s + chainFile
-                     + "FilterChain*FilterChain::add(PAbstractFilter)"_s,
-                 "debug: Accept filter|acceptfilter.cpp "
-                 "virtualAbstractFilter::FilterResultAcceptFilter::validate()"_s,
-                 "debug: Reject raised by accept filter"_s + chainFile
-                     + "AbstractFilter::FilterResultFilterChain::validate()"_s,
-                 "debug: Deleting filter chain"_s + chainFile + "FilterChain::~FilterChain()"_s,
-                 "debug: Clearing chain"_s + chainFile + "FilterChain*FilterChain::clear()"_s}));
+            lines += log.texts().at(i) + QLatin1Char('\n') + log.places().at(i) + QLatin1Char('\n');
+        QCOMPARE(lines, R"(debug: Creating filter chain
+default src/filters/filterchain.cpp FilterChain::FilterChain()
+debug: Setting events source for the chain
+default src/filters/filterchain.cpp FilterChain*FilterChain::setEvents(StatesList*)
+debug: Append to chain: accept filter
+default src/filters/filterchain.cpp FilterChain*FilterChain::add(PAbstractFilter)
+debug: Accept filter
+default src/filters/acceptfilter.cpp virtualAbstractFilter::FilterResultAcceptFilter::validate()
+debug: Reject raised by accept filter
+default src/filters/filterchain.cpp AbstractFilter::FilterResultFilterChain::validate()
+debug: Deleting filter chain
+default src/filters/filterchain.cpp FilterChain::~FilterChain()
+debug: Clearing chain
+default src/filters/filterchain.cpp FilterChain*FilterChain::clear()
+)"_s);
     }
 };
 

@@ -8,14 +8,8 @@ namespace {
 
 DispenserRegistryItem row(quint16 channel, qint32 denomination, qint32 type, qint32 count = 0)
 {
-    return {3,
-            7,
-            channel,
-            static_cast<Acceptors::billTypes>(type),
-            "RUB"_s,
-            static_cast<quint32>(denomination),
-            static_cast<quint32>(count),
-            0};
+    const auto billType = static_cast<Acceptors::billTypes>(type);
+    return {3, 7, channel, billType, "RUB"_s, quint32(denomination), quint32(count), 0};
 }
 
 QString channels(const QList<DispenserRegistryItem>& rows)

@@ -87,7 +87,7 @@ private Q_SLOTS:
         QFETCH(QStringList, row);
         const auto elements = [this] {
             QSet<QString> texts;
-            for (const QJsonValue& e : QJsonDocument::fromJson(contentOf(m_list).toUtf8()).array())
+            for (const QJsonValue e : QJsonDocument::fromJson(contentOf(m_list).toUtf8()).array())
                 texts += e["group"_s].toString() + "/"_s + e["key"_s].toString() + "="_s
                     + e["value"_s].toVariant().toString();
             return texts;
@@ -175,7 +175,7 @@ private Q_SLOTS:
         const QString list =
             writeFile(m_folder.filePath("check.json"_s),
                       "[{\"group\":\"service\",\"key\":\"devices_count\",\"value\":1},\n"_s
-                          + QString(row.at(0)).replace("\\\\"_s, "\\"_s) + "]"_s);
+                          + QString(row.at(0)).replace(R"(\\)"_s, R"(\)"_s) + "]"_s);
         const VelmoRun run = velmo({"settings"_s, "check"_s, list});
         QCOMPARE(run.exitCode, 1);
         QCOMPARE(run.outLines().size(), 1);

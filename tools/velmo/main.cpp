@@ -1,3 +1,4 @@
+#include "acceptorsettings.h"
 #include "commandline.h"
 #include "fault.h"
 #include "replaycommand.h"
@@ -79,10 +80,12 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv);
     // The library's progress messages; QT_LOGGING_RULES=default.debug=true brings them back.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    int exitCode = exitBadInput;
     try {
-        return run(QCoreApplication::arguments());
+        exitCode = run(QCoreApplication::arguments());
     } catch (const Fault& fault) {
         printError(fault.message);
-        return exitBadInput;
     }
+    AcceptorSettings().setList({}); // deletes the devices
+    return exitCode;
 }
