@@ -11,4 +11,4 @@ cmake --build --preset release
 
 echo
 echo '$ velmo replay samples/fished-note.jsonl --filters samples/filters.json'
-build/release/tools/velmo/velmo replay samples/fished-note.jsonl --filters samples/filters.json
+build/release/bin/velmo replay samples/fished-note.jsonl --filters samples/filters.json

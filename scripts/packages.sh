@@ -15,5 +15,7 @@ require_packages()
         apt-get install -q -y --no-install-recommends "${missing[@]}"
 }
 
-build_packages=(cmake g++ ninja-build qtbase5-dev libqt5serialport5-dev)
+build_packages=(cmake g++ ninja-build qtbase5-dev libqt5serialport5-dev qttools5-dev
+    qttools5-dev-tools)
+install_packages=(make pkg-config qt5-qmake)
 check_packages=(clang clang-format clang-tidy)

@@ -5,8 +5,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 
-require_packages "${build_packages[@]}" "${check_packages[@]}"
-git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
+require_packages "${build_packages[@]}" "${install_packages[@]}" "${check_packages[@]}"
+scripts/format.sh --check
 
 cmake --preset tidy
 cmake --build --preset tidy

@@ -1,9 +1,13 @@
 #include "acceptorsettings.h"
+#include "cataloguecommands.h"
 #include "commandline.h"
 #include "fault.h"
+#include "output.h"
 #include "replaycommand.h"
 #include "settingscommand.h"
-#include "velmolib.h"
+#include "statecommands.h"
+
+#include <palx/appversionmanager.h>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -21,8 +25,14 @@ const struct Command
 } commands[] = {
     {QLatin1String("replay"),
      QLatin1String("What happened in a session, and why notes were refused."), replayCommand},
+    {QLatin1String("report"), QLatin1String("What a published service state means."),
+     reportCommand},
+    {QLatin1String("state"), QLatin1String("Checks a device state and rewrites it."), stateCommand},
     {QLatin1String("settings"), QLatin1String("Shows, changes and checks the service's settings."),
      settingsCommand},
+    {QLatin1String("devices"), QLatin1String("The catalogue of device models."), devicesCommand},
+    {QLatin1String("filters"), QLatin1String("The note filters and their parameters."),
+     filtersCommand},
 };
 
 int runWithoutCommand(const QStringList& arguments)
@@ -34,16 +44,15 @@ int runWithoutCommand(const QStringList& arguments)
         description += QStringLiteral("\n  %1  %2").arg(command.name, -8).arg(command.summary);
     parser.setApplicationDescription(description);
     parser.addPositionalArgument(QStringLiteral("COMMAND"), QStringLiteral("One of the commands."));
-    const QCommandLineOption help = helpOption();
     const QCommandLineOption version = parser.addVersionOption();
-    parser.addOption(help);
 
-    if (!parseArguments(parser, arguments, help))
+    if (!parseArguments(parser, arguments))
         return exitSuccess;
     if (parser.isSet(version)) {
-        const palx::AppVersion library = VelmoLib::version();
-        printf("velmo %s (library built %s)\n", qUtf8Printable(library.version()),
-               qUtf8Printable(library.buildTime()));
+        const palx::AppVersion library =
+            palx::AppVersionManager::version(QStringLiteral("velmolib"));
+        print(QStringLiteral("velmo %1 (library built %2)\n")
+                  .arg(library.version(), library.buildTime()));
     } else if (parser.positionalArguments().isEmpty()) {
         throw Fault{QStringLiteral("no command given; velmo --help lists them")};
     } else {
@@ -55,9 +64,12 @@ int runWithoutCommand(const QStringList& arguments)
 
 int run(const QStringList& arguments)
 {
-    for (const Command& command : commands) {
-        if (arguments.value(1) == command.name)
-            return command.run(arguments);
+    // The first word that is a command: options may stand before it.
+    for (const QString& word : arguments.mid(1)) {
+        for (const Command& command : commands) {
+            if (word == command.name)
+                return command.run(arguments);
+        }
     }
     return runWithoutCommand(arguments);
 }

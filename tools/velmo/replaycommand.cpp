@@ -2,17 +2,13 @@
 
 #include "commandline.h"
 #include "filtersfile.h"
+#include "jsonlines.h"
 #include "replay.h"
-#include "textfile.h"
 
 #include <QCommandLineParser>
-#include <QElapsedTimer>
-#include <QFile>
 #include <QJsonDocument>
 
-#include <cstdio>
 #include <optional>
-#include <unistd.h>
 
 namespace {
 
@@ -37,7 +33,6 @@ std::optional<Options> parseOptions(const QStringList& arguments)
         QStringLiteral("SESSION.jsonl"),
         QStringLiteral("One JSON object a line with the reported fields; {\"session\":\"start\"} "
                        "begins a session. \"-\" reads standard input."));
-    const QCommandLineOption help = helpOption();
     const QCommandLineOption filters(
         QStringLiteral("filters"),
         QStringLiteral("The note filters: [{\"name\":\"AttemptsFilter\",\"params\":"
@@ -49,12 +44,10 @@ std::optional<Options> parseOptions(const QStringList& arguments)
         QStringLiteral("SETTINGS.json"));
     const QCommandLineOption json(QStringLiteral("json"),
                                   QStringLiteral("Print one JSON object for every line."));
-    const QCommandLineOption keepGoing(
-        QStringLiteral("keep-going"),
-        QStringLiteral("Skip bad lines and count them; the exit code is still 2."));
-    parser.addOptions({help, filters, settings, json, keepGoing});
+    const QCommandLineOption keepGoing = keepGoingOption();
+    parser.addOptions({filters, settings, json, keepGoing});
 
-    if (!parseArguments(parser, arguments, help))
+    if (!parseArguments(parser, arguments))
         return std::nullopt;
     if (parser.positionalArguments().size() != 2
         || parser.isSet(filters) == parser.isSet(settings)) {
@@ -143,123 +136,19 @@ QByteArray tableLine(qint64 lineNumber, const ReplayStep& step)
     return (step.startsSession ? QByteArrayLiteral("-- session --\n") : QByteArray()) + row;
 }
 
-// Counts the lines on standard error, on a terminal that does not show the rows themselves.
-class Progress
-{
-public:
-    Progress() { m_sinceShown.start(); }
-
-    ~Progress() { erase(); }
-
-    /// Makes room for a line of text.
-    void erase()
-    {
-        if (m_shown)
-            fputs("\r\033[K", stderr);
-        m_shown = false;
-    }
-
-    void show(qint64 lines)
-    {
-        if (!m_wanted || m_sinceShown.elapsed() < 200)
-            return;
-        fprintf(stderr, "\r%lld lines", static_cast<long long>(lines));
-        m_sinceShown.restart();
-        m_shown = true;
-    }
-
-private:
-    const bool m_wanted = isatty(STDERR_FILENO) && !isatty(STDOUT_FILENO);
-    bool m_shown = false;
-    QElapsedTimer m_sinceShown;
-};
-
-class Output
-{
-public:
-    explicit Output(bool flushLines)
-        : m_flushLines(flushLines)
-    {
-        if (!m_file.open(stdout, QIODevice::WriteOnly))
-            throw fault();
-    }
-
-    void write(const QByteArray& text)
-    {
-        if (m_file.write(text) != text.size() || (m_flushLines && !m_file.flush()))
-            throw fault();
-    }
-
-    void finish()
-    {
-        if (!m_file.flush())
-            throw fault();
-    }
-
-private:
-    Fault fault() const
-    {
-        return {QStringLiteral("standard output: %1").arg(m_file.errorString())};
-    }
-
-    QFile m_file;
-    const bool m_flushLines;
-};
-
-QJsonObject parseObject(const TextFile& file, const QByteArray& text)
-{
-    const QJsonDocument document = file.parseJson(text, file.lineNumber());
-    if (!document.isObject())
-        throw file.faultAt(file.lineNumber(), QStringLiteral("expected a JSON object"));
-    return document.object();
-}
-
-ReplayStep takeLine(Replay& replay, const TextFile& file, const QByteArray& text)
-{
-    const QJsonObject object = parseObject(file, text);
-    try {
-        return replay.take(SessionLine(object));
-    } catch (const Fault& fault) {
-        throw file.faultAt(file.lineNumber(), fault.message);
-    }
-}
-
 int replay(const Options& options)
 {
     Replay replay(options.filterSource, options.filtersFile);
     TextFile session(options.sessionFile);
-    Output output(session.isLive() || isatty(STDOUT_FILENO));
-    Progress progress;
-    qint64 skipped = 0;
     bool headWritten = options.json;
-    QByteArray text;
-    while (session.readLine(text)) {
-        progress.show(session.lineNumber());
-        if (text.trimmed().isEmpty())
-            continue;
-        std::optional<ReplayStep> step;
-        try {
-            step = takeLine(replay, session, text);
-        } catch (const Fault& fault) {
-            if (!options.keepGoing)
-                throw;
-            progress.erase();
-            printError(fault.message);
-            ++skipped;
-            continue;
-        }
-        if (!headWritten)
-            output.write(tableHead());
+    return processJsonLines(session, options.keepGoing, [&](const QJsonObject& line) {
+        const ReplayStep step = replay.take(SessionLine(line));
+        const QByteArray head = headWritten ? QByteArray() : tableHead();
         headWritten = true;
-        output.write(options.json ? jsonLine(session.lineNumber(), *step)
-                                  : tableLine(session.lineNumber(), *step));
-    }
-    output.finish();
-    progress.erase();
-    if (skipped == 0)
-        return exitSuccess;
-    printError(QStringLiteral("bad lines skipped: %1").arg(skipped));
-    return exitBadInput;
+        return head
+            + (options.json ? jsonLine(session.lineNumber(), step)
+                            : tableLine(session.lineNumber(), step));
+    });
 }
 
 } // namespace

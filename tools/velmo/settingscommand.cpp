@@ -7,6 +7,7 @@
 #include "droutemapitem.h"
 #include "fault.h"
 #include "knownsettings.h"
+#include "output.h"
 #include "settingscheck.h"
 #include "settingsedit.h"
 #include "settingsmanager.h"
@@ -17,17 +18,7 @@
 #include <QJsonObject>
 #include <QSaveFile>
 
-#include <cstdio>
-
 namespace {
-
-void print(const QString& text)
-{
-    const QByteArray bytes = text.toUtf8();
-    const auto size = static_cast<std::size_t>(bytes.size());
-    if (fwrite(bytes.constData(), 1, size, stdout) != size || fflush(stdout) != 0)
-        throw Fault{QStringLiteral("standard output: cannot be written")};
-}
 
 ArrayFile readSettings(const QString& fileName)
 {
@@ -217,14 +208,13 @@ int settingsCommand(const QStringList& arguments)
     parser.addPositionalArgument(QStringLiteral("settings"), QString(), QStringLiteral("settings"));
     parser.addPositionalArgument(QStringLiteral("ACTION"), QStringLiteral("One of the above."));
     parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("The settings list."));
-    const QCommandLineOption help = helpOption();
     const QCommandLineOption json(QStringLiteral("json"),
                                   QStringLiteral("show: print the formatted map."));
     const QCommandLineOption output({QStringLiteral("o"), QStringLiteral("output")},
                                     QStringLiteral("set: write to OUT, \"-\" for standard output."),
                                     QStringLiteral("OUT"));
-    parser.addOptions({help, json, output});
-    if (!parseArguments(parser, arguments, help))
+    parser.addOptions({json, output});
+    if (!parseArguments(parser, arguments))
         return exitSuccess;
 
     const QStringList words = parser.positionalArguments();

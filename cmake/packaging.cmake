@@ -1,0 +1,68 @@
+# What others need to build with the installed library, and the Debian packages.
+
+include(CMakePackageConfigHelpers)
+
+set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/velmolib)
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/velmolib-config.cmake.in
+    velmolib-config.cmake INSTALL_DESTINATION ${config_dir})
+write_basic_package_version_file(velmolib-config-version.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/velmolib-config.cmake
+    ${CMAKE_CURRENT_BINARY_DIR}/velmolib-config-version.cmake
+    DESTINATION ${config_dir} COMPONENT development)
+install(EXPORT velmolib NAMESPACE velmolib:: FILE velmolib-targets.cmake
+    DESTINATION ${config_dir} COMPONENT development)
+
+# The file finds its prefix from where it is itself.
+set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH pkgconfig_to_prefix /${pkgconfig_dir} /)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/velmolib.pc.in velmolib.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/velmolib.pc
+    DESTINATION ${pkgconfig_dir} COMPONENT development)
+
+# The copyright and the changelog that every Debian package has.
+foreach(pair library:libvelmolib5 development:libvelmolib-dev tool:velmo)
+    string(REGEX MATCH "(.*):(.*)" pair ${pair})
+    install(FILES ${PROJECT_SOURCE_DIR}/packaging/copyright
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CMAKE_MATCH_2} COMPONENT ${CMAKE_MATCH_1})
+    velmolib_install_gzipped(${PROJECT_SOURCE_DIR}/packaging/changelog
+        ${CMAKE_INSTALL_DATADIR}/doc/${CMAKE_MATCH_2} ${CMAKE_MATCH_1})
+endforeach()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_CONTACT "velmolib maintainers <maintainers@velmolib.invalid>")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/src)
+
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME libvelmolib5)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "common model of a kiosk's cash devices
+ Device catalogue, states, settings and note filters, shared by the
+ service that drives the devices, its configuration tools and its
+ payment and service screens.")
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libvelmolib-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "libvelmolib5 (= ${PROJECT_VERSION}), \
+qtbase5-dev (>= 5.15), libqt5serialport5-dev (>= 5.15)")
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "common model of a kiosk's cash devices - development files
+ Headers, CMake package and pkg-config file for programs that link
+ libvelmolib.")
+
+set(CPACK_DEBIAN_TOOL_PACKAGE_NAME velmo)
+set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS "libvelmolib5 (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_TOOL_DESCRIPTION "questions about the cash devices of a kiosk, answered
+ Replays sessions, explains refused notes and service states, shows,
+ changes and checks the service's settings.")
+
+include(CPack)

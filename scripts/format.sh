@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# Formats every source file; with --check only tells which are not as they should be.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+
+require_packages clang-format
+mode=-i
+[ "${1:-}" = --check ] && mode='--dry-run --Werror'
+git ls-files '*.cpp' '*.h' | xargs clang-format $mode

@@ -1,0 +1,55 @@
+#!/usr/bin/env bash
+# Uses an installed copy the way a newcomer would: builds the examples with CMake, with pkg-config
+# and with qmake, outside the source tree, and runs them and velmo.
+# The copy is moved first: it must work wherever it lies.
+# Usage: installed.sh SOURCE_DIR PREFIX
+set -euo pipefail
+source_dir=$(realpath "$1")
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+prefix=$work/prefix
+cp -a "$2" "$prefix"
+
+fail()
+{
+    echo "installed.sh: $*" >&2
+    exit 1
+}
+
+cp -r "$source_dir"/examples/{service,screen,configuration} "$work"
+lib=$(dirname "$(find "$prefix" -name 'libvelmolib.so')")
+export LD_LIBRARY_PATH=$lib PKG_CONFIG_PATH=$lib/pkgconfig
+cd "$work"
+
+cmake -S service -B service/build -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_BUILD_TYPE=Release
+cmake --build service/build
+g++ -std=c++17 -fPIC -Wall -Wextra -Werror screen/main.cpp -o screen/screen -MMD \
+    $(pkg-config --cflags --libs velmolib)
+(cd configuration && QT_SELECT=5 qmake configuration.pro && make -s)
+
+! grep -rqIF "$source_dir/" "$work" || fail "an example was built with the source tree"
+for version in 4 6; do
+    printf 'cmake_minimum_required(VERSION 3.16)\nproject(x)\nfind_package(velmolib %s CONFIG)\nif(velmolib_FOUND)\nmessage(FATAL_ERROR found)\nendif()\n' \
+        $version > CMakeLists.txt
+    cmake -S . -B "version$version" -DCMAKE_PREFIX_PATH="$prefix" > /dev/null 2>&1 \
+        || fail "version $version of the library was found"
+done
+[ -z "$(find "$prefix" -name '*_p.h')" ] || fail "a private header is installed"
+
+service/build/service > states
+[ "$(wc -l < states)" -eq 3 ] || fail "the service published: $(cat states)"
+screen/screen < states > shown
+grep -qx 'Input money' shown || fail "the screen shows: $(cat shown)"
+grep -qx 'Status: disabled money acceptinng or summ overflow' shown || fail "$(cat shown)"
+configuration/configuration < "$source_dir/samples/settings.json" > settings
+velmo=$prefix/bin/velmo
+[ "$("$velmo" settings get settings device0/hw_interface/portname)" = ttyS7 ] || fail "$(cat settings)"
+[ "$("$velmo" settings get settings acceptor_common/attempts_filter_settings)" = \
+    '[{"attempts":"3","denom":"1000"},{"attempts":"2","denom":"5000"}]' ] || fail "$(cat settings)"
+
+"$velmo" report - --lang ru < states > shown
+grep -qx 'Внесите купюры' shown || fail "velmo shows: $(cat shown)"
+"$velmo" --version | grep -q '^velmo 5\.0\.6 (library built 2' || fail "$("$velmo" --version)"
+bash -n "$prefix"/share/bash-completion/completions/velmo
+gzip -dc "$prefix"/share/man/man1/velmo.1.gz | grep -q '^\.TH VELMO 1' || fail "no manual page"
+echo "The installed copy works."

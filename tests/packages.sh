@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# Checks the Debian packages of a folder: unpacks them into an empty root and uses them from there.
+# Usage: packages.sh SOURCE_DIR FOLDER
+set -euo pipefail
+root=$(mktemp -d)
+trap 'rm -rf "$root"' EXIT
+
+lintian --fail-on error --suppress-tags bad-distribution-in-changes-file "$2"/*.deb
+for package in libvelmolib5 libvelmolib-dev velmo; do
+    deb=$(ls "$2/${package}_"*.deb)
+    dpkg-deb --field "$deb" Package Version Depends
+    dpkg-deb --extract "$deb" "$root"
+done
+dpkg-deb --field "$2"/libvelmolib5_*.deb Depends | grep -q 'libqt5core5a (>= 5\.15'
+"$(dirname "$0")/installed.sh" "$1" "$root/usr"

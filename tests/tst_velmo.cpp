@@ -1,0 +1,103 @@
+#include "velmorun.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+const QByteArray published = R"({"device_states":[{"device_id":1,"thread_id":2,"enabled":true,)"
+                             R"("state":"returned","error_critical":true},{"device_id":100}]})";
+
+} // namespace
+
+class tst_Velmo : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void devicesAndFiltersAreListed()
+    {
+        const VelmoRun devices = velmo({"devices"_s});
+        QCOMPARE(devices.outLines().size(), 14);
+        QCOMPARE(devices.outLines().at(9),
+                 " 51  Puloon LCDM2               dispenser      yes"
+                 "       NAPuloonLCDM2"_s);
+        const QJsonArray rows =
+            QJsonDocument::fromJson(velmo({"devices"_s, "--json"_s}).out.toUtf8()).array();
+        QCOMPARE(rows.at(12)["class"_s], QJsonValue("CRPosD200"_s));
+
+        QVERIFY(velmo({"filters"_s, "AttemptsFilter"_s})
+                    .out.contains("  attempts   int   ^(0{0,1}[1-9]|0?[1-9][0])$  Accept tries"_s));
+        const QString json = velmo({"filters"_s, "--json"_s}).out;
+        QCOMPARE(QJsonDocument::fromJson(json.toUtf8()).array().size(), 4);
+    }
+
+    void reportTellsWhatStatesMean()
+    {
+        const QString names = writeFile(m_folder.filePath("names.json"_s), R"({"1":"BNV"})"_s);
+        const VelmoRun run =
+            velmo({"report"_s, "-"_s, "--names"_s, names, "--watch"_s}, published + "\n{}");
+        QCOMPARE(run.out,
+                 "\033[2J\033[HWait...\nAccepting money: not allowed\n\n"
+                 "DeviceId: 1,ThreadId: 2\nName: BNV\nActivity: enabled\n"
+                 "Critical error: no description\n"
+                 "Status: disabled money acceptinng or summ overflow\n\n\n"
+                 "DeviceId: 100,ThreadId: -1\nName: Unknown\nActivity: disabled\n\n\n"_s);
+        QCOMPARE(run.err, "velmo: standard input:2: expected a list \"device_states\"\n"_s);
+        QCOMPARE(run.exitCode, 2);
+    }
+
+    void textsAreTranslated()
+    {
+        const VelmoRun russian = velmo({"--lang"_s, "ru"_s, "report"_s, "-"_s}, published);
+        QVERIFY(russian.out.startsWith("Подождите...\n"_s));
+        QVERIFY(russian.out.contains("Критическая ошибка: без описания\n"
+                                     "Состояние: приём денег отключён или превышена сумма\n"_s));
+        QVERIFY(velmo({"report"_s, "-"_s, "--lang"_s, "en"_s}, published)
+                    .out.contains("Status: money accepting disabled or sum exceeded\n"_s));
+        QCOMPARE(velmo({"report"_s, "-"_s, "--lang"_s, "xx"_s}, published).err,
+                 "velmo: no translations for language \"xx\"\n"_s);
+    }
+
+    void statesAreCheckedAndRewritten()
+    {
+        const QString compact =
+            R"({"cash":0,"current_channel":0,"current_note":0,"device_id":0,"dispensed_sum":0,)"
+            R"("enabled":false,"error_critical":false,"error_text":"","halt":false,)"
+            R"("id_string":"","online":false,"session_sum":0,"stacker_full":false,)"
+            R"("stacker_present":true,"state":"busy","state_text":"","thread_id":0})"_s;
+        const VelmoRun map = velmo({"state"_s, "-"_s, "--map"_s}, compact.toUtf8());
+        QVERIFY(map.out.startsWith("{\n    \"cash\": 0,\n"_s));
+        QCOMPARE(velmo({"state"_s, "-"_s}, map.out.toUtf8()).out, compact + "\n"_s);
+    }
+
+    void badInputIsNamed_data()
+    {
+        // Command, input, fault.
+        addRows(R"(
+            state -             | {"state":"busy"}           | standard input: key "cash" is missing
+            state -             | {"state":"Busy"}           | standard input: "state": unknown state name "Busy"
+            state -             | []                         | standard input:1: expected a JSON object
+            report /dev/null    |                            | /dev/null:1: not JSON
+            report - --names -  | {"one":"x"}                | standard input: "one": expected a device number
+            report              |                            | usage: velmo report
+            filters x           |                            | unknown filter "x" (known: SessionSumFilter,
+            devices x           |                            | usage: velmo devices)"_s);
+    }
+
+    void badInputIsNamed()
+    {
+        QFETCH(QStringList, row);
+        const VelmoRun run = velmo(row.at(0).split(QLatin1Char(' ')), row.at(1).toUtf8());
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.startsWith("velmo: "_s + row.at(2)), qPrintable(run.err));
+        QCOMPARE(run.out, QString());
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QTEST_GUILESS_MAIN(tst_Velmo)
+#include "tst_velmo.moc"

@@ -1,0 +1,149 @@
+#include "cataloguecommands.h"
+
+#include "acceptors.h"
+#include "commandline.h"
+#include "fault.h"
+#include "filterfactory.h"
+#include "output.h"
+#include "table.h"
+
+#include <QCommandLineParser>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+const QCommandLineOption& jsonOption()
+{
+    static const QCommandLineOption option(QStringLiteral("json"),
+                                           QStringLiteral("Print a JSON array."));
+    return option;
+}
+
+void printJson(const QJsonArray& array)
+{
+    print(QString::fromUtf8(QJsonDocument(array).toJson()));
+}
+
+QString kindName(Acceptors::AcceptorType kind)
+{
+    switch (kind) {
+    case Acceptors::NoteAcceptor:
+        return QStringLiteral("note acceptor");
+    case Acceptors::CoinAcceptor:
+        return QStringLiteral("coin acceptor");
+    case Acceptors::CardReader:
+        return QStringLiteral("card reader");
+    case Acceptors::NoteDispenser:
+    case Acceptors::OtherDispenser:
+        return QStringLiteral("dispenser");
+    case Acceptors::NoteRecycler:
+        return QStringLiteral("note recycler");
+    case Acceptors::CoinHopper:
+        return QStringLiteral("coin hopper");
+    }
+    return QString::number(kind);
+}
+
+QStringList deviceRow(const SupportedDevice& device)
+{
+    const auto id = static_cast<Acceptors::Supported>(device.value(QStringLiteral("id")).toInt());
+    const bool paysOut = Acceptors::canDispense(id);
+    return {QString::number(id), Acceptors::devName(id), kindName(Acceptors::devType(id)),
+            paysOut ? QStringLiteral("yes") : QStringLiteral("no"),
+            device.value(QStringLiteral("class")).toString()};
+}
+
+// Title and explanation of a filter.
+QPair<QString, QString> texts(const QString& filter)
+{
+    const QString description = FilterFactory::getFilterDesc(filter);
+    return {description.section(QLatin1Char('|'), 0, 0), description.section(QLatin1Char('|'), 1)};
+}
+
+QJsonObject filterObject(const QString& name)
+{
+    QJsonArray params;
+    for (const FieldDescription& field : FilterFactory::getFieldsDesc(name))
+        params.append(QJsonObject::fromVariantMap(field.toMap()));
+    const auto [title, explanation] = texts(name);
+    return {{QStringLiteral("name"), name},
+            {QStringLiteral("title"), title},
+            {QStringLiteral("explanation"), explanation},
+            {QStringLiteral("params"), params}};
+}
+
+QString filterText(const QString& name)
+{
+    QList<QStringList> rows;
+    for (const FieldDescription& field : FilterFactory::getFieldsDesc(name)) {
+        rows +=
+            QStringList{QStringLiteral("  ") + field.name, field.type, field.regexp, field.desc};
+    }
+    const auto [title, explanation] = texts(name);
+    return QStringLiteral("%1: %2\n  %3\n").arg(name, title, explanation)
+        + formatTable({QStringLiteral("  Parameter"), QStringLiteral("Type"),
+                       QStringLiteral("Pattern"), QStringLiteral("Meaning")},
+                      rows);
+}
+
+} // namespace
+
+int devicesCommand(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("The device models that the service can drive."));
+    parser.addPositionalArgument(QStringLiteral("devices"), QString(), QStringLiteral("devices"));
+    parser.addOption(jsonOption());
+    if (!parseArguments(parser, arguments))
+        return exitSuccess;
+    if (parser.positionalArguments().size() != 1)
+        throw Fault{QStringLiteral("usage: velmo devices [--json]")};
+    if (parser.isSet(jsonOption())) {
+        printJson(QJsonArray::fromVariantList(Acceptors::SupportedDevicesAsVariantList()));
+        return exitSuccess;
+    }
+    QList<QStringList> rows;
+    for (const SupportedDevice& device : Acceptors::supportedDevices())
+        rows += deviceRow(device);
+    print(formatTable({QStringLiteral(">Id"), QStringLiteral("Model"), QStringLiteral("Kind"),
+                       QStringLiteral("Pays out"), QStringLiteral("Class")},
+                      rows));
+    return exitSuccess;
+}
+
+int filtersCommand(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "The note filters: what each does, and its parameters with the pattern of a valid value."));
+    parser.addPositionalArgument(QStringLiteral("filters"), QString(), QStringLiteral("filters"));
+    parser.addPositionalArgument(QStringLiteral("NAME"), QStringLiteral("Only this filter."),
+                                 QStringLiteral("[NAME]"));
+    parser.addOption(jsonOption());
+    if (!parseArguments(parser, arguments))
+        return exitSuccess;
+    QStringList names = parser.positionalArguments().mid(1);
+    if (names.size() > 1)
+        throw Fault{QStringLiteral("usage: velmo filters [NAME] [--json]")};
+    const QStringList known = FilterFactory::getFilters();
+    if (!names.isEmpty() && !known.contains(names.constFirst())) {
+        throw Fault{QStringLiteral("unknown filter \"%1\" (known: %2)")
+                        .arg(names.constFirst(), known.join(QStringLiteral(", ")))};
+    }
+    if (names.isEmpty())
+        names = known;
+    QJsonArray objects;
+    QStringList blocks;
+    for (const QString& name : std::as_const(names)) {
+        objects.append(filterObject(name));
+        blocks.append(filterText(name));
+    }
+    if (parser.isSet(jsonOption()))
+        printJson(objects);
+    else
+        print(blocks.join(QLatin1Char('\n')));
+    return exitSuccess;
+}

@@ -1,0 +1,97 @@
+#include "jsonlines.h"
+
+#include "output.h"
+
+#include <QElapsedTimer>
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace {
+
+// Counts the lines on standard error, on a terminal that does not show the rows themselves.
+class Progress
+{
+public:
+    Progress() { m_sinceShown.start(); }
+
+    ~Progress() { erase(); }
+
+    /// Makes room for a line of text.
+    void erase()
+    {
+        if (m_shown)
+            fputs("\r\033[K", stderr);
+        m_shown = false;
+    }
+
+    void show(qint64 lines)
+    {
+        if (!m_wanted || m_sinceShown.elapsed() < 200)
+            return;
+        fprintf(stderr, "\r%lld lines", static_cast<long long>(lines));
+        m_sinceShown.restart();
+        m_shown = true;
+    }
+
+private:
+    const bool m_wanted = isatty(STDERR_FILENO) && !isatty(STDOUT_FILENO);
+    bool m_shown = false;
+    QElapsedTimer m_sinceShown;
+};
+
+QByteArray processLine(const TextFile& file, const QByteArray& text,
+                       const std::function<QByteArray(const QJsonObject& line)>& toText)
+{
+    const QJsonDocument document = file.parseJson(text, file.lineNumber());
+    try {
+        if (!document.isObject())
+            throw Fault{QStringLiteral("expected a JSON object")};
+        return toText(document.object());
+    } catch (const Fault& fault) {
+        throw file.faultAt(file.lineNumber(), fault.message);
+    }
+}
+
+} // namespace
+
+QCommandLineOption keepGoingOption()
+{
+    return {QStringLiteral("keep-going"),
+            QStringLiteral("Skip bad lines and count them; the exit code is still 2.")};
+}
+
+int processJsonLines(TextFile& file, bool keepGoing,
+                     const std::function<QByteArray(const QJsonObject& line)>& toText)
+{
+    Output output;
+    const bool flushLines = file.isLive() || isatty(STDOUT_FILENO);
+    Progress progress;
+    qint64 skipped = 0;
+    QByteArray text;
+    while (file.readLine(text)) {
+        progress.show(file.lineNumber());
+        if (text.trimmed().isEmpty())
+            continue;
+        QByteArray result;
+        try {
+            result = processLine(file, text, toText);
+        } catch (const Fault& fault) {
+            if (!keepGoing)
+                throw;
+            progress.erase();
+            printError(fault.message);
+            ++skipped;
+            continue;
+        }
+        output.write(result);
+        if (flushLines)
+            output.flush();
+    }
+    output.flush();
+    progress.erase();
+    if (skipped == 0)
+        return exitSuccess;
+    printError(QStringLiteral("bad lines skipped: %1").arg(skipped));
+    return exitBadInput;
+}

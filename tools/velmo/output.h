@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QByteArray>
+#include <QFile>
+
+/// Standard output. Throws Fault when it cannot be written.
+class Output
+{
+public:
+    Output();
+
+    void write(const QByteArray& text);
+    void flush();
+
+private:
+    QFile m_file;
+};
+
+/// Writes a whole text to standard output.
+void print(const QString& text);
