@@ -1,6 +1,7 @@
 #include "acceptorsettings.h"
 
 #include "acceptors.h"
+#include "jsonreader_p.h"
 #include "serialporttexts_p.h"
 #include "settingslist_p.h"
 #include "wraparound_p.h"
@@ -110,7 +111,7 @@ QString attemptsText()
 QList<AcceptorAttemptFilterItem> attemptsFromText(const QString& text)
 {
     QList<AcceptorAttemptFilterItem> limits;
-    const QVariantList elements = QJsonDocument::fromJson(text.toUtf8()).toVariant().toList();
+    const QVariantList elements = JsonReader::read(text).toList();
     for (const QVariant& element : elements) {
         const QVariantMap map = element.toMap();
         if (map.isEmpty())

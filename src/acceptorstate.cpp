@@ -2,9 +2,9 @@
 
 #include "devicestatesconst.h"
 #include "dispenserregistrymodel.h"
+#include "jsonreader_p.h"
 #include "statitem.h"
 
-#include <QJsonDocument>
 #include <QObject>
 #include <QStringList>
 
@@ -404,8 +404,7 @@ void AcceptorState::loadFromStateMap(QVariantMap stateMap, AcceptorState& state)
 AcceptorState AcceptorState::loadFromClientState(quorbus::ClientState clientState,
                                                  AcceptorState& state)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(clientState.state().toUtf8());
-    loadFromStateMap(document.toVariant().toMap(), state);
+    loadFromStateMap(JsonReader::read(clientState.state()).toMap(), state);
     state.setDt(clientState.dt());
     return state;
 }

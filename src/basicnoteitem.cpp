@@ -1,6 +1,6 @@
 #include "basicnoteitem.h"
 
-#include "maprecord_p.h"
+#include "basefields_p.h"
 
 #include <tuple>
 
@@ -8,18 +8,24 @@ const QString BasicNoteItem::CURRENCY = QStringLiteral("currency");
 const QString BasicNoteItem::DENOMINATION = QStringLiteral("denomination");
 const QString BasicNoteItem::BILL_TYPE = QStringLiteral("bill_type");
 
+namespace {
+
+const auto& table()
+{
+    static const RecordTable table(basicNoteFields<BasicNoteItem>());
+    return table;
+}
+
+} // namespace
+
 QVariantMap BasicNoteItem::toMap() const
 {
-    return {{CURRENCY, currency}, {DENOMINATION, denomination}, {BILL_TYPE, int(billType)}};
+    return table().toMap(*this);
 }
 
 bool BasicNoteItem::fromMap(const QVariantMap& map, QString* error)
 {
-    return RecordReader(map, error)
-        .read(CURRENCY, currency)
-        .read(DENOMINATION, denomination)
-        .read(BILL_TYPE, billType)
-        .complete();
+    return table().fromMap(map, *this, error);
 }
 
 bool BasicNoteItem::operator==(const BasicNoteItem& other) const

@@ -1,18 +1,28 @@
 #include "devandthreaditem.h"
 
-#include "maprecord_p.h"
+#include "basefields_p.h"
 
 const QString DevAndThreadItem::DEVICE_ID = QStringLiteral("device_id");
 const QString DevAndThreadItem::THREAD_ID = QStringLiteral("thread_id");
 
+namespace {
+
+const auto& table()
+{
+    static const RecordTable table(devAndThreadFields<DevAndThreadItem>());
+    return table;
+}
+
+} // namespace
+
 QVariantMap DevAndThreadItem::toMap() const
 {
-    return {{DEVICE_ID, deviceId}, {THREAD_ID, int(threadId)}};
+    return table().toMap(*this);
 }
 
 bool DevAndThreadItem::fromMap(const QVariantMap& map, QString* error)
 {
-    return RecordReader(map, error).read(DEVICE_ID, deviceId).read(THREAD_ID, threadId).complete();
+    return table().fromMap(map, *this, error);
 }
 
 bool DevAndThreadItem::operator==(const DevAndThreadItem& other) const

@@ -1,10 +1,8 @@
 #include "devicestate.h"
 
+#include "dispenserregistryjson_p.h"
 #include "dispenserregistrymodel.h"
-#include "maprecord_p.h"
-
-#include <QJsonDocument>
-#include <QJsonObject>
+#include "recordfields_p.h"
 
 #include <iterator>
 #include <tuple>
@@ -31,6 +29,61 @@ auto fields(Record& r)
                     r.halt, r.errorText, r.stateText, r.threadId, r.deviceId, r.sessionSum,
                     r.currentNote, r.currentChannel, r.dispensedSum, r.idString, r.online,
                     r.dispenserRegistry);
+}
+
+RecordField<DeviceState> stateField()
+{
+    return {
+        &deviceStateDescConst::STATE,
+        [](const DeviceState& record) { return QVariant(record.stateAsString()); },
+        [](DeviceState& record, const QVariant& value) {
+            return DeviceState::stateFromString(value.toString(), record.state);
+        },
+        [](JsonWriter& json, const DeviceState& record) { json.write(record.stateAsString()); }};
+}
+
+// The rows travel outwards only, and only when there are any.
+RecordField<DeviceState> registryField()
+{
+    return {&DispenserRegistryModel::DISPENSER_REGISTRY,
+            [](const DeviceState& record) {
+                DispenserRegistryModel registry;
+                registry.assign(record.dispenserRegistry);
+                return registry.toMap().value(DispenserRegistryModel::DISPENSER_REGISTRY);
+            },
+            nullptr,
+            [](JsonWriter& json, const DeviceState& record) {
+                writeJson(json, record.dispenserRegistry);
+            },
+            UnreadField,
+            [](const DeviceState& record) { return !record.dispenserRegistry.isEmpty(); }};
+}
+
+const auto& table()
+{
+    using namespace deviceStateDescConst;
+    using D = DeviceState;
+    static const RecordTable table(std::array{
+        recordField<D, &D::enabled>(ENABLED),
+        stateField(),
+        recordField<D, &D::stackerPresent>(STACKER_PRESENT),
+        recordField<D, &D::stackerFull>(STACKER_FULL),
+        recordField<D, &D::cash>(CASH),
+        recordField<D, &D::errorText>(ERROR_TEXT),
+        recordField<D, &D::errCritical>(ERROR_CRITICAL),
+        recordField<D, &D::halt>(HALT),
+        recordField<D, &D::stateText>(STATE_TEXT),
+        recordField<D, &D::threadId>(THREAD_ID),
+        recordField<D, &D::deviceId>(DEVICE_ID),
+        recordField<D, &D::sessionSum>(SESSION_SUM),
+        recordField<D, &D::currentNote>(CURRENT_NOTE),
+        recordField<D, &D::currentChannel>(CURRENT_CHANNEL),
+        recordField<D, &D::dispensedSum>(DISPENSED_SUM),
+        recordField<D, &D::idString>(ID_STRING),
+        recordField<D, &D::online>(ONLINE),
+        registryField(),
+    });
+    return table;
 }
 
 } // namespace
@@ -84,69 +137,24 @@ bool DeviceState::stateFromString(const QString& name, State& state)
 
 QVariantMap DeviceState::toMap() const
 {
-    using namespace deviceStateDescConst;
-    QVariantMap map{
-        {ENABLED, enabled},
-        {STATE, stateAsString()},
-        {STACKER_PRESENT, stackerPresent},
-        {STACKER_FULL, stackerFull},
-        {CASH, cash},
-        {ERROR_TEXT, errorText},
-        {ERROR_CRITICAL, errCritical},
-        {HALT, halt},
-        {STATE_TEXT, stateText},
-        {THREAD_ID, threadId},
-        {DEVICE_ID, deviceId},
-        {SESSION_SUM, sessionSum},
-        {CURRENT_NOTE, currentNote},
-        {CURRENT_CHANNEL, int(currentChannel)},
-        {DISPENSED_SUM, dispensedSum},
-        {ID_STRING, idString},
-        {ONLINE, online},
-    };
-    if (!dispenserRegistry.isEmpty()) {
-        DispenserRegistryModel registry;
-        registry.assign(dispenserRegistry);
-        map.insert(registry.toMap());
-    }
-    return map;
+    return table().toMap(*this);
 }
 
 bool DeviceState::fromMap(const QVariantMap& map)
 {
-    using namespace deviceStateDescConst;
-    return RecordReader(map, nullptr)
-        .read(ENABLED, enabled)
-        .read(STATE, state, stateFromString)
-        .read(STACKER_PRESENT, stackerPresent)
-        .read(STACKER_FULL, stackerFull)
-        .read(CASH, cash)
-        .read(ERROR_TEXT, errorText)
-        .read(ERROR_CRITICAL, errCritical)
-        .read(HALT, halt)
-        .read(STATE_TEXT, stateText)
-        .read(THREAD_ID, threadId)
-        .read(DEVICE_ID, deviceId)
-        .read(SESSION_SUM, sessionSum)
-        .read(CURRENT_NOTE, currentNote)
-        .read(CURRENT_CHANNEL, currentChannel)
-        .read(DISPENSED_SUM, dispensedSum)
-        .read(ID_STRING, idString)
-        .read(ONLINE, online)
-        .complete();
+    return table().fromMap(map, *this, nullptr);
 }
 
 QString DeviceState::serialize() const
 {
-    const QJsonDocument document(QJsonObject::fromVariantMap(toMap()));
-    return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
+    JsonWriter json;
+    table().write(json, *this);
+    return json.text();
 }
 
 bool DeviceState::parse(const QString& text)
 {
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8(), &error);
-    return error.error == QJsonParseError::NoError && fromMap(document.toVariant().toMap());
+    return table().parse(text, *this);
 }
 
 void DeviceState::setDispenserRegistry(const QList<DispenserRegistryItem>& rows)

@@ -1,6 +1,7 @@
 #include "dispenserregistryitem.h"
 
-#include "maprecord_p.h"
+#include "basefields_p.h"
+#include "dispenserregistryjson_p.h"
 #include "wraparound_p.h"
 
 #include <algorithm>
@@ -10,6 +11,23 @@ const QString DispenserRegistryItem::THREAD_ID = QStringLiteral("thread_id");
 const QString DispenserRegistryItem::DEVICE_ID = QStringLiteral("device_id");
 const QString DispenserRegistryItem::CHANNEL = QStringLiteral("channel");
 const QString DispenserRegistryItem::REJECTED = QStringLiteral("rejected");
+
+namespace {
+
+using Row = DispenserRegistryItem;
+
+const auto& table()
+{
+    static const RecordTable table(
+        joined(noteFields<Row>(),
+               std::array{recordField<Row, &Row::threadId>(Row::THREAD_ID),
+                          recordField<Row, &Row::deviceId>(Row::DEVICE_ID),
+                          recordField<Row, &Row::channel>(Row::CHANNEL),
+                          recordField<Row, &Row::rejected>(Row::REJECTED, OptionalField)}));
+    return table;
+}
+
+} // namespace
 
 DispenserRegistryItem::DispenserRegistryItem(unsigned short thread, unsigned short device,
                                              unsigned short channelNo, Acceptors::billTypes type,
@@ -28,23 +46,12 @@ DispenserRegistryItem::DispenserRegistryItem(unsigned short thread, unsigned sho
 
 QVariantMap DispenserRegistryItem::toMap() const
 {
-    QVariantMap map = NoteItem::toMap();
-    map.insert(THREAD_ID, int(threadId));
-    map.insert(DEVICE_ID, int(deviceId));
-    map.insert(CHANNEL, int(channel));
-    map.insert(REJECTED, int(rejected));
-    return map;
+    return table().toMap(*this);
 }
 
 bool DispenserRegistryItem::fromMap(const QVariantMap& map, QString* error)
 {
-    return NoteItem::fromMap(map, error)
-        && RecordReader(map, error)
-               .read(THREAD_ID, threadId)
-               .read(DEVICE_ID, deviceId)
-               .read(CHANNEL, channel)
-               .readOptional(REJECTED, rejected)
-               .complete();
+    return table().fromMap(map, *this, error);
 }
 
 DispenserRegistryItem DispenserRegistryItem::createFromMap(const QVariantMap& map)
@@ -101,4 +108,12 @@ void DRListRoutines::sortDevices(QList<QList<DispenserRegistryItem>>& devices)
 {
     std::for_each(devices.begin(), devices.end(), sort);
     std::stable_sort(devices.begin(), devices.end(), devLess);
+}
+
+void writeJson(JsonWriter& json, const QList<DispenserRegistryItem>& rows)
+{
+    json.beginArray();
+    for (const DispenserRegistryItem& row : rows)
+        table().write(json, row);
+    json.endArray();
 }

@@ -1,10 +1,22 @@
 #include "droutemapitem.h"
 
-#include "maprecord_p.h"
+#include "basefields_p.h"
 
 #include <QJsonDocument>
 
 const QString DRouteMapItem::ROUTE = QStringLiteral("route");
+
+namespace {
+
+const auto& table()
+{
+    static const RecordTable table(joined(
+        noteFields<DRouteMapItem>(),
+        std::array{recordField<DRouteMapItem, &DRouteMapItem::route>(DRouteMapItem::ROUTE)}));
+    return table;
+}
+
+} // namespace
 
 DRouteMapItem::DRouteMapItem()
 {
@@ -24,14 +36,12 @@ DRouteMapItem::DRouteMapItem(unsigned int faceValue, const QString& currencyCode
 
 QVariantMap DRouteMapItem::toMap() const
 {
-    QVariantMap map = NoteItem::toMap();
-    map.insert(ROUTE, int(route));
-    return map;
+    return table().toMap(*this);
 }
 
 bool DRouteMapItem::fromMap(const QVariantMap& map, QString* error)
 {
-    return NoteItem::fromMap(map, error) && RecordReader(map, error).read(ROUTE, route).complete();
+    return table().fromMap(map, *this, error);
 }
 
 bool DRouteMapItem::operator==(const DRouteMapItem& other) const
@@ -42,7 +52,7 @@ bool DRouteMapItem::operator==(const DRouteMapItem& other) const
 QList<DRouteMapItem> DRouteMap::fromJson(const QString& json)
 {
     QList<DRouteMapItem> rows;
-    const QVariantList elements = QJsonDocument::fromJson(json.toUtf8()).toVariant().toList();
+    const QVariantList elements = JsonReader::read(json).toList();
     for (const QVariant& element : elements) {
         DRouteMapItem row;
         if (row.fromMap(element.toMap(), nullptr))

@@ -1,6 +1,6 @@
 #include "fieldsdescription.h"
 
-#include "maprecord_p.h"
+#include "recordfields_p.h"
 
 #include <tuple>
 
@@ -8,6 +8,19 @@ const QString FieldDescription::F_NAME = QStringLiteral("name");
 const QString FieldDescription::F_DESC = QStringLiteral("desc");
 const QString FieldDescription::F_TYPE = QStringLiteral("type");
 const QString FieldDescription::F_REGEXP = QStringLiteral("regexp");
+
+namespace {
+
+const auto& table()
+{
+    using D = FieldDescription;
+    static const RecordTable table(
+        std::array{recordField<D, &D::name>(D::F_NAME), recordField<D, &D::desc>(D::F_DESC),
+                   recordField<D, &D::type>(D::F_TYPE), recordField<D, &D::regexp>(D::F_REGEXP)});
+    return table;
+}
+
+} // namespace
 
 FieldDescription::FieldDescription(const QString& fieldName, const QString& description,
                                    const QString& typeName, const QString& pattern)
@@ -20,18 +33,13 @@ FieldDescription::FieldDescription(const QString& fieldName, const QString& desc
 
 QVariantMap FieldDescription::toMap() const
 {
-    return {{F_NAME, name}, {F_DESC, desc}, {F_TYPE, type}, {F_REGEXP, regexp}};
+    return table().toMap(*this);
 }
 
 bool FieldDescription::fromMap(const QVariantMap& map)
 {
     FieldDescription description;
-    const bool complete = RecordReader(map, nullptr)
-                              .read(F_NAME, description.name)
-                              .read(F_DESC, description.desc)
-                              .read(F_TYPE, description.type)
-                              .read(F_REGEXP, description.regexp)
-                              .complete();
+    const bool complete = table().fromMap(map, description, nullptr);
     if (complete)
         *this = description;
     return complete;

@@ -1,20 +1,27 @@
 #include "noteitem.h"
 
-#include "maprecord_p.h"
+#include "basefields_p.h"
 
 const QString NoteItem::COUNT = QStringLiteral("count");
 
+namespace {
+
+const auto& table()
+{
+    static const RecordTable table(noteFields<NoteItem>());
+    return table;
+}
+
+} // namespace
+
 QVariantMap NoteItem::toMap() const
 {
-    QVariantMap map = BasicNoteItem::toMap();
-    map.insert(COUNT, count);
-    return map;
+    return table().toMap(*this);
 }
 
 bool NoteItem::fromMap(const QVariantMap& map, QString* error)
 {
-    return BasicNoteItem::fromMap(map, error)
-        && RecordReader(map, error).read(COUNT, count).complete();
+    return table().fromMap(map, *this, error);
 }
 
 bool NoteItem::operator==(const NoteItem& other) const

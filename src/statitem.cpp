@@ -1,6 +1,6 @@
 #include "statitem.h"
 
-#include "maprecord_p.h"
+#include "basefields_p.h"
 
 #include <tuple>
 
@@ -8,21 +8,30 @@ const QString StatItem::NOTES_INSERTED = QStringLiteral("notes_inserted");
 const QString StatItem::NOTES_REJECTED = QStringLiteral("notes_rejected");
 const QString StatItem::NOTES_RETURNED = QStringLiteral("notes_returned");
 
+namespace {
+
+const auto& table()
+{
+    static const RecordTable table(
+        joined(devAndThreadFields<StatItem>(),
+               std::array{
+                   recordField<StatItem, &StatItem::notesInserted>(StatItem::NOTES_INSERTED),
+                   recordField<StatItem, &StatItem::notesRejected>(StatItem::NOTES_REJECTED),
+                   recordField<StatItem, &StatItem::notesReturned>(StatItem::NOTES_RETURNED),
+               }));
+    return table;
+}
+
+} // namespace
+
 QVariantMap StatItem::toMap() const
 {
-    QVariantMap map = DevAndThreadItem::toMap();
-    StatItem::addToMap(map);
-    return map;
+    return table().toMap(*this);
 }
 
 bool StatItem::fromMap(const QVariantMap& map, QString* error)
 {
-    return DevAndThreadItem::fromMap(map, error)
-        && RecordReader(map, error)
-               .read(NOTES_INSERTED, notesInserted)
-               .read(NOTES_REJECTED, notesRejected)
-               .read(NOTES_RETURNED, notesReturned)
-               .complete();
+    return table().fromMap(map, *this, error);
 }
 
 void StatItem::addToMap(QVariantMap& map) const

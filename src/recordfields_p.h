@@ -1,0 +1,196 @@
+#pragma once
+
+#include "jsonreader_p.h"
+#include "jsonwriter_p.h"
+
+#include <QString>
+#include <QVariant>
+
+#include <algorithm>
+#include <array>
+#include <type_traits>
+
+/// The map-record convention: a record is its table of keys and fields, in the order in which they
+/// are read. Reading stops at the first key that is missing; fields before it stay changed, later
+/// ones are not touched. A value that does not convert gives 0 or an empty text; a field narrower
+/// than an int takes its low bits.
+
+enum FieldReading : qint32 {
+    RequiredField,
+    OptionalField, ///< keeps its value when its key is missing
+    UnreadField
+};
+
+/// One field of a record.
+template <typename Record>
+struct RecordField
+{
+    const QString* key;
+    QVariant (*get)(const Record& record);
+    bool (*set)(Record& record, const QVariant& value); ///< false ends the reading
+    void (*write)(JsonWriter& json, const Record& record);
+    FieldReading reading = RequiredField;
+    bool (*isWritten)(const Record& record) = nullptr; ///< null: always
+};
+
+template <typename T>
+QVariant toVariant(const T& value)
+{
+    if constexpr (
+        std::is_same_v<
+            T,
+            QString> || std::is_same_v<T, bool> || std::is_same_v<T, quint64> || std::is_same_v<T, quint32>)
+        return value;
+    else
+        return static_cast<int>(value);
+}
+
+template <typename T>
+T fromVariant(const QVariant& value)
+{
+    if constexpr (std::is_same_v<T, QString>)
+        return value.toString();
+    else if constexpr (std::is_same_v<T, bool>)
+        return value.toBool();
+    else if constexpr (std::is_same_v<T, quint64>)
+        return value.toULongLong();
+    else
+        return static_cast<T>(value.toInt());
+}
+
+template <typename T>
+void writeJson(JsonWriter& json, const T& value)
+{
+    if constexpr (std::is_same_v<T, QString> || std::is_same_v<T, bool>)
+        json.write(value);
+    else
+        json.write(static_cast<qint64>(value));
+}
+
+/// The field for a data member of the record or of its base.
+template <typename Record, auto Member>
+RecordField<Record> recordField(const QString& key, FieldReading reading = RequiredField)
+{
+    using T = std::decay_t<decltype(std::declval<Record>().*Member)>;
+    return {&key, [](const Record& record) { return toVariant(record.*Member); },
+            [](Record& record, const QVariant& value) {
+                record.*Member = fromVariant<T>(value);
+                return true;
+            },
+            [](JsonWriter& json, const Record& record) { writeJson(json, record.*Member); },
+            reading};
+}
+
+/// The fields of a record with what the convention makes of them.
+template <typename Record, std::size_t Size>
+class RecordTable
+{
+public:
+    explicit RecordTable(const std::array<RecordField<Record>, Size>& fields)
+        : m_fields(fields)
+    {
+        for (std::size_t i = 0; i < Size; ++i)
+            m_sorted[i] = i;
+        std::sort(m_sorted.begin(), m_sorted.end(), [this](std::size_t a, std::size_t b) {
+            return *m_fields[a].key < *m_fields[b].key;
+        });
+    }
+
+    QVariantMap toMap(const Record& record) const
+    {
+        QVariantMap map;
+        for (const std::size_t i : m_sorted) {
+            const RecordField<Record>& field = m_fields[i];
+            if (!field.isWritten || field.isWritten(record))
+                map.insert(map.cend(), *field.key, field.get(record));
+        }
+        return map;
+    }
+
+    /// @param error receives the bare text of the first missing key; may be null
+    bool fromMap(const QVariantMap& map, Record& record, QString* error) const
+    {
+        return read(record, error, [this, &map](std::size_t i) {
+            const auto entry = map.constFind(*m_fields[i].key);
+            return entry == map.constEnd() ? nullptr : &*entry;
+        });
+    }
+
+    void write(JsonWriter& json, const Record& record) const
+    {
+        json.beginObject();
+        for (const std::size_t i : m_sorted) {
+            const RecordField<Record>& field = m_fields[i];
+            if (field.isWritten && !field.isWritten(record))
+                continue;
+            json.writeKey(*field.key);
+            field.write(json, record);
+        }
+        json.endObject();
+    }
+
+    /// Reads JSON text as fromMap() reads the map that it stands for.
+    bool parse(const QString& text, Record& record) const
+    {
+        std::array<QVariant, Size> values;
+        JsonReader json(text);
+        std::size_t likely = 0; // the keys mostly come in ascending order
+        const auto readMember = [&](const QString& key) {
+            const std::size_t i = find(key, likely);
+            return i == Size || m_fields[i].reading == UnreadField ? json.skipValue()
+                                                                   : json.readValue(values[i]);
+        };
+        const bool isJson = json.readDocument(
+            [&] { return json.isAtObject() ? json.readObject(readMember) : json.skipValue(); });
+        return isJson && read(record, nullptr, [&values](std::size_t i) {
+                   return values[i].isValid() ? &values[i] : nullptr;
+               });
+    }
+
+private:
+    // Reads the fields in order; @p valueOf gives the value of the field at an index, or null.
+    template <typename ValueOf>
+    bool read(Record& record, QString* error, ValueOf valueOf) const
+    {
+        for (std::size_t i = 0; i < Size; ++i) {
+            const RecordField<Record>& field = m_fields[i];
+            if (field.reading == UnreadField)
+                continue;
+            if (const QVariant* const value = valueOf(i)) {
+                if (!field.set(record, *value))
+                    return false;
+            } else if (field.reading == RequiredField) {
+                if (error)
+                    *error = *field.key;
+                return false;
+            }
+        }
+        return true;
+    }
+
+    // The index of a key's field, Size without one. @p likely is where it is looked for first, and
+    // afterwards where the next key will be.
+    std::size_t find(const QString& key, std::size_t& likely) const
+    {
+        for (std::size_t tried = 0; tried < Size; ++tried) {
+            const std::size_t i = m_sorted[likely];
+            likely = (likely + 1) % Size;
+            if (*m_fields[i].key == key)
+                return i;
+        }
+        return Size;
+    }
+
+    std::array<RecordField<Record>, Size> m_fields; // in reading order
+    std::array<std::size_t, Size> m_sorted; // indexes of the fields in the order of their keys
+};
+
+/// The fields of a base and those that a derived record adds.
+template <typename Field, std::size_t BaseSize, std::size_t OwnSize>
+std::array<Field, BaseSize + OwnSize> joined(const std::array<Field, BaseSize>& base,
+                                             const std::array<Field, OwnSize>& own)
+{
+    std::array<Field, BaseSize + OwnSize> fields;
+    std::copy(own.begin(), own.end(), std::copy(base.begin(), base.end(), fields.begin()));
+    return fields;
+}
