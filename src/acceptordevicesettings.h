@@ -42,7 +42,8 @@ public:
     ~AcceptorDeviceSettings() override;
 
     /// The record of the device's type (its low 16 bits), port name and port parameters. Space and
-    /// mark parity become none, one and a half stop bits become one.
+    /// mark parity become none, one and a half stop bits become one, unknown data bits become 8; a
+    /// flow control that is none of Qt's becomes an empty text.
     AcceptorInfo toAcceptorInfo() const;
 
     /// Takes interface ("rs232"), port, port parameters, name and type from a record. The name is

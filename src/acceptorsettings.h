@@ -171,7 +171,7 @@ public:
     void setList(const QVariantList& list);
 
     /// The formatted map. It shows the devices with an index below the device count, without
-    /// TCP endpoint and protocol parameters.
+    /// TCP endpoint, terminal identifier and protocol parameters.
     QVariantMap toFormattedMap() const;
 
     /// Applies a formatted map, then deletes every device with an index not below the device

@@ -24,7 +24,7 @@ public:
 
     virtual QVariantMap toMap() const;
 
-    /// @param error receives the bare text of the first missing key; may be null
+    /// Reads the record. @p error receives the bare text of the first missing key; it may be null.
     /// @return whether every key was there
     virtual bool fromMap(const QVariantMap& map, QString* error = nullptr);
 

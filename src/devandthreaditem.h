@@ -20,8 +20,8 @@ public:
 
     virtual QVariantMap toMap() const;
 
-    /// Reads the device, then the thread.
-    /// @param error receives the bare text of the first missing key; may be null
+    /// Reads the device, then the thread. @p error receives the bare text of the first missing key;
+    /// it may be null.
     /// @return whether both keys were there
     virtual bool fromMap(const QVariantMap& map, QString* error = nullptr);
 

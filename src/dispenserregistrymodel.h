@@ -22,8 +22,8 @@ public:
     /// The first row that is like @p pattern (DispenserRegistryItem::like); null without one.
     DispenserRegistryItem* find(const DispenserRegistryItem& pattern);
 
-    /// Updates or inserts: overwrites the first row like @p row whole, or appends it.
-    /// @param inserted receives whether it was appended; may be null
+    /// Updates or inserts: overwrites the first row like @p row whole, or appends it. @p inserted
+    /// receives whether it was appended; it may be null.
     /// @return the row in the registry, never null
     DispenserRegistryItem* ui(const DispenserRegistryItem& row, bool* inserted = nullptr);
 

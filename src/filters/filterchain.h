@@ -10,7 +10,7 @@
 ///
 /// Set the event source first, then add the filters: a filter keeps the event source that the
 /// chain held when it was added. The chain owns its filters and deletes them; the caller keeps the
-/// event source alive. Every call but those of validate() that accept is logged at debug level.
+/// event source alive. Every call is logged at debug level, validate() only when a filter refuses.
 class VELMOLIB_EXPORT FilterChain
 {
 public:

@@ -114,7 +114,7 @@ public:
     SettingsItem* find(int device, const QString& group, const QString& name) const;
 
     /// The value of the first entry, even an invalid one; without an entry the built-in default.
-    /// @param usedDefault receives whether there was no entry; may be null
+    /// @p usedDefault receives whether there was no entry; it may be null.
     QVariant getValue(const QString& group, const QString& name, bool* usedDefault = nullptr) const;
 
     /// The same for a device's entry; the default is that of the plain group.

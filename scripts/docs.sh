@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Installs what is missing and builds the reference of the public interface in build/docs.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+
+require_packages doxygen graphviz
+mkdir -p build/docs
+doxygen docs/Doxyfile
+
+echo "The start page is build/docs/html/index.html"

@@ -1,0 +1,90 @@
+#include "abstractfilter.h"
+#include "acceptorsettings.h"
+#include "dispenserregistrymodel.h"
+#include "droutemapitem.h"
+#include "statitem.h"
+#include "testtable.h"
+
+namespace {
+
+AcceptorSettings settings;
+const auto json = [](const QString& s) { return QJsonDocument::fromJson(s.toUtf8()).toVariant(); };
+const auto text = [](const QVariant& v) {
+    return QString::fromUtf8(QJsonDocument::fromVariant(v).toJson());
+};
+
+template <typename Record>
+QVariantMap written(const QVariant& example)
+{
+    Record record;
+    return record.fromMap(example.toMap()) ? record.toMap() : QVariantMap();
+}
+
+// Reads an example with the class that reads its format and writes it again.
+const QMap<QString, std::function<QVariant(const QVariant& example)>> checks{
+    {"note record"_s, written<NoteItem>},
+    {"device-and-thread record"_s, written<DevAndThreadItem>},
+    {"dispenser registry row"_s, written<DispenserRegistryItem>},
+    {"dispenser registry"_s, written<DispenserRegistryModel>},
+    {"route map row"_s, written<DRouteMapItem>},
+    {"route map text"_s,
+     [](auto& v) { return json(DRouteMap::toJson(DRouteMap::fromJson(text(v)))); }},
+    {"statistics record"_s, written<StatItem>},
+    {"catalogue row"_s,
+     [](auto& v) { return Acceptors::search(Acceptors::Supported(v.toMap()["id"_s].toInt())); }},
+    {"settings list"_s, [](auto& v) { return settings.setList(v.toList()), settings.toList(); }},
+    {"formatted settings map"_s,
+     [](auto& v) { return settings.setFotmattedMap(v.toMap()), settings.toFormattedMap(); }},
+    {"attempts_filter_settings"_s,
+     [](auto& v) {
+         settings.updateValue("acceptor_common"_s, {}, "attempts_filter_settings"_s, text(v));
+         return json(settings.toList().at(3).toMap()["value"_s].toString());
+     }},
+    {"port parameters"_s,
+     [](auto& v) {
+         const AcceptorInfo info{{}, -1, 0, {}, v.toMap()["portname"_s].toString(), {}, v.toMap()};
+         return AcceptorDeviceSettings(info).toAcceptorInfo().portSettings;
+     }},
+    {"device state"_s, written<DeviceState>},
+    {"device state text"_s,
+     [](auto& v) {
+         DeviceState state;
+         return state.parse(text(v)), json(state.serialize());
+     }},
+    {"service state"_s,
+     [](auto& v) {
+         const QVariant device = v.toMap()["device_states"_s].toList().value(0);
+         QVariantMap map = written<DeviceState>(device);
+         map.insert(written<DispenserRegistryModel>(device));
+         map.insert(written<StatItem>(device));
+         return QVariantMap{{"device_states"_s, QVariantList{map}}};
+     }},
+    {"field description"_s, written<FieldDescription>},
+};
+
+} // namespace
+
+class tst_Formats : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void examplesReadBack()
+    {
+        QFile page(QStringLiteral(FORMATS));
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        const QRegularExpression block("(?:<!-- example: (.*) -->\n+)?```json\n([^`]*)```"_s);
+        auto unused = checks;
+        for (auto found = block.globalMatch(QString::fromUtf8(page.readAll())); found.hasNext();) {
+            const QRegularExpressionMatch example = found.next();
+            const auto check = unused.take(example.captured(1));
+            QVERIFY2(check, qPrintable(example.captured(1)));
+            const QVariant value = json(example.captured(2));
+            QCOMPARE(text(check(value)), text(value));
+        }
+        QCOMPARE(QStringList(unused.keys()), QStringList());
+    }
+};
+
+QTEST_APPLESS_MAIN(tst_Formats)
+#include "tst_formats.moc"
