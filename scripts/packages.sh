@@ -18,4 +18,3 @@ require_packages()
 build_packages=(cmake g++ ninja-build qtbase5-dev libqt5serialport5-dev qttools5-dev
     qttools5-dev-tools)
 install_packages=(make pkg-config qt5-qmake)
-check_packages=(clang clang-format clang-tidy)

@@ -1,17 +1,20 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds with g++ and clang without warnings, and runs all tests, also
-# under the address, undefined-behaviour and thread sanitizers.
+# Installs what is missing and shows that all is well: format, lint, all tests (also under the
+# address, undefined-behaviour and thread sanitizers), ABI, documentation, packages, and a few seconds
+# of each fuzzer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 
-require_packages "${build_packages[@]}" "${install_packages[@]}" "${check_packages[@]}"
+require_packages "${build_packages[@]}" "${install_packages[@]}"
 scripts/format.sh --check
-
-cmake --preset tidy
-cmake --build --preset tidy
+scripts/lint.sh
 for preset in asan tsan release; do
     cmake --preset "$preset"
     cmake --build --preset "$preset"
     ctest --preset "$preset"
 done
+scripts/abi.sh
+scripts/docs.sh
+scripts/package.sh
+scripts/fuzz.sh 3

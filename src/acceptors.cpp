@@ -2,12 +2,68 @@
 
 #include <QDebug>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
-const QLatin1String idKey("id");
-const QLatin1String protocolKey("protocol");
-const QLatin1String classKey("class");
-const QLatin1String typeKey("type");
+const QString idKey = QStringLiteral("id");
+const QString protocolKey = QStringLiteral("protocol");
+const QString classKey = QStringLiteral("class");
+const QString typeKey = QStringLiteral("type");
+
+struct Model
+{
+    Acceptors::Supported id;
+    QString protocol;
+    QString className;
+    Acceptors::AcceptorType type;
+
+    SupportedDevice row() const
+    {
+        return Acceptors::addDevice(static_cast<short>(id), protocol, className, type);
+    }
+};
+
+// In the order of every list that the catalogue gives.
+const auto& catalogue()
+{
+    using A = Acceptors;
+    static const Model models[] = {
+        {A::ArdacEliteId003, QStringLiteral("Ardac Elite ID 003"), QStringLiteral("NAArdacId003"),
+         A::NoteAcceptor},
+        {A::JcmIproId003, QStringLiteral("JCM iPRO ID003"), QStringLiteral("NaJcmIproId003"),
+         A::NoteRecycler},
+        {A::Id003, QStringLiteral("ID 003"), QStringLiteral("NAJcmId003"), A::NoteAcceptor},
+        {A::CCNet, QStringLiteral("CCNet"), QStringLiteral("NACashCode"), A::NoteAcceptor},
+        {A::Ebds, QStringLiteral("EBDS"), QStringLiteral("NAMeiCashflow"), A::NoteAcceptor},
+        {A::EsspPayout, QStringLiteral("eSSP with Payout module"), QStringLiteral("NANv200Payout"),
+         A::NoteRecycler},
+        {A::Ssp, QStringLiteral("Innovative Technology SSP"), QStringLiteral("NANV"),
+         A::NoteAcceptor},
+        {A::Ict, QStringLiteral("ICT 002/004"), QStringLiteral("NAIct"), A::NoteAcceptor},
+        {A::PuloonLcdm2, QStringLiteral("Puloon LCDM2"), QStringLiteral("NAPuloonLCDM2"),
+         A::NoteDispenser},
+        {A::CCTalk, QStringLiteral("CCTalk"), QStringLiteral("CANriG13"), A::CoinAcceptor},
+        {A::SmartHopper, QStringLiteral("eSSP, Smart Hopper"), QStringLiteral("CASmartHopper"),
+         A::CoinHopper},
+        {A::Uniteller, QStringLiteral("Uniteller"), QStringLiteral("CRUniteller"), A::CardReader},
+        {A::PosD200, QStringLiteral("PosD200"), QStringLiteral("CRPosD200"), A::CardReader},
+    };
+    return models;
+}
+
+// Null, after a log line, for a model that is not in the catalogue.
+const Model* findModel(Acceptors::Supported id)
+{
+    const auto& models = catalogue();
+    const auto model = std::find_if(std::begin(models), std::end(models),
+                                    [id](const Model& m) { return m.id == id; });
+    if (model != std::end(models))
+        return model;
+    qCritical().noquote() << QStringLiteral("%1 - unknown device.").arg(int(id));
+    return nullptr;
+}
 
 } // namespace
 
@@ -19,56 +75,36 @@ SupportedDevice Acceptors::addDevice(short id, QString protocol, QString classNa
 
 QList<SupportedDevice> Acceptors::supportedDevices()
 {
-    return {
-        addDevice(ArdacEliteId003, QStringLiteral("Ardac Elite ID 003"),
-                  QStringLiteral("NAArdacId003"), NoteAcceptor),
-        addDevice(JcmIproId003, QStringLiteral("JCM iPRO ID003"), QStringLiteral("NaJcmIproId003"),
-                  NoteRecycler),
-        addDevice(Id003, QStringLiteral("ID 003"), QStringLiteral("NAJcmId003"), NoteAcceptor),
-        addDevice(CCNet, QStringLiteral("CCNet"), QStringLiteral("NACashCode"), NoteAcceptor),
-        addDevice(Ebds, QStringLiteral("EBDS"), QStringLiteral("NAMeiCashflow"), NoteAcceptor),
-        addDevice(EsspPayout, QStringLiteral("eSSP with Payout module"),
-                  QStringLiteral("NANv200Payout"), NoteRecycler),
-        addDevice(Ssp, QStringLiteral("Innovative Technology SSP"), QStringLiteral("NANV"),
-                  NoteAcceptor),
-        addDevice(Ict, QStringLiteral("ICT 002/004"), QStringLiteral("NAIct"), NoteAcceptor),
-        addDevice(PuloonLcdm2, QStringLiteral("Puloon LCDM2"), QStringLiteral("NAPuloonLCDM2"),
-                  NoteDispenser),
-        addDevice(CCTalk, QStringLiteral("CCTalk"), QStringLiteral("CANriG13"), CoinAcceptor),
-        addDevice(SmartHopper, QStringLiteral("eSSP, Smart Hopper"),
-                  QStringLiteral("CASmartHopper"), CoinHopper),
-        addDevice(Uniteller, QStringLiteral("Uniteller"), QStringLiteral("CRUniteller"),
-                  CardReader),
-        addDevice(PosD200, QStringLiteral("PosD200"), QStringLiteral("CRPosD200"), CardReader),
-    };
+    QList<SupportedDevice> devices;
+    for (const Model& model : catalogue())
+        devices.append(model.row());
+    return devices;
 }
 
 QVariantList Acceptors::SupportedDevicesAsVariantList()
 {
-    QVariantList list;
-    for (const SupportedDevice& device : supportedDevices())
-        list.append(device);
-    return list;
+    QVariantList devices;
+    for (const Model& model : catalogue())
+        devices.append(model.row());
+    return devices;
 }
 
 SupportedDevice Acceptors::search(Supported id)
 {
-    for (const SupportedDevice& device : supportedDevices()) {
-        if (device.value(idKey).toInt() == id)
-            return device;
-    }
-    qCritical().noquote() << QStringLiteral("%1 - unknown device.").arg(int(id));
-    return {};
+    const Model* const model = findModel(id);
+    return model ? model->row() : SupportedDevice();
 }
 
 QString Acceptors::devName(Supported id)
 {
-    return search(id).value(protocolKey, QStringLiteral("Unknown device")).toString();
+    const Model* const model = findModel(id);
+    return model ? model->protocol : QStringLiteral("Unknown device");
 }
 
 Acceptors::AcceptorType Acceptors::devType(Supported id)
 {
-    return static_cast<AcceptorType>(search(id).value(typeKey, -1).toInt());
+    const Model* const model = findModel(id);
+    return model ? model->type : static_cast<AcceptorType>(-1);
 }
 
 bool Acceptors::canDispense(Supported id)

@@ -332,24 +332,22 @@ void setStopBits(Device& device, const QString& value)
     device.setStopBits(static_cast<QSerialPort::StopBits>(value.toUInt() & 3U));
 }
 
-const QString anySubgroup;
-
 enum KeyMatch : qint32 { ExactKey, KeyInAnyCase };
 
 // How a device's settings are read. Which keys are known in any case, and which are not, is part
 // of the format: programs write "portName" and "flowControl", but "baudrate".
 const struct
 {
-    const QString& subgroup;
+    QString subgroup; ///< empty: any
     QString key;
     KeyMatch match;
     void (*set)(Device& device, const QString& value);
 } deviceSetters[] = {
-    {anySubgroup, S::RESPONSE_TIME, ExactKey, setNumber<&Device::setResponse_time>},
-    {anySubgroup, S::POLLING_INTERVAL, ExactKey, setNumber<&Device::setPolling_interval>},
-    {anySubgroup, S::BILL_TABLE_INTERVAL, ExactKey, setNumber<&Device::setBill_table_interval>},
-    {anySubgroup, S::RESET_INTERVAL, ExactKey, setNumber<&Device::setReset_interval>},
-    {anySubgroup, S::REST_INTERVAL, ExactKey, setNumber<&Device::setRest_interval>},
+    {{}, S::RESPONSE_TIME, ExactKey, setNumber<&Device::setResponse_time>},
+    {{}, S::POLLING_INTERVAL, ExactKey, setNumber<&Device::setPolling_interval>},
+    {{}, S::BILL_TABLE_INTERVAL, ExactKey, setNumber<&Device::setBill_table_interval>},
+    {{}, S::RESET_INTERVAL, ExactKey, setNumber<&Device::setReset_interval>},
+    {{}, S::REST_INTERVAL, ExactKey, setNumber<&Device::setRest_interval>},
     {S::UNITAILER_GROUP, S::UNITAILER_ID, ExactKey, setText<&Device::setCardReaderQuorId>},
     {S::SM_G_POSD2000, S::SM_P_POSD2000_POS_ID, ExactKey, setText<&Device::setCardReaderQuorId>},
     {S::SM_G_POSD2000, S::SM_P_POSD2000_TIMEOUT_ACK, ExactKey, setNumber<&Device::setTimeoutAck>},
@@ -643,7 +641,9 @@ void AcceptorSettings::removeDeviceByIndex(int position)
 {
     if (position < 0 || position >= devices.size())
         return;
-    delete devices.take(devices.keys().at(position));
+    const auto entry = devices.begin() + position;
+    delete entry.value();
+    devices.erase(entry);
     deviceCount_ = wrappingDifference(deviceCount_, 1);
 }
 

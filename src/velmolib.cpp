@@ -19,7 +19,8 @@ QString buildTime()
 
 } // namespace
 
-// In this order: the registration of the instance reads and sets the version.
+// In this order: the registration of the instance reads and sets the version. It is what the
+// loading of the library is to bring about. clazy:excludeall=non-pod-global-static
 palx::AppVersion VelmoLib::_version;
 static VelmoLib velmoLib;
 

@@ -65,7 +65,8 @@ QPair<QString, QString> texts(const QString& filter)
 QJsonObject filterObject(const QString& name)
 {
     QJsonArray params;
-    for (const FieldDescription& field : FilterFactory::getFieldsDesc(name))
+    const QList<FieldDescription> fields = FilterFactory::getFieldsDesc(name);
+    for (const FieldDescription& field : fields)
         params.append(QJsonObject::fromVariantMap(field.toMap()));
     const auto [title, explanation] = texts(name);
     return {{QStringLiteral("name"), name},
@@ -77,7 +78,8 @@ QJsonObject filterObject(const QString& name)
 QString filterText(const QString& name)
 {
     QList<QStringList> rows;
-    for (const FieldDescription& field : FilterFactory::getFieldsDesc(name)) {
+    const QList<FieldDescription> fields = FilterFactory::getFieldsDesc(name);
+    for (const FieldDescription& field : fields) {
         rows +=
             QStringList{QStringLiteral("  ") + field.name, field.type, field.regexp, field.desc};
     }
@@ -106,7 +108,8 @@ int devicesCommand(const QStringList& arguments)
         return exitSuccess;
     }
     QList<QStringList> rows;
-    for (const SupportedDevice& device : Acceptors::supportedDevices())
+    const QList<SupportedDevice> devices = Acceptors::supportedDevices();
+    for (const SupportedDevice& device : devices)
         rows += deviceRow(device);
     print(formatTable({QStringLiteral(">Id"), QStringLiteral("Model"), QStringLiteral("Kind"),
                        QStringLiteral("Pays out"), QStringLiteral("Class")},

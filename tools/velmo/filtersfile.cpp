@@ -28,7 +28,8 @@ std::unique_ptr<AbstractFilter> makeFilter(const QJsonValue& element)
     const QJsonObject description = element.toObject();
     if (!description.value(nameKey).isString())
         throw Fault{QStringLiteral("expected an object with the filter's \"name\"")};
-    for (const QString& key : description.keys()) {
+    const QStringList keys = description.keys();
+    for (const QString& key : keys) {
         if (key != nameKey && key != paramsKey)
             throw Fault{QStringLiteral("unknown key \"%1\"").arg(key)};
     }
@@ -44,10 +45,10 @@ std::unique_ptr<AbstractFilter> makeFilter(const QJsonValue& element)
                         .arg(name, FilterFactory::getFilters().join(QStringLiteral(", ")))};
     }
     const QJsonObject known = filterParams(*filter);
-    for (const QString& param : params.keys()) {
-        if (!known.contains(param)) {
+    for (auto param = params.keyBegin(); param != params.keyEnd(); ++param) {
+        if (!known.contains(*param)) {
             throw Fault{QStringLiteral("%1: unknown parameter \"%2\" (known: %3)")
-                            .arg(name, param, known.keys().join(QStringLiteral(", ")))};
+                            .arg(name, *param, known.keys().join(QStringLiteral(", ")))};
         }
     }
     filter->setParams(params);
@@ -94,7 +95,8 @@ QList<AbstractFilter*> filtersOfSettings(const QString& fileName, FilterChain& c
     };
     describe(filters::ACCEPT_FILTER,
              {{QStringLiteral("acceptAll"), AcceptorSettings::acceptAll()}});
-    for (const AcceptorAttemptFilterItem& limit : AcceptorSettings::attemptsFilter()) {
+    const QList<AcceptorAttemptFilterItem> limits = AcceptorSettings::attemptsFilter();
+    for (const AcceptorAttemptFilterItem& limit : limits) {
         describe(filters::ATTEMPTS_FILTER,
                  {{QStringLiteral("denom"), limit.denom()},
                   {QStringLiteral("attempts"), limit.attempts()}});

@@ -65,7 +65,8 @@ int runWithoutCommand(const QStringList& arguments)
 int run(const QStringList& arguments)
 {
     // The first word that is a command: options may stand before it.
-    for (const QString& word : arguments.mid(1)) {
+    const QStringList words = arguments.mid(1);
+    for (const QString& word : words) {
         for (const Command& command : commands) {
             if (word == command.name)
                 return command.run(arguments);

@@ -115,7 +115,8 @@ int show(const ArrayFile& file, bool json)
         rows.clear();
     };
     std::optional<int> shownDevice;
-    for (const QVariant& element : settings.toList()) {
+    const QVariantList list = settings.toList();
+    for (const QVariant& element : list) {
         const QVariantMap map = element.toMap();
         const QString group = map.value(QStringLiteral("group")).toString();
         const QString key = map.value(QStringLiteral("key")).toString();
@@ -177,7 +178,8 @@ int routes(const ArrayFile& file)
 {
     AcceptorSettings().setList(file.elements().toVariantList());
     QList<QStringList> rows;
-    for (const DRouteMapItem& route : DRouteMap::fromJson(AcceptorSettings::routeMap())) {
+    const QList<DRouteMapItem> map = DRouteMap::fromJson(AcceptorSettings::routeMap());
+    for (const DRouteMapItem& route : map) {
         const bool isCoin = route.billType == Acceptors::Coin;
         rows += QStringList{route.currency, QString::number(route.denomination),
                             isCoin ? QStringLiteral("coin") : QStringLiteral("note"),
