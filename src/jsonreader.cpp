@@ -41,7 +41,7 @@ bool JsonReader::readValue(QVariant& value)
     case u'{': {
         QVariantMap map;
         complete = readObject([&](const QString& key) { return readValue(map[key]); });
-        value = std::move(map);
+        value = map;
         return complete;
     }
     case u'[': {
@@ -50,7 +50,7 @@ bool JsonReader::readValue(QVariant& value)
             list.append(QVariant());
             return readValue(list.last());
         });
-        value = std::move(list);
+        value = list;
         return complete;
     }
     case u'"': {
