@@ -83,6 +83,7 @@ private Q_SLOTS:
             QCOMPARE(text(check(value)), text(value));
         }
         QCOMPARE(QStringList(unused.keys()), QStringList());
+        settings.setList({});
     }
 };
 
