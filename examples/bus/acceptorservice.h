@@ -1,0 +1,42 @@
+#pragma once
+
+#include "acceptorbus.h"
+#include "simulateddevice.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+/// The acceptor service's object on the bus. It publishes the service state, a JSON text:
+/// {"device_states": [device maps], "verdicts": {"<device id>": "accept" or "reject"}}. Whoever
+/// reads it ignores keys that he does not know.
+class AcceptorService : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", ACCEPTOR_BUS_INTERFACE)
+
+public:
+    /// One simulated device for each session file, all with the same filters. Throws as
+    /// SimulatedDevice does.
+    AcceptorService(const QStringList& sessionFiles, const QJsonArray& filters);
+
+public Q_SLOTS: // on the bus
+    /// Lets every device report the next line of its session; false when none has one left.
+    bool step();
+
+    /// The state and when it was published, for those who came after the signal.
+    QString currentState(QString& timestamp) const;
+
+Q_SIGNALS: // on the bus
+    /// @param timestamp UTC in ISO 8601 form
+    void stateChanged(const QString& state, const QString& timestamp);
+
+private:
+    void publish();
+
+    std::vector<std::unique_ptr<SimulatedDevice>> m_devices;
+    QString m_state;
+    QString m_timestamp;
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "devicestateworker.h"
+#include "filterchain.h"
+#include "statitem.h"
+
+#include <QJsonArray>
+#include <QVariant>
+#include <QVector>
+
+/// A device that reports what its session file says: one JSON object a line with the fields that
+/// it reports, under the keys of the device state map; {"session":"start"} begins a payment
+/// session. It stands where a real service has the handler of a real device.
+class SimulatedDevice
+{
+public:
+    /// @param filters descriptions of the note filters: {"name": ..., "params": {...}}
+    /// Throws std::runtime_error when the file cannot be read or has a bad line, and for an
+    /// unknown filter.
+    SimulatedDevice(const QString& sessionFile, const QJsonArray& filters);
+
+    /// Reports the next line; false when there is none left.
+    bool step();
+
+    /// Whether it has reported anything.
+    bool isKnown() const { return m_nextLine > 0; }
+
+    /// The device as the service publishes it: its state with the note counters.
+    QVariantMap toMap();
+
+    /// What the filters say about the note in hand.
+    AbstractFilter::FilterResult verdict() { return m_filters.validate(); }
+
+private:
+    void readSession(const QString& fileName);
+    void countNote(const DeviceState& sent);
+
+    QVector<QVariantMap> m_session;
+    int m_nextLine = 0;
+    DeviceStateWorker m_worker;
+    FilterChain m_filters;
+    StatItem m_counters;
+    State m_counted = STATE_BUSY;
+};
