@@ -9,10 +9,13 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <utility>
 
 const QString AcceptorState::ACCEPTOR_STATE_BUSY = QStringLiteral("busy");
 
 namespace {
+
+const QString deviceStatesKey = QStringLiteral("device_states");
 
 bool isValidator(int deviceId)
 {
@@ -36,23 +39,130 @@ bool takesNotes(const AcceptorStateItem& device)
         && !device.stackerFull();
 }
 
+using Row = DispenserRegistryItem;
+
+// Files a registry row, without the keys of its owner and its channel, under its kind and channel.
+void fileRow(QVariantMap& registry, const QVariantMap& row, const QVariant& channel)
+{
+    const QString key =
+        QStringLiteral("%1_%2_%3_%4")
+            .arg(row.value(Row::BILL_TYPE).toString(), channel.toString(),
+                 row.value(Row::DENOMINATION).toString(), row.value(Row::CURRENCY).toString());
+    registry.insert(key, row);
+}
+
 QVariantMap registryByChannel(const QVariantList& rows)
 {
-    using Row = DispenserRegistryItem;
     QVariantMap registry;
     for (const QVariant& element : rows) {
         QVariantMap row = element.toMap();
         if (row.isEmpty())
             continue;
-        const QString key =
-            QStringLiteral("%1_%2_%3_%4")
-                .arg(row.value(Row::BILL_TYPE).toString(), row.value(Row::CHANNEL).toString(),
-                     row.value(Row::DENOMINATION).toString(), row.value(Row::CURRENCY).toString());
-        for (const QString& owner : {Row::THREAD_ID, Row::DEVICE_ID, Row::CHANNEL})
-            row.remove(owner);
-        registry.insert(key, row);
+        const QVariant channel = row.take(Row::CHANNEL);
+        row.remove(Row::THREAD_ID);
+        row.remove(Row::DEVICE_ID);
+        fileRow(registry, row, channel);
     }
     return registry;
+}
+
+// What an entry reads of a device's map.
+const auto& deviceFields()
+{
+    using namespace deviceStateDescConst;
+    using Item = AcceptorStateItem;
+    using Set = void (*)(Item & item, const QVariant& value);
+    static const std::pair<QString, Set> fields[] = {
+        {DEVICE_ID, [](Item& item, const QVariant& v) { item.setDeviceId(v.toInt()); }},
+        {ENABLED, [](Item& item, const QVariant& v) { item.setEnabled(v.toBool()); }},
+        {STACKER_PRESENT,
+         [](Item& item, const QVariant& v) { item.setStackerPresent(v.toBool()); }},
+        {STACKER_FULL, [](Item& item, const QVariant& v) { item.setStackerFull(v.toBool()); }},
+        {ERROR_CRITICAL, [](Item& item, const QVariant& v) { item.setErrorCritical(v.toBool()); }},
+        {ERROR_TEXT, [](Item& item, const QVariant& v) { item.setErrorText(v.toString()); }},
+        {STATE, [](Item& item, const QVariant& v) { item.setState(v.toString()); }},
+        {STATE_TEXT, [](Item& item, const QVariant& v) { item.setStateText(v.toString()); }},
+        {THREAD_ID, [](Item& item, const QVariant& v) { item.setThreadId(v.toInt()); }},
+        {HALT, [](Item& item, const QVariant& v) { item.setHalt(v.toBool()); }},
+        {ID_STRING, [](Item& item, const QVariant& v) { item.setIdString(v.toString()); }},
+        {StatItem::NOTES_INSERTED,
+         [](Item& item, const QVariant& v) { item.setNotesInserted(v.toInt()); }},
+        {StatItem::NOTES_REJECTED,
+         [](Item& item, const QVariant& v) { item.setNotesRejected(v.toInt()); }},
+        {StatItem::NOTES_RETURNED,
+         [](Item& item, const QVariant& v) { item.setNotesReturned(v.toInt()); }},
+        {DispenserRegistryModel::DISPENSER_REGISTRY,
+         [](Item& item, const QVariant& v) {
+             item.setDispRegistry(registryByChannel(v.toList()));
+         }},
+    };
+    return fields;
+}
+
+bool readRegistry(JsonReader& json, QVariantMap& registry)
+{
+    return json.readArray([&] {
+        if (!json.isAtObject())
+            return json.skipValue();
+        QVariantMap row;
+        QVariant channel;
+        bool hasKeys = false;
+        const bool complete = json.readObject([&](const QString& key) {
+            hasKeys = true;
+            if (key == Row::THREAD_ID || key == Row::DEVICE_ID)
+                return json.skipValue();
+            return json.readValue(key == Row::CHANNEL ? channel : row[key]);
+        });
+        if (hasKeys)
+            fileRow(registry, row, channel);
+        return complete;
+    });
+}
+
+bool readDevice(JsonReader& json, AcceptorStateItem& device)
+{
+    return json.readObject([&](const QString& key) {
+        if (key == DispenserRegistryModel::DISPENSER_REGISTRY && json.isAtArray()) {
+            QVariantMap registry;
+            const bool complete = readRegistry(json, registry);
+            device.setDispRegistry(registry);
+            return complete;
+        }
+        for (const auto& [known, set] : deviceFields()) {
+            if (key != known)
+                continue;
+            QVariant value;
+            const bool complete = json.readValue(value);
+            set(device, value);
+            return complete;
+        }
+        return json.skipValue();
+    });
+}
+
+// The devices of a published state; none for a text that is not JSON.
+QList<AcceptorStateItem> readDevices(const QString& text)
+{
+    const AcceptorStateItem withDefaults{QVariantMap()};
+    QList<AcceptorStateItem> devices;
+    JsonReader json(text);
+    const auto readElement = [&] {
+        AcceptorStateItem device = withDefaults;
+        QVariant other;
+        const bool complete = json.isAtObject() ? readDevice(json, device) : json.readValue(other);
+        if (!other.isValid() || !other.isNull())
+            devices.append(device);
+        return complete;
+    };
+    const auto readMember = [&](const QString& key) {
+        if (key != deviceStatesKey)
+            return json.skipValue();
+        devices.clear(); // of doubled keys the last one counts
+        return json.isAtArray() ? json.readArray(readElement) : json.skipValue();
+    };
+    const bool isJson = json.readDocument(
+        [&] { return json.isAtObject() ? json.readObject(readMember) : json.skipValue(); });
+    return isJson ? devices : QList<AcceptorStateItem>();
 }
 
 QString statusPhrase(const QString& state)
@@ -109,23 +219,15 @@ QStringList deviceReport(const AcceptorStateItem& device, const QString& name)
 } // namespace
 
 AcceptorStateItem::AcceptorStateItem(QVariantMap map)
-    : m_deviceId(map.value(deviceStateDescConst::DEVICE_ID, -1).toInt())
-    , m_threadId(map.value(deviceStateDescConst::THREAD_ID, -1).toInt())
-    , m_enabled(map.value(deviceStateDescConst::ENABLED).toBool())
-    , m_state(map.value(deviceStateDescConst::STATE).toString())
-    , m_stateText(map.value(deviceStateDescConst::STATE_TEXT).toString())
-    , m_stackerPresent(map.value(deviceStateDescConst::STACKER_PRESENT, true).toBool())
-    , m_stackerFull(map.value(deviceStateDescConst::STACKER_FULL).toBool())
-    , m_errorCritical(map.value(deviceStateDescConst::ERROR_CRITICAL).toBool())
-    , m_errorText(map.value(deviceStateDescConst::ERROR_TEXT).toString())
-    , m_halt(map.value(deviceStateDescConst::HALT).toBool())
-    , m_idString(map.value(deviceStateDescConst::ID_STRING).toString())
-    , m_notesInserted(map.value(StatItem::NOTES_INSERTED).toInt())
-    , m_notesRejected(map.value(StatItem::NOTES_REJECTED).toInt())
-    , m_notesReturned(map.value(StatItem::NOTES_RETURNED).toInt())
-    , m_dispRegistry(
-          registryByChannel(map.value(DispenserRegistryModel::DISPENSER_REGISTRY).toList()))
+    : m_deviceId(-1)
+    , m_threadId(-1)
+    , m_stackerPresent(true)
 {
+    for (const auto& [key, set] : deviceFields()) {
+        const auto entry = map.constFind(key);
+        if (entry != map.constEnd())
+            set(*this, *entry);
+    }
 }
 
 int AcceptorStateItem::deviceId() const
@@ -393,7 +495,7 @@ QString AcceptorState::systemStatusDescr(QMap<int, QString> names) const
 void AcceptorState::loadFromStateMap(QVariantMap stateMap, AcceptorState& state)
 {
     QList<AcceptorStateItem> devices;
-    const QVariantList published = stateMap.value(QStringLiteral("device_states")).toList();
+    const QVariantList published = stateMap.value(deviceStatesKey).toList();
     for (const QVariant& device : published) {
         if (!device.isNull())
             devices.append(AcceptorStateItem(device.toMap()));
@@ -404,7 +506,7 @@ void AcceptorState::loadFromStateMap(QVariantMap stateMap, AcceptorState& state)
 AcceptorState AcceptorState::loadFromClientState(quorbus::ClientState clientState,
                                                  AcceptorState& state)
 {
-    loadFromStateMap(JsonReader::read(clientState.state()).toMap(), state);
+    state.setDeviceStates(readDevices(clientState.state()));
     state.setDt(clientState.dt());
     return state;
 }

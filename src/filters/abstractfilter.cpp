@@ -1,6 +1,7 @@
 #include "abstractfilter.h"
 
-#include <QDebug>
+#include "log_p.h"
+
 #include <QMetaProperty>
 
 AbstractFilter::FilterResult AbstractFilter::validate()
@@ -11,8 +12,9 @@ AbstractFilter::FilterResult AbstractFilter::validate()
 AbstractFilter* AbstractFilter::setParams(const QVariantMap& params)
 {
     for (auto param = params.begin(); param != params.end(); ++param) {
-        qDebug().noquote() << QStringLiteral("Setting property %1 to %2")
-                                  .arg(param.key(), param.value().toString());
+        if (logsDebug())
+            qDebug().noquote() << QStringLiteral("Setting property %1 to %2")
+                                      .arg(param.key(), param.value().toString());
         const int index = metaObject()->indexOfProperty(param.key().toUtf8().constData());
         const QMetaProperty property = metaObject()->property(index);
         if (property.isReadable())

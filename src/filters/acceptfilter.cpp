@@ -1,10 +1,11 @@
 #include "acceptfilter.h"
 
-#include <QDebug>
+#include "log_p.h"
 
 AbstractFilter::FilterResult AcceptFilter::validate()
 {
-    qDebug().noquote() << QStringLiteral("Accept filter");
+    if (logsDebug())
+        qDebug().noquote() << QStringLiteral("Accept filter");
     return m_acceptAll ? FILTER_ACCEPT : FILTER_REJECT;
 }
 
