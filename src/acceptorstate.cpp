@@ -99,6 +99,17 @@ const auto& deviceFields()
     return fields;
 }
 
+// The constant of a row's key, which costs no memory in each row; any other key itself.
+QString sharedKey(const QString& key)
+{
+    for (const QString& known :
+         {Row::BILL_TYPE, Row::COUNT, Row::CURRENCY, Row::DENOMINATION, Row::REJECTED}) {
+        if (key == known)
+            return known;
+    }
+    return key;
+}
+
 bool readRegistry(JsonReader& json, QVariantMap& registry)
 {
     return json.readArray([&] {
@@ -111,7 +122,7 @@ bool readRegistry(JsonReader& json, QVariantMap& registry)
             hasKeys = true;
             if (key == Row::THREAD_ID || key == Row::DEVICE_ID)
                 return json.skipValue();
-            return json.readValue(key == Row::CHANNEL ? channel : row[key]);
+            return json.readValue(key == Row::CHANNEL ? channel : row[sharedKey(key)]);
         });
         if (hasKeys)
             fileRow(registry, row, channel);

@@ -1,6 +1,7 @@
 #include "jsonreader_p.h"
 
-#include <limits>
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -141,25 +142,15 @@ bool JsonReader::readEscape(QString& string)
     if (m_next == m_end)
         return false;
     const QChar c = *m_next++;
-    switch (c.unicode()) {
-    case u'b':
-        string.append(QChar(u'\b'));
+    static constexpr char letters[] = "bfnrt";
+    static constexpr char controls[] = "\b\f\n\r\t";
+    const char* const letter =
+        std::find(std::begin(letters), std::end(letters) - 1, c.unicode() < 0x80 ? c.cell() : 0);
+    if (letter != std::end(letters) - 1) {
+        string.append(QLatin1Char(controls[letter - letters]));
         return true;
-    case u'f':
-        string.append(QChar(u'\f'));
-        return true;
-    case u'n':
-        string.append(QChar(u'\n'));
-        return true;
-    case u'r':
-        string.append(QChar(u'\r'));
-        return true;
-    case u't':
-        string.append(QChar(u'\t'));
-        return true;
-    case u'u':
-        break;
-    default:
+    }
+    if (c != u'u') {
         // Any other ASCII character stands for itself, as Qt reads it.
         if (c.unicode() >= 0x80 && (!c.isSurrogate() || QChar::isLowSurrogate(current())))
             return false;
@@ -180,32 +171,39 @@ bool JsonReader::readEscape(QString& string)
 bool JsonReader::readNumber(QVariant& value)
 {
     const QChar* const begin = m_next;
-    const auto skipDigits = [this] {
-        while (isDigit(current()))
-            ++m_next;
-    };
     const auto skipOneOf = [this](ushort a, ushort b) {
         const bool found = current() == a || current() == b;
         m_next += found ? 1 : 0;
         return found;
     };
-    skipOneOf(u'-', u'-');
+    quint64 magnitude = 0;
+    const auto skipDigits = [&] {
+        for (; isDigit(current()); ++m_next)
+            magnitude = magnitude * 10 + (m_next->unicode() - u'0');
+    };
+
+    const bool isNegative = skipOneOf(u'-', u'-');
+    const QChar* const digits = m_next;
     if (!skipOneOf(u'0', u'0'))
         skipDigits();
-    bool isInteger = true;
-    if (skipOneOf(u'.', u'.')) {
-        isInteger = false;
+    const auto digitCount = m_next - digits;
+    const bool hasFraction = skipOneOf(u'.', u'.');
+    if (hasFraction)
         skipDigits();
-    }
-    if (skipOneOf(u'e', u'E')) {
-        isInteger = false;
+    const bool hasExponent = skipOneOf(u'e', u'E');
+    if (hasExponent) {
         skipOneOf(u'+', u'-');
         skipDigits();
+    }
+    constexpr int safeDigits = 18;
+    if (!hasFraction && !hasExponent && digitCount > 0 && digitCount <= safeDigits) {
+        value = isNegative ? -qlonglong(magnitude) : qlonglong(magnitude);
+        return true;
     }
 
     const QByteArray text = QString(begin, static_cast<int>(m_next - begin)).toLatin1();
     bool isNumber = false;
-    if (isInteger) {
+    if (!hasFraction && !hasExponent) {
         value = text.toLongLong(&isNumber);
         if (isNumber)
             return true;
