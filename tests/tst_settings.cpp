@@ -135,6 +135,7 @@ private Q_SLOTS:
         QCOMPARE(settings.toList().size(), 8);
         QCOMPARE(carried("acceptor_common"_s, "attempts_filter_settings"_s), "[]"_s);
         QCOMPARE(carried("service"_s, "devices_count"_s), "0"_s);
+        QCOMPARE(AcceptorSettings::maxSumm(), qint64(0));
         const QVariantMap map = settings.toFormattedMap();
         QCOMPARE(map.keys(), QStringList({"acceptor_common"_s, "dispenser"_s, "service"_s}));
         QCOMPARE(
@@ -278,6 +279,7 @@ private Q_SLOTS:
             device0/hw_interface | StopBit            | 3           | true  | | stopbits | 3
             device0/device       | device_name        | A           | true  | A
             device0/device       | device_id          | 200         | true  | 200
+            device0/device/x     | device_id          | 5           | true  | 5
             device0/debug        | port_logging       | 1           | false | false
             device-7/device      | device_id          | 3           | true  | 3
             mydevice             | x                  | 3           | false |)"_s);
@@ -294,6 +296,23 @@ private Q_SLOTS:
         if (row.size() > 6)
             QCOMPARE(carried(row.at(0), row.at(5)), row.at(6));
         QCOMPARE(AcceptorSettings::devices.size(), row.at(0).contains("device"_s) ? 1 : 0);
+    }
+
+    void commonValuesAreResetAndLimitsReplaced()
+    {
+        AcceptorSettings::setMaxSumm(5);
+        AcceptorSettings::setDeviceCount(5);
+        AcceptorSettings::addAttemptsFilter(100, 3);
+        AcceptorSettings::addAttemptsFilter(200, 1);
+        AcceptorSettings().setList({setting("device0/device"_s, "device_id"_s, 5)});
+        AcceptorSettings::addAttemptsFilter(200, 9);
+        QCOMPARE(carried("acceptor_common"_s, "attempts_filter_settings"_s),
+                 R"([{"attempts":"3","denom":"100"},{"attempts":"9","denom":"200"}])"_s);
+        QCOMPARE(AcceptorSettings::maxSumm() + AcceptorSettings::deviceCount(), qint64(0));
+        QCOMPARE(carried("device0/id003"_s, "rest_interval"_s), "0"_s);
+        QVERIFY(AcceptorSettings::isEmpty());
+        AcceptorSettings::setDeviceCount(1);
+        QVERIFY(!AcceptorSettings::isEmpty());
     }
 
     void protocolParametersReachTheirDevice()
