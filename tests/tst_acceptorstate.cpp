@@ -147,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(state.disabledThreads(), QList<int>({8, 4}));
         QVERIFY(state.stackerUnpresent() && !state.allEnabled() && !state.allDisabled());
         QVERIFY(serviceState("5 x"_s).allEnabled() && !AcceptorState().allEnabled());
-        QVERIFY(AcceptorState().allDisabled() && !AcceptorState().stackerUnpresent());
+        QVERIFY(AcceptorState().allDisabled() && !serviceState("5 x"_s).stackerUnpresent());
     }
 
     void reportHasABlockPerDevice()
