@@ -53,16 +53,13 @@ const auto& catalogue()
     return models;
 }
 
-// Null, after a log line, for a model that is not in the catalogue.
+// Null for a model that is not in the catalogue.
 const Model* findModel(Acceptors::Supported id)
 {
     const auto& models = catalogue();
     const auto model = std::find_if(std::begin(models), std::end(models),
                                     [id](const Model& m) { return m.id == id; });
-    if (model != std::end(models))
-        return model;
-    qCritical().noquote() << QStringLiteral("%1 - unknown device.").arg(int(id));
-    return nullptr;
+    return model == std::end(models) ? nullptr : model;
 }
 
 } // namespace
@@ -91,20 +88,26 @@ QVariantList Acceptors::SupportedDevicesAsVariantList()
 
 SupportedDevice Acceptors::search(Supported id)
 {
-    const Model* const model = findModel(id);
-    return model ? model->row() : SupportedDevice();
+    if (const Model* const model = findModel(id))
+        return model->row();
+    qCritical().noquote() << QStringLiteral("%1 - unknown device.").arg(int(id));
+    return {};
 }
 
 QString Acceptors::devName(Supported id)
 {
-    const Model* const model = findModel(id);
-    return model ? model->protocol : QStringLiteral("Unknown device");
+    if (const Model* const model = findModel(id))
+        return model->protocol;
+    search(id); // says that the model is unknown
+    return QStringLiteral("Unknown device");
 }
 
 Acceptors::AcceptorType Acceptors::devType(Supported id)
 {
-    const Model* const model = findModel(id);
-    return model ? model->type : static_cast<AcceptorType>(-1);
+    if (const Model* const model = findModel(id))
+        return model->type;
+    search(id);
+    return static_cast<AcceptorType>(-1);
 }
 
 bool Acceptors::canDispense(Supported id)

@@ -122,9 +122,11 @@ bool JsonReader::readString(QString& string)
     while (m_next != m_end && *m_next != u'"' && *m_next != u'\\' && !m_next->isSurrogate())
         ++m_next;
     string.setUnicode(begin, static_cast<int>(m_next - begin));
+    bool hasEscapes = false;
     while (m_next != m_end && *m_next != u'"') {
         const QChar c = *m_next++;
         if (c == u'\\') {
+            hasEscapes = true;
             if (!readEscape(string))
                 return false;
         } else if (c.isHighSurrogate() && QChar::isLowSurrogate(current())) {
@@ -134,6 +136,9 @@ bool JsonReader::readString(QString& string)
             string.append(c.isSurrogate() ? QChar(u'?') : c);
         }
     }
+    // Qt takes a byte order mark for one in a string, too, unless it looks at each character.
+    if (!hasEscapes && string.startsWith(QChar(QChar::ByteOrderMark)))
+        string.remove(0, 1);
     return skip(u'"');
 }
 
@@ -152,7 +157,8 @@ bool JsonReader::readEscape(QString& string)
     }
     if (c != u'u') {
         // Any other ASCII character stands for itself, as Qt reads it.
-        if (c.unicode() >= 0x80 && (!c.isSurrogate() || QChar::isLowSurrogate(current())))
+        const bool isPair = c.isHighSurrogate() && QChar::isLowSurrogate(current());
+        if (c.unicode() >= 0x80 && (!c.isSurrogate() || isPair))
             return false;
         string.append(c.isSurrogate() ? QChar(u'?') : c);
         return true;

@@ -3,10 +3,10 @@
 #include <QString>
 #include <QVariant>
 
-/// Reads JSON text without a document in between. It takes what Qt 5.15's parser takes, and
-/// numbers, escapes and doubled keys mean the same; unlike that parser it leaks nothing when a key
-/// stands twice. Every reading function returns false when the text is not as it must be; the
-/// reader is then of no further use.
+/// Reads JSON text without a document in between. It takes what Qt 5.15's parser takes, and numbers
+/// and escapes mean the same. Of doubled keys the last one counts; Qt's parser leaks then, and does
+/// not say which one counts. Every reading function returns false when the text is not as it must
+/// be; the reader is then of no further use.
 class JsonReader
 {
 public:
