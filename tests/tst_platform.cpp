@@ -1,8 +1,13 @@
+#include "acceptorsettings.h"
+#include "acceptorstate.h"
+#include "devicestate.h"
 #include "testtable.h"
 #include "velmolib.h"
 
 #include <palx/appversionmanager.h>
 #include <palx/rs232settings.h>
+
+#include <thread>
 
 class tst_Platform : public QObject
 {
@@ -25,6 +30,35 @@ private Q_SLOTS:
         QCOMPARE(Manager::version("velmolib"_s).version(), "9"_s);
         QCOMPARE(VelmoLib::version().version(), "5.0.6"_s);
         QCOMPARE(Manager::localisations(), QStringList({"velmolib"_s, "velmolib"_s}));
+    }
+
+    // First use from several threads at once; the thread sanitizer's builds look at it closely.
+    void sharedPartsStandThreads()
+    {
+        DeviceState shared;
+        shared.idString = "shared"_s;
+        shared.dispenserRegistry.append({1, 7, 2, Acceptors::Bill, "RUB"_s, 100, 5, 0});
+        const auto use = [&shared](bool* good) {
+            const AcceptorSettings settings;
+            for (int round = 0; round < 100; ++round) {
+                DeviceState copy = shared;
+                copy.stateText = VelmoLib::version().version();
+                const QVariantList devices{copy.toMap()};
+                AcceptorState state;
+                AcceptorState::loadFromStateMap({{"device_states"_s, devices}}, state);
+                DeviceState read;
+                *good = read.parse(copy.serialize()) && read.idString == shared.idString
+                    && settings.fixedDeviceTypes().contains(Acceptors::Uniteller)
+                    && Acceptors::devName(Acceptors::CCNet) == "CCNet"_s
+                    && state.deviceStates().constFirst().dispRegistry().size() == 1;
+            }
+        };
+        bool good[3] = {};
+        std::thread threads[] = {std::thread(use, good), std::thread(use, good + 1),
+                                 std::thread(use, good + 2)};
+        for (std::thread& thread : threads)
+            thread.join();
+        QVERIFY(good[0] && good[1] && good[2]);
     }
 
     void portSettingsReadBackFromTheirList()
