@@ -3,6 +3,7 @@
 #include "statitem.h"
 #include "testtable.h"
 
+#include <QJsonDocument>
 #include <QTranslator>
 
 namespace {
@@ -197,6 +198,38 @@ private Q_SLOTS:
         QCOMPARE(serviceState("1 jam error"_s).systemStatusDescr({}),
                  "~DeviceId: 1,ThreadId: 2\n~Name: ~Unknown\n~Activity: ~enabled\n"
                  "~Critical error: ~no description\n~Status: ~unknown state:(jam)\n\n"_s);
+    }
+
+    // The text is read without the map that it stands for in between.
+    void textReadsLikeItsMap_data()
+    {
+        addRows(R"(
+            {"device_states":[{"device_id":1,"thread_id":2,"enabled":true,"state":"busy","notes_inserted":3,"notes_rejected":4,"notes_returned":5,"id_string":"A","halt":true,"other":[1]}]}
+            {"device_states":[{"state":"x","enabled":1,"state_text":7,"dispenser_registry":[{"bill_type":1,"channel":2,"count":5,"currency":"RUB","denomination":100,"device_id":7,"rejected":1,"thread_id":3},{},7,{"channel":1},{"thread_id":1},{"device_id":1,"count":9}]}]}
+            {"device_states":[{"dispenser_registry":{"a":1},"state":"x"},{"dispenser_registry":[[{"a":1}]]}]}
+            {"device_states":[null,7,"x",{},[1],false]}
+            {"other":{"device_states":[{}]},"device_states":[{"device_id":4}]})"_s);
+    }
+
+    void textReadsLikeItsMap()
+    {
+        QFETCH(QStringList, row);
+        AcceptorState ofText;
+        AcceptorState ofMap;
+        AcceptorState::loadFromClientState(quorbus::ClientState(row.at(0), {}), ofText);
+        AcceptorState::loadFromStateMap(
+            QJsonDocument::fromJson(row.at(0).toUtf8()).toVariant().toMap(), ofMap);
+        QCOMPARE(ofText.deviceStates().size(), ofMap.deviceStates().size());
+        QCOMPARE(ofText.systemStatusDescr({}), ofMap.systemStatusDescr({}));
+        for (int i = 0; i < ofMap.deviceStates().size(); ++i) {
+            const AcceptorStateItem a = ofText.deviceStates().at(i);
+            const AcceptorStateItem b = ofMap.deviceStates().at(i);
+            QCOMPARE(a.dispRegistry(), b.dispRegistry());
+            QCOMPARE(a.idString(), b.idString());
+            QCOMPARE(
+                QList<int>({a.halt(), a.notesInserted(), a.notesRejected(), a.notesReturned()}),
+                QList<int>({b.halt(), b.notesInserted(), b.notesRejected(), b.notesReturned()}));
+        }
     }
 
     void badStatesEmptyTheList_data()
