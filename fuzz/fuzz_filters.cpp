@@ -8,6 +8,27 @@ namespace {
 
 enum Kind { Accept, Attempts, DenomCount, SessionSum };
 
+// A parameter as a caller may bring it: mostly a number, at times a text, a switch or junk.
+QVariant parameter(Bytes& bytes)
+{
+    const std::uint8_t kind = bytes.byte();
+    const qint32 number = bytes.number();
+    switch (kind) {
+    case 251:
+        return QString::number(number);
+    case 252:
+        return double(number) / 3;
+    case 253:
+        return number > 0;
+    case 254:
+        return QVariantList{number};
+    case 255:
+        return QStringLiteral("junk");
+    default:
+        return number;
+    }
+}
+
 struct Filter
 {
     Kind kind;
@@ -99,9 +120,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const QLatin1String limitName(limitNames[kind]);
         AbstractFilter* const filter =
             FilterFactory::createFilter(QLatin1String(names[kind]),
-                                        {{QStringLiteral("denom"), bytes.number()},
-                                         {limitName, bytes.number()},
-                                         {QStringLiteral("junk"), bytes.number()}});
+                                        {{QStringLiteral("denom"), parameter(bytes)},
+                                         {limitName, parameter(bytes)},
+                                         {QStringLiteral("junk"), parameter(bytes)}});
         CHECK(filter);
         // What the property made of the number is what counts.
         plain.push_back(

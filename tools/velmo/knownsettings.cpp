@@ -25,26 +25,17 @@ QString anyText(const QString& /*value*/)
     return {};
 }
 
-QString number(const QString& value)
+template <auto Read>
+QString numberReadBy(const QString& value)
 {
     bool isNumber = false;
-    value.toInt(&isNumber);
+    (value.*Read)(&isNumber, 10);
     return isNumber ? QString() : QStringLiteral("reads as 0");
 }
 
-QString longNumber(const QString& value)
-{
-    bool isNumber = false;
-    value.toLongLong(&isNumber);
-    return isNumber ? QString() : QStringLiteral("reads as 0");
-}
-
-QString unsignedNumber(const QString& value)
-{
-    bool isNumber = false;
-    value.toUInt(&isNumber);
-    return isNumber ? QString() : QStringLiteral("reads as 0");
-}
+constexpr auto number = numberReadBy<&QString::toInt>;
+constexpr auto longNumber = numberReadBy<&QString::toLongLong>;
+constexpr auto unsignedNumber = numberReadBy<&QString::toUInt>;
 
 QString onOff(const QString& value)
 {
