@@ -23,6 +23,7 @@ ReplayStep Replay::take(const SessionLine& line)
     step.sent = m_worker.checkState();
     if (step.sent)
         m_worker.saveState();
+    step.hasEvent = !m_worker.getStatesList()->isEmpty();
     step.verdict = m_chain.validate();
     step.refusedBy = step.verdict == AbstractFilter::FILTER_ACCEPT ? nullptr : firstRefusing();
 

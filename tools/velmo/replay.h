@@ -17,6 +17,7 @@ struct ReplayStep
     bool sent; ///< the state differed from the one before and was sent
     AbstractFilter::FilterResult verdict;
     const AbstractFilter* refusedBy; ///< null when the note may be accepted
+    bool hasEvent; ///< something was sent in the session; without it, there is no note to refuse
     QString paymentText;
     bool acceptingAllowed;
 };

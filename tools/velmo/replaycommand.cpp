@@ -122,6 +122,8 @@ QByteArray tableLine(qint64 lineNumber, const ReplayStep& step)
     const auto yesNo = [](bool yes) { return yes ? QStringLiteral("yes") : QStringLiteral("no"); };
     QStringList refusal;
     if (step.refusedBy) {
+        if (!step.hasEvent)
+            refusal += QStringLiteral("(nothing sent yet)");
         refusal += filterName(*step.refusedBy);
         const QJsonObject params = filterParams(*step.refusedBy);
         for (auto param = params.begin(); param != params.end(); ++param) {
