@@ -75,12 +75,6 @@ private Q_SLOTS:
         QCOMPARE(read.toList(), written.toList());
         QCOMPARE(read.portName(), "ttyS1"_s);
         QCOMPARE(read.portSettings().parity(), QSerialPort::MarkParity);
-
-        palx::RS232Settings other("other"_s);
-        other.setList(written.toList());
-        QCOMPARE(other.baudrate(), QSerialPort::Baud9600);
-        other.setPortSettings(read.portSettings());
-        QCOMPARE(other.stopBits(), QSerialPort::OneAndHalfStop);
     }
 };
 
