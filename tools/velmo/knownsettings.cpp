@@ -33,7 +33,7 @@ QString numberReadBy(const QString& value)
     return isNumber ? QString() : QStringLiteral("reads as 0");
 }
 
-constexpr auto number = numberReadBy<&QString::toInt>;
+constexpr auto intNumber = numberReadBy<&QString::toInt>;
 constexpr auto longNumber = numberReadBy<&QString::toLongLong>;
 constexpr auto unsignedNumber = numberReadBy<&QString::toUInt>;
 
@@ -47,7 +47,7 @@ QString statisticsMode(const QString& value)
 {
     const int mode = value.toInt();
     const bool inRange = mode >= S::CleanStatistics0 && mode <= S::CleanStatistics4;
-    return inRange ? number(value) : QStringLiteral("reads as 0: the modes are 0 to 4");
+    return inRange ? intNumber(value) : QStringLiteral("reads as 0: the modes are 0 to 4");
 }
 
 QString attemptsLimits(const QString& value)
@@ -61,7 +61,7 @@ QString attemptsLimits(const QString& value)
         if (limit.isEmpty())
             return QStringLiteral("limit %1 is no object and is skipped").arg(i + 1);
         for (const QString& key : {QStringLiteral("denom"), QStringLiteral("attempts")}) {
-            const QString complaint = limit.contains(key) ? number(limit.value(key).toString())
+            const QString complaint = limit.contains(key) ? intNumber(limit.value(key).toString())
                                                           : QStringLiteral("reads as 1");
             if (!complaint.isEmpty())
                 return QStringLiteral("limit %1: \"%2\" %3")
@@ -148,27 +148,27 @@ const struct
     {S::ACCEPTOR_COMMON_SECTION, S::RESET_STATISTICS, statisticsMode},
     {S::ACCEPTOR_COMMON_SECTION, S::ATTEMPTS_FILTER, attemptsLimits},
     {S::ACCEPTOR_COMMON_SECTION, S::PORT_LOGGING, onOff},
-    {S::SERVICE_SECTION, S::DEVICE_COUNT, number},
+    {S::SERVICE_SECTION, S::DEVICE_COUNT, intNumber},
     {S::SERVICE_SECTION, S::RESET_IDLE_TIMEOUT, longNumber},
     {S::DISPENSER_SECTION, S::ROUTE_MAP, routeMap},
     // Written for every device, but the switch of the service is the one that counts.
     {QStringLiteral("device#/debug"), S::PORT_LOGGING, anyText},
-    {intervalsGroup, S::RESPONSE_TIME, number},
-    {intervalsGroup, S::POLLING_INTERVAL, number},
-    {intervalsGroup, S::BILL_TABLE_INTERVAL, number},
-    {intervalsGroup, S::RESET_INTERVAL, number},
-    {intervalsGroup, S::REST_INTERVAL, number},
+    {intervalsGroup, S::RESPONSE_TIME, intNumber},
+    {intervalsGroup, S::POLLING_INTERVAL, intNumber},
+    {intervalsGroup, S::BILL_TABLE_INTERVAL, intNumber},
+    {intervalsGroup, S::RESET_INTERVAL, intNumber},
+    {intervalsGroup, S::REST_INTERVAL, intNumber},
     {QStringLiteral("device#/device"), S::DEVICE_ID, modelId},
     {QStringLiteral("device#/device"), S::DEVICE_NAME, anyText},
     {QStringLiteral("device#/uniteller_service"), S::UNITAILER_ID, anyText},
     {QStringLiteral("device#/posd200"), S::SM_P_POSD2000_POS_ID, anyText},
-    {QStringLiteral("device#/posd200"), S::SM_P_POSD2000_TIMEOUT_ACK, number},
-    {QStringLiteral("device#/posd200"), S::SM_P_POSD2000_TIMEOUT_PACKET, number},
-    {QStringLiteral("device#/posd200"), S::SM_P_POSD2000_COUNT_NAK, number},
-    {QStringLiteral("device#/posd200"), S::SM_P_POSD2000_PACKET_SIZE, number},
+    {QStringLiteral("device#/posd200"), S::SM_P_POSD2000_TIMEOUT_ACK, intNumber},
+    {QStringLiteral("device#/posd200"), S::SM_P_POSD2000_TIMEOUT_PACKET, intNumber},
+    {QStringLiteral("device#/posd200"), S::SM_P_POSD2000_COUNT_NAK, intNumber},
+    {QStringLiteral("device#/posd200"), S::SM_P_POSD2000_PACKET_SIZE, intNumber},
     {QStringLiteral("device#/hw_interface"), S::INTERFACE_TYPE, interfaceType},
     {QStringLiteral("device#/hw_interface"), S::TCP_HOST, anyText},
-    {QStringLiteral("device#/hw_interface"), S::TCP_PORT, number},
+    {QStringLiteral("device#/hw_interface"), S::TCP_PORT, intNumber},
     {QStringLiteral("device#/hw_interface"), S::PORT_NAME, anyText, true},
     {QStringLiteral("device#/hw_interface"), S::PORT_BAUDRATE, unsignedNumber},
     {QStringLiteral("device#/hw_interface"), S::PORT_FLOW_CONTROL, flowControl, true},
