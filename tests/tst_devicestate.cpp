@@ -128,7 +128,7 @@ private Q_SLOTS:
         state.replace(R"("session_sum":0)"_s, R"("session_sum":%1)"_s);
         QStringList lines = QString::fromUtf8(values.readAll()).split(QLatin1Char('\n'));
         for (const QString& half : {QString(QChar(0xd800)), QString(QChar(0xdc00))})
-            lines += {"\"a%1\""_s.arg(half), "\"\\%1\""_s.arg(half), "\"\\%1%1\""_s.arg(half)};
+            lines += {R"("a%1")"_s.arg(half), R"("\%1")"_s.arg(half), R"("\%1%1")"_s.arg(half)};
         for (const QString& line : qAsConst(lines)) {
             const QString text = line.startsWith(QLatin1Char('=')) ? line.mid(1) : state.arg(line);
             QJsonParseError error;
