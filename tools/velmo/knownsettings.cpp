@@ -3,6 +3,7 @@
 #include "acceptors.h"
 #include "acceptorsettings.h"
 #include "droutemapitem.h"
+#include "fault.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -226,6 +227,15 @@ std::optional<KnownSetting> knownSetting(const QString& group, const QString& ke
         return KnownSetting{path, setting.complaint};
     }
     return {};
+}
+
+KnownSetting requireKnownSetting(const QString& group, const QString& key)
+{
+    if (const std::optional<KnownSetting> setting = knownSetting(group, key))
+        return *setting;
+    const QString path = group + QLatin1Char('/') + key;
+    throw Fault{QStringLiteral("unknown setting \"%1\" (nearest known: %2)")
+                    .arg(path, nearestKnownPath(path))};
 }
 
 QString nearestKnownPath(const QString& path)

@@ -28,5 +28,8 @@ std::optional<DeviceGroup> deviceGroup(const QString& group);
 /// The setting that the model reads under a group and a key; nothing when it ignores them.
 std::optional<KnownSetting> knownSetting(const QString& group, const QString& key);
 
+/// The same; throws Fault, which names the nearest known setting, where the model ignores them.
+KnownSetting requireKnownSetting(const QString& group, const QString& key);
+
 /// The known path that is spelled most like this one.
 QString nearestKnownPath(const QString& path);

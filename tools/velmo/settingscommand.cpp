@@ -140,16 +140,12 @@ int show(const ArrayFile& file, bool json)
 int get(const ArrayFile& file, const QString& path)
 {
     const Assignment asked = assignment(path, QString());
-    const std::optional<KnownSetting> known = knownSetting(asked.group, asked.key);
-    if (!known) {
-        throw Fault{QStringLiteral("unknown setting \"%1\" (nearest known: %2)")
-                        .arg(path, nearestKnownPath(path))};
-    }
+    const QString known = requireKnownSetting(asked.group, asked.key).path;
     AcceptorSettings().setList(file.elements().toVariantList());
     const QMap<QString, QString> values = carriedValues();
-    if (!values.contains(known->path))
-        throw Fault{QStringLiteral("%1: %2 is not set").arg(file.name(), known->path)};
-    print(values.value(known->path) + QLatin1Char('\n'));
+    if (!values.contains(known))
+        throw Fault{QStringLiteral("%1: %2 is not set").arg(file.name(), known)};
+    print(values.value(known) + QLatin1Char('\n'));
     return exitSuccess;
 }
 

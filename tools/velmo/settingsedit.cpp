@@ -64,16 +64,13 @@ void removeElements(QJsonArray& list, const QString& path)
 
 KnownSetting checked(const Assignment& assignment)
 {
-    const QString path = assignment.group + QLatin1Char('/') + assignment.key;
-    const std::optional<KnownSetting> known = knownSetting(assignment.group, assignment.key);
-    if (!known) {
-        throw Fault{QStringLiteral("unknown setting \"%1\" (nearest known: %2)")
-                        .arg(path, nearestKnownPath(path))};
+    const KnownSetting known = requireKnownSetting(assignment.group, assignment.key);
+    const QString complaint = known.complaint(assignment.value);
+    if (!complaint.isEmpty()) {
+        throw Fault{QStringLiteral("%1/%2 = %3 %4")
+                        .arg(assignment.group, assignment.key, assignment.value, complaint)};
     }
-    const QString complaint = known->complaint(assignment.value);
-    if (!complaint.isEmpty())
-        throw Fault{QStringLiteral("%1 = %2 %3").arg(path, assignment.value, complaint)};
-    return *known;
+    return known;
 }
 
 } // namespace
