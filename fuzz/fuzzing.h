@@ -67,9 +67,7 @@ inline bool hasDoubledKeys(JsonReader& json)
 inline bool hasDoubledKeys(const QString& text)
 {
     JsonReader json(text);
-    bool doubled = false;
-    json.readDocument([&] { return !(doubled = hasDoubledKeys(json)); });
-    return doubled;
+    return hasDoubledKeys(json);
 }
 
 /// The input as bytes that a target takes apart; what is used up reads as 0.

@@ -111,7 +111,7 @@ QString attemptsText()
 QList<AcceptorAttemptFilterItem> attemptsFromText(const QString& text)
 {
     QList<AcceptorAttemptFilterItem> limits;
-    const QVariantList elements = JsonReader::read(text).toList();
+    const QVariantList elements = JsonReader::readList(text);
     for (const QVariant& element : elements) {
         const QVariantMap map = element.toMap();
         if (map.isEmpty())

@@ -171,9 +171,7 @@ QList<AcceptorStateItem> readDevices(const QString& text)
         devices.clear(); // of doubled keys the last one counts
         return json.isAtArray() ? json.readArray(readElement) : json.skipValue();
     };
-    const bool isJson = json.readDocument(
-        [&] { return json.isAtObject() ? json.readObject(readMember) : json.skipValue(); });
-    return isJson ? devices : QList<AcceptorStateItem>();
+    return json.readObject(readMember) && json.isAtEnd() ? devices : QList<AcceptorStateItem>();
 }
 
 QString statusPhrase(const QString& state)

@@ -52,7 +52,7 @@ bool DRouteMapItem::operator==(const DRouteMapItem& other) const
 QList<DRouteMapItem> DRouteMap::fromJson(const QString& json)
 {
     QList<DRouteMapItem> rows;
-    const QVariantList elements = JsonReader::read(json).toList();
+    const QVariantList elements = JsonReader::readList(json);
     for (const QVariant& element : elements) {
         DRouteMapItem row;
         if (row.fromMap(element.toMap(), nullptr))

@@ -3,44 +3,35 @@
 #include <QString>
 #include <QVariant>
 
-/// Reads JSON text without a document in between. It takes what Qt 5.15's parser takes, and numbers
-/// and escapes mean the same. Of doubled keys the last one counts; Qt's parser leaks then, and does
-/// not say which one counts. Every reading function returns false when the text is not as it must
+/// Reads JSON text without a document in between. It takes what Qt 5.15's parser takes, and means
+/// the same by it. Of doubled keys the last one counts; Qt's parser leaks then, and does not say
+/// which one counts. Every reading function returns false when the text is not as it must
 /// be; the reader is then of no further use.
 class JsonReader
 {
 public:
     /// @param text stays alive while the reader is used
-    explicit JsonReader(const QString& text);
-
-    /// The document as variant maps and lists; invalid when it is none.
-    static QVariant read(const QString& text);
-
-    /// Reads a document, whose only value is an object or an array, with @p readContent.
-    template <typename Read>
-    bool readDocument(Read readContent)
+    explicit JsonReader(const QString& text)
+        : m_next(text.constBegin() + (text.startsWith(QChar(QChar::ByteOrderMark)) ? 1 : 0))
+        , m_end(text.constEnd())
     {
         skipSpace();
-        if (!(isAtObject() || isAtArray()) || !readContent())
-            return false;
-        skipSpace();
-        return m_next == m_end;
     }
+
+    /// The elements of a document that is an array; empty for any other text.
+    static QVariantList readList(const QString& text);
 
     bool isAtObject() const { return current() == u'{'; }
     bool isAtArray() const { return current() == u'['; }
+    bool isAtEnd() const { return m_next == m_end; }
 
     /// Reads an object: @p readMember(key) reads the value of each member. The key is valid until
-    /// the next key is read.
+    /// then.
     template <typename Read>
     bool readObject(Read readMember)
     {
-        return readContainer(u'{', u'}', [&] {
-            if (!readString(m_key) || !skip(u':'))
-                return false;
-            skipSpace();
-            return readMember(m_key);
-        });
+        return readContainer(u'{', u'}',
+                             [&] { return readString(m_key) && skip(u':') && readMember(m_key); });
     }
 
     /// Reads an array: @p readElement() reads each element.
@@ -58,38 +49,40 @@ public:
     bool skipValue();
 
 private:
-    static constexpr int maximumDepth = 1024; // as Qt's
-
     template <typename Read>
     bool readContainer(ushort open, ushort close, Read readContent)
     {
-        if (!skip(open) || ++m_depth > maximumDepth)
+        if (!skip(open) || ++m_depth > 1024) // as deep as Qt reads
             return false;
-        if (!skip(close)) {
-            do {
-                skipSpace();
-                if (!readContent())
-                    return false;
-            } while (skip(u','));
-            if (!skip(close))
-                return false;
-        }
+        bool isSound = current() == close || readContent();
+        while (isSound && current() != close)
+            isSound = skip(u',') && readContent();
         --m_depth;
+        return isSound && skip(close);
+    }
+
+    ushort current() const { return isAtEnd() ? ushort(0) : m_next->unicode(); }
+
+    bool skip(ushort character)
+    {
+        if (current() != character)
+            return false;
+        ++m_next;
+        skipSpace();
         return true;
     }
 
-    ushort current() const { return m_next == m_end ? ushort(0) : m_next->unicode(); }
+    void skipSpace()
+    {
+        while (current() == u' ' || current() == u'\t' || current() == u'\n' || current() == u'\r')
+            ++m_next;
+    }
 
-    void skipSpace();
-    bool skip(ushort character);
-    bool readWord(QLatin1String word);
     bool readString(QString& string);
-    bool readEscape(QString& string);
-    bool readNumber(QVariant& value);
+    QVariant readWord(); // a number, true, false or null
 
-    const QChar* m_next;
+    const QChar* m_next; // never at the space between tokens
     const QChar* const m_end;
     int m_depth = 0;
     QString m_key;
-    QString m_dropped;
 };

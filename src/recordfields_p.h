@@ -140,9 +140,8 @@ public:
             return i == Size || m_fields[i].reading == UnreadField ? json.skipValue()
                                                                    : json.readValue(values[i]);
         };
-        const bool isJson = json.readDocument(
-            [&] { return json.isAtObject() ? json.readObject(readMember) : json.skipValue(); });
-        return isJson && read(record, nullptr, [&values](std::size_t i) {
+        return json.readObject(readMember) && json.isAtEnd()
+            && read(record, nullptr, [&values](std::size_t i) {
                    return values[i].isValid() ? &values[i] : nullptr;
                });
     }
