@@ -11,6 +11,9 @@
 #include <cstdio>
 #include <cstdlib>
 
+/// Registers the benchmarks of every record's maps.
+void measureRecords();
+
 /// Two roads must lead to the same before their times are compared.
 inline void mustBeEqual(bool equal, const char* what)
 {

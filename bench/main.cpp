@@ -1,11 +1,12 @@
-#include <QLoggingCategory>
+#include "benching.h"
 
-#include <benchmark/benchmark.h>
+#include <QLoggingCategory>
 
 int main(int argc, char** argv)
 {
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     benchmark::Initialize(&argc, argv);
+    measureRecords();
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -2,6 +2,11 @@
 
 #include "benching.h"
 #include "devicestateworker.h"
+#include "droutemapitem.h"
+#include "fieldsdescription.h"
+#include "statitem.h"
+
+#include <string>
 
 namespace {
 
@@ -53,17 +58,56 @@ bool plainFromMap(DeviceState& s, const QVariantMap& map)
     return true;
 }
 
-QVariantMap libraryToMap(const DeviceState& state)
+QVariantMap plainToMap(const BasicNoteItem& note)
 {
-    return state.toMap();
+    QVariantMap map;
+    map.insert(map.cend(), BasicNoteItem::BILL_TYPE, int(note.billType));
+    map.insert(map.cend(), BasicNoteItem::CURRENCY, note.currency);
+    map.insert(map.cend(), BasicNoteItem::DENOMINATION, note.denomination);
+    return map;
 }
 
-bool libraryFromMap(DeviceState& state, const QVariantMap& map)
+bool plainFromMap(BasicNoteItem& note, const QVariantMap& map)
 {
-    return state.fromMap(map);
+    note.currency = map.constFind(BasicNoteItem::CURRENCY)->toString();
+    note.denomination = map.constFind(BasicNoteItem::DENOMINATION)->toInt();
+    note.billType =
+        static_cast<Acceptors::billTypes>(map.constFind(BasicNoteItem::BILL_TYPE)->toInt());
+    return true;
 }
 
-QVariantMap plainRowToMap(const DispenserRegistryItem& row)
+QVariantMap plainToMap(const NoteItem& note)
+{
+    QVariantMap map;
+    map.insert(map.cend(), NoteItem::BILL_TYPE, int(note.billType));
+    map.insert(map.cend(), NoteItem::COUNT, note.count);
+    map.insert(map.cend(), NoteItem::CURRENCY, note.currency);
+    map.insert(map.cend(), NoteItem::DENOMINATION, note.denomination);
+    return map;
+}
+
+bool plainFromMap(NoteItem& note, const QVariantMap& map)
+{
+    plainFromMap(static_cast<BasicNoteItem&>(note), map);
+    note.count = map.constFind(NoteItem::COUNT)->toInt();
+    return true;
+}
+
+QVariantMap plainToMap(const DRouteMapItem& row)
+{
+    QVariantMap map = plainToMap(static_cast<const NoteItem&>(row));
+    map.insert(map.cend(), DRouteMapItem::ROUTE, int(row.route));
+    return map;
+}
+
+bool plainFromMap(DRouteMapItem& row, const QVariantMap& map)
+{
+    plainFromMap(static_cast<NoteItem&>(row), map);
+    row.route = static_cast<DRouteMapItem::Route>(map.constFind(DRouteMapItem::ROUTE)->toInt());
+    return true;
+}
+
+QVariantMap plainToMap(const DispenserRegistryItem& row)
 {
     using Row = DispenserRegistryItem;
     QVariantMap map;
@@ -78,37 +122,89 @@ QVariantMap plainRowToMap(const DispenserRegistryItem& row)
     return map;
 }
 
-QVariantMap libraryRowToMap(const DispenserRegistryItem& row)
+bool plainFromMap(DispenserRegistryItem& row, const QVariantMap& map)
 {
-    return row.toMap();
+    using Row = DispenserRegistryItem;
+    plainFromMap(static_cast<NoteItem&>(row), map);
+    row.threadId = static_cast<quint16>(map.constFind(Row::THREAD_ID)->toInt());
+    row.deviceId = static_cast<quint16>(map.constFind(Row::DEVICE_ID)->toInt());
+    row.channel = static_cast<quint16>(map.constFind(Row::CHANNEL)->toInt());
+    row.rejected = static_cast<quint16>(map.constFind(Row::REJECTED)->toInt());
+    return true;
 }
 
-template <auto ToMap>
-void toMap(benchmark::State& bench)
+QVariantMap plainToMap(const DevAndThreadItem& device)
 {
-    const DeviceState state = sampleState(0);
-    mustBeEqual(ToMap(state) == state.toMap(), "toMap");
-    for (auto _ : bench)
-        benchmark::DoNotOptimize(ToMap(state));
+    QVariantMap map;
+    map.insert(map.cend(), DevAndThreadItem::DEVICE_ID, int(device.deviceId));
+    map.insert(map.cend(), DevAndThreadItem::THREAD_ID, int(device.threadId));
+    return map;
 }
 
-template <auto FromMap>
-void fromMap(benchmark::State& bench)
+bool plainFromMap(DevAndThreadItem& device, const QVariantMap& map)
 {
-    const QVariantMap map = sampleState(0).toMap();
-    DeviceState state;
-    mustBeEqual(FromMap(state, map) && state == sampleState(0), "fromMap");
-    for (auto _ : bench)
-        benchmark::DoNotOptimize(FromMap(state, map));
+    device.deviceId = map.constFind(DevAndThreadItem::DEVICE_ID)->toInt();
+    device.threadId = static_cast<qint16>(map.constFind(DevAndThreadItem::THREAD_ID)->toInt());
+    return true;
 }
 
-template <auto ToMap>
-void rowToMap(benchmark::State& bench)
+QVariantMap plainToMap(const StatItem& stat)
 {
-    const DispenserRegistryItem row = sampleState(1).dispenserRegistry.constFirst();
-    mustBeEqual(ToMap(row) == row.toMap(), "row toMap");
-    for (auto _ : bench)
-        benchmark::DoNotOptimize(ToMap(row));
+    QVariantMap map;
+    map.insert(map.cend(), StatItem::DEVICE_ID, int(stat.deviceId));
+    map.insert(map.cend(), StatItem::NOTES_INSERTED, stat.notesInserted);
+    map.insert(map.cend(), StatItem::NOTES_REJECTED, stat.notesRejected);
+    map.insert(map.cend(), StatItem::NOTES_RETURNED, stat.notesReturned);
+    map.insert(map.cend(), StatItem::THREAD_ID, int(stat.threadId));
+    return map;
+}
+
+bool plainFromMap(StatItem& stat, const QVariantMap& map)
+{
+    plainFromMap(static_cast<DevAndThreadItem&>(stat), map);
+    stat.notesInserted = map.constFind(StatItem::NOTES_INSERTED)->toULongLong();
+    stat.notesRejected = map.constFind(StatItem::NOTES_REJECTED)->toULongLong();
+    stat.notesReturned = map.constFind(StatItem::NOTES_RETURNED)->toULongLong();
+    return true;
+}
+
+QVariantMap plainToMap(const FieldDescription& field)
+{
+    QVariantMap map;
+    map.insert(map.cend(), FieldDescription::F_DESC, field.desc);
+    map.insert(map.cend(), FieldDescription::F_NAME, field.name);
+    map.insert(map.cend(), FieldDescription::F_REGEXP, field.regexp);
+    map.insert(map.cend(), FieldDescription::F_TYPE, field.type);
+    return map;
+}
+
+bool plainFromMap(FieldDescription& field, const QVariantMap& map)
+{
+    field.name = map.constFind(FieldDescription::F_NAME)->toString();
+    field.desc = map.constFind(FieldDescription::F_DESC)->toString();
+    field.type = map.constFind(FieldDescription::F_TYPE)->toString();
+    field.regexp = map.constFind(FieldDescription::F_REGEXP)->toString();
+    return true;
+}
+
+template <typename Record>
+void measureMaps(const char* name, const Record& record)
+{
+    const QVariantMap map = record.toMap();
+    Record copy;
+    mustBeEqual(plainToMap(record) == map && plainFromMap(copy, map) && copy == record, name);
+
+    const auto add = [name](const char* work, auto run) {
+        benchmark::RegisterBenchmark((name + std::string(work)).c_str(),
+                                     [run](benchmark::State& bench) mutable {
+                                         for (auto _ : bench)
+                                             benchmark::DoNotOptimize(run());
+                                     });
+    };
+    add("_to_map/library", [record] { return record.toMap(); });
+    add("_to_map/plain", [record] { return plainToMap(record); });
+    add("_from_map/library", [map, copy]() mutable { return copy.fromMap(map); });
+    add("_from_map/plain", [map, copy]() mutable { return plainFromMap(copy, map); });
 }
 
 struct Plain
@@ -150,11 +246,25 @@ void comparePlain(benchmark::State& bench)
 
 } // namespace
 
-BENCHMARK(toMap<libraryToMap>)->Name("state_to_map/library");
-BENCHMARK(toMap<plainToMap>)->Name("state_to_map/plain");
-BENCHMARK(fromMap<libraryFromMap>)->Name("state_from_map/library");
-BENCHMARK(fromMap<plainFromMap>)->Name("state_from_map/plain");
-BENCHMARK(rowToMap<libraryRowToMap>)->Name("row_to_map/library");
-BENCHMARK(rowToMap<plainRowToMap>)->Name("row_to_map/plain");
 BENCHMARK(checkUnchanged)->Name("check_state/library");
 BENCHMARK(comparePlain)->Name("check_state/plain");
+
+void measureRecords()
+{
+    const DispenserRegistryItem row = sampleState(1).dispenserRegistry.constFirst();
+    StatItem stat;
+    stat.deviceId = 7;
+    stat.notesInserted = 12;
+    measureMaps("state", sampleState(0));
+    measureMaps("registry_row", row);
+    measureMaps("note_kind", BasicNoteItem(row));
+    measureMaps("note", NoteItem(row));
+    measureMaps(
+        "route",
+        DRouteMapItem(500, QStringLiteral("RUB"), Acceptors::Bill, DRouteMapItem::RouteDefault, 3));
+    measureMaps("device", DevAndThreadItem(stat));
+    measureMaps("statistics", stat);
+    measureMaps("field",
+                FieldDescription(QStringLiteral("name"), QStringLiteral("Name of the device"),
+                                 QStringLiteral("string"), QStringLiteral("^.+$")));
+}
