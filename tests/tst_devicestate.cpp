@@ -129,6 +129,9 @@ private Q_SLOTS:
         QStringList lines = QString::fromUtf8(values.readAll()).split(QLatin1Char('\n'));
         for (const QString& half : {QString(QChar(0xd800)), QString(QChar(0xdc00))})
             lines += {R"("a%1")"_s.arg(half), R"("\%1")"_s.arg(half), R"("\%1%1")"_s.arg(half)};
+        for (const int depth : {1023, 1024})
+            lines += "%1 %2"_s.arg("["_s.repeated(depth), "]"_s.repeated(depth));
+        lines += "[%1{}]"_s.arg("{},"_s.repeated(1024));
         for (const QString& line : qAsConst(lines)) {
             const QString text = line.startsWith(QLatin1Char('=')) ? line.mid(1) : state.arg(line);
             QJsonParseError error;

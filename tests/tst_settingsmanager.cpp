@@ -114,7 +114,7 @@ private Q_SLOTS:
         const QString mixed = "[7, %1, %2, []]"_s.arg(complete, lacking);
         QCOMPARE(DRouteMap::fromJson(mixed).size(), 1);
         QCOMPARE(DRouteMap::fromJson(mixed).at(0).denomination, 100);
-        for (const QString& text : {QString(), "["_s, complete})
+        for (const QString& text : {QString(), "["_s, complete, mixed + "x"_s})
             QVERIFY(DRouteMap::fromJson(text).isEmpty());
         QCOMPARE(DRouteMap::toJson({}), "[\n]\n"_s);
         QString error;
