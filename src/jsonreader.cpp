@@ -3,6 +3,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace {
 
 // A string, number or word as Qt has it; invalid when it is none. Qt knows best what the unusual
@@ -59,19 +61,18 @@ bool JsonReader::readString(QString& string)
     if (current() != u'"')
         return false;
     const QChar* const begin = ++m_next;
-    bool isPlain = current() != QChar::ByteOrderMark;
+    const auto isPlain = [](QChar c) { return c != u'"' && c != u'\\' && !c.isSurrogate(); };
+    m_next = std::find_if_not(begin, m_end, isPlain);
+    if (current() == u'"' && *begin != QChar(QChar::ByteOrderMark)) {
+        string.setUnicode(begin, static_cast<int>(m_next - begin));
+        return skip(u'"');
+    }
     for (; current() != u'"'; ++m_next) {
-        isPlain = isPlain && current() != u'\\' && !QChar::isSurrogate(current());
         if (isAtEnd() || (*m_next == u'\\' && ++m_next == m_end))
             return false;
     }
-    const QStringView content(begin, m_next);
-    skip(u'"');
-    if (isPlain) {
-        string.setUnicode(content.data(), static_cast<int>(content.size()));
-        return true;
-    }
-    const QVariant value = valueByQt({begin - 1, content.end() + 1});
+    const QVariant value = valueByQt({begin - 1, ++m_next});
+    skipSpace();
     string = value.toString();
     return value.isValid();
 }
