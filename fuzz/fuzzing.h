@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 #include <QString>
 #include <QVariant>
 
@@ -43,31 +44,33 @@ inline QVariant qtJson(const QByteArray& text, bool* isJson = nullptr)
     return document.toVariant();
 }
 
-/// Whether an object in JSON text has a key twice: which of the values Qt's parser then keeps
-/// depends on how its sorting goes, while the library keeps the last.
-inline bool hasDoubledKeys(JsonReader& json)
+/// Reads a value and sets @p doubled if an object in it has a key twice for Qt, to which keys are
+/// the same up to a NUL, and half a surrogate pair is the replacement character.
+inline bool readLookingForDoubledKeys(JsonReader& json, bool& doubled)
 {
-    bool doubled = false;
-    QStringList keys;
-    const auto look = [&] { return hasDoubledKeys(json) ? !(doubled = true) : true; };
-    if (json.isAtObject()) {
-        json.readObject([&](const QString& key) {
-            doubled = doubled || keys.contains(key);
-            keys.append(key);
-            return look();
-        });
-    } else if (json.isAtArray()) {
-        json.readArray(look);
-    } else {
-        json.skipValue();
-    }
-    return doubled;
+    QSet<QByteArray> keys;
+    const auto readElement = [&] { return readLookingForDoubledKeys(json, doubled); };
+    const auto readMember = [&](const QString& key) {
+        const QString compared =
+            key.left(key.indexOf(QChar(0))).replace(QChar(0xfffd), QChar(u'?'));
+        const auto count = keys.size();
+        keys.insert(compared.toUtf8());
+        doubled = doubled || keys.size() == count;
+        return readElement();
+    };
+    if (json.isAtObject())
+        return json.readObject(readMember);
+    return json.isAtArray() ? json.readArray(readElement) : json.skipValue();
 }
 
+/// Whether JSON text has a doubled key: which of the values Qt's parser then keeps depends on how
+/// its sorting goes, while the library keeps the last.
 inline bool hasDoubledKeys(const QString& text)
 {
     JsonReader json(text);
-    return hasDoubledKeys(json);
+    bool doubled = false;
+    readLookingForDoubledKeys(json, doubled);
+    return doubled;
 }
 
 /// The input as bytes that a target takes apart; what is used up reads as 0.

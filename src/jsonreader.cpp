@@ -67,7 +67,7 @@ bool JsonReader::readString(QString& string)
         string.setUnicode(begin, static_cast<int>(m_next - begin));
         return skip(u'"');
     }
-    for (; current() != u'"'; ++m_next) {
+    for (; current() != u'"'; ++m_next) { // to the quote; an escaped one is stepped over
         if (isAtEnd() || (*m_next == u'\\' && ++m_next == m_end))
             return false;
     }

@@ -129,7 +129,8 @@ public:
         json.endObject();
     }
 
-    /// Reads JSON text as fromMap() reads the map that it stands for.
+    /// Reads JSON text as fromMap() reads the map that it stands for. A text that is no object has
+    /// none, and nothing is read.
     bool parse(const QString& text, Record& record) const
     {
         std::array<QVariant, Size> values;
