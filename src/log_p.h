@@ -3,9 +3,9 @@
 #include <QDebug>
 #include <QLoggingCategory>
 
-/// Whether debug messages are wanted: asking costs nothing, while qDebug() puts a message together
-/// before it finds out.
-inline bool logsDebug()
+/// The category of qDebug(). With qCDebug() a message that is not wanted costs nothing, while
+/// qDebug() puts it together before it finds out.
+inline const QLoggingCategory& defaultLog()
 {
-    return QLoggingCategory::defaultCategory()->isDebugEnabled();
+    return *QLoggingCategory::defaultCategory();
 }

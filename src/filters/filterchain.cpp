@@ -4,29 +4,26 @@
 
 FilterChain::FilterChain()
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Creating filter chain");
+    qCDebug(defaultLog).noquote() << QStringLiteral("Creating filter chain");
 }
 
 FilterChain::~FilterChain()
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Deleting filter chain");
+    qCDebug(defaultLog).noquote() << QStringLiteral("Deleting filter chain");
     clear();
 }
 
 FilterChain* FilterChain::setEvents(StatesList* source)
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Setting events source for the chain");
+    qCDebug(defaultLog).noquote() << QStringLiteral("Setting events source for the chain");
     m_events = source;
     return this;
 }
 
 FilterChain* FilterChain::add(PAbstractFilter filter)
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Append to chain: %1").arg(filter->getFilterName());
+    qCDebug(defaultLog).noquote()
+        << QStringLiteral("Append to chain: %1").arg(filter->getFilterName());
     filter->setEvents(m_events);
     m_filters.append(filter);
     return this;
@@ -41,9 +38,8 @@ AbstractFilter::FilterResult FilterChain::validate()
     for (AbstractFilter* const filter : filters) {
         const AbstractFilter::FilterResult result = filter->validate();
         if (result != AbstractFilter::FILTER_ACCEPT) {
-            if (logsDebug())
-                qDebug().noquote()
-                    << QStringLiteral("Reject raised by %1").arg(filter->getFilterName());
+            qCDebug(defaultLog).noquote()
+                << QStringLiteral("Reject raised by %1").arg(filter->getFilterName());
             return result;
         }
     }
@@ -52,8 +48,7 @@ AbstractFilter::FilterResult FilterChain::validate()
 
 FilterChain* FilterChain::clear()
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Clearing chain");
+    qCDebug(defaultLog).noquote() << QStringLiteral("Clearing chain");
     qDeleteAll(m_filters);
     m_filters.clear();
     return this;
