@@ -10,15 +10,19 @@ const QString StatItem::NOTES_RETURNED = QStringLiteral("notes_returned");
 
 namespace {
 
+const auto& counterFields()
+{
+    static const std::array fields{
+        recordField<StatItem, &StatItem::notesInserted>(StatItem::NOTES_INSERTED),
+        recordField<StatItem, &StatItem::notesRejected>(StatItem::NOTES_REJECTED),
+        recordField<StatItem, &StatItem::notesReturned>(StatItem::NOTES_RETURNED),
+    };
+    return fields;
+}
+
 const auto& table()
 {
-    static const RecordTable table(
-        joined(devAndThreadFields<StatItem>(),
-               std::array{
-                   recordField<StatItem, &StatItem::notesInserted>(StatItem::NOTES_INSERTED),
-                   recordField<StatItem, &StatItem::notesRejected>(StatItem::NOTES_REJECTED),
-                   recordField<StatItem, &StatItem::notesReturned>(StatItem::NOTES_RETURNED),
-               }));
+    static const RecordTable table(joined(devAndThreadFields<StatItem>(), counterFields()));
     return table;
 }
 
@@ -36,9 +40,8 @@ bool StatItem::fromMap(const QVariantMap& map, QString* error)
 
 void StatItem::addToMap(QVariantMap& map) const
 {
-    map.insert(NOTES_INSERTED, notesInserted);
-    map.insert(NOTES_REJECTED, notesRejected);
-    map.insert(NOTES_RETURNED, notesReturned);
+    for (const RecordField<StatItem>& counter : counterFields())
+        map.insert(*counter.key, counter.get(*this));
 }
 
 bool StatItem::eqDev(const StatItem& other) const
