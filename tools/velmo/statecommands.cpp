@@ -15,6 +15,17 @@
 
 namespace {
 
+// Does what may find fault with the contents of a file, and names the file then.
+template <typename Work>
+auto inFile(const TextFile& file, Work work)
+{
+    try {
+        return work();
+    } catch (const Fault& fault) {
+        throw Fault{QStringLiteral("%1: %2").arg(file.name(), fault.message)};
+    }
+}
+
 QJsonObject readObject(TextFile& file)
 {
     const QJsonDocument document = file.parseJson(file.readAll(), 1);
@@ -107,11 +118,7 @@ int reportCommand(const QStringList& arguments)
     if (parser.positionalArguments().at(1) == QLatin1String("-"))
         return processJsonLines(file, parser.isSet(keepGoing), toText);
     const QJsonObject published = readObject(file);
-    try {
-        print(QString::fromUtf8(toText(published)));
-    } catch (const Fault& fault) {
-        throw Fault{QStringLiteral("%1: %2").arg(file.name(), fault.message)};
-    }
+    print(QString::fromUtf8(inFile(file, [&] { return toText(published); })));
     return exitSuccess;
 }
 
@@ -134,13 +141,9 @@ int stateCommand(const QStringList& arguments)
         throw Fault{QStringLiteral("usage: velmo state STATE.json [--map]")};
     TextFile file(parser.positionalArguments().at(1));
     const QJsonObject object = readObject(file);
-    try {
-        const DeviceState state = checkedState(object);
-        const QJsonDocument document(QJsonObject::fromVariantMap(state.toMap()));
-        print(parser.isSet(map) ? QString::fromUtf8(document.toJson())
-                                : state.serialize() + QLatin1Char('\n'));
-    } catch (const Fault& fault) {
-        throw Fault{QStringLiteral("%1: %2").arg(file.name(), fault.message)};
-    }
+    const DeviceState state = inFile(file, [&] { return checkedState(object); });
+    const QJsonDocument document(QJsonObject::fromVariantMap(state.toMap()));
+    print(parser.isSet(map) ? QString::fromUtf8(document.toJson())
+                            : state.serialize() + QLatin1Char('\n'));
     return exitSuccess;
 }
