@@ -138,15 +138,16 @@ int filtersCommand(const QStringList& arguments)
     }
     if (names.isEmpty())
         names = known;
-    QJsonArray objects;
-    QStringList blocks;
-    for (const QString& name : std::as_const(names)) {
-        objects.append(filterObject(name));
-        blocks.append(filterText(name));
-    }
-    if (parser.isSet(jsonOption()))
+    if (parser.isSet(jsonOption())) {
+        QJsonArray objects;
+        for (const QString& name : std::as_const(names))
+            objects.append(filterObject(name));
         printJson(objects);
-    else
-        print(blocks.join(QLatin1Char('\n')));
+        return exitSuccess;
+    }
+    QStringList blocks;
+    for (const QString& name : std::as_const(names))
+        blocks.append(filterText(name));
+    print(blocks.join(QLatin1Char('\n')));
     return exitSuccess;
 }
