@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 . scripts/packages.sh
 
 require_packages "${build_packages[@]}" abigail-tools xz-utils
-[ -f build/release/build.ninja ] || cmake --preset release
+cmake --preset release
 cmake --build --preset release --target velmolib
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
