@@ -4,7 +4,8 @@
 
 AbstractFilter::FilterResult AcceptFilter::validate()
 {
-    qCDebug(defaultLog).noquote() << QStringLiteral("Accept filter");
+    if (logsDebug())
+        qDebug().noquote() << QStringLiteral("Accept filter");
     return m_acceptAll ? FILTER_ACCEPT : FILTER_REJECT;
 }
 

@@ -4,26 +4,29 @@
 
 FilterChain::FilterChain()
 {
-    qCDebug(defaultLog).noquote() << QStringLiteral("Creating filter chain");
+    if (logsDebug())
+        qDebug().noquote() << QStringLiteral("Creating filter chain");
 }
 
 FilterChain::~FilterChain()
 {
-    qCDebug(defaultLog).noquote() << QStringLiteral("Deleting filter chain");
+    if (logsDebug())
+        qDebug().noquote() << QStringLiteral("Deleting filter chain");
     clear();
 }
 
 FilterChain* FilterChain::setEvents(StatesList* source)
 {
-    qCDebug(defaultLog).noquote() << QStringLiteral("Setting events source for the chain");
+    if (logsDebug())
+        qDebug().noquote() << QStringLiteral("Setting events source for the chain");
     m_events = source;
     return this;
 }
 
 FilterChain* FilterChain::add(PAbstractFilter filter)
 {
-    qCDebug(defaultLog).noquote()
-        << QStringLiteral("Append to chain: %1").arg(filter->getFilterName());
+    if (logsDebug())
+        qDebug().noquote() << QStringLiteral("Append to chain: %1").arg(filter->getFilterName());
     filter->setEvents(m_events);
     m_filters.append(filter);
     return this;
@@ -38,8 +41,9 @@ AbstractFilter::FilterResult FilterChain::validate()
     for (AbstractFilter* const filter : filters) {
         const AbstractFilter::FilterResult result = filter->validate();
         if (result != AbstractFilter::FILTER_ACCEPT) {
-            qCDebug(defaultLog).noquote()
-                << QStringLiteral("Reject raised by %1").arg(filter->getFilterName());
+            if (logsDebug())
+                qDebug().noquote()
+                    << QStringLiteral("Reject raised by %1").arg(filter->getFilterName());
             return result;
         }
     }
@@ -48,7 +52,8 @@ AbstractFilter::FilterResult FilterChain::validate()
 
 FilterChain* FilterChain::clear()
 {
-    qCDebug(defaultLog).noquote() << QStringLiteral("Clearing chain");
+    if (logsDebug())
+        qDebug().noquote() << QStringLiteral("Clearing chain");
     qDeleteAll(m_filters);
     m_filters.clear();
     return this;

@@ -233,7 +233,8 @@ QVariant SettingsManager::getDefault(QString group, QString param) const
 
 bool SettingsManager::load(const quorbus::ClientSettings& settings)
 {
-    qCDebug(defaultLog).noquote() << QStringLiteral("Parsing settings list...");
+    if (logsDebug())
+        qDebug().noquote() << QStringLiteral("Parsing settings list...");
     clear();
     const QList<QVariant> list = settings.settings();
     for (const QVariant& element : list) {
@@ -241,8 +242,9 @@ bool SettingsManager::load(const quorbus::ClientSettings& settings)
         const SettingsItem* const item =
             addItem(map.value(SettingsList::groupKey).toString(),
                     map.value(SettingsList::nameKey).toString(), map.value(SettingsList::valueKey));
-        qCDebug(defaultLog).noquote() << QStringLiteral("Added [%1/%2 = %3]")
-                                             .arg(item->group, item->name, item->value.toString());
+        if (logsDebug())
+            qDebug().noquote() << QStringLiteral("Added [%1/%2 = %3]")
+                                      .arg(item->group, item->name, item->value.toString());
     }
     loaded = true;
     return true;
