@@ -8,19 +8,22 @@
 #include "settingscheck.h"
 #include "settingsedit.h"
 
-#include <QTemporaryFile>
+#include <QBuffer>
 
 namespace {
 
-QString fileOf(QTemporaryFile& file, const QByteArray& text)
+ArrayFile arrayFile(const QByteArray& text, const char* name)
 {
-    CHECK(file.open() && file.resize(0) && file.write(text) == text.size() && file.flush());
-    return file.fileName();
+    auto device = std::make_unique<QBuffer>();
+    device->setData(text);
+    CHECK(device->open(QIODevice::ReadOnly));
+    TextInput input(std::move(device), QLatin1String(name));
+    return {input, QLatin1String(name)};
 }
 
-void checkSession(const QByteArray& text, const QString& filtersFile)
+void checkSession(const QByteArray& text, const ArrayFile& filters)
 {
-    Replay replay(loadFilters, filtersFile);
+    Replay replay(loadFilters, filters);
     for (const QByteArray& line : text.split('\n')) {
         try {
             const QJsonObject object = QJsonDocument::fromJson(line).object();
@@ -43,10 +46,9 @@ void checkSession(const QByteArray& text, const QString& filtersFile)
     }
 }
 
-void checkSettings(const QString& fileName)
+void checkSettings(const ArrayFile& file)
 {
     try {
-        const ArrayFile file(fileName, QStringLiteral("settings"));
         checkSettings(file);
         const QJsonArray edited = editSettings(file.elements(), {});
         CHECK(edited == file.elements());
@@ -61,30 +63,25 @@ void checkSettings(const QString& fileName)
 
 } // namespace
 
-void printError(const QString& /*message*/) { }
-
 // Bytes before the first zero are a filters file, then a settings file, then a session.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     silenceLog();
     const QByteArray input(reinterpret_cast<const char*>(data), static_cast<int>(size));
     const QList<QByteArray> parts = input.split('\0');
-    static QTemporaryFile filtersFile;
-    static QTemporaryFile settingsFile;
-    const QString filters = fileOf(filtersFile, parts.value(0));
-    const QString settings = fileOf(settingsFile, parts.value(1));
     try {
-        checkSession(parts.value(2), filters);
+        checkSession(parts.value(2), arrayFile(parts.value(0), "filters"));
     } catch (const Fault& fault) {
-        CHECK(fault.message.startsWith(filters));
+        CHECK(fault.message.startsWith(QLatin1String("filters")));
     }
     try {
+        const ArrayFile settings = arrayFile(parts.value(1), "settings");
+        checkSettings(settings);
         FilterChain chain;
         filtersOfSettings(settings, chain);
     } catch (const Fault& fault) {
-        CHECK(fault.message.startsWith(settings));
+        CHECK(fault.message.startsWith(QLatin1String("settings")));
     }
-    checkSettings(settings);
     AcceptorSettings().setList({});
     return 0;
 }

@@ -1,25 +1,16 @@
-#include "cataloguecommands.h"
+#include "commands.h"
 
 #include "acceptors.h"
-#include "commandline.h"
-#include "fault.h"
 #include "filterfactory.h"
+#include "options.h"
 #include "output.h"
 #include "table.h"
 
-#include <QCommandLineParser>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 namespace {
-
-const QCommandLineOption& jsonOption()
-{
-    static const QCommandLineOption option(QStringLiteral("json"),
-                                           QStringLiteral("Print a JSON array."));
-    return option;
-}
 
 void printJson(const QJsonArray& array)
 {
@@ -92,18 +83,9 @@ QString filterText(const QString& name)
 
 } // namespace
 
-int devicesCommand(const QStringList& arguments)
+int devicesCommand(const Arguments& arguments)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("The device models that the service can drive."));
-    parser.addPositionalArgument(QStringLiteral("devices"), QString(), QStringLiteral("devices"));
-    parser.addOption(jsonOption());
-    if (!parseArguments(parser, arguments))
-        return exitSuccess;
-    if (parser.positionalArguments().size() != 1)
-        throw Fault{QStringLiteral("usage: velmo devices [--json]")};
-    if (parser.isSet(jsonOption())) {
+    if (arguments.isSet(options::json)) {
         printJson(QJsonArray::fromVariantList(Acceptors::SupportedDevicesAsVariantList()));
         return exitSuccess;
     }
@@ -117,20 +99,9 @@ int devicesCommand(const QStringList& arguments)
     return exitSuccess;
 }
 
-int filtersCommand(const QStringList& arguments)
+int filtersCommand(const Arguments& arguments)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "The note filters: what each does, and its parameters with the pattern of a valid value."));
-    parser.addPositionalArgument(QStringLiteral("filters"), QString(), QStringLiteral("filters"));
-    parser.addPositionalArgument(QStringLiteral("NAME"), QStringLiteral("Only this filter."),
-                                 QStringLiteral("[NAME]"));
-    parser.addOption(jsonOption());
-    if (!parseArguments(parser, arguments))
-        return exitSuccess;
-    QStringList names = parser.positionalArguments().mid(1);
-    if (names.size() > 1)
-        throw Fault{QStringLiteral("usage: velmo filters [NAME] [--json]")};
+    QStringList names = arguments.operands();
     const QStringList known = FilterFactory::getFilters();
     if (!names.isEmpty() && !known.contains(names.constFirst())) {
         throw Fault{QStringLiteral("unknown filter \"%1\" (known: %2)")
@@ -138,7 +109,7 @@ int filtersCommand(const QStringList& arguments)
     }
     if (names.isEmpty())
         names = known;
-    if (parser.isSet(jsonOption())) {
+    if (arguments.isSet(options::json)) {
         QJsonArray objects;
         for (const QString& name : std::as_const(names))
             objects.append(filterObject(name));

@@ -1,5 +1,6 @@
 #include "jsonlines.h"
 
+#include "command.h"
 #include "output.h"
 
 #include <QElapsedTimer>
@@ -40,7 +41,7 @@ private:
     QElapsedTimer m_sinceShown;
 };
 
-QByteArray processLine(const TextFile& file, const QByteArray& text,
+QByteArray processLine(const TextInput& file, const QByteArray& text,
                        const std::function<QByteArray(const QJsonObject& line)>& toText)
 {
     const QJsonDocument document = file.parseJson(text, file.lineNumber());
@@ -55,13 +56,7 @@ QByteArray processLine(const TextFile& file, const QByteArray& text,
 
 } // namespace
 
-QCommandLineOption keepGoingOption()
-{
-    return {QStringLiteral("keep-going"),
-            QStringLiteral("Skip bad lines and count them; the exit code is still 2.")};
-}
-
-int processJsonLines(TextFile& file, bool keepGoing,
+int processJsonLines(TextInput& file, bool keepGoing,
                      const std::function<QByteArray(const QJsonObject& line)>& toText)
 {
     Output output;

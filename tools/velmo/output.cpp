@@ -2,6 +2,7 @@
 
 #include "fault.h"
 
+#include <cstdio>
 #include <unistd.h>
 
 namespace {
@@ -36,4 +37,15 @@ void print(const QString& text)
     Output output;
     output.write(text.toUtf8());
     output.flush();
+}
+
+void printError(const QString& message)
+{
+    QString line = QStringLiteral("velmo: ");
+    for (const QChar c : message) {
+        const bool printable = c.unicode() >= ' ' && c.unicode() != 0x7f;
+        line += printable ? QString(c)
+                          : QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
+    }
+    fprintf(stderr, "%s\n", qUtf8Printable(line));
 }

@@ -18,3 +18,6 @@ private:
 
 /// Writes a whole text to standard output.
 void print(const QString& text);
+
+/// Writes "velmo: <message>" to standard error as one line, control characters as \uXXXX.
+void printError(const QString& message);

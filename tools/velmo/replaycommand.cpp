@@ -1,68 +1,13 @@
-#include "replaycommand.h"
-
-#include "commandline.h"
+#include "commands.h"
 #include "filtersfile.h"
+#include "inputfile.h"
 #include "jsonlines.h"
+#include "options.h"
 #include "replay.h"
 
-#include <QCommandLineParser>
 #include <QJsonDocument>
 
-#include <optional>
-
 namespace {
-
-struct Options
-{
-    QString sessionFile;
-    Replay::FilterSource filterSource;
-    QString filtersFile;
-    bool json = false;
-    bool keepGoing = false;
-};
-
-// Nothing when only help was wanted.
-std::optional<Options> parseOptions(const QStringList& arguments)
-{
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Plays what a device reported through the worker, the note filters and the "
-                       "published state, and shows for every line what came of it."));
-    parser.addPositionalArgument(QStringLiteral("replay"), QString(), QStringLiteral("replay"));
-    parser.addPositionalArgument(
-        QStringLiteral("SESSION.jsonl"),
-        QStringLiteral("One JSON object a line with the reported fields; {\"session\":\"start\"} "
-                       "begins a session. \"-\" reads standard input."));
-    const QCommandLineOption filters(
-        QStringLiteral("filters"),
-        QStringLiteral("The note filters: [{\"name\":\"AttemptsFilter\",\"params\":"
-                       "{\"denom\":1000,\"attempts\":2}}, ...]"),
-        QStringLiteral("FILTERS.json"));
-    const QCommandLineOption settings(
-        QStringLiteral("settings"),
-        QStringLiteral("In place of --filters: the filters that the service's settings imply."),
-        QStringLiteral("SETTINGS.json"));
-    const QCommandLineOption json(QStringLiteral("json"),
-                                  QStringLiteral("Print one JSON object for every line."));
-    const QCommandLineOption keepGoing = keepGoingOption();
-    parser.addOptions({filters, settings, json, keepGoing});
-
-    if (!parseArguments(parser, arguments))
-        return std::nullopt;
-    if (parser.positionalArguments().size() != 2
-        || parser.isSet(filters) == parser.isSet(settings)) {
-        throw Fault{QStringLiteral("usage: velmo replay SESSION.jsonl "
-                                   "(--filters FILTERS.json | --settings SETTINGS.json)")};
-    }
-    const bool ofSettings = parser.isSet(settings);
-    const Options options{
-        parser.positionalArguments().at(1), ofSettings ? filtersOfSettings : loadFilters,
-        parser.value(ofSettings ? settings : filters), parser.isSet(json), parser.isSet(keepGoing)};
-    const QLatin1String standardInput("-");
-    if (options.sessionFile == standardInput && options.filtersFile == standardInput)
-        throw Fault{QStringLiteral("session and filters cannot both come from standard input")};
-    return options;
-}
 
 QString verdictText(AbstractFilter::FilterResult verdict)
 {
@@ -138,25 +83,32 @@ QByteArray tableLine(qint64 lineNumber, const ReplayStep& step)
     return (step.startsSession ? QByteArrayLiteral("-- session --\n") : QByteArray()) + row;
 }
 
-int replay(const Options& options)
-{
-    Replay replay(options.filterSource, options.filtersFile);
-    TextFile session(options.sessionFile);
-    bool headWritten = options.json;
-    return processJsonLines(session, options.keepGoing, [&](const QJsonObject& line) {
-        const ReplayStep step = replay.take(SessionLine(line));
-        const QByteArray head = headWritten ? QByteArray() : tableHead();
-        headWritten = true;
-        return head
-            + (options.json ? jsonLine(session.lineNumber(), step)
-                            : tableLine(session.lineNumber(), step));
-    });
-}
-
 } // namespace
 
-int replayCommand(const QStringList& arguments)
+int replayCommand(const Arguments& arguments)
 {
-    const std::optional<Options> options = parseOptions(arguments);
-    return options ? replay(*options) : exitSuccess;
+    const bool ofSettings = arguments.isSet(options::settings);
+    if (ofSettings == arguments.isSet(options::filters))
+        throw arguments.usageFault();
+    const QString sessionName = arguments.operands().constFirst();
+    const QString filtersName = arguments.value(ofSettings ? options::settings : options::filters);
+    if (sessionName == filtersName && sessionName == QLatin1String("-"))
+        throw Fault{Velmo::tr("session and filters cannot both come from standard input")};
+
+    TextInput filtersText = openInput(filtersName);
+    const ArrayFile filters(filtersText,
+                            ofSettings ? QStringLiteral("settings") : QStringLiteral("filters"));
+    Replay replay(ofSettings ? filtersOfSettings : loadFilters, filters);
+    TextInput session = openInput(sessionName);
+    const bool json = arguments.isSet(options::json);
+    bool headWritten = json;
+    return processJsonLines(session, arguments.isSet(options::keepGoing),
+                            [&](const QJsonObject& line) {
+                                const ReplayStep step = replay.take(SessionLine(line));
+                                const QByteArray head = headWritten ? QByteArray() : tableHead();
+                                headWritten = true;
+                                return head
+                                    + (json ? jsonLine(session.lineNumber(), step)
+                                            : tableLine(session.lineNumber(), step));
+                            });
 }

@@ -1,15 +1,13 @@
-#include "statecommands.h"
+#include "commands.h"
 
 #include "acceptorstate.h"
-#include "commandline.h"
 #include "devicestate.h"
-#include "fault.h"
+#include "inputfile.h"
 #include "jsonlines.h"
+#include "options.h"
 #include "output.h"
 #include "sessionline.h"
-#include "textfile.h"
 
-#include <QCommandLineParser>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -17,7 +15,7 @@ namespace {
 
 // Does what may find fault with the contents of a file, and names the file then.
 template <typename Work>
-auto inFile(const TextFile& file, Work work)
+auto inFile(const TextInput& file, Work work)
 {
     try {
         return work();
@@ -26,7 +24,7 @@ auto inFile(const TextFile& file, Work work)
     }
 }
 
-QJsonObject readObject(TextFile& file)
+QJsonObject readObject(TextInput& file)
 {
     const QJsonDocument document = file.parseJson(file.readAll(), 1);
     if (!document.isObject())
@@ -37,7 +35,7 @@ QJsonObject readObject(TextFile& file)
 // Display names by device identifier: {"1": "Validator"}.
 QMap<int, QString> readNames(const QString& fileName)
 {
-    TextFile file(fileName);
+    TextInput file = openInput(fileName);
     const QJsonObject object = readObject(file);
     QMap<int, QString> names;
     for (auto entry = object.begin(); entry != object.end(); ++entry) {
@@ -82,68 +80,31 @@ DeviceState checkedState(const QJsonObject& object)
 
 } // namespace
 
-int reportCommand(const QStringList& arguments)
+int reportCommand(const Arguments& arguments)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "What the customer is told, whether money may be accepted, and the service report, for a "
-        "published service state {\"device_states\": [...]}."));
-    parser.addPositionalArgument(QStringLiteral("report"), QString(), QStringLiteral("report"));
-    parser.addPositionalArgument(
-        QStringLiteral("STATE.json"),
-        QStringLiteral("One state; \"-\" reads standard input, one state a line."));
-    const QCommandLineOption namesFile(
-        QStringLiteral("names"),
-        QStringLiteral("Display names by device identifier: {\"1\": \"Validator\"}."),
-        QStringLiteral("NAMES.json"));
-    const QCommandLineOption watch(QStringLiteral("watch"),
-                                   QStringLiteral("Clear the terminal before every state."));
-    const QCommandLineOption keepGoing = keepGoingOption();
-    parser.addOptions({namesFile, watch, keepGoing});
-    if (!parseArguments(parser, arguments))
-        return exitSuccess;
-    if (parser.positionalArguments().size() != 2) {
-        throw Fault{QStringLiteral(
-            "usage: velmo report STATE.json|- [--names NAMES.json] [--watch] [--keep-going]")};
-    }
-
     QMap<int, QString> names;
-    if (parser.isSet(namesFile))
-        names = readNames(parser.value(namesFile));
-    TextFile file(parser.positionalArguments().at(1));
-    const QByteArray before = parser.isSet(watch) ? "\033[2J\033[H" : "";
+    if (arguments.isSet(options::names))
+        names = readNames(arguments.value(options::names));
+    const QString fileName = arguments.operands().constFirst();
+    TextInput file = openInput(fileName);
+    const QByteArray before = arguments.isSet(options::watch) ? "\033[2J\033[H" : "";
     const auto toText = [&](const QJsonObject& published) {
         return before + report(published, names);
     };
-    if (parser.positionalArguments().at(1) == QLatin1String("-"))
-        return processJsonLines(file, parser.isSet(keepGoing), toText);
+    if (fileName == QLatin1String("-"))
+        return processJsonLines(file, arguments.isSet(options::keepGoing), toText);
     const QJsonObject published = readObject(file);
     print(QString::fromUtf8(inFile(file, [&] { return toText(published); })));
     return exitSuccess;
 }
 
-int stateCommand(const QStringList& arguments)
+int stateCommand(const Arguments& arguments)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Checks a device state, every key and value of it, and writes it as the "
-                       "compact text that the service sends."));
-    parser.addPositionalArgument(QStringLiteral("state"), QString(), QStringLiteral("state"));
-    parser.addPositionalArgument(
-        QStringLiteral("STATE.json"),
-        QStringLiteral("The state in either form; \"-\" reads standard input."));
-    const QCommandLineOption map(QStringLiteral("map"),
-                                 QStringLiteral("Write it as an indented map."));
-    parser.addOption(map);
-    if (!parseArguments(parser, arguments))
-        return exitSuccess;
-    if (parser.positionalArguments().size() != 2)
-        throw Fault{QStringLiteral("usage: velmo state STATE.json [--map]")};
-    TextFile file(parser.positionalArguments().at(1));
+    TextInput file = openInput(arguments.operands().constFirst());
     const QJsonObject object = readObject(file);
     const DeviceState state = inFile(file, [&] { return checkedState(object); });
     const QJsonDocument document(QJsonObject::fromVariantMap(state.toMap()));
-    print(parser.isSet(map) ? QString::fromUtf8(document.toJson())
-                            : state.serialize() + QLatin1Char('\n'));
+    print(arguments.isSet(options::map) ? QString::fromUtf8(document.toJson())
+                                        : state.serialize() + QLatin1Char('\n'));
     return exitSuccess;
 }

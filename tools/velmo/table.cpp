@@ -34,3 +34,35 @@ QString formatTable(const QStringList& head, const QList<QStringList>& rows)
         addLine(row);
     return table;
 }
+
+QString formatList(const QList<QStringList>& rows)
+{
+    int width = 0;
+    for (const QStringList& row : rows)
+        width = qMax(width, int(row.constFirst().size()));
+    QString list;
+    for (const QStringList& row : rows) {
+        const QString name = row.constFirst().leftJustified(width);
+        list += wrapped(QStringLiteral("  %1  ").arg(name) + row.constLast(), width + 4);
+    }
+    return list;
+}
+
+QString wrapped(const QString& text, int indent)
+{
+    constexpr int pageWidth = 80;
+    QString result;
+    int column = 0;
+    const QStringList words = text.split(QLatin1Char(' '));
+    for (const QString& word : words) {
+        const bool isFirst = column == 0;
+        if (column > indent && column + 1 + word.size() > pageWidth) {
+            result += QLatin1Char('\n') + QString(indent, QLatin1Char(' ')) + word;
+            column = indent + int(word.size());
+        } else {
+            result += (isFirst ? QString() : QStringLiteral(" ")) + word;
+            column += int(word.size()) + 1;
+        }
+    }
+    return result + QLatin1Char('\n');
+}

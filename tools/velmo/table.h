@@ -6,3 +6,9 @@
 /// Rows of text as a table with columns as wide as needed.
 /// @param head the columns' headings; one that begins with ">" is of numbers and aligned right
 QString formatTable(const QStringList& head, const QList<QStringList>& rows);
+
+/// Rows of a name and what it means, the meanings side by side and broken at the width of a page.
+QString formatList(const QList<QStringList>& rows);
+
+/// A text broken at the width of a page, every line but the first one indented.
+QString wrapped(const QString& text, int indent = 0);

@@ -4,15 +4,13 @@
 #include "acceptorsettings.h"
 #include "droutemapitem.h"
 #include "fault.h"
+#include "nearest.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QStringList>
-#include <QVector>
 
 #include <algorithm>
-#include <climits>
-#include <numeric>
 
 namespace {
 
@@ -178,23 +176,6 @@ const struct
     {QStringLiteral("device#/hw_interface"), S::PORT_STOPBIT, stopBits, true},
 };
 
-// Levenshtein's distance: the least number of characters to insert, remove or replace.
-int editDistance(const QString& a, const QString& b)
-{
-    QVector<int> row(b.size() + 1);
-    std::iota(row.begin(), row.end(), 0);
-    for (int i = 0; i < a.size(); ++i) {
-        int diagonal = row.at(0);
-        row[0] = i + 1;
-        for (int j = 0; j < b.size(); ++j) {
-            const int replaced = diagonal + (a.at(i) == b.at(j) ? 0 : 1);
-            diagonal = row.at(j + 1);
-            row[j + 1] = std::min({replaced, row.at(j) + 1, diagonal + 1});
-        }
-    }
-    return row.constLast();
-}
-
 } // namespace
 
 std::optional<DeviceGroup> deviceGroup(const QString& group)
@@ -242,16 +223,9 @@ QString nearestKnownPath(const QString& path)
 {
     const std::optional<DeviceGroup> device = deviceGroup(path);
     const QString number = QString::number(device ? device->device : 0);
-    QString nearest;
-    int least = INT_MAX;
-    for (const auto& setting : known) {
-        QString candidate = setting.group + QLatin1Char('/') + setting.key;
-        candidate.replace(QLatin1Char('#'), number);
-        const int distance = editDistance(path, candidate);
-        if (distance < least) {
-            least = distance;
-            nearest = candidate;
-        }
-    }
-    return nearest;
+    QStringList paths;
+    for (const auto& setting : known)
+        paths += QString(setting.group + QLatin1Char('/') + setting.key)
+                     .replace(QLatin1Char('#'), number);
+    return nearest(path, paths);
 }

@@ -1,7 +1,5 @@
 #include "arrayfile.h"
 
-#include "textfile.h"
-
 #include <cctype>
 
 namespace {
@@ -37,14 +35,13 @@ int lineOfElement(const QByteArray& text, int index)
 
 } // namespace
 
-ArrayFile::ArrayFile(const QString& name, const QString& contents)
+ArrayFile::ArrayFile(TextInput& file, const QString& contents)
+    : m_name(file.name())
+    , m_text(file.readAll())
 {
-    TextFile file(name);
-    m_text = file.readAll();
     const QJsonDocument document = file.parseJson(m_text, 1);
     if (!document.isArray())
         throw file.faultAt(1, QStringLiteral("expected a list of %1").arg(contents));
-    m_name = file.name();
     m_elements = document.array();
 }
 

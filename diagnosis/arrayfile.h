@@ -1,18 +1,19 @@
 #pragma once
 
+#include "textinput.h"
+
 #include <QByteArray>
 #include <QJsonArray>
 #include <QString>
 
-/// A file that holds a JSON array, for example of filters or of settings. Throws Fault when it
-/// cannot be read or holds something else.
+/// A file that holds a JSON array, for example of filters or of settings.
 class ArrayFile
 {
 public:
+    /// Throws Fault when the file cannot be read or holds something else.
     /// @param contents what the array holds, for the fault
-    ArrayFile(const QString& name, const QString& contents);
+    ArrayFile(TextInput& file, const QString& contents);
 
-    /// The name for people: "standard input" for "-".
     QString name() const { return m_name; }
 
     QJsonArray elements() const { return m_elements; }

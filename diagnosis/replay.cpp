@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-Replay::Replay(FilterSource source, const QString& fileName)
+Replay::Replay(FilterSource source, const ArrayFile& filters)
 {
     m_chain.setEvents(m_worker.getStatesList());
-    m_filters = source(fileName, m_chain);
+    m_filters = source(filters, m_chain);
 }
 
 ReplayStep Replay::take(const SessionLine& line)

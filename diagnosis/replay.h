@@ -1,6 +1,7 @@
 #pragma once
 
 #include "acceptorstate.h"
+#include "arrayfile.h"
 #include "devicestateworker.h"
 #include "filterchain.h"
 #include "sessionline.h"
@@ -29,10 +30,10 @@ class Replay
 {
 public:
     /// loadFilters() or filtersOfSettings().
-    using FilterSource = QList<AbstractFilter*> (*)(const QString& fileName, FilterChain& chain);
+    using FilterSource = QList<AbstractFilter*> (*)(const ArrayFile& file, FilterChain& chain);
 
     /// Throws Fault for a bad file.
-    Replay(FilterSource source, const QString& fileName);
+    Replay(FilterSource source, const ArrayFile& filters);
 
     ReplayStep take(const SessionLine& line);
 

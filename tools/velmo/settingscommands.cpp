@@ -1,19 +1,18 @@
-#include "settingscommand.h"
+#include "commands.h"
 
 #include "acceptors.h"
 #include "acceptorsettings.h"
 #include "arrayfile.h"
-#include "commandline.h"
 #include "droutemapitem.h"
-#include "fault.h"
+#include "inputfile.h"
 #include "knownsettings.h"
+#include "options.h"
 #include "output.h"
 #include "settingscheck.h"
 #include "settingsedit.h"
 #include "settingsmanager.h"
 #include "table.h"
 
-#include <QCommandLineParser>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
@@ -22,7 +21,8 @@ namespace {
 
 ArrayFile readSettings(const QString& fileName)
 {
-    return {fileName, QStringLiteral("settings")};
+    TextInput file = openInput(fileName);
+    return {file, QStringLiteral("settings")};
 }
 
 // One element a line, like the lists that people write.
@@ -94,12 +94,15 @@ QString deviceHeading(int number, const AcceptorDeviceSettings& device)
     return heading;
 }
 
-int show(const ArrayFile& file, bool json)
+} // namespace
+
+int showSettingsCommand(const Arguments& arguments)
 {
+    const ArrayFile file = readSettings(arguments.operands().constFirst());
     const QMap<QString, QString> defaults = carriedValues();
     AcceptorSettings settings;
     settings.setList(file.elements().toVariantList());
-    if (json) {
+    if (arguments.isSet(options::json)) {
         const QJsonDocument map(QJsonObject::fromVariantMap(settings.toFormattedMap()));
         print(QString::fromUtf8(map.toJson()));
         return exitSuccess;
@@ -137,9 +140,10 @@ int show(const ArrayFile& file, bool json)
     return exitSuccess;
 }
 
-int get(const ArrayFile& file, const QString& path)
+int getSettingCommand(const Arguments& arguments)
 {
-    const Assignment asked = assignment(path, QString());
+    const ArrayFile file = readSettings(arguments.operands().constFirst());
+    const Assignment asked = assignment(arguments.operands().at(1), QString());
     const QString known = requireKnownSetting(asked.group, asked.key).path;
     AcceptorSettings().setList(file.elements().toVariantList());
     const QMap<QString, QString> values = carriedValues();
@@ -149,8 +153,11 @@ int get(const ArrayFile& file, const QString& path)
     return exitSuccess;
 }
 
-int set(const ArrayFile& file, const QStringList& texts, const QString& outFile)
+int setSettingsCommand(const Arguments& arguments)
 {
+    const QString fileName = arguments.operands().constFirst();
+    const ArrayFile file = readSettings(fileName);
+    const QStringList texts = arguments.operands().mid(1);
     QList<Assignment> assignments;
     for (const QString& text : texts) {
         const int equals = text.indexOf(QLatin1Char('='));
@@ -158,20 +165,22 @@ int set(const ArrayFile& file, const QStringList& texts, const QString& outFile)
             throw Fault{QStringLiteral("\"%1\": expected GROUP/KEY=VALUE").arg(text)};
         assignments += assignment(text.left(equals), text.mid(equals + 1));
     }
-    save(editSettings(file.elements(), assignments), outFile);
+    save(editSettings(file.elements(), assignments),
+         arguments.isSet(options::output) ? arguments.value(options::output) : fileName);
     return exitSuccess;
 }
 
-int check(const ArrayFile& file)
+int checkSettingsCommand(const Arguments& arguments)
 {
-    const QStringList findings = checkSettings(file);
+    const QStringList findings = checkSettings(readSettings(arguments.operands().constFirst()));
     for (const QString& finding : findings)
         print(finding + QLatin1Char('\n'));
     return findings.isEmpty() ? exitSuccess : exitFindings;
 }
 
-int routes(const ArrayFile& file)
+int showRoutesCommand(const Arguments& arguments)
 {
+    const ArrayFile file = readSettings(arguments.operands().constFirst());
     AcceptorSettings().setList(file.elements().toVariantList());
     QList<QStringList> rows;
     const QList<DRouteMapItem> map = DRouteMap::fromJson(AcceptorSettings::routeMap());
@@ -185,51 +194,4 @@ int routes(const ArrayFile& file)
                        QStringLiteral("Kind"), QStringLiteral(">Route"), QStringLiteral(">Count")},
                       rows));
     return exitSuccess;
-}
-
-} // namespace
-
-int settingsCommand(const QStringList& arguments)
-{
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Shows, changes and checks a settings list, a JSON array of {\"group\", \"key\", "
-        "\"value\"}. \"-\" reads standard input.\n\n"
-        "Actions:\n"
-        "  show FILE [--json]                        the settings, with what is at its default; "
-        "--json: the formatted map\n"
-        "  get FILE GROUP/KEY                        one value\n"
-        "  set FILE GROUP/KEY=VALUE... [-o OUT]      changes values, in FILE or into OUT\n"
-        "  check FILE                                what the service would ignore or read "
-        "differently; exit code 1 with findings\n"
-        "  routes FILE                               the route map"));
-    parser.addPositionalArgument(QStringLiteral("settings"), QString(), QStringLiteral("settings"));
-    parser.addPositionalArgument(QStringLiteral("ACTION"), QStringLiteral("One of the above."));
-    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("The settings list."));
-    const QCommandLineOption json(QStringLiteral("json"),
-                                  QStringLiteral("show: print the formatted map."));
-    const QCommandLineOption output({QStringLiteral("o"), QStringLiteral("output")},
-                                    QStringLiteral("set: write to OUT, \"-\" for standard output."),
-                                    QStringLiteral("OUT"));
-    parser.addOptions({json, output});
-    if (!parseArguments(parser, arguments))
-        return exitSuccess;
-
-    const QStringList words = parser.positionalArguments();
-    const QString action = words.value(1);
-    const QStringList rest = words.mid(3);
-    if (words.size() == 3 && action == QLatin1String("show"))
-        return show(readSettings(words.at(2)), parser.isSet(json));
-    if (words.size() == 4 && action == QLatin1String("get"))
-        return get(readSettings(words.at(2)), words.at(3));
-    if (words.size() > 3 && action == QLatin1String("set")) {
-        return set(readSettings(words.at(2)), rest,
-                   parser.isSet(output) ? parser.value(output) : words.at(2));
-    }
-    if (words.size() == 3 && action == QLatin1String("check"))
-        return check(readSettings(words.at(2)));
-    if (words.size() == 3 && action == QLatin1String("routes"))
-        return routes(readSettings(words.at(2)));
-    throw Fault{QStringLiteral("usage: velmo settings show|get|set|check|routes FILE ...; "
-                               "velmo settings --help tells more")};
 }

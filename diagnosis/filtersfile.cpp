@@ -78,15 +78,13 @@ QList<AbstractFilter*> addFilters(const QJsonArray& descriptions, FilterChain& c
 
 } // namespace
 
-QList<AbstractFilter*> loadFilters(const QString& fileName, FilterChain& chain)
+QList<AbstractFilter*> loadFilters(const ArrayFile& file, FilterChain& chain)
 {
-    const ArrayFile file(fileName, QStringLiteral("filters"));
     return addFilters(file.elements(), chain, [&file](int index) { return file.place(index); });
 }
 
-QList<AbstractFilter*> filtersOfSettings(const QString& fileName, FilterChain& chain)
+QList<AbstractFilter*> filtersOfSettings(const ArrayFile& file, FilterChain& chain)
 {
-    const ArrayFile file(fileName, QStringLiteral("settings"));
     AcceptorSettings().setList(file.elements().toVariantList());
 
     QJsonArray descriptions;

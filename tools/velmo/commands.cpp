@@ -1,0 +1,112 @@
+#include "commands.h"
+
+#include "options.h"
+
+#include <limits>
+
+const std::vector<Command>& commands()
+{
+    constexpr int anyNumber = std::numeric_limits<int>::max();
+    static const std::vector<Command> table{
+        {"replay",
+         "SESSION.jsonl (--filters FILTERS.json | --settings SETTINGS.json)",
+         1,
+         1,
+         QT_TRANSLATE_NOOP("Velmo", "What happened in a session, and why notes were refused."),
+         QT_TRANSLATE_NOOP(
+             "Velmo",
+             "Plays what a device reported through the worker, the note filters and the "
+             "published state, and shows for every line what came of it. A session file "
+             "has one JSON object a line with the reported fields; "
+             R"({"session":"start"} begins a session.)"),
+         {&options::filters, &options::settings, &options::json, &options::keepGoing},
+         replayCommand},
+        {"report",
+         "STATE.json",
+         1,
+         1,
+         QT_TRANSLATE_NOOP("Velmo", "What a published service state means."),
+         QT_TRANSLATE_NOOP(
+             "Velmo",
+             "What the customer is told, whether money may be accepted, and the service "
+             "report, for a published service state {\"device_states\": [...]}. From "
+             "standard input (\"-\"), one state a line."),
+         {&options::names, &options::watch, &options::keepGoing},
+         reportCommand},
+        {"state",
+         "STATE.json",
+         1,
+         1,
+         QT_TRANSLATE_NOOP("Velmo", "Checks a device state and rewrites it."),
+         QT_TRANSLATE_NOOP(
+             "Velmo",
+             "Checks every key and value of a device state, and writes it as the compact "
+             "text that the service sends."),
+         {&options::map},
+         stateCommand},
+        {"settings show",
+         "LIST.json",
+         1,
+         1,
+         QT_TRANSLATE_NOOP("Velmo", "The settings, with what is at its default."),
+         QT_TRANSLATE_NOOP("Velmo", "With --json the formatted map."),
+         {&options::json},
+         showSettingsCommand},
+        {"settings get",
+         "LIST.json GROUP/KEY",
+         2,
+         2,
+         QT_TRANSLATE_NOOP("Velmo", "One value."),
+         nullptr,
+         {},
+         getSettingCommand},
+        {"settings set",
+         "LIST.json GROUP/KEY=VALUE...",
+         2,
+         anyNumber,
+         QT_TRANSLATE_NOOP("Velmo", "Changes values, in the list or into another file."),
+         QT_TRANSLATE_NOOP(
+             "Velmo",
+             "Changes what it is told to and what follows from that. A file that cannot "
+             "be written whole is left as it was."),
+         {&options::output},
+         setSettingsCommand},
+        {"settings check",
+         "LIST.json",
+         1,
+         1,
+         QT_TRANSLATE_NOOP("Velmo", "What the service would ignore or read differently."),
+         QT_TRANSLATE_NOOP("Velmo", "The exit code is 1 when it finds something."),
+         {},
+         checkSettingsCommand},
+        {"settings routes",
+         "LIST.json",
+         1,
+         1,
+         QT_TRANSLATE_NOOP("Velmo", "The route map."),
+         nullptr,
+         {},
+         showRoutesCommand},
+        {"devices",
+         "",
+         0,
+         0,
+         QT_TRANSLATE_NOOP("Velmo", "The catalogue of device models."),
+         nullptr,
+         {&options::json},
+         devicesCommand},
+        {"filters",
+         "[NAME]",
+         0,
+         1,
+         QT_TRANSLATE_NOOP("Velmo", "The note filters and their parameters."),
+         QT_TRANSLATE_NOOP("Velmo",
+                           "What each filter does, and its parameters with the pattern of a valid "
+                           "value."),
+         {&options::json},
+         filtersCommand},
+        // What the shell asks for; the last word is the one that is being typed.
+        {"complete", "WORD...", 1, anyNumber, nullptr, nullptr, {}, completeCommand},
+    };
+    return table;
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "command.h"
+
+// What the commands run; each returns the exit code.
+
+int replayCommand(const Arguments& arguments);
+int reportCommand(const Arguments& arguments);
+int stateCommand(const Arguments& arguments);
+int showSettingsCommand(const Arguments& arguments);
+int getSettingCommand(const Arguments& arguments);
+int setSettingsCommand(const Arguments& arguments);
+int checkSettingsCommand(const Arguments& arguments);
+int showRoutesCommand(const Arguments& arguments);
+int devicesCommand(const Arguments& arguments);
+int filtersCommand(const Arguments& arguments);
+int completeCommand(const Arguments& arguments);

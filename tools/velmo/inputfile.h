@@ -1,0 +1,6 @@
+#pragma once
+
+#include "textinput.h"
+
+/// Opens a file for reading, "-" for standard input. Throws Fault when it cannot be opened.
+TextInput openInput(const QString& fileName);

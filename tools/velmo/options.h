@@ -1,0 +1,39 @@
+#pragma once
+
+#include "command.h"
+
+/// Every option, under one name and with one meaning in every command.
+namespace options {
+
+constexpr Option help{"help", "h", nullptr, QT_TRANSLATE_NOOP("Velmo", "Print this help.")};
+constexpr Option language{
+    "lang", nullptr, "LANG",
+    QT_TRANSLATE_NOOP("Velmo", "Show the library's texts in a language, as \"ru\".")};
+constexpr Option version{
+    "version", "v", nullptr,
+    QT_TRANSLATE_NOOP("Velmo", "Print the version of the library and the time of its build.")};
+constexpr Option filters{
+    "filters", nullptr, "FILTERS.json",
+    QT_TRANSLATE_NOOP(
+        "Velmo",
+        R"(The note filters: [{"name":"AttemptsFilter","params":{"denom":1000,"attempts":2}}, ...])")};
+constexpr Option settings{
+    "settings", nullptr, "SETTINGS.json",
+    QT_TRANSLATE_NOOP("Velmo",
+                      "In place of --filters: the filters that the service's settings imply.")};
+constexpr Option json{"json", nullptr, nullptr,
+                      QT_TRANSLATE_NOOP("Velmo", "Print JSON in place of text.")};
+constexpr Option keepGoing{
+    "keep-going", nullptr, nullptr,
+    QT_TRANSLATE_NOOP("Velmo", "Skip bad lines and count them; the exit code is still 2.")};
+constexpr Option names{
+    "names", nullptr, "NAMES.json",
+    QT_TRANSLATE_NOOP("Velmo", R"(Display names by device identifier: {"1": "Validator"}.)")};
+constexpr Option watch{"watch", nullptr, nullptr,
+                       QT_TRANSLATE_NOOP("Velmo", "Clear the terminal before every state.")};
+constexpr Option map{"map", nullptr, nullptr,
+                     QT_TRANSLATE_NOOP("Velmo", "Write the state as an indented map.")};
+constexpr Option output{"output", "o", "OUT",
+                        QT_TRANSLATE_NOOP("Velmo", "Write to OUT, \"-\" for standard output.")};
+
+} // namespace options

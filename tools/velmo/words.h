@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QCoreApplication>
+
+/// The tool's own words, in the language that is shown: Velmo::tr("...").
+class Velmo
+{
+    Q_DECLARE_TR_FUNCTIONS(Velmo)
+};
