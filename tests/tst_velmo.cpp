@@ -72,6 +72,31 @@ private Q_SLOTS:
         QCOMPARE(velmo({"state"_s, "-"_s}, map.out.toUtf8()).out, compact + "\n"_s);
     }
 
+    void helpAndCompletionKnowWhatACommandTakes_data()
+    {
+        // Command line, what its output has.
+        addRows(R"(
+            help                             | \n  settings set     Changes values
+            --lang ru settings --help        | \n  settings routes
+            help settings set                | Usage: velmo settings set LIST.json GROUP/KEY=VALUE... [--output OUT]\n
+            report --help                    | \n  --names NAMES.json
+            complete -- se                   | settings\n
+            complete -- settings sh          | show\n
+            complete -- settings show -      | --json\n
+            complete -- replay x --filters y | :file\n
+            complete -- report --lang r      | ru\n
+            complete -- filters Att          | AttemptsFilter\n)"_s);
+    }
+
+    void helpAndCompletionKnowWhatACommandTakes()
+    {
+        QFETCH(QStringList, row);
+        const VelmoRun run = velmo(row.at(0).split(QLatin1Char(' ')));
+        QCOMPARE(run.err, QString());
+        QVERIFY2(run.out.contains(QString(row.at(1)).replace("\\n"_s, "\n"_s)),
+                 qPrintable(run.out));
+    }
+
     void badInputIsNamed_data()
     {
         // Command, input, fault.
@@ -83,6 +108,13 @@ private Q_SLOTS:
             report - --names -  | {"one":"x"}                | standard input: "one": expected a device number
             report              |                            | usage: velmo report
             filters x           |                            | unknown filter "x" (known: SessionSumFilter,
+            reprot x            |                            | unknown command "reprot" (nearest known: report)
+            settings shw x      |                            | unknown command "settings shw" (nearest known: settings show)
+            settings            |                            | usage: velmo settings ... (known: settings show,
+            report --nmes x     |                            | unknown option --nmes (nearest known: --names)
+            devices --map       |                            | unknown option --map (nearest known: --
+            report - --names    |                            | Missing value after '--names'.
+            help nothing        |                            | unknown command "nothing"
             devices x           |                            | usage: velmo devices)"_s);
     }
 

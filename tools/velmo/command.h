@@ -22,6 +22,9 @@ struct Option
     const char* help;
 
     QString dashedName() const { return QStringLiteral("--") + QLatin1String(name); }
+
+    QString withValue() const; ///< "--output OUT"
+    QString usage() const; ///< "-o, --output OUT"
 };
 
 class Arguments;
@@ -35,8 +38,11 @@ struct Command
     int mostOperands;
     const char* summary; ///< one sentence, a source text of Velmo::tr(); null hides the command
     const char* details; ///< further ones for its own help, the same; null without
-    const Option* options[8]; ///< besides --help and --lang; null after the last
+    const Option* options[12]; ///< besides --help and --lang; null after the last
     int (*run)(const Arguments& arguments);
+
+    /// "velmo settings get LIST.json GROUP/KEY"
+    QString usage() const;
 
     QStringList words() const { return QString(QLatin1String(name)).split(QLatin1Char(' ')); }
 };

@@ -24,35 +24,12 @@ QCommandLineOption parserOption(const Option& option)
     return {names, QString(), QLatin1String(option.value)};
 }
 
-// "--filters FILTERS.json"
-QString optionUsage(const Option& option)
-{
-    const QString value = option.value ? QLatin1Char(' ') + QLatin1String(option.value) : QString();
-    return option.dashedName() + value;
-}
-
-QString usage(const Command& command)
-{
-    QStringList words{QStringLiteral("velmo"), QLatin1String(command.name)};
-    const QString operands = QLatin1String(command.operands);
-    if (!operands.isEmpty())
-        words += operands;
-    for (const Option* const option : command.options) {
-        if (option && !operands.contains(option->dashedName()))
-            words += QStringLiteral("[%1]").arg(optionUsage(*option));
-    }
-    return words.join(QLatin1Char(' '));
-}
-
 // A table of options as their help shows it.
 QString optionsHelp(const std::vector<const Option*>& shown)
 {
     QList<QStringList> rows;
-    for (const Option* const option : shown) {
-        const QString letter =
-            option->letter ? QStringLiteral("-%1, ").arg(QLatin1String(option->letter)) : QString();
-        rows += QStringList{letter + optionUsage(*option), Velmo::tr(option->help)};
-    }
+    for (const Option* const option : shown)
+        rows += QStringList{option->usage(), Velmo::tr(option->help)};
     return Velmo::tr("Options:") + QLatin1Char('\n') + formatList(rows);
 }
 
@@ -74,7 +51,7 @@ QString commandHelp(const Command& command)
     QString text = Velmo::tr(command.summary);
     if (command.details)
         text += QLatin1Char(' ') + Velmo::tr(command.details);
-    return Velmo::tr("Usage:") + QStringLiteral(" %1\n\n").arg(usage(command)) + wrapped(text)
+    return Velmo::tr("Usage:") + QStringLiteral(" %1\n\n").arg(command.usage()) + wrapped(text)
         + QLatin1Char('\n') + optionsHelp(optionsOf(command));
 }
 
@@ -184,6 +161,28 @@ std::vector<const Option*> optionsOf(const Command& command)
     return all;
 }
 
+QString Option::usage() const
+{
+    return (letter ? QStringLiteral("-%1, ").arg(QLatin1String(letter)) : QString()) + withValue();
+}
+
+QString Option::withValue() const
+{
+    return dashedName() + (value ? QLatin1Char(' ') + QLatin1String(value) : QString());
+}
+
+QString Command::usage() const
+{
+    QStringList parts{QStringLiteral("velmo"), QLatin1String(name)};
+    if (*operands)
+        parts += QLatin1String(operands);
+    for (const Option* const option : options) {
+        if (option && !QString(QLatin1String(operands)).contains(option->dashedName()))
+            parts += QStringLiteral("[%1]").arg(option->withValue());
+    }
+    return parts.join(QLatin1Char(' '));
+}
+
 const std::vector<const Option*>& everyOption()
 {
     static const std::vector<const Option*> all = [] {
@@ -229,7 +228,7 @@ QString Arguments::value(const Option& option) const
 
 Fault Arguments::usageFault() const
 {
-    return {Velmo::tr("usage: %1").arg(usage(m_command))};
+    return {Velmo::tr("usage: %1").arg(m_command.usage())};
 }
 
 int runCommand(const QStringList& arguments)

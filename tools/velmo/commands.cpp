@@ -107,6 +107,8 @@ const std::vector<Command>& commands()
          filtersCommand},
         // What the shell asks for; the last word is the one that is being typed.
         {"complete", "WORD...", 1, anyNumber, nullptr, nullptr, {}, completeCommand},
+        // The manual page, of a template with the places for what these rows say.
+        {"manual", "TEMPLATE", 1, 1, nullptr, nullptr, {}, manualCommand},
     };
     return table;
 }

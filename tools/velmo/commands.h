@@ -15,3 +15,4 @@ int showRoutesCommand(const Arguments& arguments);
 int devicesCommand(const Arguments& arguments);
 int filtersCommand(const Arguments& arguments);
 int completeCommand(const Arguments& arguments);
+int manualCommand(const Arguments& arguments);
