@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # What others need to build with the installed library, and the Debian packages.
 
 include(CMakePackageConfigHelpers)

@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Installs what is missing, builds the benchmarks and prints how the library compares with what people
 # would use instead: the medians of 7 repetitions of one run.
 set -euo pipefail

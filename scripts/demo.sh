@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Installs what is missing, builds the release preset and replays a sample session in which a
 # fished note is refused.
 set -euo pipefail

@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Installs what is missing and builds the reference of the public interface in build/docs.
 set -euo pipefail
 cd "$(dirname "$0")/.."

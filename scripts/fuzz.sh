@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Installs what is missing, builds the fuzzers with clang and runs each for a number of seconds, two
 # at a time, from the seeds in fuzz/corpus. What they find on the way is kept in build/fuzz/found; an
 # input that breaks a property is named and ends the script with an error.

@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Installs what is missing, builds the Debian packages in build/package, unpacks them into an empty
 # root and uses them from there.
 set -euo pipefail

@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Installs what is missing and shows that all is well: format, lint, all tests (also under the
 # address, undefined-behaviour and thread sanitizers), ABI, documentation, packages, and a few seconds
 # of each fuzzer.

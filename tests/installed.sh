@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Uses an installed copy the way a newcomer would: builds the examples with CMake, with pkg-config
 # and with qmake, outside the source tree, and runs them and velmo.
 # The copy is moved first: it must work wherever it lies.

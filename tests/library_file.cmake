@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Checks a built libvelmolib: its SONAME, what it needs at run time, and that nothing but the
 # documented classes and constants is exported.
 

@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Checks the Debian packages of a folder: unpacks them into an empty root and uses them from there.
 # Usage: packages.sh SOURCE_DIR FOLDER
 set -euo pipefail
