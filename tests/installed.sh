@@ -52,7 +52,8 @@ velmo=$prefix/bin/velmo
 
 "$velmo" report - --lang ru < states > shown
 grep -qx 'Внесите купюры' shown || fail "velmo shows: $(cat shown)"
-"$velmo" --version | grep -q '^velmo 5\.0\.6 (library built 2' || fail "$("$velmo" --version)"
+"$velmo" --version | grep -q "^velmo $(pkg-config --modversion velmolib) (library built 2" \
+    || fail "$("$velmo" --version)"
 bash -n "$prefix"/share/bash-completion/completions/velmo
 gzip -dc "$prefix"/share/man/man1/velmo.1.gz | grep -q '^\.TH VELMO 1' || fail "no manual page"
 echo "The installed copy works."
