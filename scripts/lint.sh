@@ -13,6 +13,7 @@ require_packages "${build_packages[@]}" clang clang-tidy clazy reuse
 reuse lint
 cmake --preset tidy
 cmake --build --preset tidy
-clazy-standalone -p build/tidy -checks=level1 \
-    $(git ls-files 'src/*.cpp' 'platform/*.cpp' 'tools/*.cpp') 2>&1 | tee build/tidy/clazy.log
+git ls-files 'src/*.cpp' 'platform/*.cpp' 'tools/*.cpp' \
+    | xargs -n 8 -P "$(nproc)" clazy-standalone -p build/tidy -checks=level1 2>&1 \
+    | tee build/tidy/clazy.log
 ! grep -q 'Wclazy' build/tidy/clazy.log
