@@ -7,7 +7,7 @@
 # Additions are shown and allowed. --update takes the ABI of the release build as the baseline.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}" abigail-tools xz-utils
 cmake --preset release

@@ -6,7 +6,7 @@
 # would use instead: the medians of 7 repetitions of one run.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}" libbenchmark-dev nlohmann-json3-dev rapidjson-dev python3
 cmake --preset bench

@@ -6,7 +6,7 @@
 # screen on a D-Bus of their own, until the screen is closed. Arguments go to the screen: --lang ru
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}"
 cmake --preset release

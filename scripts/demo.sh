@@ -6,7 +6,7 @@
 # refused.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}"
 cmake --preset release

@@ -5,7 +5,7 @@
 # Installs what is missing and builds the reference of the public interface in build/docs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages doxygen graphviz
 mkdir -p build/docs

@@ -5,7 +5,7 @@
 # Formats every source file; with --check only tells which are not as they should be.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages clang-format
 mode=-i

@@ -8,7 +8,7 @@
 # Usage: fuzz.sh [SECONDS]   (default: 60)
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}" clang libclang-rt-14-dev
 cmake --preset fuzz

@@ -7,7 +7,7 @@
 # and why; .reuse/dep5 names the files that cannot say their licence themselves.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}" clang clang-tidy clazy reuse
 reuse lint

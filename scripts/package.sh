@@ -7,7 +7,7 @@
 # whenever they are built.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}" "${install_packages[@]}" devscripts dpkg-dev file lintian
 umask 022
@@ -25,5 +25,5 @@ rm -rf build/package
 CXXFLAGS="$(flags CXXFLAGS) $(flags CPPFLAGS)" LDFLAGS=$(flags LDFLAGS) cmake --preset package
 cmake --build --preset package
 (cd build/package && cpack)
-tests/packages.sh . build/package
+tests/check_packages.sh . build/package
 ls -l build/package/*.deb

@@ -7,7 +7,7 @@
 # rest.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}" "${qt6_packages[@]}" "${install_packages[@]}"
 scripts/format.sh --check

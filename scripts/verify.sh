@@ -7,7 +7,7 @@
 # wherever they are built, and a few seconds of each fuzzer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}" "${install_packages[@]}"
 scripts/lint.sh

@@ -3,14 +3,14 @@
 # SPDX-License-Identifier: MIT
 
 # Checks the Debian packages of a folder: unpacks them into an empty root and uses them from there.
-# Usage: packages.sh SOURCE_DIR FOLDER
+# Usage: check_packages.sh SOURCE_DIR FOLDER
 set -euo pipefail
 root=$(mktemp -d)
 trap 'rm -rf "$root"' EXIT
 
 fail()
 {
-    echo "packages.sh: $*" >&2
+    echo "check_packages.sh: $*" >&2
     exit 1
 }
 
