@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # How every target of this tree is compiled. Directory scope: a project that adds this one as a
 # subdirectory keeps its own settings.
 

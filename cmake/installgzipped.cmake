@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Installs a file compressed the way Debian wants manual pages and changelogs.
 function(velmolib_install_gzipped source destination component)
     cmake_path(ABSOLUTE_PATH source)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # What others need to build with the installed library, and the Debian packages.
 
 include(CMakePackageConfigHelpers)
@@ -20,9 +23,11 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/velmolib.pc
     DESTINATION ${pkgconfig_dir} COMPONENT development)
 
 # The copyright and the changelog that every Debian package has.
+set(policy_host www.debian.org)
+configure_file(${PROJECT_SOURCE_DIR}/packaging/copyright.in copyright @ONLY)
 foreach(pair library:libvelmolib5 development:libvelmolib-dev tool:velmo)
     string(REGEX MATCH "(.*):(.*)" pair ${pair})
-    install(FILES ${PROJECT_SOURCE_DIR}/packaging/copyright
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/copyright
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CMAKE_MATCH_2} COMPONENT ${CMAKE_MATCH_1})
     velmolib_install_gzipped(${PROJECT_SOURCE_DIR}/packaging/changelog
         ${CMAKE_INSTALL_DATADIR}/doc/${CMAKE_MATCH_2} ${CMAKE_MATCH_1})

@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Compares the exported ABI of the release build with the baseline in abi/: a symbol, a slot of a
 # virtual table or an offset of a field that was removed or changed ends it with an error and its name.
 # Additions are shown and allowed. --update takes the ABI of the release build as the baseline.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}" abigail-tools xz-utils
 cmake --preset release

@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Installs what is missing, builds the benchmarks and prints how the library compares with what people
 # would use instead: the medians of 7 repetitions of one run.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}" libbenchmark-dev nlohmann-json3-dev rapidjson-dev python3
 cmake --preset bench

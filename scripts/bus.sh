@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Installs what is missing, builds the release preset and shows a service with four devices and a payment
 # screen on a D-Bus of their own, until the screen is closed. Arguments go to the screen: --lang ru
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}"
 cmake --preset release

@@ -1,13 +1,16 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the release preset and replays a sample session in which a
-# fished note is refused.
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
+# Installs what is missing, builds the tool and replays a sample session in which a fished note is
+# refused.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}"
 cmake --preset release
-cmake --build --preset release
+cmake --build --preset release --target velmo velmolib_translations
 
 echo
 echo '$ velmo replay samples/fished-note.jsonl --filters samples/filters.json'

@@ -1,11 +1,14 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Installs what is missing, builds the fuzzers with clang and runs each for a number of seconds, two
 # at a time, from the seeds in fuzz/corpus. What they find on the way is kept in build/fuzz/found; an
 # input that breaks a property is named and ends the script with an error.
 # Usage: fuzz.sh [SECONDS]   (default: 60)
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
 require_packages "${build_packages[@]}" clang libclang-rt-14-dev
 cmake --preset fuzz

@@ -1,13 +1,19 @@
 #!/usr/bin/env bash
-# Installs what is missing and looks at every source file with clang-tidy (while it builds with clang)
-# and with clazy. .clang-tidy says what is left out and why.
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
+# Installs what is missing, looks for files that do not say their licence, and looks at every source
+# file with clang-tidy (while it builds with clang) and with clazy. .clang-tidy says what is left out
+# and why; .reuse/dep5 names the files that cannot say their licence themselves.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
-require_packages "${build_packages[@]}" clang clang-tidy clazy
+require_packages "${build_packages[@]}" clang clang-tidy clazy reuse
+reuse lint
 cmake --preset tidy
 cmake --build --preset tidy
-clazy-standalone -p build/tidy -checks=level1 \
-    $(git ls-files 'src/*.cpp' 'platform/*.cpp' 'tools/*.cpp') 2>&1 | tee build/tidy/clazy.log
+git ls-files 'src/*.cpp' 'platform/*.cpp' 'tools/*.cpp' \
+    | xargs -n 8 -P "$(nproc)" clazy-standalone -p build/tidy -checks=level1 2>&1 \
+    | tee build/tidy/clazy.log
 ! grep -q 'Wclazy' build/tidy/clazy.log

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 """Changes one operator, constant or condition at a time and tells which changes no test notices.
 
 Usage: mutate.py [FILE...]   (default: note filters, service state, settings)

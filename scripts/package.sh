@@ -1,14 +1,29 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Installs what is missing, builds the Debian packages in build/package, unpacks them into an empty
-# root and uses them from there.
+# root and uses them from there. The packages of one commit are the same to the byte wherever and
+# whenever they are built.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-. scripts/packages.sh
+. scripts/require.sh
 
-require_packages "${build_packages[@]}" "${install_packages[@]}" dpkg-dev file lintian
-cmake --preset package
+require_packages "${build_packages[@]}" "${install_packages[@]}" devscripts dpkg-dev file lintian
+umask 022
+export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
+
+# The library tells its build time, which follows SOURCE_DATE_EPOCH, and maps the names of its source
+# files itself.
+flags()
+{
+    DEB_BUILD_MAINT_OPTIONS='hardening=+all reproducible=-timeless,-fixfilepath' \
+        dpkg-buildflags --get "$1"
+}
+# Nothing of an earlier build: Ninja does not notice another SOURCE_DATE_EPOCH.
+rm -rf build/package
+CXXFLAGS="$(flags CXXFLAGS) $(flags CPPFLAGS)" LDFLAGS=$(flags LDFLAGS) cmake --preset package
 cmake --build --preset package
-rm -f build/package/*.deb
 (cd build/package && cpack)
-tests/packages.sh . build/package
+tests/check_packages.sh . build/package
 ls -l build/package/*.deb

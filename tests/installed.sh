@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Uses an installed copy the way a newcomer would: builds the examples with CMake, with pkg-config
 # and with qmake, outside the source tree, and runs them and velmo.
 # The copy is moved first: it must work wherever it lies.
@@ -49,7 +52,8 @@ velmo=$prefix/bin/velmo
 
 "$velmo" report - --lang ru < states > shown
 grep -qx 'Внесите купюры' shown || fail "velmo shows: $(cat shown)"
-"$velmo" --version | grep -q '^velmo 5\.0\.6 (library built 2' || fail "$("$velmo" --version)"
+"$velmo" --version | grep -q "^velmo $(pkg-config --modversion velmolib) (library built 2" \
+    || fail "$("$velmo" --version)"
 bash -n "$prefix"/share/bash-completion/completions/velmo
 gzip -dc "$prefix"/share/man/man1/velmo.1.gz | grep -q '^\.TH VELMO 1' || fail "no manual page"
 echo "The installed copy works."

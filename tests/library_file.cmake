@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Checks a built libvelmolib: its SONAME, what it needs at run time, and that nothing but the
 # documented classes and constants is exported.
 
@@ -9,8 +12,9 @@ execute_process(COMMAND ${NM} -DC --defined-only ${LIBRARY}
 if(NOT dynamic MATCHES "SONAME[^\n]*\\[libvelmolib\\.so\\.5\\]")
     message(SEND_ERROR "The SONAME is not libvelmolib.so.5:\n${dynamic}")
 endif()
-if(NOT LIBRARY MATCHES "libvelmolib\\.so\\.5\\.0\\.6$")
-    message(SEND_ERROR "The file version is not 5.0.6: ${LIBRARY}")
+cmake_path(GET LIBRARY FILENAME file)
+if(NOT file STREQUAL "libvelmolib.so.${VERSION}")
+    message(SEND_ERROR "The file version is not ${VERSION}: ${LIBRARY}")
 endif()
 
 if(NOT dynamic MATCHES "NODELETE")

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Checks that the translations cover the texts of the source tree, no more and no less.
 
 foreach(language en ru)

@@ -13,7 +13,7 @@ public:
     /// An empty version, which is not valid.
     AppVersion() = default;
 
-    /// @param version version number, for example "5.0.6"
+    /// @param version version number, for example "1.2.3"
     /// @param buildTime time of the build in ISO 8601 form; empty when it is not known
     AppVersion(const QString& version, const QString& buildTime);
 

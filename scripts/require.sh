@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
 # Sourced by the other scripts: installs what is missing of the Debian packages that they name.
 
 require_packages()

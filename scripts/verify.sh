@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
+# Installs what is missing and shows what scripts/test.sh does not: lint, all tests under the address,
+# undefined-behaviour and thread sanitizers, ABI, documentation, packages that are the same to the byte
+# wherever they are built, and a few seconds of each fuzzer.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/require.sh
+
+require_packages "${build_packages[@]}" "${install_packages[@]}"
+scripts/lint.sh
+for preset in asan tsan; do
+    cmake --preset "$preset"
+    cmake --build --preset "$preset"
+    ctest --preset "$preset"
+done
+scripts/abi.sh
+scripts/docs.sh
+
+export SOURCE_DATE_EPOCH
+SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
+scripts/package.sh
+again=$(mktemp -d)
+trap 'rm -rf "$again"' EXIT
+changed=$(git stash create) # nothing when all is committed
+git archive "${changed:-HEAD}" | tar -x -C "$again"
+(umask 077 && TZ=Asia/Tokyo "$again"/scripts/package.sh)
+for deb in build/package/*.deb; do
+    cmp "$deb" "$again/$deb"
+done
+
+scripts/fuzz.sh 3

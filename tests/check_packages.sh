@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
+# Checks the Debian packages of a folder: unpacks them into an empty root and uses them from there.
+# Usage: check_packages.sh SOURCE_DIR FOLDER
+set -euo pipefail
+root=$(mktemp -d)
+trap 'rm -rf "$root"' EXIT
+
+fail()
+{
+    echo "check_packages.sh: $*" >&2
+    exit 1
+}
+
+lintian --fail-on error --suppress-tags bad-distribution-in-changes-file "$2"/*.deb
+for package in libvelmolib5 libvelmolib-dev velmo; do
+    deb=$(ls "$2/${package}_"*.deb)
+    dpkg-deb --field "$deb" Package Version Depends
+    dpkg-deb --extract "$deb" "$root"
+done
+version=$(dpkg-deb --field "$2"/libvelmolib5_*.deb Version)
+[ "$(dpkg-parsechangelog -l "$1/packaging/changelog" -S Version)" = "$version" ] \
+    || fail "packaging/changelog does not begin with $version"
+[ "$(grep -m 1 '^## ' "$1/CHANGELOG.md")" = "## $version" ] \
+    || fail "CHANGELOG.md does not begin with $version"
+dpkg-deb --field "$2"/libvelmolib5_*.deb Depends | grep -q 'libqt5core5a (>= 5\.15'
+# Debian 12 builds nothing with control flow protection. The library calls no function of which the
+# compiler makes the fortified form; the tool, built with the same flags, does.
+hardening-check --nocfprotection "$root"/usr/bin/velmo
+hardening-check --nocfprotection --nofortify "$root"/usr/lib/*/libvelmolib.so.5.*
+! grep -rqF "$(realpath "$1")/" "$root" || fail "a package names the folder that it was built in"
+grep -qazx src/acceptors.cpp "$root"/usr/lib/*/libvelmolib.so.5.* \
+    || fail "log lines do not name their file as in the tree"
+"$(dirname "$0")/installed.sh" "$1" "$root/usr"
