@@ -1,5 +1,6 @@
 #pragma once
 
+#include "acceptorattemptfilteritem.h"
 #include "acceptordevicesettings.h"
 #include "velmolib_global.h"
 
@@ -9,28 +10,6 @@
 #include <QSet>
 #include <QString>
 #include <QVariant>
-
-/// An anti-fishing limit: how many rejections of one denomination a session allows.
-class VELMOLIB_EXPORT AcceptorAttemptFilterItem
-{
-public:
-    int attempts() const;
-    void setAttempts(int attempts);
-
-    int denom() const;
-    void setDenom(int denom);
-
-    /// Reads "denom" and "attempts", numbers or texts; what is missing reads as 1, what is no
-    /// number as 0.
-    void loadFromMap(QVariantMap map);
-
-    /// {"denom": text, "attempts": text}
-    QVariantMap toMap() const;
-
-private:
-    qint32 m_attempts = 0;
-    qint32 m_denom = 0;
-};
 
 /// The configuration of the acceptor service: one for the whole process, whichever object is used.
 ///
