@@ -7,6 +7,9 @@
 
 #include <QMutexLocker>
 #include <QPair>
+#include <QStringBuilder>
+
+#include <optional>
 
 const QString AcceptorSettings::SERVICE_SECTION = QStringLiteral("service");
 const QString AcceptorSettings::DEVICE_SECTION = QStringLiteral("device");
@@ -94,7 +97,7 @@ using SerialPortTexts::ListForm;
 
 QString deviceGroup(const QString& index, const QString& subgroup)
 {
-    return S::DEVICE + index + QLatin1Char('/') + subgroup;
+    return S::DEVICE % index % QLatin1Char('/') % subgroup;
 }
 
 // Hands every setting of a form to visit(group path, key, value): first those of the service,
@@ -112,6 +115,7 @@ void walk(Form form, Visitor visit)
             continue;
         const int model = device->type();
         const QString interfaceType = device->interfaceType();
+        const QString indexText = QString::number(index);
         QString path;
         const QString* subgroup = nullptr;
         for (const SettingRow& row : SettingsTable::deviceSettings()) {
@@ -120,41 +124,11 @@ void walk(Form form, Visitor visit)
             if (key.isEmpty() || (form == ListForm && !row.isFor(model, interfaceType)))
                 continue;
             if (subgroup != &row.group)
-                path = deviceGroup(QString::number(index), row.group);
+                path = deviceGroup(indexText, row.group);
             subgroup = &row.group;
             visit(path, key, row.access.value(form, device));
         }
     }
-}
-
-// The two parts of a group path; a part that is missing is empty, further parts do not count.
-struct GroupPath
-{
-    explicit GroupPath(const QString& path)
-    {
-        const auto slash = path.indexOf(QLatin1Char('/'));
-        group = path.left(slash);
-        const QString rest = slash < 0 ? QString() : path.mid(slash + 1);
-        subgroup = rest.left(rest.indexOf(QLatin1Char('/')));
-    }
-
-    QString group;
-    QString subgroup;
-};
-
-int deviceIndex(QString group)
-{
-    return group.remove(S::DEVICE).toInt();
-}
-
-bool applySetting(AcceptorSettings& settings, const QVariantMap& setting)
-{
-    if (!setting.contains(SettingsList::groupKey))
-        return false;
-    const GroupPath path(setting.value(SettingsList::groupKey).toString());
-    return settings.updateValue(path.group, path.subgroup,
-                                setting.value(SettingsList::nameKey).toString(),
-                                setting.value(SettingsList::valueKey).toString());
 }
 
 Device& deviceAt(int index)
@@ -164,6 +138,73 @@ Device& deviceAt(int index)
         device = new Device;
     return *device;
 }
+
+// What the two parts of a group path mean.
+struct Group
+{
+    Group(QString name, QString subgroupName)
+        : subgroup(std::move(subgroupName))
+        , isOfService(SettingsTable::isServiceGroup(name))
+        , isOfDevice(!isOfService && name.contains(S::DEVICE))
+        , serviceGroup(isOfService ? name : QString())
+        , deviceIndex(isOfDevice ? name.remove(S::DEVICE).toInt() : 0)
+    {
+    }
+
+    const SettingRow* find(const QString& key) const
+    {
+        if (isOfService)
+            return SettingsTable::findServiceSetting(serviceGroup, key);
+        return isOfDevice ? SettingsTable::findDeviceSetting(subgroup, key) : nullptr;
+    }
+
+    // The result is that of updateValue().
+    bool apply(const QString& key, const QString& value) const
+    {
+        Device* const device = isOfDevice ? &deviceAt(deviceIndex) : nullptr;
+        const SettingRow* const row = find(key);
+        if (row && row->access.set)
+            row->access.set(device, value);
+        return isOfService
+            || (isOfDevice && (subgroup == S::HARDWARE_SECTION || subgroup == S::DEVICE_SECTION));
+    }
+
+    QString subgroup;
+    bool isOfService;
+    bool isOfDevice;
+    QString serviceGroup;
+    int deviceIndex;
+};
+
+// A part that is missing is empty, further parts do not count.
+Group groupAt(const QString& path)
+{
+    const auto slash = path.indexOf(QLatin1Char('/'));
+    const QString rest = slash < 0 ? QString() : path.mid(slash + 1);
+    return {path.left(slash), rest.left(rest.indexOf(QLatin1Char('/')))};
+}
+
+// Elements of one group follow each other in a list: its path is read once for all of them.
+class Elements
+{
+public:
+    bool apply(const QVariantMap& element)
+    {
+        const auto path = element.constFind(SettingsList::groupKey);
+        if (path == element.constEnd())
+            return false;
+        const QString text = path->toString();
+        if (!m_group || text != m_path)
+            m_group = groupAt(text);
+        m_path = text;
+        return m_group->apply(element.value(SettingsList::nameKey).toString(),
+                              element.value(SettingsList::valueKey).toString());
+    }
+
+private:
+    QString m_path;
+    std::optional<Group> m_group;
+};
 
 } // namespace
 
@@ -283,8 +324,9 @@ void AcceptorSettings::setList(const QVariantList& list)
     maxSumm_ = 0;
     deviceCount_ = 0;
     cleanStatistics_ = CleanStatistics0;
+    Elements elements;
     for (const QVariant& element : list)
-        applySetting(*this, element.toMap());
+        elements.apply(element.toMap());
 }
 
 QVariantMap AcceptorSettings::toFormattedMap() const
@@ -306,10 +348,10 @@ void AcceptorSettings::setFotmattedMap(const QVariantMap& map)
 {
     const QMutexLocker locker(&settingsMutex_);
     for (auto entry = map.constBegin(); entry != map.constEnd(); ++entry) {
-        const GroupPath path(entry.key());
+        const Group group = groupAt(entry.key());
         const QVariantMap settings = entry.value().toMap();
         for (auto setting = settings.constBegin(); setting != settings.constEnd(); ++setting)
-            updateValue(path.group, path.subgroup, setting.key(), setting.value().toString());
+            group.apply(setting.key(), setting.value().toString());
     }
     for (auto entry = devices.lowerBound(deviceCount_); entry != devices.end();) {
         delete entry.value();
@@ -320,20 +362,12 @@ void AcceptorSettings::setFotmattedMap(const QVariantMap& map)
 bool AcceptorSettings::setValue(const QVariantMap& setting)
 {
     const QMutexLocker locker(&settingsMutex_);
-    return applySetting(*this, setting);
+    return Elements().apply(setting);
 }
 
 bool AcceptorSettings::updateValue(QString group, QString subgroup, QString key, QString value)
 {
-    const bool ofService = SettingsTable::isServiceGroup(group);
-    if (!ofService && !group.contains(DEVICE))
-        return false;
-    Device* const device = ofService ? nullptr : &deviceAt(deviceIndex(group));
-    const SettingRow* const row = ofService ? SettingsTable::findServiceSetting(group, key)
-                                            : SettingsTable::findDeviceSetting(subgroup, key);
-    if (row && row->access.set)
-        row->access.set(device, value);
-    return ofService || subgroup == HARDWARE_SECTION || subgroup == DEVICE_SECTION;
+    return Group(std::move(group), std::move(subgroup)).apply(key, value);
 }
 
 void AcceptorSettings::removeDeviceByIndex(int position)
