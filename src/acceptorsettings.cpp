@@ -302,6 +302,26 @@ void AcceptorSettings::addAttemptsFilter(int denom, int attempts)
     attemptsFilter_.append(limit);
 }
 
+QList<SettingDescription> AcceptorSettings::settingDescriptions()
+{
+    QList<SettingDescription> descriptions;
+    for (const SettingRow& row : SettingsTable::serviceSettings())
+        descriptions.append({&row, row.group});
+    for (const SettingRow& row : SettingsTable::deviceSettings())
+        descriptions.append({&row, deviceGroup(QStringLiteral("#"), row.group)});
+    return descriptions;
+}
+
+SettingDescription AcceptorSettings::settingDescription(const QString& group, const QString& key)
+{
+    const Group asked = groupAt(group);
+    const SettingRow* const row = asked.find(key);
+    if (!row)
+        return {};
+    const QString index = QString::number(asked.deviceIndex);
+    return {row, asked.isOfService ? row->group : deviceGroup(index, row->group)};
+}
+
 bool AcceptorSettings::isEmpty()
 {
     return devices.isEmpty() || deviceCount_ < 1;

@@ -2,6 +2,7 @@
 
 #include "acceptorattemptfilteritem.h"
 #include "acceptordevicesettings.h"
+#include "settingdescription.h"
 #include "velmolib_global.h"
 
 #include <QList>
@@ -136,6 +137,17 @@ public:
 
     /// Changes the first limit of that denomination, or appends one.
     static void addAttemptsFilter(int denom, int attempts);
+
+    /// What the settings list may hold, in its order: the settings of the service, then those of a
+    /// device, whose groups are "device#/<sub-group>". May be called from any thread.
+    static QList<SettingDescription> settingDescriptions();
+
+    /// What is read under a group and a key, in any spelling that is read: its group and key are
+    /// those that the settings list has. For a device the group is that of the concrete device;
+    /// "ccnet" stands for the five protocol parameters, which are read in every sub-group. A
+    /// description that is not valid means that the element is ignored. May be called from any
+    /// thread.
+    static SettingDescription settingDescription(const QString& group, const QString& key);
 
     /// Whether there is no device or the device count is below 1.
     static bool isEmpty();

@@ -2,6 +2,7 @@
 
 #include "acceptorsettings.h"
 #include "serialporttexts_p.h"
+#include "settingdescription.h"
 
 /// One setting of the acceptor service, with all that the library knows about it.
 ///
@@ -39,6 +40,18 @@ struct SettingRow
     {
         QVariant (*value)(Form form, const Device* device);
         void (*set)(Device* device, const QString& text); ///< null: it is only written
+        /// What the list form has after the text was read.
+        /// @param isUnderstood set to whether it means what the text says, unless it is null
+        QString (*readAs)(const QString& text, bool* isUnderstood);
+    };
+
+    /// Which values the service can work with.
+    struct Values
+    {
+        SettingDescription::Kind kind;
+        qint64 minimum;
+        qint64 maximum;
+        QStringList (*choices)();
     };
 
     bool isCalled(const QString& key, const QString& lowerKey) const
@@ -59,7 +72,10 @@ struct SettingRow
     Keys keys;
     Devices devices;
     Access access;
+    Values values;
     const char* defaultText; ///< null: none
+    const char* label; ///< not translated
+    const char* help; ///< not translated
 };
 
 /// The settings of the acceptor service, each of them once. A new setting is one row.
