@@ -1,102 +1,275 @@
 #include "settingscheck.h"
 
 #include "acceptorsettings.h"
-#include "knownsettings.h"
+#include "droutemapitem.h"
+#include "settingslist.h"
+#include "words.h"
 
-#include <QHash>
 #include <QJsonObject>
-#include <QSet>
+
+#include <algorithm>
 
 namespace {
+
+using S = AcceptorSettings;
+using Finding = SettingsFinding;
+
+QString shortened(const QString& text)
+{
+    constexpr int mostShown = 40;
+    return text.size() <= mostShown ? text : text.left(mostShown) + QStringLiteral("...");
+}
+
+QString rangeText(const SettingDescription& setting)
+{
+    return Diagnosis::tr("out of its range %1 to %2")
+        .arg(setting.minimum().toString(), setting.maximum().toString());
+}
+
+// What is wrong with a value that is not accepted, for each kind.
+QString faultOf(const SettingDescription& setting, const QString& text)
+{
+    bool isNumber = false;
+    text.toLongLong(&isNumber);
+    switch (setting.kind()) {
+    case SettingDescription::Number:
+        return isNumber ? rangeText(setting) : Diagnosis::tr("no whole number");
+    case SettingDescription::Switch:
+        return Diagnosis::tr("neither 0 nor 1");
+    case SettingDescription::Choice:
+        return Diagnosis::tr("none of %1").arg(setting.choices().join(QStringLiteral(", ")));
+    case SettingDescription::AttemptsLimits:
+        return Diagnosis::tr("no JSON array of limits, each with \"denom\" and \"attempts\" of 1 "
+                             "or more");
+    case SettingDescription::RouteMap:
+        return Diagnosis::tr("no JSON array of whole routes; %n can be read", nullptr,
+                             int(DRouteMap::fromJson(text).size()));
+    default:
+        return Diagnosis::tr("no address: the device is not found");
+    }
+}
 
 class Check
 {
 public:
     explicit Check(const ArrayFile& file)
-        : m_file(file)
+        : m_list(file.elements())
     {
-        // The last count in the list is the one that stays.
-        AcceptorSettings().setList(file.elements().toVariantList());
-        m_deviceCount = AcceptorSettings::deviceCount();
     }
 
-    QStringList findings()
+    QList<Finding> findings()
     {
-        const QJsonArray elements = m_file.elements();
-        for (m_index = 0; m_index < elements.size(); ++m_index)
-            checkElement(elements.at(m_index));
-        if (!m_elementOfPath.contains(QStringLiteral("service/devices_count"))) {
-            m_findings += QStringLiteral("%1: no service/devices_count: the count reads as 0")
-                              .arg(m_file.name());
-        }
+        for (int i = 0; i < m_list.elements().size(); ++i)
+            checkElement(i);
+        checkCount();
+        for (auto device = m_list.devices().begin(); device != m_list.devices().end(); ++device)
+            checkDevice(device.key(), device.value());
+        for (const SettingsList::Used& used : m_list.used())
+            checkUsed(used);
+        // What is missing stands at the end.
+        std::stable_sort(m_findings.begin(), m_findings.end(), [](const auto& a, const auto& b) {
+            return unsigned(a.element) < unsigned(b.element);
+        });
         return m_findings;
     }
 
 private:
-    void report(const QString& finding)
+    void report(Finding::Level level, int element, const QString& path, const QString& text)
     {
-        m_findings += QStringLiteral("%1: element %2: %3")
-                          .arg(m_file.place(m_index), QString::number(m_index + 1), finding);
+        m_findings += Finding{level, element, path, text};
     }
 
-    void checkElement(const QJsonValue& element)
+    void checkElement(int index)
     {
-        const QVariantMap setting = element.toObject().toVariantMap();
-        if (!setting.contains(QStringLiteral("group")))
-            return report(QStringLiteral("is skipped: no \"group\""));
-        const QString group = setting.value(QStringLiteral("group")).toString();
-        const QString key = setting.value(QStringLiteral("key")).toString();
-        if (const std::optional<DeviceGroup> device = deviceGroup(group))
-            checkDevice(group, *device);
-        const QString path = group + QLatin1Char('/') + key;
-        const std::optional<KnownSetting> known = knownSetting(group, key);
-        if (!known) {
-            return report(QStringLiteral("%1 is ignored (nearest known: %2)")
-                              .arg(path, nearestKnownPath(path)));
+        const SettingsList::Element& element = m_list.elements().at(index);
+        if (!element.hasGroup) {
+            const bool isMeant = !element.key.isEmpty();
+            return report(isMeant ? Finding::Error : Finding::Warning, index, element.key,
+                          Diagnosis::tr("is skipped: no \"group\""));
         }
-        checkValue(*known, path, setting.value(QStringLiteral("value")));
-        if (m_elementOfPath.contains(known->path)) {
-            report(QStringLiteral("%1 was set by element %2 already")
-                       .arg(path, QString::number(m_elementOfPath.value(known->path))));
+        if (!element.setting.isValid()) {
+            const bool isMeant = ServiceSetting::isGroupKnown(element.group);
+            return report(isMeant ? Finding::Error : Finding::Warning, index, element.path(),
+                          Diagnosis::tr("is ignored (nearest known: %1)")
+                              .arg(ServiceSetting::nearestPath(element.path())));
         }
-        m_elementOfPath.insert(known->path, m_index + 1);
+        const SettingsList::Used used = m_list.used(element.setting);
+        checkPlace(index, element, used);
+        // What does not count may have any value.
+        if (used.element == index)
+            checkValue(index, element, used.isForDevice ? Finding::Error : Finding::Warning);
     }
 
-    // Once for each device: its further elements would only repeat it.
-    void checkDevice(const QString& group, const DeviceGroup& device)
+    void checkPlace(int index, const SettingsList::Element& element, const SettingsList::Used& used)
     {
-        if (m_devices.contains(device.device) && device.hasNumber)
+        const QString path = element.path();
+        if (used.element != index) {
+            const bool isSame = used.setting.readAs(element.text()) == used.value;
+            return isSame ? report(Finding::Warning, index, path,
+                                   Diagnosis::tr("is set again by a later element, to the same"))
+                          : report(Finding::Error, index, path,
+                                   Diagnosis::tr("does not count: a later element sets it again"));
+        }
+        if (!used.isForDevice) {
+            report(Finding::Warning, index, path,
+                   Diagnosis::tr("has no effect: not for a device of this model and interface"));
+        } else if (element.group != used.setting.group() || isOtherKey(element, used.setting)) {
+            report(Finding::Warning, index, path,
+                   Diagnosis::tr("is read as %1").arg(used.setting.path()));
+        }
+    }
+
+    // Another setting that is kept in the same place, not another spelling.
+    static bool isOtherKey(const SettingsList::Element& element, const ServiceSetting& setting)
+    {
+        return ServiceSetting::find(element.group, element.key).key() != setting.key();
+    }
+
+    void checkValue(int index, const SettingsList::Element& element, Finding::Level level)
+    {
+        const ServiceSetting& setting = element.setting;
+        const QString text = element.text();
+        const QString read = setting.readAs(text);
+        if (element.value.isNull() || !element.value.canConvert<QString>()) {
+            return report(level, index, element.path(),
+                          Diagnosis::tr("has no text or number: reads as \"%1\"").arg(read));
+        }
+        if (setting.accepts(text))
             return;
-        m_devices.insert(device.device);
-        if (!device.hasNumber)
-            report(QStringLiteral("%1 has no device number and means device 0").arg(group));
-        if (device.device < 0 || device.device >= m_deviceCount) {
-            report(QStringLiteral("device %1 is not below the device count of %2")
-                       .arg(QString::number(device.device), QString::number(m_deviceCount)));
+        QString fault = Diagnosis::tr("\"%1\" is %2")
+                            .arg(shortened(text), faultOf(setting.description(), text));
+        if (read != text)
+            fault += Diagnosis::tr(": reads as \"%1\"").arg(shortened(read));
+        report(level, index, element.path(), fault);
+    }
+
+    void checkCount()
+    {
+        const QString path = S::SERVICE_SECTION + QLatin1Char('/') + S::DEVICE_COUNT;
+        const ServiceSetting setting = ServiceSetting::require(path);
+        if (!m_list.used(setting).isListed()) {
+            report(Finding::Error, -1, path,
+                   Diagnosis::tr("is missing: the service drives no device"));
+        }
+        const int count = m_list.deviceCount();
+        if (!setting.accepts(QString::number(count)))
+            return; // one fault is enough
+        QList<int> missing;
+        for (int device = 0; device < count; ++device) {
+            if (!m_list.devices().contains(device))
+                missing += device;
+        }
+        constexpr int mostNamed = 16;
+        for (const int device : missing.mid(0, mostNamed)) {
+            report(Finding::Error, -1, deviceGroup(device),
+                   Diagnosis::tr("is missing, but below the device count"));
+        }
+        if (missing.size() > mostNamed) {
+            report(Finding::Error, -1, deviceGroup(missing.at(mostNamed)),
+                   Diagnosis::tr("and more up to %1 are missing, but below the device count")
+                       .arg(deviceGroup(missing.constLast())));
         }
     }
 
-    void checkValue(const KnownSetting& known, const QString& path, const QVariant& value)
+    void checkDevice(int device, int firstElement)
     {
-        const QString text = value.toString();
-        QString complaint = known.complaint(text);
-        if (complaint.isEmpty() && (value.isNull() || !value.canConvert<QString>()))
-            complaint = QStringLiteral("reads as an empty text");
-        if (!complaint.isEmpty())
-            report(QStringLiteral("%1 = %2 %3").arg(path, text, complaint));
+        if (device < 0 || device >= m_list.deviceCount()) {
+            report(Finding::Error, firstElement, deviceGroup(device),
+                   Diagnosis::tr("is not below the device count: the service does not drive it"));
+        }
+        checkAddress(device, firstElement);
     }
 
-    const ArrayFile& m_file;
-    int m_deviceCount;
-    int m_index = 0;
-    QStringList m_findings;
-    QSet<int> m_devices;
-    QHash<QString, int> m_elementOfPath;
+    // Devices of one address, each against those before it.
+    void checkAddress(int device, int firstElement)
+    {
+        const auto used = [this, device](const QString& key) {
+            return m_list.used(ServiceSetting::find(deviceGroup(device, S::HARDWARE_SECTION), key));
+        };
+        const SettingsList::Used host = used(S::TCP_HOST);
+        const bool isTcp = host.isForDevice && host.value.isValid();
+        const SettingsList::Used place = isTcp ? used(S::TCP_PORT) : used(S::PORT_NAME);
+        QString address = place.value.toString();
+        if (address.isEmpty())
+            return;
+        if (isTcp) {
+            const QString name = host.value.toString().toLower();
+            const bool isLocal = name == QLatin1String("localhost");
+            address.prepend((isLocal ? QStringLiteral("127.0.0.1") : name) + QLatin1Char(':'));
+        } else if (address.startsWith(QLatin1String("/dev/"))) {
+            address.remove(0, 5);
+        }
+        const auto other = m_addresses.constFind(address);
+        if (other == m_addresses.constEnd()) {
+            m_addresses.insert(address, device);
+            return;
+        }
+        report(Finding::Error, place.isListed() ? place.element : firstElement,
+               place.setting.path(),
+               Diagnosis::tr("\"%1\" is where %2 is too").arg(address, deviceGroup(*other)));
+    }
+
+    // What the list does not have and the service needs.
+    void checkUsed(const SettingsList::Used& used)
+    {
+        const ServiceSetting& setting = used.setting;
+        if (used.isListed() || !setting.device())
+            return checkPortLog(used);
+        const bool isDefaultSound = setting.accepts(setting.defaultValue().toString());
+        const bool isPortSetting = setting.group().endsWith(S::HARDWARE_SECTION)
+            && m_list.interfaceType(*setting.device()) != QLatin1String("tcp");
+        const bool isNeeded = setting.key() == S::DEVICE_ID || setting.isOfProtocol()
+            || setting.key() == S::TCP_HOST || setting.key() == S::TCP_PORT
+            || (isPortSetting && !(used.isCertain() && isDefaultSound));
+        if (!isNeeded)
+            return;
+        QString text = Diagnosis::tr("is missing");
+        if (!used.value.isValid()) {
+            text += Diagnosis::tr(": there is no built-in default, AcceptorSettings has \"%1\"")
+                        .arg(setting.unsetValue());
+        } else if (!used.isCertain() && isDefaultSound) {
+            text += Diagnosis::tr(": the built-in default is \"%1\", AcceptorSettings has \"%2\"")
+                        .arg(used.value.toString(), setting.unsetValue());
+        }
+        report(Finding::Error, -1, setting.path(), text);
+    }
+
+    void checkPortLog(const SettingsList::Used& used)
+    {
+        const ServiceSetting& setting = used.setting;
+        if (!setting.device() || setting.isOfServiceAlone() || setting.description().isRead())
+            return;
+        const ServiceSetting common =
+            ServiceSetting::find(S::ACCEPTOR_COMMON_SECTION, setting.key());
+        const bool commonIsOn = m_list.used(common).value.toBool();
+        if (used.value.toBool() != commonIsOn) {
+            report(Finding::Warning, used.element, setting.path(),
+                   Diagnosis::tr("differs from %1, which AcceptorSettings writes here")
+                       .arg(common.path()));
+        }
+    }
+
+    const SettingsList m_list;
+    QList<Finding> m_findings;
+    QHash<QString, int> m_addresses; // the device that has it
 };
 
 } // namespace
 
-QStringList checkSettings(const ArrayFile& file)
+QString SettingsFinding::levelKey() const
+{
+    return level == Error ? QStringLiteral("error") : QStringLiteral("warning");
+}
+
+QString SettingsFinding::line(const ArrayFile& file) const
+{
+    const QString place = element < 0 ? file.name() : file.place(element);
+    const QString levelText = level == Error ? Diagnosis::tr("error") : Diagnosis::tr("warning");
+    return QStringLiteral("%1: %2: %3")
+        .arg(place, levelText, path.isEmpty() ? text : path + QStringLiteral(": ") + text);
+}
+
+QList<SettingsFinding> checkSettings(const ArrayFile& file)
 {
     return Check(file).findings();
 }

@@ -1,7 +1,11 @@
+#include "acceptors.h"
+#include "acceptorsettings.h"
 #include "commands.h"
 #include "filterfactory.h"
 #include "options.h"
 #include "output.h"
+#include "settingsinput.h"
+#include "settingslist.h"
 
 #include <algorithm>
 
@@ -19,9 +23,103 @@ const Option* optionOf(const QString& word, const std::vector<const Option*>& kn
     return found == known.end() ? nullptr : *found;
 }
 
-// What may stand for a word of a usage.
-QStringList candidatesFor(const QString& usageWord)
+// The settings of a file and of the table, for the devices that the file has.
+QStringList settingPaths(const QString& fileName)
 {
+    QStringList paths;
+    for (const ServiceSetting& setting : ServiceSetting::ofService())
+        paths += setting.path();
+    QList<int> devices;
+    try {
+        if (fileName != QLatin1String("-")) {
+            const SettingsList list(readSettings(fileName).elements());
+            devices = list.devices().keys();
+            for (const SettingsList::Used& used : list.used())
+                paths += used.setting.path();
+        }
+    } catch (const Fault&) {
+        devices = {0};
+    }
+    const QList<SettingDescription> rows = AcceptorSettings::settingDescriptions();
+    for (const SettingDescription& row : rows) {
+        for (const int device : std::as_const(devices))
+            paths += row.path().replace(QLatin1Char('#'), QString::number(device));
+    }
+    paths.removeDuplicates();
+    return paths;
+}
+
+QStringList deviceKeys()
+{
+    QStringList keys;
+    const QList<SettingDescription> rows = AcceptorSettings::settingDescriptions();
+    for (const SettingDescription& row : rows) {
+        if (row.group().contains(QLatin1Char('/')))
+            keys += row.key();
+    }
+    keys.removeDuplicates();
+    return keys;
+}
+
+QStringList devicesOf(const QString& fileName)
+{
+    QStringList indexes;
+    try {
+        const SettingsList list(readSettings(fileName).elements());
+        for (auto device = list.devices().keyBegin(); device != list.devices().keyEnd(); ++device)
+            indexes += QString::number(*device);
+    } catch (const Fault&) {
+    }
+    return indexes;
+}
+
+// Names of two words would need quotes.
+QStringList modelNames()
+{
+    QStringList names;
+    const QList<SupportedDevice> catalogue = Acceptors::supportedDevices();
+    for (const SupportedDevice& row : catalogue) {
+        const QString name = row.value(QStringLiteral("protocol")).toString();
+        names += row.value(QStringLiteral("id")).toString();
+        if (!name.contains(QLatin1Char(' ')))
+            names += name;
+    }
+    return names;
+}
+
+// Each with "=", or, behind it, with what may be chosen.
+QStringList assignmentsTo(const QStringList& paths, const QString& current)
+{
+    const QString path = current.section(QLatin1Char('='), 0, 0);
+    QStringList words;
+    if (!current.contains(QLatin1Char('='))) {
+        for (const QString& known : paths)
+            words += known + QLatin1Char('=');
+        return words;
+    }
+    const int slash = int(path.lastIndexOf(QLatin1Char('/')));
+    const ServiceSetting setting = ServiceSetting::find(path.left(slash), path.mid(slash + 1));
+    for (const QString& choice : setting.description().choices())
+        words += path + QLatin1Char('=') + choice;
+    return words;
+}
+
+// What may stand for a word of a usage.
+// @param operands those before it
+QStringList candidatesFor(const QString& usageWord, const QStringList& operands = {},
+                          const QString& current = {})
+{
+    const QString fileName = operands.value(0);
+    if (usageWord.startsWith(QLatin1String("GROUP/KEY=")))
+        return assignmentsTo(settingPaths(fileName), current);
+    if (usageWord.startsWith(QLatin1String("GROUP/KEY")))
+        return settingPaths(fileName);
+    if (usageWord.startsWith(QLatin1String("[KEY=VALUE")))
+        return assignmentsTo(deviceKeys(), current);
+    if (usageWord == QLatin1String("MODEL"))
+        return modelNames();
+    if (usageWord == QLatin1String("INDEX"))
+        return devicesOf(fileName);
     if (usageWord == QLatin1String("LANG"))
         return translationLanguages();
     if (usageWord == QLatin1String("[NAME]"))
@@ -65,8 +163,12 @@ QStringList candidates(const QStringList& before, const QString& current)
     }
     if (!command)
         return nextWords(words);
-    const QStringList operands = QString(QLatin1String(command->operands)).split(QLatin1Char(' '));
-    return candidatesFor(operands.value(words.size() - command->words().size()));
+    const QStringList usage = QString(QLatin1String(command->operands)).split(QLatin1Char(' '));
+    const QStringList operands = words.mid(command->words().size());
+    const bool isRepeated = usage.constLast().contains(QLatin1String("..."));
+    const int last = int(usage.size()) - 1;
+    const int index = int(operands.size());
+    return candidatesFor(usage.value(isRepeated ? qMin(index, last) : index), operands, current);
 }
 
 } // namespace

@@ -33,6 +33,17 @@ constexpr Option watch{"watch", nullptr, nullptr,
                        QT_TRANSLATE_NOOP("Velmo", "Clear the terminal before every state.")};
 constexpr Option map{"map", nullptr, nullptr,
                      QT_TRANSLATE_NOOP("Velmo", "Write the state as an indented map.")};
+constexpr Option formatted{"formatted", nullptr, nullptr,
+                           QT_TRANSLATE_NOOP("Velmo", "Print the formatted map.")};
+constexpr Option source{
+    "source", nullptr, nullptr,
+    QT_TRANSLATE_NOOP("Velmo", "Say whether the value is from the list or a default.")};
+constexpr Option dryRun{"dry-run", "n", nullptr,
+                        QT_TRANSLATE_NOOP("Velmo", "Write nothing; print what would change.")};
+constexpr Option force{"force", "f", nullptr,
+                       QT_TRANSLATE_NOOP("Velmo", "Write it with the errors that it will have.")};
+constexpr Option quiet{"quiet", "q", nullptr,
+                       QT_TRANSLATE_NOOP("Velmo", "Do not tell what was changed.")};
 constexpr Option output{"output", "o", "OUT",
                         QT_TRANSLATE_NOOP("Velmo", "Write to OUT, \"-\" for standard output.")};
 

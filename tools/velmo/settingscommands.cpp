@@ -1,32 +1,27 @@
-#include "commands.h"
+#include "settingsinput.h"
 
 #include "acceptors.h"
 #include "acceptorsettings.h"
-#include "arrayfile.h"
+#include "commands.h"
 #include "droutemapitem.h"
-#include "inputfile.h"
-#include "knownsettings.h"
+#include "filterchain.h"
+#include "filtersfile.h"
 #include "options.h"
 #include "output.h"
 #include "settingscheck.h"
-#include "settingsedit.h"
-#include "settingsmanager.h"
+#include "settingslist.h"
 #include "table.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 namespace {
 
-ArrayFile readSettings(const QString& fileName)
-{
-    TextInput file = openInput(fileName);
-    return {file, QStringLiteral("settings")};
-}
+using S = AcceptorSettings;
+using Used = SettingsList::Used;
 
 // One element a line, like the lists that people write.
-QByteArray listText(const QJsonArray& list)
+void printList(const QJsonArray& list)
 {
     QByteArrayList lines;
     for (const QJsonValue& element : list) {
@@ -34,64 +29,174 @@ QByteArray listText(const QJsonArray& list)
             QJsonDocument(QJsonArray{element}).toJson(QJsonDocument::Compact);
         lines += "    " + inBrackets.mid(1, inBrackets.size() - 2);
     }
-    return "[\n" + lines.join(",\n") + "\n]\n";
+    const QByteArray text =
+        lines.isEmpty() ? QByteArray("[]\n") : "[\n" + lines.join(",\n") + "\n]\n";
+    print(QString::fromUtf8(text));
 }
 
-void save(const QJsonArray& list, const QString& fileName)
+QJsonValue jsonOf(const ServiceSetting& setting, const QVariant& value)
 {
-    if (fileName == QLatin1String("-"))
-        return print(QString::fromUtf8(listText(list)));
-    const QByteArray text = listText(list);
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-        throw Fault{QStringLiteral("%1: %2").arg(fileName, file.errorString())};
+    return value.isValid() ? QJsonValue::fromVariant(setting.listValue(value.toString()))
+                           : QJsonValue();
 }
 
-// Splits GROUP/KEY, in which the group of a device has a slash of its own.
-Assignment assignment(const QString& path, const QString& value)
+QString modelName(int model)
 {
-    const int keyBegin = path.lastIndexOf(QLatin1Char('/')) + 1;
-    if (keyBegin < 2)
-        throw Fault{QStringLiteral("\"%1\": expected GROUP/KEY").arg(path)};
-    return {path.left(keyBegin - 1), path.mid(keyBegin), value};
+    const QList<SupportedDevice> catalogue = Acceptors::supportedDevices();
+    for (const SupportedDevice& row : catalogue) {
+        if (row.value(QStringLiteral("id")).toInt() == model)
+            return row.value(QStringLiteral("protocol")).toString();
+    }
+    return Velmo::tr("unknown model");
 }
 
-// The values of the list form that the model carries now, by path.
-QMap<QString, QString> carriedValues()
+QString deviceHeading(const SettingsList& list, int device)
 {
-    QMap<QString, QString> values;
-    const QVariantList list = AcceptorSettings().toList();
-    for (const QVariant& element : list) {
-        const QVariantMap map = element.toMap();
-        values.insert(map.value(QStringLiteral("group")).toString() + QLatin1Char('/')
-                          + map.value(QStringLiteral("key")).toString(),
-                      map.value(QStringLiteral("value")).toString());
+    const auto value = [&](const QString& subgroup, const QString& key) {
+        return list.used(ServiceSetting::find(deviceGroup(device, subgroup), key)).value.toString();
+    };
+    const QString type = list.interfaceType(device);
+    const QString address = type == QLatin1String("tcp") ? value(S::HARDWARE_SECTION, S::TCP_HOST)
+            + QLatin1Char(':') + value(S::HARDWARE_SECTION, S::TCP_PORT)
+                                                         : value(S::HARDWARE_SECTION, S::PORT_NAME);
+    const int model = list.model(device);
+    QString heading = Velmo::tr("Device %1: %2 (%3) \"%4\", %5 %6")
+                          .arg(QString::number(device), modelName(model), QString::number(model),
+                               value(S::DEVICE_SECTION, S::DEVICE_NAME), type, address);
+    if (device < 0 || device >= list.deviceCount())
+        heading += Velmo::tr(" - not below the device count");
+    return heading;
+}
+
+QString routesTable(const QString& json)
+{
+    QList<QStringList> rows;
+    const QList<DRouteMapItem> map = DRouteMap::fromJson(json);
+    for (const DRouteMapItem& route : map) {
+        const bool isCoin = route.billType == Acceptors::Coin;
+        rows += QStringList{route.currency, QString::number(route.denomination),
+                            isCoin ? Velmo::tr("coin") : Velmo::tr("note"),
+                            QString::number(route.route), QString::number(route.count)};
+    }
+    return formatTable({Velmo::tr("Currency"), QLatin1Char('>') + Velmo::tr("Face value"),
+                        Velmo::tr("Kind"), QLatin1Char('>') + Velmo::tr("Route"),
+                        QLatin1Char('>') + Velmo::tr("Count")},
+                       rows);
+}
+
+QString limitsTable(const QString& json)
+{
+    QList<QStringList> rows;
+    const QJsonArray limits = QJsonDocument::fromJson(json.toUtf8()).array();
+    for (const QJsonValue& limit : limits) {
+        rows += QStringList{limit[QStringLiteral("denom")].toVariant().toString(),
+                            limit[QStringLiteral("attempts")].toVariant().toString()};
+    }
+    return formatTable(
+        {QLatin1Char('>') + Velmo::tr("Face value"), QLatin1Char('>') + Velmo::tr("Rejections")},
+        rows);
+}
+
+QString indented(const QString& lines)
+{
+    QString text = QStringLiteral("  ") + lines.trimmed();
+    return text.replace(QLatin1Char('\n'), QStringLiteral("\n  ")) + QLatin1Char('\n');
+}
+
+// The settings that are tables in themselves.
+QString tableOf(const Used& used)
+{
+    const QString value = used.value.toString();
+    switch (used.setting.description().kind()) {
+    case SettingDescription::AttemptsLimits:
+        return limitsTable(value);
+    case SettingDescription::RouteMap:
+        return routesTable(value);
+    default:
+        return {};
+    }
+}
+
+// The settings of the service or of one device; tables of their own go to @p tables.
+QString block(const QString& heading, const SettingsList& list, std::optional<int> device,
+              QString& tables)
+{
+    QList<QStringList> rows;
+    for (const Used& used : list.used()) {
+        if (used.setting.device() != device)
+            continue;
+        QString value = used.value.toString().simplified();
+        const QString table = tableOf(used);
+        if (table.count(QLatin1Char('\n')) > 1) {
+            const QString label = used.setting.description().label();
+            value = Velmo::tr("in the table below");
+            tables +=
+                QStringLiteral("\n%1: %2\n").arg(label, used.setting.path()) + indented(table);
+        }
+        QString mark = used.value == used.setting.defaultValue() ? Velmo::tr("default") : QString();
+        if (!used.isListed())
+            mark = Velmo::tr("missing");
+        else if (!used.isForDevice)
+            mark = Velmo::tr("not used");
+        rows += QStringList{QStringLiteral("  ") + used.setting.path(), mark, value};
+    }
+    return heading + QLatin1Char('\n')
+        + formatTable({QStringLiteral("  ") + Velmo::tr("Setting"), QString(), Velmo::tr("Value")},
+                      rows, outputWidth());
+}
+
+QString settingsText(const SettingsList& list)
+{
+    QString tables;
+    QString text = block(Velmo::tr("Common settings"), list, {}, tables);
+    text += tables;
+    for (auto device = list.devices().keyBegin(); device != list.devices().keyEnd(); ++device)
+        text += QLatin1Char('\n') + block(deviceHeading(list, *device), list, *device, tables);
+    return text;
+}
+
+QJsonArray settingsJson(const SettingsList& list)
+{
+    QJsonArray settings;
+    for (const Used& used : list.used()) {
+        const QJsonValue source = used.isListed() ? QStringLiteral("list")
+            : used.value.isValid()                ? QJsonValue(QStringLiteral("default"))
+                                                  : QJsonValue();
+        settings += QJsonObject{
+            {QStringLiteral("path"), used.setting.path()},
+            {QStringLiteral("value"), jsonOf(used.setting, used.value)},
+            {QStringLiteral("default"), jsonOf(used.setting, used.setting.defaultValue())},
+            {QStringLiteral("source"), source}};
+    }
+    return settings;
+}
+
+// The values of a list by path, as far as the service is sure to use them.
+QMap<QString, QVariant> valuesByPath(const SettingsList& list)
+{
+    QMap<QString, QVariant> values;
+    for (const Used& used : list.used()) {
+        if (used.isForDevice && used.isCertain())
+            values.insert(used.setting.path(), used.value);
     }
     return values;
 }
 
-// The default of a device's setting; the intervals of ID 003 devices have none.
-bool isDeviceDefault(const QString& subgroup, const QString& key, const QString& value)
+QString shown(const QVariant& value)
 {
-    using acceptorSettings::SettingsManager;
-    return subgroup != SettingsManager::SM_G_ID003
-        && SettingsManager().getDefault(subgroup, key).toString() == value;
+    return value.isValid() ? QLatin1Char('"') + value.toString().simplified() + QLatin1Char('"')
+                           : Velmo::tr("not set");
 }
 
-QString deviceHeading(int number, const AcceptorDeviceSettings& device)
+Fault whyNotSet(const SettingsList& list, const Used& used, const QString& fileName)
 {
-    const QString model = Acceptors::devName(static_cast<Acceptors::Supported>(device.type()));
-    const bool isTcp = device.interfaceType() == QLatin1String("tcp");
-    const QString address =
-        isTcp ? QStringLiteral("%1:%2").arg(device.tcpHost(), device.tcpPort()) : device.portName();
-    QString heading = QStringLiteral("Device %1: %2 (%3) \"%4\", %5 %6")
-                          .arg(number)
-                          .arg(model)
-                          .arg(device.type())
-                          .arg(device.name(), device.interfaceType(), address);
-    if (number < 0 || number >= AcceptorSettings::deviceCount())
-        heading += QStringLiteral(" - not below the device count");
-    return heading;
+    const std::optional<int> device = used.setting.device();
+    if (device && !list.devices().contains(*device))
+        return {Velmo::tr("%1: there is no %2").arg(fileName, deviceGroup(*device))};
+    const QString why = used.isForDevice
+        ? Velmo::tr("%1: %2 is not set and has no default")
+        : Velmo::tr("%1: %2 is not set: not for a device of this model and interface");
+    return {why.arg(fileName, used.setting.path())};
 }
 
 } // namespace
@@ -99,99 +204,129 @@ QString deviceHeading(int number, const AcceptorDeviceSettings& device)
 int showSettingsCommand(const Arguments& arguments)
 {
     const ArrayFile file = readSettings(arguments.operands().constFirst());
-    const QMap<QString, QString> defaults = carriedValues();
-    AcceptorSettings settings;
-    settings.setList(file.elements().toVariantList());
-    if (arguments.isSet(options::json)) {
+    if (arguments.isSet(options::formatted)) {
+        S settings;
+        settings.setList(file.elements().toVariantList());
         const QJsonDocument map(QJsonObject::fromVariantMap(settings.toFormattedMap()));
         print(QString::fromUtf8(map.toJson()));
         return exitSuccess;
     }
-
-    QString text;
-    QString heading = QStringLiteral("Common settings");
-    QList<QStringList> rows;
-    const auto finishBlock = [&](const QString& nextHeading) {
-        text += heading + QLatin1Char('\n')
-            + formatTable({QStringLiteral("  Setting"), QString(), QStringLiteral("Value")}, rows);
-        heading = QLatin1Char('\n') + nextHeading;
-        rows.clear();
-    };
-    std::optional<int> shownDevice;
-    const QVariantList list = settings.toList();
-    for (const QVariant& element : list) {
-        const QVariantMap map = element.toMap();
-        const QString group = map.value(QStringLiteral("group")).toString();
-        const QString key = map.value(QStringLiteral("key")).toString();
-        const QString path = group + QLatin1Char('/') + key;
-        const QString value = map.value(QStringLiteral("value")).toString();
-        const std::optional<DeviceGroup> device = deviceGroup(group);
-        if (device && device->device != shownDevice) {
-            shownDevice = device->device;
-            finishBlock(deviceHeading(*shownDevice, *AcceptorSettings::devices[*shownDevice]));
-        }
-        const bool isDefault =
-            device ? isDeviceDefault(device->subgroup, key, value) : defaults.value(path) == value;
-        rows += QStringList{QStringLiteral("  ") + path,
-                            isDefault ? QStringLiteral("default") : QString(), value.simplified()};
-    }
-    finishBlock(QString());
-    print(text);
+    const SettingsList list(file.elements());
+    if (arguments.isSet(options::json))
+        printList(settingsJson(list));
+    else
+        print(settingsText(list));
     return exitSuccess;
 }
 
 int getSettingCommand(const Arguments& arguments)
 {
     const ArrayFile file = readSettings(arguments.operands().constFirst());
-    const Assignment asked = assignment(arguments.operands().at(1), QString());
-    const QString known = requireKnownSetting(asked.group, asked.key).path;
-    AcceptorSettings().setList(file.elements().toVariantList());
-    const QMap<QString, QString> values = carriedValues();
-    if (!values.contains(known))
-        throw Fault{QStringLiteral("%1: %2 is not set").arg(file.name(), known)};
-    print(values.value(known) + QLatin1Char('\n'));
-    return exitSuccess;
-}
-
-int setSettingsCommand(const Arguments& arguments)
-{
-    const QString fileName = arguments.operands().constFirst();
-    const ArrayFile file = readSettings(fileName);
-    const QStringList texts = arguments.operands().mid(1);
-    QList<Assignment> assignments;
-    for (const QString& text : texts) {
-        const int equals = text.indexOf(QLatin1Char('='));
-        if (equals < 0)
-            throw Fault{QStringLiteral("\"%1\": expected GROUP/KEY=VALUE").arg(text)};
-        assignments += assignment(text.left(equals), text.mid(equals + 1));
+    const ServiceSetting asked = ServiceSetting::require(arguments.operands().at(1));
+    const SettingsList list(file.elements());
+    const Used used = list.used(asked);
+    if (!used.value.isValid())
+        throw whyNotSet(list, used, file.name());
+    if (!used.isCertain()) {
+        printError(
+            Velmo::tr("%1: %2 is missing: the built-in default is \"%3\", AcceptorSettings "
+                      "has \"%4\"")
+                .arg(file.name(), asked.path(), used.value.toString(), used.setting.unsetValue()));
     }
-    save(editSettings(file.elements(), assignments),
-         arguments.isSet(options::output) ? arguments.value(options::output) : fileName);
+    QString text = used.value.toString();
+    if (arguments.isSet(options::source)) {
+        text += QLatin1Char('\t')
+            + (used.isListed() ? Velmo::tr("list (%1)").arg(file.place(used.element))
+                               : Velmo::tr("default"));
+    }
+    print(text + QLatin1Char('\n'));
     return exitSuccess;
 }
 
 int checkSettingsCommand(const Arguments& arguments)
 {
-    const QStringList findings = checkSettings(readSettings(arguments.operands().constFirst()));
-    for (const QString& finding : findings)
-        print(finding + QLatin1Char('\n'));
+    const ArrayFile file = readSettings(arguments.operands().constFirst());
+    const QList<SettingsFinding> findings = checkSettings(file);
+    QJsonArray list;
+    for (const SettingsFinding& finding : findings) {
+        const bool hasPlace = finding.element >= 0;
+        list += QJsonObject{
+            {QStringLiteral("level"), finding.levelKey()},
+            {QStringLiteral("element"), hasPlace ? QJsonValue(finding.element + 1) : QJsonValue()},
+            {QStringLiteral("line"),
+             hasPlace ? QJsonValue(file.lineOf(finding.element)) : QJsonValue()},
+            {QStringLiteral("path"), finding.path},
+            {QStringLiteral("text"), finding.text}};
+        if (!arguments.isSet(options::json))
+            print(finding.line(file) + QLatin1Char('\n'));
+    }
+    if (arguments.isSet(options::json))
+        printList(list);
     return findings.isEmpty() ? exitSuccess : exitFindings;
+}
+
+int diffSettingsCommand(const Arguments& arguments)
+{
+    const QString first = arguments.operands().at(0);
+    const QString second = arguments.operands().at(1);
+    if (first == QLatin1String("-") && second == first)
+        throw arguments.usageFault();
+    const auto values = [](const QString& name) {
+        return valuesByPath(SettingsList(readSettings(name).elements()));
+    };
+    const QMap<QString, QVariant> before = values(first);
+    const QMap<QString, QVariant> after = values(second);
+    QStringList paths = before.keys() + after.keys();
+    paths.sort();
+    paths.removeDuplicates();
+    QJsonArray differences;
+    QString text;
+    for (const QString& path : std::as_const(paths)) {
+        const QVariant a = before.value(path);
+        const QVariant b = after.value(path);
+        if (a == b && a.isValid() == b.isValid())
+            continue;
+        differences += QJsonObject{{QStringLiteral("path"), path},
+                                   {QStringLiteral("a"), QJsonValue::fromVariant(a)},
+                                   {QStringLiteral("b"), QJsonValue::fromVariant(b)}};
+        text += QStringLiteral("%1: %2 -> %3\n").arg(path, shown(a), shown(b));
+    }
+    if (arguments.isSet(options::json))
+        printList(differences);
+    else
+        print(text);
+    return differences.isEmpty() ? exitSuccess : exitFindings;
+}
+
+int settingsFiltersCommand(const Arguments& arguments)
+{
+    const ArrayFile file = readSettings(arguments.operands().constFirst());
+    FilterChain chain;
+    QJsonArray list;
+    QString text;
+    for (const AbstractFilter* const filter : filtersOfSettings(file, chain)) {
+        const QJsonObject params = filterParams(*filter);
+        list += QJsonObject{{QStringLiteral("name"), filterName(*filter)},
+                            {QStringLiteral("params"), params}};
+        QStringList values;
+        for (auto param = params.begin(); param != params.end(); ++param)
+            values += param.key() + QLatin1Char(' ') + param.value().toVariant().toString();
+        text += QStringLiteral("%1 (%2): %3\n")
+                    .arg(filterName(*filter), values.join(QStringLiteral(", ")),
+                         filter->getFilterDescription().section(QLatin1Char('|'), 1));
+    }
+    if (arguments.isSet(options::json))
+        printList(list);
+    else
+        print(text);
+    return exitSuccess;
 }
 
 int showRoutesCommand(const Arguments& arguments)
 {
     const ArrayFile file = readSettings(arguments.operands().constFirst());
-    AcceptorSettings().setList(file.elements().toVariantList());
-    QList<QStringList> rows;
-    const QList<DRouteMapItem> map = DRouteMap::fromJson(AcceptorSettings::routeMap());
-    for (const DRouteMapItem& route : map) {
-        const bool isCoin = route.billType == Acceptors::Coin;
-        rows += QStringList{route.currency, QString::number(route.denomination),
-                            isCoin ? QStringLiteral("coin") : QStringLiteral("note"),
-                            QString::number(route.route), QString::number(route.count)};
-    }
-    print(formatTable({QStringLiteral("Currency"), QStringLiteral(">Face value"),
-                       QStringLiteral("Kind"), QStringLiteral(">Route"), QStringLiteral(">Count")},
-                      rows));
+    const SettingsList list(file.elements());
+    print(routesTable(
+        list.used(ServiceSetting::find(S::DISPENSER_SECTION, S::ROUTE_MAP)).value.toString()));
     return exitSuccess;
 }

@@ -2,7 +2,21 @@
 
 #include <QVector>
 
-QString formatTable(const QStringList& head, const QList<QStringList>& rows)
+namespace {
+
+// Cuts a text into lines that are as long as there is room, but not too short to be read.
+QString folded(const QString& text, int indent, int width)
+{
+    const int room = qMax(width - indent, 20);
+    QStringList lines;
+    for (int begin = 0; begin == 0 || begin < text.size(); begin += room)
+        lines += text.mid(begin, room);
+    return lines.join(QLatin1Char('\n') + QString(indent, QLatin1Char(' ')));
+}
+
+} // namespace
+
+QString formatTable(const QStringList& head, const QList<QStringList>& rows, int width)
 {
     QVector<int> widths;
     QVector<bool> numeric;
@@ -21,6 +35,12 @@ QString formatTable(const QStringList& head, const QList<QStringList>& rows)
     const auto addLine = [&](const QStringList& cells) {
         QString line;
         for (int i = 0; i < cells.size(); ++i) {
+            const bool isTooLong = width > 0 && i + 1 == cells.size() && !numeric.at(i)
+                && line.size() + cells.at(i).size() > width;
+            if (isTooLong) {
+                line += folded(cells.at(i), int(line.size()), width);
+                break;
+            }
             line += numeric.at(i) ? cells.at(i).rightJustified(widths.at(i))
                                   : cells.at(i).leftJustified(widths.at(i));
             line += QStringLiteral("  ");

@@ -5,7 +5,8 @@
 
 /// Rows of text as a table with columns as wide as needed.
 /// @param head the columns' headings; one that begins with ">" is of numbers and aligned right
-QString formatTable(const QStringList& head, const QList<QStringList>& rows);
+/// @param width of a line, 0 for any; the last column goes on below itself where it is too long
+QString formatTable(const QStringList& head, const QList<QStringList>& rows, int width = 0);
 
 /// Rows of a name and what it means, the meanings side by side and broken at the width of a page.
 QString formatList(const QList<QStringList>& rows);

@@ -1,0 +1,10 @@
+#include "settingsinput.h"
+
+#include "inputfile.h"
+#include "settingslist.h"
+
+ArrayFile readSettings(const QString& fileName)
+{
+    TextInput input = openInput(fileName);
+    return readSettingsFile(input);
+}

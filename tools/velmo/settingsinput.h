@@ -1,0 +1,6 @@
+#pragma once
+
+#include "arrayfile.h"
+
+/// Opens and reads a settings list, "-" for standard input. Throws Fault for anything else.
+ArrayFile readSettings(const QString& fileName);
