@@ -5,6 +5,7 @@
 #include "jsonreader_p.h"
 #include "statitem.h"
 
+#include <QLocale>
 #include <QObject>
 #include <QStringList>
 
@@ -497,7 +498,7 @@ QString AcceptorState::systemStatusDescr(QMap<int, QString> names) const
         lines += QStringLiteral("\n");
     }
     if (m_dt.isValid())
-        lines += m_dt.toString(QStringLiteral("dd.MM.yyyy hh.mm.ss"));
+        lines += QLocale::c().toString(m_dt, QStringLiteral("dd.MM.yyyy hh.mm.ss"));
     return lines.join(QLatin1Char('\n'));
 }
 
