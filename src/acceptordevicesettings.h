@@ -14,7 +14,7 @@ public:
     virtual ~AbstractSettings();
 };
 
-/// A TCP endpoint.
+/// A TCP endpoint, for programs: nothing here uses it.
 class VELMOLIB_EXPORT TcpSettings : public AbstractSettings
 {
 public:

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "velmolib_global.h"
+
 #include <QString>
 #include <QVariant>
 
 /// A device's identity and serial connection, as service and settings exchange them; see
 /// AcceptorDeviceSettings::toAcceptorInfo() and setAcceptorInfo(). The library only carries text,
 /// number and flag.
-struct AcceptorInfo
+struct VELMOLIB_EXPORT AcceptorInfo
 {
     QString text;
     qint32 number = -1;

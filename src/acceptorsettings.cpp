@@ -694,7 +694,8 @@ void AcceptorSettings::fromAcceptorInfoList(const QList<AcceptorInfo>& infos)
 
 QSet<int> AcceptorSettings::fixedDeviceTypes() const
 {
-    static const QSet<int> fixedtypes{Acceptors::PosD200, Acceptors::Uniteller};
+    // Never destroyed: the destructor of a program's static object may ask.
+    static const auto& fixedtypes = *new QSet<int>{Acceptors::PosD200, Acceptors::Uniteller};
     return fixedtypes;
 }
 

@@ -90,6 +90,7 @@ const auto& table()
 
 DeviceState& DeviceState::operator=(const DeviceState& other)
 {
+    // An equal state is left alone: references into its rows stay valid, null texts stay null.
     if (*this != other)
         fields(*this) = fields(other);
     return *this;

@@ -38,7 +38,7 @@ bool StatItem::fromMap(const QVariantMap& map, QString* error)
     return table().fromMap(map, *this, error);
 }
 
-void StatItem::addToMap(QVariantMap& map) const
+void StatItem::addToMap(QVariantMap& map)
 {
     for (const RecordField<StatItem>& counter : counterFields())
         map.insert(*counter.key, counter.get(*this));

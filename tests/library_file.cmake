@@ -53,3 +53,13 @@ foreach(public Acceptors::search BasicNoteItem::BILL_TYPE "vtable for StatItem"
         message(SEND_ERROR "Not exported: ${public}")
     endif()
 endforeach()
+
+# A class without symbols of its own needs the mark all the same, for its type information.
+file(GLOB_RECURSE headers ${CMAKE_CURRENT_LIST_DIR}/../src/*.h)
+list(FILTER headers EXCLUDE REGEX "_p\\.h$")
+foreach(header IN LISTS headers)
+    file(STRINGS ${header} unmarked REGEX "^(class|struct) [A-Za-z]+( |$)")
+    if(unmarked)
+        message(SEND_ERROR "Not marked for export in ${header}: ${unmarked}")
+    endif()
+endforeach()

@@ -37,13 +37,13 @@ private Q_SLOTS:
 
     void modelsAreKnownByKind()
     {
-        QFETCH(QStringList, row);
+        const auto [id, name, type, abilities] = cells<4>();
         const LogCapture log;
-        const auto model = static_cast<Acceptors::Supported>(row.at(0).toInt());
-        QCOMPARE(Acceptors::devName(model), row.at(1));
-        QCOMPARE(QString::number(Acceptors::devType(model)), row.at(2));
-        QCOMPARE(Acceptors::canDispense(model), row.at(3).contains("pays out"_s));
-        QCOMPARE(Acceptors::isSmartDispenser(model), row.at(3).contains("smart"_s));
+        const auto model = static_cast<Acceptors::Supported>(id.toInt());
+        QCOMPARE(Acceptors::devName(model), name);
+        QCOMPARE(QString::number(Acceptors::devType(model)), type);
+        QCOMPARE(Acceptors::canDispense(model), abilities.contains("pays out"_s));
+        QCOMPARE(Acceptors::isSmartDispenser(model), abilities.contains("smart"_s));
     }
 
     void unknownModelIsLogged()

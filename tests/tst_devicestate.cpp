@@ -178,6 +178,12 @@ private Q_SLOTS:
         QVERIFY(a != b);
         b = a;
         QCOMPARE(b, a);
+        // What refers to a row may outlive the copy of an equal state.
+        DeviceState equal;
+        equal.setDispenserRegistry({row(5)});
+        const DispenserRegistryItem* const held = &equal.dispenserRegistry.constFirst();
+        equal = a;
+        QCOMPARE(&equal.dispenserRegistry.constFirst(), held);
     }
 
     void resetsKeepWhatTheyShould()

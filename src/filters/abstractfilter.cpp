@@ -12,9 +12,8 @@ AbstractFilter::FilterResult AbstractFilter::validate()
 AbstractFilter* AbstractFilter::setParams(const QVariantMap& params)
 {
     for (auto param = params.begin(); param != params.end(); ++param) {
-        if (logsDebug())
-            qDebug().noquote() << QStringLiteral("Setting property %1 to %2")
-                                      .arg(param.key(), param.value().toString());
+        logDebug() << QStringLiteral("Setting property %1 to %2")
+                          .arg(param.key(), param.value().toString());
         const int index = metaObject()->indexOfProperty(param.key().toUtf8().constData());
         const QMetaProperty property = metaObject()->property(index);
         if (property.isReadable())

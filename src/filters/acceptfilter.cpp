@@ -4,8 +4,7 @@
 
 AbstractFilter::FilterResult AcceptFilter::validate()
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Accept filter");
+    logDebug() << QStringLiteral("Accept filter");
     return m_acceptAll ? FILTER_ACCEPT : FILTER_REJECT;
 }
 

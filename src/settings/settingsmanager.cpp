@@ -233,8 +233,7 @@ QVariant SettingsManager::getDefault(QString group, QString param) const
 
 bool SettingsManager::load(const quorbus::ClientSettings& settings)
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Parsing settings list...");
+    logDebug() << QStringLiteral("Parsing settings list...");
     clear();
     const QList<QVariant> list = settings.settings();
     for (const QVariant& element : list) {
@@ -242,9 +241,8 @@ bool SettingsManager::load(const quorbus::ClientSettings& settings)
         const SettingsItem* const item =
             addItem(map.value(SettingsList::groupKey).toString(),
                     map.value(SettingsList::nameKey).toString(), map.value(SettingsList::valueKey));
-        if (logsDebug())
-            qDebug().noquote() << QStringLiteral("Added [%1/%2 = %3]")
-                                      .arg(item->group, item->name, item->value.toString());
+        logDebug() << QStringLiteral("Added [%1/%2 = %3]")
+                          .arg(item->group, item->name, item->value.toString());
     }
     loaded = true;
     return true;
