@@ -9,8 +9,6 @@
 #include <QPair>
 #include <QStringBuilder>
 
-#include <optional>
-
 const QString AcceptorSettings::SERVICE_SECTION = QStringLiteral("service");
 const QString AcceptorSettings::DEVICE_SECTION = QStringLiteral("device");
 const QString AcceptorSettings::DISPENSER_SECTION = QStringLiteral("dispenser");
@@ -139,49 +137,15 @@ Device& deviceAt(int index)
     return *device;
 }
 
-// What the two parts of a group path mean.
-struct Group
+// The result is that of updateValue().
+bool apply(const SettingGroup& group, const QString& key, const QString& value)
 {
-    Group(QString name, QString subgroupName)
-        : subgroup(std::move(subgroupName))
-        , isOfService(SettingsTable::isServiceGroup(name))
-        , isOfDevice(!isOfService && name.contains(S::DEVICE))
-        , serviceGroup(isOfService ? name : QString())
-        , deviceIndex(isOfDevice ? name.remove(S::DEVICE).toInt() : 0)
-    {
-    }
-
-    const SettingRow* find(const QString& key) const
-    {
-        if (isOfService)
-            return SettingsTable::findServiceSetting(serviceGroup, key);
-        return isOfDevice ? SettingsTable::findDeviceSetting(subgroup, key) : nullptr;
-    }
-
-    // The result is that of updateValue().
-    bool apply(const QString& key, const QString& value) const
-    {
-        Device* const device = isOfDevice ? &deviceAt(deviceIndex) : nullptr;
-        const SettingRow* const row = find(key);
-        if (row && row->access.set)
-            row->access.set(device, value);
-        return isOfService
-            || (isOfDevice && (subgroup == S::HARDWARE_SECTION || subgroup == S::DEVICE_SECTION));
-    }
-
-    QString subgroup;
-    bool isOfService;
-    bool isOfDevice;
-    QString serviceGroup;
-    int deviceIndex;
-};
-
-// A part that is missing is empty, further parts do not count.
-Group groupAt(const QString& path)
-{
-    const auto slash = path.indexOf(QLatin1Char('/'));
-    const QString rest = slash < 0 ? QString() : path.mid(slash + 1);
-    return {path.left(slash), rest.left(rest.indexOf(QLatin1Char('/')))};
+    Device* const device = group.isOfDevice() ? &deviceAt(group.deviceIndex()) : nullptr;
+    const SettingRow* const row = group.find(key);
+    if (row && row->access.set)
+        row->access.set(device, value);
+    return !device ? group.isOfService()
+                   : group.name() == S::HARDWARE_SECTION || group.name() == S::DEVICE_SECTION;
 }
 
 // Elements of one group follow each other in a list: its path is read once for all of them.
@@ -194,16 +158,16 @@ public:
         if (path == element.constEnd())
             return false;
         const QString text = path->toString();
-        if (!m_group || text != m_path)
-            m_group = groupAt(text);
+        if (text != m_path)
+            m_group = SettingGroup(text);
         m_path = text;
-        return m_group->apply(element.value(SettingsList::nameKey).toString(),
-                              element.value(SettingsList::valueKey).toString());
+        return ::apply(m_group, element.value(SettingsList::nameKey).toString(),
+                       element.value(SettingsList::valueKey).toString());
     }
 
 private:
     QString m_path;
-    std::optional<Group> m_group;
+    SettingGroup m_group{m_path};
 };
 
 } // namespace
@@ -314,12 +278,12 @@ QList<SettingDescription> AcceptorSettings::settingDescriptions()
 
 SettingDescription AcceptorSettings::settingDescription(const QString& group, const QString& key)
 {
-    const Group asked = groupAt(group);
+    const SettingGroup asked(group);
     const SettingRow* const row = asked.find(key);
     if (!row)
         return {};
-    const QString index = QString::number(asked.deviceIndex);
-    return {row, asked.isOfService ? row->group : deviceGroup(index, row->group)};
+    const QString index = QString::number(asked.deviceIndex());
+    return {row, asked.isOfService() ? row->group : deviceGroup(index, row->group)};
 }
 
 bool AcceptorSettings::isEmpty()
@@ -368,10 +332,10 @@ void AcceptorSettings::setFotmattedMap(const QVariantMap& map)
 {
     const QMutexLocker locker(&settingsMutex_);
     for (auto entry = map.constBegin(); entry != map.constEnd(); ++entry) {
-        const Group group = groupAt(entry.key());
+        const SettingGroup group(entry.key());
         const QVariantMap settings = entry.value().toMap();
         for (auto setting = settings.constBegin(); setting != settings.constEnd(); ++setting)
-            group.apply(setting.key(), setting.value().toString());
+            apply(group, setting.key(), setting.value().toString());
     }
     for (auto entry = devices.lowerBound(deviceCount_); entry != devices.end();) {
         delete entry.value();
@@ -387,7 +351,7 @@ bool AcceptorSettings::setValue(const QVariantMap& setting)
 
 bool AcceptorSettings::updateValue(QString group, QString subgroup, QString key, QString value)
 {
-    return Group(std::move(group), std::move(subgroup)).apply(key, value);
+    return apply(SettingGroup(group, subgroup), key, value);
 }
 
 void AcceptorSettings::removeDeviceByIndex(int position)

@@ -527,33 +527,42 @@ Rows deviceSettings()
     return {std::begin(deviceRows), std::end(deviceRows)};
 }
 
-bool isServiceGroup(const QString& group)
+} // namespace SettingsTable
+
+SettingGroup::SettingGroup(const QString& path)
 {
-    return group == S::ACCEPTOR_COMMON_SECTION || group == S::SERVICE_SECTION
-        || group == S::DISPENSER_SECTION;
+    const auto slash = path.indexOf(QLatin1Char('/'));
+    const QString rest = slash < 0 ? QString() : path.mid(slash + 1);
+    *this = SettingGroup(path.left(slash), rest.left(rest.indexOf(QLatin1Char('/'))));
 }
 
-const SettingRow* findServiceSetting(const QString& group, const QString& key)
+SettingGroup::SettingGroup(const QString& group, const QString& subgroup)
 {
-    const auto row =
-        std::find_if(std::begin(serviceRows), std::end(serviceRows),
-                     [&](const Row& r) { return key == r.keys.list && group == r.group; });
-    return row == std::end(serviceRows) ? nullptr : row;
+    if (group == S::ACCEPTOR_COMMON_SECTION || group == S::SERVICE_SECTION
+        || group == S::DISPENSER_SECTION) {
+        m_kind = OfService;
+        m_name = group;
+    } else if (group.contains(S::DEVICE)) {
+        m_kind = OfDevice;
+        m_deviceIndex = QString(group).remove(S::DEVICE).toInt();
+        m_name = subgroup;
+    }
 }
 
-const SettingRow* findDeviceSetting(const QString& subgroup, const QString& key)
+const SettingRow* SettingGroup::find(const QString& key) const
 {
-    const QString lowerKey = key.toLower();
+    if (m_kind == OfNone)
+        return nullptr;
     const Row* anywhere = nullptr;
-    for (const Row& row : deviceRows) {
+    const QString lowerKey = key.toLower();
+    for (const Row& row :
+         isOfService() ? SettingsTable::serviceSettings() : SettingsTable::deviceSettings()) {
         if (!row.isCalled(key, lowerKey))
             continue;
-        if (subgroup == row.group)
+        if (m_name == row.group)
             return &row;
         if (row.devices.readInAnySubgroup)
             anywhere = &row;
     }
     return anywhere;
 }
-
-} // namespace SettingsTable

@@ -96,10 +96,31 @@ Rows serviceSettings();
 /// The settings of each device, in the order of the list form.
 Rows deviceSettings();
 
-bool isServiceGroup(const QString& group);
-
-/// The setting that is read under a group and a key; null where there is none.
-const SettingRow* findServiceSetting(const QString& group, const QString& key);
-const SettingRow* findDeviceSetting(const QString& subgroup, const QString& key);
-
 } // namespace SettingsTable
+
+/// What a group path means.
+class SettingGroup
+{
+public:
+    /// A part of the path that is missing is empty; parts beyond the second do not count.
+    explicit SettingGroup(const QString& path);
+    SettingGroup(const QString& group, const QString& subgroup);
+
+    bool isOfService() const { return m_kind == OfService; }
+    bool isOfDevice() const { return m_kind == OfDevice; }
+
+    int deviceIndex() const { return m_deviceIndex; }
+
+    /// The service's group, or the sub-group of the device.
+    QString name() const { return m_name; }
+
+    /// The setting that is read under a key; null where there is none.
+    const SettingRow* find(const QString& key) const;
+
+private:
+    enum Kind : qint32 { OfNone, OfService, OfDevice };
+
+    Kind m_kind = OfNone;
+    int m_deviceIndex = 0;
+    QString m_name;
+};

@@ -29,7 +29,7 @@ foreach(entry IN LISTS needed)
     endif()
 endforeach()
 
-foreach(private JsonReader JsonWriter RecordTable recordField wrappingSum SerialPortTexts SettingsList SettingsTable SettingRow::isFor "\\(anonymous namespace\\)")
+foreach(private JsonReader JsonWriter SettingGroup RecordTable recordField wrappingSum SerialPortTexts SettingsList SettingsTable SettingRow::isFor "\\(anonymous namespace\\)")
     if(symbols MATCHES "[^\n]*${private}[^\n]*")
         message(SEND_ERROR "A private helper is exported: ${CMAKE_MATCH_0}")
     endif()
