@@ -264,19 +264,19 @@ constexpr qint64 longMax = std::numeric_limits<qint64>::max();
 
 constexpr Row::Values number(qint64 minimum, qint64 maximum)
 {
-    return {SettingDescription::Number, minimum, maximum, nullptr};
+    return {SettingDescription::Number, minimum, maximum};
 }
 
 constexpr Row::Values choice(QStringList (*choices)())
 {
-    return {SettingDescription::Choice, 0, 0, choices};
+    return {SettingDescription::Choice, {}, {}, choices};
 }
 
 constexpr Row::Values interval = number(0, intMax);
-constexpr Row::Values onOff{SettingDescription::Switch, 0, 0, nullptr};
-constexpr Row::Values anyText{SettingDescription::Text, 0, 0, nullptr};
-constexpr Row::Values limits{SettingDescription::AttemptsLimits, 0, 0, nullptr};
-constexpr Row::Values routes{SettingDescription::RouteMap, 0, 0, nullptr};
+constexpr Row::Values onOff{SettingDescription::Switch};
+constexpr Row::Values anyText{SettingDescription::Text};
+constexpr Row::Values limits{SettingDescription::AttemptsLimits};
+constexpr Row::Values routes{SettingDescription::RouteMap};
 
 QStringList models()
 {
@@ -311,13 +311,12 @@ QStringList numbers()
 }
 
 constexpr Row::Devices always{};
-constexpr Row::Devices ofSerialPort{{}, Row::SerialPort, false};
-constexpr Row::Devices ofTcp{{}, Row::TcpPort, false};
+constexpr Row::Devices ofSerialPort{{}, Row::SerialPort};
+constexpr Row::Devices ofTcp{{}, Row::TcpPort};
 constexpr Row::Devices ofCCNet{{Acceptors::CCNet, Acceptors::CCNet}, Row::AnyPort, true};
-constexpr Row::Devices ofId003{{Acceptors::Id003, Acceptors::ArdacEliteId003}, Row::AnyPort, false};
-constexpr Row::Devices ofUniteller{
-    {Acceptors::Uniteller, Acceptors::Uniteller}, Row::AnyPort, false};
-constexpr Row::Devices ofPosD200{{Acceptors::PosD200, Acceptors::PosD200}, Row::AnyPort, false};
+constexpr Row::Devices ofId003{{Acceptors::Id003, Acceptors::ArdacEliteId003}, Row::AnyPort};
+constexpr Row::Devices ofUniteller{{Acceptors::Uniteller, Acceptors::Uniteller}, Row::AnyPort};
+constexpr Row::Devices ofPosD200{{Acceptors::PosD200, Acceptors::PosD200}, Row::AnyPort};
 
 constexpr Row::Keys inBoth(const QString& key)
 {

@@ -32,7 +32,7 @@ struct SettingRow
     {
         qint32 models[2]; ///< Acceptors::Supported, one of them twice; 0: any
         Port port;
-        bool readInAnySubgroup; ///< and for any model
+        bool readInAnySubgroup = false; ///< and for any model
     };
 
     /// How it is written and read. The device is null for the service's settings.
@@ -49,9 +49,9 @@ struct SettingRow
     struct Values
     {
         SettingDescription::Kind kind;
-        qint64 minimum;
-        qint64 maximum;
-        QStringList (*choices)();
+        qint64 minimum = 0;
+        qint64 maximum = 0;
+        QStringList (*choices)() = nullptr;
     };
 
     bool isCalled(const QString& key, const QString& lowerKey) const
