@@ -530,9 +530,9 @@ Rows deviceSettings()
 
 SettingGroup::SettingGroup(const QString& path)
 {
-    const auto slash = path.indexOf(QLatin1Char('/'));
-    const QString rest = slash < 0 ? QString() : path.mid(slash + 1);
-    *this = SettingGroup(path.left(slash), rest.left(rest.indexOf(QLatin1Char('/'))));
+    const QString group = path.left(path.indexOf(QLatin1Char('/')));
+    const QString rest = path.mid(group.size() + 1);
+    *this = SettingGroup(group, rest.left(rest.indexOf(QLatin1Char('/'))));
 }
 
 SettingGroup::SettingGroup(const QString& group, const QString& subgroup)
