@@ -24,6 +24,8 @@ TESTS = {
     "src/filters/": ["tst_filters"],
     "src/acceptorstate": ["tst_acceptorstate"],
     "src/acceptorsettings": ["tst_settings"],
+    "src/settingstable": ["tst_settings", "tst_formats", "tst_settingsmanager"],
+    "src/settingdescription": ["tst_settings", "tst_formats"],
     "src/acceptordevicesettings": ["tst_settings"],
     "src/devicestate": ["tst_devicestate"],
     "src/": ["tst_records", "tst_catalogue", "tst_settingsmanager", "tst_devicestate"],
@@ -91,7 +93,8 @@ def look_at(name):
 def main():
     names = sys.argv[1:] or sorted(
         str(path.relative_to(ROOT)) for pattern in
-        ("src/filters/*.cpp", "src/acceptorstate.cpp", "src/acceptorsettings.cpp")
+        ("src/filters/*.cpp", "src/acceptorstate.cpp", "src/acceptorsettings.cpp",
+         "src/setting*.cpp")
         for path in ROOT.glob(pattern))
     subprocess.run(["rm", "-rf", WORK], check=True)
     subprocess.run(["git", "clone", "--quiet", ROOT, WORK], check=True)

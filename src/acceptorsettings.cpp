@@ -1,14 +1,13 @@
 #include "acceptorsettings.h"
 
 #include "acceptors.h"
-#include "jsonreader_p.h"
-#include "serialporttexts_p.h"
 #include "settingslist_p.h"
+#include "settingstable_p.h"
 #include "wraparound_p.h"
 
-#include <QJsonDocument>
 #include <QMutexLocker>
 #include <QPair>
+#include <QStringBuilder>
 
 const QString AcceptorSettings::SERVICE_SECTION = QStringLiteral("service");
 const QString AcceptorSettings::DEVICE_SECTION = QStringLiteral("device");
@@ -94,341 +93,40 @@ using SerialPortTexts::Form;
 using SerialPortTexts::FormattedMap;
 using SerialPortTexts::ListForm;
 
-const QString ccnetGroup = QStringLiteral("ccnet");
-const QString id003Group = QStringLiteral("id003");
-const QString tcpInterface = QStringLiteral("tcp");
-
-QString attemptsText()
+QString deviceGroup(const QString& index, const QString& subgroup)
 {
-    const QList<AcceptorAttemptFilterItem> limits = S::attemptsFilter();
-    QVariantList elements;
-    for (const AcceptorAttemptFilterItem& limit : limits)
-        elements.append(limit.toMap());
-    const QJsonDocument document = QJsonDocument::fromVariant(elements);
-    return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
+    return S::DEVICE % index % QLatin1Char('/') % subgroup;
 }
-
-QList<AcceptorAttemptFilterItem> attemptsFromText(const QString& text)
-{
-    QList<AcceptorAttemptFilterItem> limits;
-    const QVariantList elements = JsonReader::readList(text);
-    for (const QVariant& element : elements) {
-        const QVariantMap map = element.toMap();
-        if (map.isEmpty())
-            continue;
-        AcceptorAttemptFilterItem limit;
-        limit.loadFromMap(map);
-        limits.append(limit);
-    }
-    return limits;
-}
-
-// What the service's settings carry, in the order of the list form.
-const struct
-{
-    const QString& group;
-    const QString& key;
-    QVariant (*value)(Form form);
-} commonSettings[] = {
-    {S::ACCEPTOR_COMMON_SECTION, S::ACCEPT_ALL, [](Form) { return QVariant(int(S::acceptAll())); }},
-    {S::ACCEPTOR_COMMON_SECTION, S::MAX_SUMM, [](Form) { return QVariant(S::maxSumm()); }},
-    {S::ACCEPTOR_COMMON_SECTION, S::RESET_STATISTICS,
-     [](Form) { return QVariant(int(S::cleanStatistics())); }},
-    {S::ACCEPTOR_COMMON_SECTION, S::ATTEMPTS_FILTER, [](Form) { return QVariant(attemptsText()); }},
-    {S::ACCEPTOR_COMMON_SECTION, S::PORT_LOGGING,
-     [](Form) { return QVariant(int(S::portLogs())); }},
-    // The list counts the devices that it holds, the map shows as many as are configured.
-    {S::SERVICE_SECTION, S::DEVICE_COUNT,
-     [](Form form) { return QVariant(form == ListForm ? S::devices.size() : S::deviceCount()); }},
-    {S::SERVICE_SECTION, S::RESET_IDLE_TIMEOUT,
-     [](Form) { return QVariant(S::resetIdleTimeout()); }},
-    {S::DISPENSER_SECTION, S::ROUTE_MAP, [](Form) { return QVariant(S::routeMap()); }},
-};
-
-bool isCCNet(const Device& device)
-{
-    return device.type() == Acceptors::CCNet;
-}
-
-bool isId003(const Device& device)
-{
-    return device.type() == Acceptors::Id003 || device.type() == Acceptors::ArdacEliteId003;
-}
-
-bool isUniteller(const Device& device)
-{
-    return device.type() == Acceptors::Uniteller;
-}
-
-bool isPosD200(const Device& device)
-{
-    return device.type() == Acceptors::PosD200;
-}
-
-bool isTcp(const Device& device)
-{
-    return device.interfaceType() == tcpInterface;
-}
-
-bool isSerial(const Device& device)
-{
-    return !isTcp(device);
-}
-
-bool always(const Device& /*device*/)
-{
-    return true;
-}
-
-// One of a device's numbers or texts, the same in every form.
-template <auto Getter>
-QVariant plain(Form /*form*/, const Device& device)
-{
-    return (device.*Getter)();
-}
-
-// A number of the serial port: the list form has it as text.
-template <auto Getter>
-QVariant portNumber(Form form, const Device& device)
-{
-    const int number = (device.*Getter)();
-    return form == ListForm ? QVariant(QString::number(number)) : QVariant(number);
-}
-
-// What a device's settings carry, in the order of the list form. A setting without a key in a
-// form is not in that form. The condition is the list form's; the map shows every device alike.
-const struct
-{
-    const QString& subgroup;
-    QString listKey;
-    QString mapKey;
-    bool (*inList)(const Device& device);
-    QVariant (*value)(Form form, const Device& device);
-} deviceSettings[] = {
-    // Devices have no switch of their own.
-    {S::DEBUG_SECTION, S::PORT_LOGGING, S::PORT_LOGGING, always,
-     [](Form, const Device&) { return QVariant(S::portLogs()); }},
-    {ccnetGroup, S::RESPONSE_TIME, {}, isCCNet, plain<&Device::response_time>},
-    {ccnetGroup, S::POLLING_INTERVAL, {}, isCCNet, plain<&Device::polling_interval>},
-    {ccnetGroup, S::BILL_TABLE_INTERVAL, {}, isCCNet, plain<&Device::bill_table_interval>},
-    {ccnetGroup, S::RESET_INTERVAL, {}, isCCNet, plain<&Device::reset_interval>},
-    {ccnetGroup, S::REST_INTERVAL, {}, isCCNet, plain<&Device::rest_interval>},
-    {id003Group, S::RESPONSE_TIME, {}, isId003, plain<&Device::response_time>},
-    {id003Group, S::POLLING_INTERVAL, {}, isId003, plain<&Device::polling_interval>},
-    {id003Group, S::REST_INTERVAL, {}, isId003, plain<&Device::rest_interval>},
-    {S::DEVICE_SECTION, S::DEVICE_ID, S::DEVICE_ID, always, plain<&Device::type>},
-    {S::DEVICE_SECTION, S::DEVICE_NAME, S::DEVICE_NAME, always, plain<&Device::name>},
-    {S::UNITAILER_GROUP, S::UNITAILER_ID, {}, isUniteller, plain<&Device::cardReaderQuorId>},
-    {S::SM_G_POSD2000, S::SM_P_POSD2000_POS_ID, {}, isPosD200, plain<&Device::cardReaderQuorId>},
-    {S::SM_G_POSD2000, S::SM_P_POSD2000_TIMEOUT_ACK, {}, isPosD200, plain<&Device::timeOutAck>},
-    {S::SM_G_POSD2000,
-     S::SM_P_POSD2000_TIMEOUT_PACKET,
-     {},
-     isPosD200,
-     plain<&Device::packetTimeout>},
-    {S::SM_G_POSD2000, S::SM_P_POSD2000_COUNT_NAK, {}, isPosD200, plain<&Device::maxNakCount>},
-    {S::SM_G_POSD2000, S::SM_P_POSD2000_PACKET_SIZE, {}, isPosD200, plain<&Device::maxPackageSize>},
-    {S::HARDWARE_SECTION, S::INTERFACE_TYPE, S::INTERFACE_TYPE, always,
-     plain<&Device::interfaceType>},
-    {S::HARDWARE_SECTION, S::TCP_HOST, {}, isTcp, plain<&Device::tcpHost>},
-    {S::HARDWARE_SECTION, S::TCP_PORT, {}, isTcp, plain<&Device::tcpPort>},
-    {S::HARDWARE_SECTION, S::PORT_NAME, QStringLiteral("portName"), isSerial,
-     plain<&Device::portName>},
-    {S::HARDWARE_SECTION, S::PORT_BAUDRATE, S::PORT_BAUDRATE, always,
-     portNumber<&Device::baudrate>},
-    {S::HARDWARE_SECTION, S::PORT_FLOW_CONTROL, QStringLiteral("flowControl"), always,
-     [](Form form, const Device& device) {
-         return QVariant(text(SerialPortTexts::flowControls, form, device.flowControl()));
-     }},
-    // Programs expect this entry; it sets nothing when it is read.
-    {S::HARDWARE_SECTION,
-     {},
-     QStringLiteral("key"),
-     always,
-     [](Form, const Device&) { return QVariant(S::PORT_PARITY); }},
-    {S::HARDWARE_SECTION, S::PORT_PARITY, S::PORT_PARITY, always,
-     [](Form form, const Device& device) {
-         return QVariant(text(SerialPortTexts::parities, form, device.parityType()));
-     }},
-    {S::HARDWARE_SECTION, S::PORT_DATABITS, QStringLiteral("dataBits"), always,
-     portNumber<&Device::dataBits>},
-    {S::HARDWARE_SECTION, S::PORT_STOPBIT, QStringLiteral("stopBit"), always,
-     portNumber<&Device::stopBits>},
-};
 
 // Hands every setting of a form to visit(group path, key, value): first those of the service,
 // then those of each device in ascending index order.
 template <typename Visitor>
 void walk(Form form, Visitor visit)
 {
-    for (const auto& setting : commonSettings)
-        visit(setting.group, setting.key, setting.value(form));
+    for (const SettingRow& row : SettingsTable::serviceSettings())
+        visit(row.group, row.key(form), row.access.value(form, nullptr));
     for (auto entry = S::devices.constBegin(); entry != S::devices.constEnd(); ++entry) {
         const int index = entry.key();
         const bool shown = form == ListForm || (index >= 0 && index < S::deviceCount());
-        if (!entry.value() || !shown)
+        const Device* const device = entry.value();
+        if (!device || !shown)
             continue;
-        const Device& device = *entry.value();
-        for (const auto& setting : deviceSettings) {
-            const QString& key = form == ListForm ? setting.listKey : setting.mapKey;
-            if (key.isEmpty() || (form == ListForm && !setting.inList(device)))
+        const int model = device->type();
+        const QString interfaceType = device->interfaceType();
+        const QString indexText = QString::number(index);
+        QString path;
+        const QString* subgroup = nullptr;
+        for (const SettingRow& row : SettingsTable::deviceSettings()) {
+            const QString& key = row.key(form);
+            // The formatted map shows every device alike.
+            if (key.isEmpty() || (form == ListForm && !row.isFor(model, interfaceType)))
                 continue;
-            const QString path =
-                QStringLiteral("%1%2/%3").arg(S::DEVICE, QString::number(index), setting.subgroup);
-            visit(path, key, setting.value(form, device));
+            if (subgroup != &row.group)
+                path = deviceGroup(indexText, row.group);
+            subgroup = &row.group;
+            visit(path, key, row.access.value(form, device));
         }
     }
-}
-
-bool isOne(const QString& value)
-{
-    return value.toUInt() == 1;
-}
-
-// How the service's settings are read.
-const struct
-{
-    const QString& group;
-    const QString& key;
-    void (*set)(const QString& value);
-} commonSetters[] = {
-    {S::ACCEPTOR_COMMON_SECTION, S::ACCEPT_ALL,
-     [](const QString& value) { S::setAcceptAll(isOne(value)); }},
-    {S::ACCEPTOR_COMMON_SECTION, S::MAX_SUMM,
-     [](const QString& value) { S::setMaxSumm(value.toLongLong()); }},
-    {S::ACCEPTOR_COMMON_SECTION, S::RESET_STATISTICS,
-     [](const QString& value) {
-         const int mode = value.toInt();
-         const bool known = mode >= S::CleanStatistics0 && mode <= S::CleanStatistics4;
-         S::setCleanStatistics(known ? static_cast<S::ECleanStatistics>(mode)
-                                     : S::CleanStatistics0);
-     }},
-    {S::ACCEPTOR_COMMON_SECTION, S::PORT_LOGGING,
-     [](const QString& value) { S::setPortLogs(isOne(value)); }},
-    {S::ACCEPTOR_COMMON_SECTION, S::ATTEMPTS_FILTER,
-     [](const QString& value) { S::setAttemptsFilter(attemptsFromText(value)); }},
-    {S::SERVICE_SECTION, S::DEVICE_COUNT,
-     [](const QString& value) { S::setDeviceCount(value.toInt()); }},
-    {S::SERVICE_SECTION, S::RESET_IDLE_TIMEOUT,
-     [](const QString& value) { S::setResetIdleTimeout(value.toLongLong()); }},
-    {S::DISPENSER_SECTION, S::ROUTE_MAP, [](const QString& value) { S::setRouteMap(value); }},
-};
-
-template <auto Setter>
-void setText(Device& device, const QString& value)
-{
-    (device.*Setter)(value);
-}
-
-template <auto Setter>
-void setNumber(Device& device, const QString& value)
-{
-    (device.*Setter)(value.toInt());
-}
-
-void setStopBits(Device& device, const QString& value)
-{
-    // The two low bits are all that count: 5 is one stop bit, 4 none that the port knows.
-    device.setStopBits(static_cast<QSerialPort::StopBits>(value.toUInt() & 3U));
-}
-
-enum KeyMatch : qint32 { ExactKey, KeyInAnyCase };
-
-// How a device's settings are read. Which keys are known in any case, and which are not, is part
-// of the format: programs write "portName" and "flowControl", but "baudrate".
-const struct
-{
-    QString subgroup; ///< empty: any
-    QString key;
-    KeyMatch match;
-    void (*set)(Device& device, const QString& value);
-} deviceSetters[] = {
-    {{}, S::RESPONSE_TIME, ExactKey, setNumber<&Device::setResponse_time>},
-    {{}, S::POLLING_INTERVAL, ExactKey, setNumber<&Device::setPolling_interval>},
-    {{}, S::BILL_TABLE_INTERVAL, ExactKey, setNumber<&Device::setBill_table_interval>},
-    {{}, S::RESET_INTERVAL, ExactKey, setNumber<&Device::setReset_interval>},
-    {{}, S::REST_INTERVAL, ExactKey, setNumber<&Device::setRest_interval>},
-    {S::UNITAILER_GROUP, S::UNITAILER_ID, ExactKey, setText<&Device::setCardReaderQuorId>},
-    {S::SM_G_POSD2000, S::SM_P_POSD2000_POS_ID, ExactKey, setText<&Device::setCardReaderQuorId>},
-    {S::SM_G_POSD2000, S::SM_P_POSD2000_TIMEOUT_ACK, ExactKey, setNumber<&Device::setTimeoutAck>},
-    {S::SM_G_POSD2000, S::SM_P_POSD2000_TIMEOUT_PACKET, ExactKey,
-     setNumber<&Device::setPacketTimeout>},
-    {S::SM_G_POSD2000, S::SM_P_POSD2000_COUNT_NAK, ExactKey, setNumber<&Device::setMaxNakCount>},
-    {S::SM_G_POSD2000, S::SM_P_POSD2000_PACKET_SIZE, ExactKey,
-     setNumber<&Device::setMaxPackageSize>},
-    {S::HARDWARE_SECTION, S::INTERFACE_TYPE, ExactKey, setText<&Device::setInterfaceType>},
-    {S::HARDWARE_SECTION, S::TCP_PORT, ExactKey, setText<&Device::setTcpPort>},
-    {S::HARDWARE_SECTION, S::TCP_HOST, ExactKey, setText<&Device::setTcpHost>},
-    {S::HARDWARE_SECTION, S::PORT_NAME, KeyInAnyCase, setText<&Device::setPortName>},
-    {S::HARDWARE_SECTION, S::PORT_BAUDRATE, ExactKey,
-     [](Device& device, const QString& value) {
-         device.setBaudrate(static_cast<QSerialPort::BaudRate>(value.toUInt()));
-     }},
-    {S::HARDWARE_SECTION, S::PORT_FLOW_CONTROL, KeyInAnyCase,
-     [](Device& device, const QString& value) {
-         device.setFlowControl(
-             SerialPortTexts::valueInSettings(SerialPortTexts::flowControls, value));
-     }},
-    {S::HARDWARE_SECTION, S::PORT_PARITY, ExactKey,
-     [](Device& device, const QString& value) {
-         device.setParityType(SerialPortTexts::valueInSettings(SerialPortTexts::parities, value));
-     }},
-    {S::HARDWARE_SECTION, S::PORT_DATABITS, KeyInAnyCase,
-     [](Device& device, const QString& value) {
-         device.setDataBitsType(static_cast<QSerialPort::DataBits>(value.toUInt()));
-     }},
-    {S::HARDWARE_SECTION, S::PORT_STOPBIT, KeyInAnyCase, setStopBits},
-    // The formatted map writes this key.
-    {S::HARDWARE_SECTION, QStringLiteral("stopbit"), KeyInAnyCase, setStopBits},
-    {S::DEVICE_SECTION, S::DEVICE_ID, ExactKey, setNumber<&Device::setType>},
-    {S::DEVICE_SECTION, S::DEVICE_NAME, ExactKey, setText<&Device::setName>},
-};
-
-// The two parts of a group path; a part that is missing is empty, further parts do not count.
-struct GroupPath
-{
-    explicit GroupPath(const QString& path)
-        : group(path.section(QLatin1Char('/'), 0, 0))
-        , subgroup(path.section(QLatin1Char('/'), 1, 1))
-    {
-    }
-
-    QString group;
-    QString subgroup;
-};
-
-bool updateCommonSetting(const QString& group, const QString& key, const QString& value)
-{
-    bool known = false;
-    for (const auto& setting : commonSetters) {
-        if (group != setting.group)
-            continue;
-        known = true;
-        if (key == setting.key)
-            setting.set(value);
-    }
-    return known;
-}
-
-void updateDeviceSetting(Device& device, const QString& subgroup, const QString& key,
-                         const QString& value)
-{
-    const QString lowerKey = key.toLower();
-    for (const auto& setting : deviceSetters) {
-        const bool inGroup = setting.subgroup.isEmpty() || subgroup == setting.subgroup;
-        if (inGroup && (setting.match == ExactKey ? key : lowerKey) == setting.key)
-            setting.set(device, value);
-    }
-}
-
-bool applySetting(AcceptorSettings& settings, const QVariantMap& setting)
-{
-    if (!setting.contains(SettingsList::groupKey))
-        return false;
-    const GroupPath path(setting.value(SettingsList::groupKey).toString());
-    return settings.updateValue(path.group, path.subgroup,
-                                setting.value(SettingsList::nameKey).toString(),
-                                setting.value(SettingsList::valueKey).toString());
 }
 
 Device& deviceAt(int index)
@@ -439,39 +137,40 @@ Device& deviceAt(int index)
     return *device;
 }
 
+// The result is that of updateValue().
+bool apply(const SettingGroup& group, const QString& key, const QString& value)
+{
+    Device* const device = group.isOfDevice() ? &deviceAt(group.deviceIndex()) : nullptr;
+    const SettingRow* const row = group.find(key);
+    if (row && row->access.set)
+        row->access.set(device, value);
+    return !device ? group.isOfService()
+                   : group.name() == S::HARDWARE_SECTION || group.name() == S::DEVICE_SECTION;
+}
+
+// Elements of one group follow each other in a list: its path is read once for all of them.
+class Elements
+{
+public:
+    bool apply(const QVariantMap& element)
+    {
+        const auto path = element.constFind(SettingsList::groupKey);
+        if (path == element.constEnd())
+            return false;
+        const QString text = path->toString();
+        if (text != m_path)
+            m_group = SettingGroup(text);
+        m_path = text;
+        return ::apply(m_group, element.value(SettingsList::nameKey).toString(),
+                       element.value(SettingsList::valueKey).toString());
+    }
+
+private:
+    QString m_path;
+    SettingGroup m_group{m_path};
+};
+
 } // namespace
-
-int AcceptorAttemptFilterItem::attempts() const
-{
-    return m_attempts;
-}
-
-void AcceptorAttemptFilterItem::setAttempts(int attempts)
-{
-    m_attempts = attempts;
-}
-
-int AcceptorAttemptFilterItem::denom() const
-{
-    return m_denom;
-}
-
-void AcceptorAttemptFilterItem::setDenom(int denom)
-{
-    m_denom = denom;
-}
-
-void AcceptorAttemptFilterItem::loadFromMap(QVariantMap map)
-{
-    m_denom = map.value(QStringLiteral("denom"), 1).toString().toInt();
-    m_attempts = map.value(QStringLiteral("attempts"), 1).toString().toInt();
-}
-
-QVariantMap AcceptorAttemptFilterItem::toMap() const
-{
-    return {{QStringLiteral("denom"), QString::number(m_denom)},
-            {QStringLiteral("attempts"), QString::number(m_attempts)}};
-}
 
 AcceptorSettings::~AcceptorSettings() = default;
 
@@ -567,6 +266,26 @@ void AcceptorSettings::addAttemptsFilter(int denom, int attempts)
     attemptsFilter_.append(limit);
 }
 
+QList<SettingDescription> AcceptorSettings::settingDescriptions()
+{
+    QList<SettingDescription> descriptions;
+    for (const SettingRow& row : SettingsTable::serviceSettings())
+        descriptions.append({&row, row.group});
+    for (const SettingRow& row : SettingsTable::deviceSettings())
+        descriptions.append({&row, deviceGroup(QStringLiteral("#"), row.group)});
+    return descriptions;
+}
+
+SettingDescription AcceptorSettings::settingDescription(const QString& group, const QString& key)
+{
+    const SettingGroup asked(group);
+    const SettingRow* const row = asked.find(key);
+    if (!row)
+        return {};
+    const QString index = QString::number(asked.deviceIndex());
+    return {row, asked.isOfService() ? row->group : deviceGroup(index, row->group)};
+}
+
 bool AcceptorSettings::isEmpty()
 {
     return devices.isEmpty() || deviceCount_ < 1;
@@ -589,8 +308,9 @@ void AcceptorSettings::setList(const QVariantList& list)
     maxSumm_ = 0;
     deviceCount_ = 0;
     cleanStatistics_ = CleanStatistics0;
+    Elements elements;
     for (const QVariant& element : list)
-        applySetting(*this, element.toMap());
+        elements.apply(element.toMap());
 }
 
 QVariantMap AcceptorSettings::toFormattedMap() const
@@ -598,6 +318,9 @@ QVariantMap AcceptorSettings::toFormattedMap() const
     QMap<QString, QVariantMap> groups;
     walk(FormattedMap, [&groups](const QString& group, const QString& key, const QVariant& value) {
         groups[group].insert(key, value);
+        // Programs expect this entry; it sets nothing when it is read.
+        if (key == PORT_PARITY)
+            groups[group].insert(QStringLiteral("key"), PORT_PARITY);
     });
     QVariantMap map;
     for (auto group = groups.constBegin(); group != groups.constEnd(); ++group)
@@ -609,10 +332,10 @@ void AcceptorSettings::setFotmattedMap(const QVariantMap& map)
 {
     const QMutexLocker locker(&settingsMutex_);
     for (auto entry = map.constBegin(); entry != map.constEnd(); ++entry) {
-        const GroupPath path(entry.key());
+        const SettingGroup group(entry.key());
         const QVariantMap settings = entry.value().toMap();
         for (auto setting = settings.constBegin(); setting != settings.constEnd(); ++setting)
-            updateValue(path.group, path.subgroup, setting.key(), setting.value().toString());
+            apply(group, setting.key(), setting.value().toString());
     }
     for (auto entry = devices.lowerBound(deviceCount_); entry != devices.end();) {
         delete entry.value();
@@ -623,18 +346,12 @@ void AcceptorSettings::setFotmattedMap(const QVariantMap& map)
 bool AcceptorSettings::setValue(const QVariantMap& setting)
 {
     const QMutexLocker locker(&settingsMutex_);
-    return applySetting(*this, setting);
+    return Elements().apply(setting);
 }
 
 bool AcceptorSettings::updateValue(QString group, QString subgroup, QString key, QString value)
 {
-    if (updateCommonSetting(group, key, value))
-        return true;
-    if (!group.contains(DEVICE))
-        return false;
-    const int index = group.remove(DEVICE).toInt();
-    updateDeviceSetting(deviceAt(index), subgroup, key, value);
-    return subgroup == HARDWARE_SECTION || subgroup == DEVICE_SECTION;
+    return apply(SettingGroup(group, subgroup), key, value);
 }
 
 void AcceptorSettings::removeDeviceByIndex(int position)

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "acceptorattemptfilteritem.h"
 #include "acceptordevicesettings.h"
+#include "settingdescription.h"
 #include "velmolib_global.h"
 
 #include <QList>
@@ -9,28 +11,6 @@
 #include <QSet>
 #include <QString>
 #include <QVariant>
-
-/// An anti-fishing limit: how many rejections of one denomination a session allows.
-class VELMOLIB_EXPORT AcceptorAttemptFilterItem
-{
-public:
-    int attempts() const;
-    void setAttempts(int attempts);
-
-    int denom() const;
-    void setDenom(int denom);
-
-    /// Reads "denom" and "attempts", numbers or texts; what is missing reads as 1, what is no
-    /// number as 0.
-    void loadFromMap(QVariantMap map);
-
-    /// {"denom": text, "attempts": text}
-    QVariantMap toMap() const;
-
-private:
-    qint32 m_attempts = 0;
-    qint32 m_denom = 0;
-};
 
 /// The configuration of the acceptor service: one for the whole process, whichever object is used.
 ///
@@ -157,6 +137,17 @@ public:
 
     /// Changes the first limit of that denomination, or appends one.
     static void addAttemptsFilter(int denom, int attempts);
+
+    /// What the settings list may hold, in its order: the settings of the service, then those of a
+    /// device, whose groups are "device#/<sub-group>". May be called from any thread.
+    static QList<SettingDescription> settingDescriptions();
+
+    /// What is read under a group and a key, in any spelling that is read: its group and key are
+    /// those that the settings list has. For a device the group is that of the concrete device;
+    /// "ccnet" stands for the five protocol parameters, which are read in every sub-group. A
+    /// description that is not valid means that the element is ignored. May be called from any
+    /// thread.
+    static SettingDescription settingDescription(const QString& group, const QString& key);
 
     /// Whether there is no device or the device count is below 1.
     static bool isEmpty();

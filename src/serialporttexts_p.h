@@ -4,6 +4,7 @@
 #include <QSerialPort>
 #include <QString>
 
+#include <algorithm>
 #include <iterator>
 
 /// The texts of serial-port parameters in the three forms of the settings, side by side.
@@ -17,11 +18,12 @@ struct Row
 {
     Value value;
     QLatin1String texts[3]; ///< as each form writes it; empty where the form has no text for it
-    QLatin1String otherText; ///< read in the settings as well
+    QLatin1String otherText; ///< read in the settings as well; upper case
 };
 
 // What no row has is written and read as the last row. List form and formatted map are read alike:
-// in any case, and each other's texts. The flat record reads its own texts only, with case.
+// in any case, and each other's texts, so that the list form's text in upper case is that of the
+// formatted map or the other text. The flat record reads its own texts only, with case.
 
 inline const Row<QSerialPort::FlowControl> flowControls[] = {
     {QSerialPort::HardwareControl,
@@ -29,10 +31,10 @@ inline const Row<QSerialPort::FlowControl> flowControls[] = {
      QLatin1String("DTR/STR")},
     {QSerialPort::SoftwareControl,
      {QLatin1String("xonxoff"), QLatin1String("XON/XOFF"), QLatin1String("xonxoff")},
-     {}},
+     QLatin1String("XONXOFF")},
     {QSerialPort::NoFlowControl,
      {QLatin1String("none"), QLatin1String("OFF"), QLatin1String("none")},
-     {}},
+     QLatin1String("NONE")},
 };
 
 inline const Row<QSerialPort::Parity> parities[] = {
@@ -59,16 +61,17 @@ QString text(const Row<Value> (&rows)[Size], Form form, Value value)
 }
 
 /// The value of a text in the list form or the formatted map.
+/// @param isKnown set to whether a row has the text, unless it is null
 template <typename Value, std::size_t Size>
-Value valueInSettings(const Row<Value> (&rows)[Size], const QString& text)
+Value valueInSettings(const Row<Value> (&rows)[Size], const QString& text, bool* isKnown = nullptr)
 {
     const QString upper = text.toUpper();
-    for (const Row<Value>& row : rows) {
-        if (upper == QString(row.texts[ListForm]).toUpper() || upper == row.texts[FormattedMap]
-            || (!row.otherText.isEmpty() && upper == row.otherText))
-            return row.value;
-    }
-    return std::rbegin(rows)->value;
+    const auto row = std::find_if(std::begin(rows), std::end(rows), [&upper](const auto& r) {
+        return upper == r.texts[FormattedMap] || (!r.otherText.isEmpty() && upper == r.otherText);
+    });
+    if (isKnown)
+        *isKnown = row != std::end(rows);
+    return row == std::end(rows) ? std::rbegin(rows)->value : row->value;
 }
 
 /// The value of a text in the flat record.

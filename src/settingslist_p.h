@@ -12,7 +12,12 @@ inline const QString valueKey = QStringLiteral("value");
 
 inline QVariantMap element(const QString& group, const QString& name, const QVariant& value)
 {
-    return {{groupKey, group}, {nameKey, name}, {valueKey, value}};
+    QVariantMap map;
+    // In ascending order, which is the fastest way to fill a map.
+    map.insert(map.cend(), groupKey, group);
+    map.insert(map.cend(), nameKey, name);
+    map.insert(map.cend(), valueKey, value);
+    return map;
 }
 
 } // namespace SettingsList

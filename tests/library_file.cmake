@@ -33,7 +33,7 @@ foreach(entry IN LISTS needed)
     endif()
 endforeach()
 
-foreach(private JsonReader JsonWriter RecordTable recordField wrappingSum SerialPortTexts SettingsList "\\(anonymous namespace\\)")
+foreach(private JsonReader JsonWriter SettingGroup RecordTable recordField wrappingSum SerialPortTexts SettingsList SettingsTable SettingRow::isFor "\\(anonymous namespace\\)")
     if(symbols MATCHES "[^\n]*${private}[^\n]*")
         message(SEND_ERROR "A private helper is exported: ${CMAKE_MATCH_0}")
     endif()
@@ -46,7 +46,8 @@ foreach(public Acceptors::search BasicNoteItem::BILL_TYPE "vtable for StatItem"
         acceptorSettings::SettingsManager::SM_G_POSD2000 acceptorSettings::SettingsManager::load
         acceptorportsettingsconsts::MAP_PARITY "vtable for AcceptorDeviceSettings"
         "vtable for TcpSettings" AcceptorSettings::MAPPED_ANTIFISHING AcceptorSettings::devices
-        AcceptorAttemptFilterItem::loadFromMap VelmoLib::version palx::RS232Settings::toList
+        AcceptorAttemptFilterItem::loadFromMap AcceptorSettings::settingDescriptions
+        SettingDescription::accepts VelmoLib::version palx::RS232Settings::toList
         palx::AppVersionManager::addVersion quorbus::ClientState::dt
         quorbus::ClientSettings::settings)
     if(NOT symbols MATCHES "${public}")

@@ -62,6 +62,50 @@ const QMap<QString, std::function<QVariant(const QVariant& example)>> checks{
     {"field description"_s, written<FieldDescription>},
 };
 
+QString page()
+{
+    QFile file(QStringLiteral(FORMATS));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+// The models and interfaces that a setting is not written for leave the others.
+QString writtenFor(const SettingDescription& d)
+{
+    QStringList ids;
+    const auto devices = Acceptors::supportedDevices();
+    for (const SupportedDevice& device : devices) {
+        const int id = device["id"_s].toInt();
+        if (d.appliesTo(id, "rs232"_s) || d.appliesTo(id, "tcp"_s))
+            ids += QString::number(id);
+    }
+    if (ids.size() < devices.size())
+        return "model "_s + ids.join(", "_s);
+    if (!d.appliesTo(1, "rs232"_s))
+        return "TCP"_s;
+    return d.appliesTo(1, "tcp"_s) ? QString() : "serial port"_s;
+}
+
+// A row of the page's table of settings.
+QString settingRow(const SettingDescription& d)
+{
+    static const QMap<SettingDescription::Kind, QString> kinds{
+        {SettingDescription::Number, "number"_s},
+        {SettingDescription::Switch, "switch"_s},
+        {SettingDescription::Text, "text"_s},
+        {SettingDescription::Choice, "choice"_s},
+        {SettingDescription::AttemptsLimits, "limits"_s},
+        {SettingDescription::RouteMap, "route map"_s}};
+    const QString range = d.kind() == SettingDescription::Number
+        ? "%1 to %2"_s.arg(d.minimum().toString(), d.maximum().toString())
+        : d.choices().join(", "_s);
+    const QVariant defaultValue = d.defaultValue();
+    const QString shown =
+        defaultValue.toString().isEmpty() ? "empty"_s : "`%1`"_s.arg(defaultValue.toString());
+    return "| `%1` | %2 | %3 | %4 | %5 | %6 |"_s.arg(d.path(), kinds.value(d.kind()), range,
+                                                     defaultValue.isValid() ? shown : QString(),
+                                                     writtenFor(d), d.help());
+}
+
 } // namespace
 
 class tst_Formats : public QObject
@@ -71,11 +115,9 @@ class tst_Formats : public QObject
 private Q_SLOTS:
     void examplesReadBack()
     {
-        QFile page(QStringLiteral(FORMATS));
-        QVERIFY(page.open(QIODevice::ReadOnly));
         const QRegularExpression block("(?:<!-- example: (.*) -->\n+)?```json\n([^`]*)```"_s);
         auto unused = checks;
-        for (auto found = block.globalMatch(QString::fromUtf8(page.readAll())); found.hasNext();) {
+        for (auto found = block.globalMatch(page()); found.hasNext();) {
             const QRegularExpressionMatch example = found.next();
             const auto check = unused.take(example.captured(1));
             QVERIFY2(check, qPrintable(example.captured(1)));
@@ -84,6 +126,15 @@ private Q_SLOTS:
         }
         QCOMPARE(QStringList(unused.keys()), QStringList());
         settings.setList({});
+    }
+
+    void everySettingIsDescribed()
+    {
+        QStringList rows;
+        for (const SettingDescription& d : AcceptorSettings::settingDescriptions())
+            rows += settingRow(d);
+        const QString section = page().section("## Every setting\n"_s, 1).section("\n## "_s, 0, 0);
+        QCOMPARE(section.split(QLatin1Char('\n')).filter(QRegularExpression("^\\| `"_s)), rows);
     }
 };
 

@@ -433,6 +433,130 @@ private Q_SLOTS:
         QCOMPARE(devices(), "0:201 1:1 2:200 3:201"_s);
     }
 
+    void settingsAreFoundInEverySpelling_data()
+    {
+        // Group path, key, path of the description.
+        addRows(R"(
+            acceptor_common        | maxSumm        | acceptor_common/maxSumm
+            acceptor_common/x      | maxSumm        | acceptor_common/maxSumm
+            acceptor_common        | maxsumm        |
+            service                | maxSumm        |
+            other                  | maxSumm        |
+            device2/hw_interface   | PortName       | device2/hw_interface/portname
+            device2/hw_interface/x | StopBit        | device2/hw_interface/stopbits
+            device2/hw_interface   | STOPBITS       | device2/hw_interface/stopbits
+            device2/hw_interface   | BaudRate       |
+            device2/hw_interface   | key            |
+            device2/hw_interface   |                |
+            device2/id003          | rest_interval  | device2/id003/rest_interval
+            device2/id003          | reset_interval | device2/ccnet/reset_interval
+            device-7               | reset_interval | device-7/ccnet/reset_interval
+            device2/posd200        | terminal_id    | device2/posd200/terminal_id
+            device2/device         | terminal_id    |
+            mydevice/device        | device_name    | device0/device/device_name
+            device2/debug          | port_logging   | device2/debug/port_logging)"_s);
+    }
+
+    void settingsAreFoundInEverySpelling()
+    {
+        QFETCH(QStringList, row);
+        const SettingDescription d = AcceptorSettings::settingDescription(row.at(0), row.at(1));
+        QCOMPARE(d.path(), row.at(2));
+        QCOMPARE(d.isValid(), !row.at(2).isEmpty());
+        QCOMPARE(d.isRead(), d.isValid() && row.at(1) != "port_logging"_s);
+        QCOMPARE(d.appliesTo(7, "rs232"_s),
+                 d.isValid()
+                     && !QRegularExpression("id003|ccnet|posd"_s).match(d.path()).hasMatch());
+        if (!d.isValid()) {
+            QVERIFY(!d.accepts("1"_s) && d.kind() == SettingDescription::NoSetting);
+            QVERIFY(!d.defaultValue().isValid() && !d.minimum().isValid());
+            QCOMPARE(d.readAs("1"_s) + d.key() + d.label() + d.help() + d.choices().join("|"_s),
+                     QString());
+        }
+    }
+
+    void valuesAreAccepted_data()
+    {
+        // Group path, key, values that are accepted, values that are not.
+        addRows(R"(
+            acceptor_common | acceptAll | 0 1 01 | true false 2 -1
+            acceptor_common | maxSumm | 0 9223372036854775807 | -1 9223372036854775808 1e3
+            acceptor_common | reset_stats | 0 4 | 5 -1 x
+            acceptor_common | attempts_filter_settings | [] [{"denom":1,"attempts":"2"}] | {} x [7] [{"denom":0,"attempts":"2"}] [{"denom":"1"}] [{"denom":1,"attempts":1},{}] [],
+            service | devices_count | 0 32767 | -1 32768
+            service | reset_idle_timeout | 0 3600000 | -1
+            dispenser | route_map | [] [{"currency":"RUB","denomination":5,"bill_type":0,"count":1,"route":1}] | x {} [{"currency":"RUB"}] [7] [],
+            device1/debug | port_logging | 0 1 true false | on 2
+            device1/ccnet | rest_interval | 0 2147483647 | -1 2147483648
+            device1/posd200 | packet_size | 1 | 0
+            device1/posd200 | terminal_id | x -1 |
+            device1/device | device_id | 1 201 | 0 8 x
+            device1/hw_interface | interface_type | tcp rs232 | TCP usb
+            device1/hw_interface | PORTNAME | ttyS0 |
+            device1/hw_interface | tcp_port | 1 65535 | http 0 65536
+            device1/hw_interface | baudrate | 9600 1 4000000 | fast 0 4000001
+            device1/hw_interface | FlowControl | none OFF xon/xoff Hardware dtr/str XonXoff | soft
+            device1/hw_interface | parity | none EVEN odd space | mark
+            device1/hw_interface | databits | 5 8 | 4 9
+            device1/hw_interface | stopbits | 1 3 | 0 4 5 x)"_s);
+    }
+
+    void valuesAreAccepted()
+    {
+        QFETCH(QStringList, row);
+        const SettingDescription d = AcceptorSettings::settingDescription(row.at(0), row.at(1));
+        for (const QString& value : row.at(2).split(QLatin1Char(' '), Qt::SkipEmptyParts))
+            QVERIFY2(d.accepts(value), qPrintable(value));
+        for (const QString& value : row.value(3).split(QLatin1Char(' '), Qt::SkipEmptyParts))
+            QVERIFY2(!d.accepts(value), qPrintable(value));
+        const bool mayBeEmpty = row.at(1) == "terminal_id"_s || row.at(1) == "route_map"_s;
+        QCOMPARE(d.accepts({}), mayBeEmpty);
+    }
+
+    // Which settings the list has for each model and interface, and what it has after any text.
+    void descriptionsAreTrue()
+    {
+        const QStringList texts{"1"_s, "0"_s,          "-1"_s,  "7"_s,    "x"_s,
+                                {},    "5000000000"_s, "OFF"_s, "Even"_s, R"([{"denom":9}])"_s};
+        const QSet<QString> decidesOnOthers{"device_id"_s, "interface_type"_s, "devices_count"_s};
+        AcceptorSettings settings;
+        for (const int model : models) {
+            for (const QString& interface : {"rs232"_s, "tcp"_s, "TCP"_s}) {
+                settings.setList(
+                    {setting("device3/device"_s, "device_id"_s, model),
+                     setting("device3/hw_interface"_s, "interface_type"_s, interface)});
+                const QVariantList list = settings.toList();
+                auto element = list.begin();
+                for (const SettingDescription& listed : AcceptorSettings::settingDescriptions()) {
+                    if (!listed.appliesTo(model, interface))
+                        continue;
+                    const QString group =
+                        listed.group().replace(QLatin1Char('#'), QLatin1Char('3'));
+                    QVERIFY(element != list.end());
+                    const QVariantMap written = (element++)->toMap();
+                    QCOMPARE(written, setting(group, listed.key(), written["value"_s]));
+                    const SettingDescription d =
+                        AcceptorSettings::settingDescription(group, listed.key());
+                    QCOMPARE(d.group() + d.key() + d.help(), group + listed.key() + listed.help());
+                    for (const QString& text : texts) {
+                        if (!d.isRead() || decidesOnOthers.contains(d.key()))
+                            continue;
+                        settings.setValue(setting(group, d.key(), text));
+                        QCOMPARE(carried(group, d.key()), d.readAs(text));
+                    }
+                }
+                QVERIFY(element == list.end());
+            }
+        }
+        const auto readAs = [](const QString& group, const QString& key, const QString& value) {
+            return AcceptorSettings::settingDescription(group, key).readAs(value);
+        };
+        QCOMPARE(readAs("device3/device"_s, "device_id"_s, "1.5"_s), "0"_s);
+        QCOMPARE(readAs("service"_s, "devices_count"_s, "7"_s), "7"_s);
+        QCOMPARE(readAs("device3/hw_interface"_s, "interface_type"_s, "TCP"_s), "TCP"_s);
+        QCOMPARE(readAs("device3/debug"_s, "port_logging"_s, "1"_s), "true"_s);
+    }
+
     // What the list does not carry: the parameters of the other protocols, the TCP endpoint of a
     // serial device and the port name of a TCP device, mark parity, and a device count of its own.
     void listReadsBack()

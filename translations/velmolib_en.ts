@@ -172,4 +172,247 @@
         <translation>Max session sum filter|Sets the maximum sum for the session.</translation>
     </message>
 </context>
+<context>
+    <name>SettingDescription</name>
+    <message>
+        <source>Accept all</source>
+        <translation>Accept all</translation>
+    </message>
+    <message>
+        <source>Whether all notes and coins are accepted.</source>
+        <translation>Whether all notes and coins are accepted.</translation>
+    </message>
+    <message>
+        <source>Maximum sum</source>
+        <translation>Maximum sum</translation>
+    </message>
+    <message>
+        <source>The maximum sum, in the unit that the service uses.</source>
+        <translation>The maximum sum, in the unit that the service uses.</translation>
+    </message>
+    <message>
+        <source>Statistics reset mode</source>
+        <translation>Statistics reset mode</translation>
+    </message>
+    <message>
+        <source>How the service resets its statistics, as the service&apos;s own number.</source>
+        <translation>How the service resets its statistics, as the service&apos;s own number.</translation>
+    </message>
+    <message>
+        <source>Anti-fishing limits</source>
+        <translation>Anti-fishing limits</translation>
+    </message>
+    <message>
+        <source>How many rejections of a denomination a session allows.</source>
+        <translation>How many rejections of a denomination a session allows.</translation>
+    </message>
+    <message>
+        <source>Port log</source>
+        <translation>Port log</translation>
+    </message>
+    <message>
+        <source>Whether the traffic on the devices&apos; ports is logged.</source>
+        <translation>Whether the traffic on the devices&apos; ports is logged.</translation>
+    </message>
+    <message>
+        <source>Number of devices</source>
+        <translation>Number of devices</translation>
+    </message>
+    <message>
+        <source>How many devices the service drives: those with an index below it.</source>
+        <translation>How many devices the service drives: those with an index below it.</translation>
+    </message>
+    <message>
+        <source>Idle reset timeout</source>
+        <translation>Idle reset timeout</translation>
+    </message>
+    <message>
+        <source>Idle time after which the service resets, in the service&apos;s own unit.</source>
+        <translation>Idle time after which the service resets, in the service&apos;s own unit.</translation>
+    </message>
+    <message>
+        <source>Route map</source>
+        <translation>Route map</translation>
+    </message>
+    <message>
+        <source>Where the service sends notes and coins of each kind.</source>
+        <translation>Where the service sends notes and coins of each kind.</translation>
+    </message>
+    <message>
+        <source>Port log of the device</source>
+        <translation>Port log of the device</translation>
+    </message>
+    <message>
+        <source>Whether the traffic on this device&apos;s port is logged; a list that is written anew has the common switch.</source>
+        <translation>Whether the traffic on this device&apos;s port is logged; a list that is written anew has the common switch.</translation>
+    </message>
+    <message>
+        <source>Response time</source>
+        <translation>Response time</translation>
+    </message>
+    <message>
+        <source>How long an answer of the device may take, in the protocol&apos;s own unit.</source>
+        <translation>How long an answer of the device may take, in the protocol&apos;s own unit.</translation>
+    </message>
+    <message>
+        <source>Polling interval</source>
+        <translation>Polling interval</translation>
+    </message>
+    <message>
+        <source>How often the device is asked for its state, in the protocol&apos;s own unit.</source>
+        <translation>How often the device is asked for its state, in the protocol&apos;s own unit.</translation>
+    </message>
+    <message>
+        <source>Bill table interval</source>
+        <translation>Bill table interval</translation>
+    </message>
+    <message>
+        <source>Pace of reading the device&apos;s table of notes, in the protocol&apos;s own unit.</source>
+        <translation>Pace of reading the device&apos;s table of notes, in the protocol&apos;s own unit.</translation>
+    </message>
+    <message>
+        <source>Reset interval</source>
+        <translation>Reset interval</translation>
+    </message>
+    <message>
+        <source>Pace of resetting the device, in the protocol&apos;s own unit.</source>
+        <translation>Pace of resetting the device, in the protocol&apos;s own unit.</translation>
+    </message>
+    <message>
+        <source>Rest interval</source>
+        <translation>Rest interval</translation>
+    </message>
+    <message>
+        <source>Rest between two messages to the device, in the protocol&apos;s own unit.</source>
+        <translation>Rest between two messages to the device, in the protocol&apos;s own unit.</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>The device model, as its number in the catalogue.</source>
+        <translation>The device model, as its number in the catalogue.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>What the device is called.</source>
+        <translation>What the device is called.</translation>
+    </message>
+    <message>
+        <source>Terminal identifier</source>
+        <translation>Terminal identifier</translation>
+    </message>
+    <message>
+        <source>The identifier of the card terminal.</source>
+        <translation>The identifier of the card terminal.</translation>
+    </message>
+    <message>
+        <source>Acknowledgement timeout</source>
+        <translation>Acknowledgement timeout</translation>
+    </message>
+    <message>
+        <source>How long an acknowledgement may take, in the protocol&apos;s own unit.</source>
+        <translation>How long an acknowledgement may take, in the protocol&apos;s own unit.</translation>
+    </message>
+    <message>
+        <source>Packet timeout</source>
+        <translation>Packet timeout</translation>
+    </message>
+    <message>
+        <source>How long a packet may take, in the protocol&apos;s own unit.</source>
+        <translation>How long a packet may take, in the protocol&apos;s own unit.</translation>
+    </message>
+    <message>
+        <source>Negative acknowledgements</source>
+        <translation>Negative acknowledgements</translation>
+    </message>
+    <message>
+        <source>After how many negative acknowledgements a packet is given up.</source>
+        <translation>After how many negative acknowledgements a packet is given up.</translation>
+    </message>
+    <message>
+        <source>Packet size</source>
+        <translation>Packet size</translation>
+    </message>
+    <message>
+        <source>The largest packet, in bytes.</source>
+        <translation>The largest packet, in bytes.</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation>Interface</translation>
+    </message>
+    <message>
+        <source>How the device is connected: a serial port, or TCP.</source>
+        <translation>How the device is connected: a serial port, or TCP.</translation>
+    </message>
+    <message>
+        <source>TCP host</source>
+        <translation>TCP host</translation>
+    </message>
+    <message>
+        <source>Name or address of the host that answers for the device.</source>
+        <translation>Name or address of the host that answers for the device.</translation>
+    </message>
+    <message>
+        <source>TCP port</source>
+        <translation>TCP port</translation>
+    </message>
+    <message>
+        <source>TCP port of the device.</source>
+        <translation>TCP port of the device.</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>Serial port</translation>
+    </message>
+    <message>
+        <source>The serial port that the device is attached to.</source>
+        <translation>The serial port that the device is attached to.</translation>
+    </message>
+    <message>
+        <source>Baud rate</source>
+        <translation>Baud rate</translation>
+    </message>
+    <message>
+        <source>Speed of the serial port, in bits per second.</source>
+        <translation>Speed of the serial port, in bits per second.</translation>
+    </message>
+    <message>
+        <source>Flow control</source>
+        <translation>Flow control</translation>
+    </message>
+    <message>
+        <source>Who stops the serial line: the hardware, characters in the line, or none.</source>
+        <translation>Who stops the serial line: the hardware, characters in the line, or none.</translation>
+    </message>
+    <message>
+        <source>Parity</source>
+        <translation>Parity</translation>
+    </message>
+    <message>
+        <source>Parity of the serial line.</source>
+        <translation>Parity of the serial line.</translation>
+    </message>
+    <message>
+        <source>Data bits</source>
+        <translation>Data bits</translation>
+    </message>
+    <message>
+        <source>Data bits of a character on the serial line.</source>
+        <translation>Data bits of a character on the serial line.</translation>
+    </message>
+    <message>
+        <source>Stop bits</source>
+        <translation>Stop bits</translation>
+    </message>
+    <message>
+        <source>Stop bits of a character on the serial line; 3 means one and a half.</source>
+        <translation>Stop bits of a character on the serial line; 3 means one and a half.</translation>
+    </message>
+</context>
 </TS>

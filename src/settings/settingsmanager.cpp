@@ -2,6 +2,7 @@
 
 #include "log_p.h"
 #include "settingslist_p.h"
+#include "settingstable_p.h"
 
 #include <algorithm>
 
@@ -72,48 +73,42 @@ SettingsManager* SettingsManager::_instance = nullptr;
 
 namespace {
 
-// The groups are plain: no row answers for the group of one device. The group "id003" has none.
+// What only the service knows; the other defaults stand in the settings table. The groups are
+// plain: none is that of one device.
 const struct
 {
     const QString& group;
     const QString& param;
-    QLatin1String value;
-} defaults[] = {
-    {SM::SM_G_INTERFACE, SM::SM_P_BAUDRATE, QLatin1String("115200")},
-    {SM::SM_G_INTERFACE, SM::SM_P_INTERFACE_TYPE, QLatin1String("rs232")},
-    {SM::SM_G_INTERFACE, SM::SM_P_PORTNAME, QLatin1String("")},
-    {SM::SM_G_INTERFACE, SM::SM_P_DATABITS, QLatin1String("8")},
-    {SM::SM_G_INTERFACE, SM::SM_P_PARITY, QLatin1String("none")},
-    {SM::SM_G_INTERFACE, SM::SM_P_STOPBITS, QLatin1String("1")},
-    {SM::SM_G_INTERFACE, SM::SM_P_FLOWCONTROL, QLatin1String("none")},
-    {SM::SM_G_INTERFACE, SM::SM_P_TCP_HOST, QLatin1String("127.0.0.1")},
-    {SM::SM_G_INTERFACE, SM::SM_P_TCP_PORT, QLatin1String("10400")},
-    {SM::SM_G_DEBUG, SM::SM_P_PORT_LOGGING, QLatin1String("false")},
-    {SM::SM_G_DEVICE, SM::SM_P_DEVICE_ID, QLatin1String("0")},
-    {SM::SM_G_DEVICE, SM::SM_P_DEVICE_NAME, QLatin1String("")},
-    {SM::SM_G_DEVICE, SM::SM_P_ACCEPT_ON_JAM, QLatin1String("0")},
-    {SM::SM_G_SERVICE, SM::SM_P_DEVICES_CNT, QLatin1String("0")},
-    {SM::SM_G_SERVICE, SM::SM_P_RESET_AFTER_EMPTY_SESSIONS, QLatin1String("3")},
-    {SM::SM_G_SERVICE, SM::SM_P_RESET_IDLE_TIMEOUT, QLatin1String("3600000")},
-    {SM::SM_G_UNITELLER, SM::SM_P_UNI_TERMINAL_ID, QLatin1String("0000000000")},
-    {SM::SM_G_POSD2000, SM::SM_P_POSD2000_TIMEOUT_ACK, QLatin1String("5000")},
-    {SM::SM_G_POSD2000, SM::SM_P_POSD2000_TIMEOUT_PACKET, QLatin1String("45000")},
-    {SM::SM_G_POSD2000, SM::SM_P_POSD2000_COUNT_NAK, QLatin1String("3")},
-    {SM::SM_G_POSD2000, SM::SM_P_POSD2000_PACKET_SIZE, QLatin1String("1024")},
-    {SM::SM_G_POSD2000, SM::SM_P_POSD2000_POS_ID, QLatin1String("-1")},
-    {SM::SM_G_CCNET, SM::SM_P_CCNET_RESPONSE_TIME, QLatin1String("1000")},
-    {SM::SM_G_CCNET, SM::SM_P_CCNET_POLLING_INTERVAL, QLatin1String("200")},
-    {SM::SM_G_CCNET, SM::SM_P_CCNET_BILL_TABLE_INTERVAL, QLatin1String("5000")},
-    {SM::SM_G_CCNET, SM::SM_P_CCNET_RESET_INTERVAL, QLatin1String("3000")},
-    {SM::SM_G_CCNET, SM::SM_P_CCNET_REST_INTERVAL, QLatin1String("100")},
-    {SM::SM_G_ICT, SM::SM_P_ICT_RESET_TIMEOUT, QLatin1String("0")},
-    {SM::SM_G_SSP, SM::SM_P_SSP_RESPONSE_TIME, QLatin1String("5000")},
-    {SM::SM_G_SSP, SM::SM_P_SSP_REST_INTERVAL, QLatin1String("100")},
-    {SM::SM_G_SSP, SM::SM_P_SSP_GET_LEVELS_REST_TIME, QLatin1String("0")},
-    {SM::SM_G_SSP, SM::SM_P_SSP_PAYOUT_REST_TIME, QLatin1String("0")},
-    {SM::SM_G_SSP, SM::SM_P_SSP_LOG_DECRYPTED_MSG, QLatin1String("false")},
-    {SM::SM_G_DISPENSER, SM::SM_P_ROUTE_MAP, QLatin1String("")},
+    const char* value;
+} serviceDefaults[] = {
+    {SM::SM_G_DEVICE, SM::SM_P_ACCEPT_ON_JAM, "0"},
+    {SM::SM_G_SERVICE, SM::SM_P_RESET_AFTER_EMPTY_SESSIONS, "3"},
+    {SM::SM_G_ICT, SM::SM_P_ICT_RESET_TIMEOUT, "0"},
+    {SM::SM_G_SSP, SM::SM_P_SSP_RESPONSE_TIME, "5000"},
+    {SM::SM_G_SSP, SM::SM_P_SSP_REST_INTERVAL, "100"},
+    {SM::SM_G_SSP, SM::SM_P_SSP_GET_LEVELS_REST_TIME, "0"},
+    {SM::SM_G_SSP, SM::SM_P_SSP_PAYOUT_REST_TIME, "0"},
+    {SM::SM_G_SSP, SM::SM_P_SSP_LOG_DECRYPTED_MSG, "false"},
 };
+
+// Null where the store has none.
+const char* defaultText(const QString& group, const QString& param)
+{
+    for (const auto& row : serviceDefaults) {
+        if (group == row.group && param == row.param)
+            return row.value;
+    }
+    // Of the common acceptance settings the model alone has defaults.
+    if (group == AcceptorSettings::ACCEPTOR_COMMON_SECTION)
+        return nullptr;
+    for (const auto rows : {SettingsTable::serviceSettings(), SettingsTable::deviceSettings()}) {
+        for (const SettingRow& row : rows) {
+            if (group == row.group && param == row.keys.list)
+                return row.defaultText;
+        }
+    }
+    return nullptr;
+}
 
 } // namespace
 
@@ -222,10 +217,8 @@ bool SettingsManager::isLoaded() const
 
 QVariant SettingsManager::getDefault(QString group, QString param) const
 {
-    for (const auto& row : defaults) {
-        if (group == row.group && param == row.param)
-            return QString(row.value);
-    }
+    if (const char* const text = defaultText(group, param))
+        return QString::fromLatin1(text);
     qCritical().noquote()
         << QStringLiteral("Default settings not found for param %1 in group %2").arg(param, group);
     return false;

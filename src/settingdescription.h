@@ -1,0 +1,95 @@
+#pragma once
+
+#include "velmolib_global.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+struct SettingRow;
+
+/// What a configuration tool needs to know about one setting of the acceptor service to show it, to
+/// ask for it and to check it. AcceptorSettings::settingDescriptions() and settingDescription()
+/// give them; a default-constructed one describes nothing.
+///
+/// A description is a small value that never changes. Different threads may use copies of it at the
+/// same time.
+class VELMOLIB_EXPORT SettingDescription
+{
+public:
+    /// What a value is. All of them travel as text or as what QVariant turns into that text.
+    enum Kind : qint32 {
+        NoSetting, ///< nothing is described
+        Number, ///< an integer from minimum() to maximum()
+        Switch, ///< 1 is on; anything else is off
+        Text, ///< any text
+        Choice, ///< one of choices()
+        AttemptsLimits, ///< a JSON array of {"denom": number, "attempts": number}
+        RouteMap ///< empty, or a JSON array of rows as DRouteMap reads them
+    };
+
+    SettingDescription() = default;
+
+    /// Whether a setting is described. Everything else is empty, false or invalid if none is.
+    bool isValid() const { return m_row; }
+
+    /// The group as the settings list has it: that of the service, for example "service", or that
+    /// of a device, "device2/ccnet"; "device#/ccnet" where no device was named.
+    QString group() const { return m_group; }
+
+    /// The key as the settings list has it, whatever the spelling that was asked for.
+    QString key() const;
+
+    /// The group and the key with a slash between them.
+    QString path() const;
+
+    Kind kind() const;
+
+    /// The range of a Number, within which the service works; qlonglong, and invalid for any other
+    /// kind. The model itself takes what lies outside.
+    QVariant minimum() const;
+    QVariant maximum() const;
+
+    /// The texts of a Choice as the settings list has them; empty for any other kind.
+    QStringList choices() const;
+
+    /// The built-in default as text; invalid where there is none. It is that of
+    /// SettingsManager::getDefault(), in the group "acceptor_common" that of a new
+    /// AcceptorSettings. A default that accepts() refuses stands for nothing: a device needs a
+    /// model and an address.
+    QVariant defaultValue() const;
+
+    QString label() const; ///< translated
+    QString help() const; ///< translated, one line
+
+    /// Whether AcceptorSettings reads the setting. It does not read a device's "port_logging": the
+    /// service does, and what AcceptorSettings writes there is the service's own switch.
+    bool isRead() const;
+
+    /// Whether the settings list that AcceptorSettings writes has the setting for a device of this
+    /// model; true for the settings of the service.
+    /// @param model Acceptors::Supported, or any other number
+    /// @param interfaceType "tcp"; any other text means a serial port
+    bool appliesTo(int model, const QString& interfaceType) const;
+
+    /// The value as AcceptorSettings would write it into a settings list after reading this text:
+    /// the text itself, 0 for what is no number, the choice that stands in for what is none.
+    QString readAs(const QString& value) const;
+
+    /// Whether the text is read as what it says and the service can work with it: a Number in its
+    /// range, a Switch that is 0 or 1, one of the choices in any spelling that means it, limits
+    /// with both numbers 1 or more, routes of which no row is dropped, a serial port or TCP host
+    /// that is not empty. A device's "port_logging" may be true or false as well.
+    bool accepts(const QString& value) const;
+
+private:
+    friend class AcceptorSettings;
+    SettingDescription(const SettingRow* row, const QString& group)
+        : m_row(row)
+        , m_group(group)
+    {
+    }
+
+    const SettingRow* m_row = nullptr;
+    QString m_group;
+};
