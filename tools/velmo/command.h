@@ -35,7 +35,7 @@ struct Command
     int mostOperands;
     const char* summary; ///< one sentence, a source text of Velmo::tr(); null hides the command
     const char* details; ///< further ones for its own help, the same; null without
-    const Option* options[8]; ///< besides --help and --lang; null after the last
+    const Option* options[10]; ///< besides --help and --lang; null after the last
     int (*run)(const Arguments& arguments);
 
     QStringList words() const { return QString(QLatin1String(name)).split(QLatin1Char(' ')); }
