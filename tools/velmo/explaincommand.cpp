@@ -1,9 +1,8 @@
+#include "answerjson.h"
 #include "commands.h"
-#include "explanation.h"
 #include "filtersinput.h"
 #include "inputfile.h"
 #include "jsonlines.h"
-#include "jsontext.h"
 #include "options.h"
 #include "output.h"
 #include "table.h"
@@ -41,62 +40,6 @@ std::optional<int> numberOf(const Arguments& arguments, const Option& option)
     if (!isNumber || number < 0)
         throw Fault{Velmo::tr("%1: expected a number").arg(option.dashedName())};
     return number;
-}
-
-QByteArray jsonLine(const QString& log, const NoteAnswer& answer)
-{
-    const auto filter = [](const Objection& objection) {
-        return JsonText::object({{"name", objection.filter},
-                                 {"params", JsonText::of(objection.params)},
-                                 {"evidence", JsonText::list(objection.evidence)},
-                                 {"text", objection.text}});
-    };
-    const auto condition = [](const MachineCondition& machine) {
-        return JsonText::object(
-            {{"what", machine.what}, {"line", machine.line}, {"text", machine.text}});
-    };
-    const JsonText null = JsonText::of(QJsonValue::Null);
-    return JsonText::object({{"kind", QStringLiteral("note")},
-                             {"log", log},
-                             {"session", answer.session},
-                             {"device", qint64(answer.device)},
-                             {"thread", qint64(answer.thread)},
-                             {"line", answer.line},
-                             {"time", answer.time.isKnown() ? JsonText(answer.time.iso()) : null},
-                             {"note", answer.wasOffered() ? JsonText(answer.note) : null},
-                             {"outcome", outcomeKey(answer.outcome)},
-                             {"taken", answer.taken},
-                             {"filters", JsonText::list(answer.objections, filter)},
-                             {"machine", JsonText::list(answer.machine, condition)},
-                             {"uncertain", JsonText::list(answer.uncertain)},
-                             {"text", answer.text()}})
-        + '\n';
-}
-
-JsonText jsonOf(const Tally& tally)
-{
-    return JsonText::object({{"count", tally.count}, {"sum", tally.sum}});
-}
-
-QByteArray jsonLine(const Summary& summary)
-{
-    QJsonObject by;
-    for (auto filter = summary.refusedBy.begin(); filter != summary.refusedBy.end(); ++filter)
-        by.insert(filter.key(), filter.value());
-    const Tally& refused = summary.of(Outcome::Refused);
-    return JsonText::object({{"kind", QStringLiteral("summary")},
-                             {"sessions", summary.sessions},
-                             {"offered", jsonOf(summary.offered)},
-                             {"taken", jsonOf(summary.of(Outcome::Taken))},
-                             {"refused",
-                              JsonText::object({{"count", refused.count},
-                                                {"sum", refused.sum},
-                                                {"by", JsonText::of(by)},
-                                                {"taken", jsonOf(summary.takenAlthoughRefused)}})},
-                             {"rejected", jsonOf(summary.of(Outcome::Rejected))},
-                             {"returned", jsonOf(summary.of(Outcome::Returned))},
-                             {"unknown", jsonOf(summary.of(Outcome::Unknown))}})
-        + '\n';
 }
 
 QByteArray textLine(const NoteAnswer& answer)
@@ -172,7 +115,7 @@ int explainCommand(const Arguments& arguments)
                 return;
             summary.add(answer);
             if (question.shows(answer))
-                text += json ? jsonLine(log, answer) : textLine(answer);
+                text += json ? jsonOf(log, answer) + '\n' : textLine(answer);
         });
         TextInput file = openInput(log);
         if (!json && !question.summaryOnly && logs.size() > 1)
@@ -191,7 +134,7 @@ int explainCommand(const Arguments& arguments)
         print(QString::fromUtf8(text));
         exitCode = qMax(exitCode, result);
     }
-    print(json ? QString::fromUtf8(jsonLine(summary)) : summaryText(summary));
+    print(json ? QString::fromUtf8(jsonOf(summary)) + QLatin1Char('\n') : summaryText(summary));
     const bool isRefusal = summary.of(Outcome::Refused).count > 0;
     if (exitCode == exitSuccess && isRefusal && arguments.isSet(options::exitCode))
         return exitFindings;

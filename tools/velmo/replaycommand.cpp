@@ -1,8 +1,8 @@
+#include "answerjson.h"
 #include "commands.h"
 #include "filtersinput.h"
 #include "inputfile.h"
 #include "jsonlines.h"
-#include "jsontext.h"
 #include "options.h"
 #include "output.h"
 #include "replay.h"
@@ -12,11 +12,6 @@
 #include <optional>
 
 namespace {
-
-JsonText textOrNull(const QString& text)
-{
-    return text.isEmpty() ? JsonText::of(QJsonValue::Null) : JsonText(text);
-}
 
 QByteArray jsonLine(qint64 lineNumber, const LogTime& time, const ReplayStep& step)
 {
@@ -32,28 +27,25 @@ QByteArray jsonLine(qint64 lineNumber, const LogTime& time, const ReplayStep& st
                                 {"params", JsonText::of(filterParams(*step.refusedBy))}})
             : JsonText::of(QJsonValue::Null);
     };
-    const auto condition = [](const MachineCondition& machine) {
-        return JsonText::object(
-            {{"what", machine.what}, {"line", machine.line}, {"text", machine.text}});
-    };
-    return JsonText::object(
-               {{"line", lineNumber},
-                {"time", textOrNull(time.iso())},
-                {"device", qint64(step.device->deviceId())},
-                {"thread", qint64(step.device->threadId())},
-                {"session", textOrNull(step.startsSession ? QStringLiteral("start") : QString())},
-                {"state", state.stateAsString()},
-                {"state_text", state.stateText},
-                {"error_text", state.errorText},
-                {"note", state.currentNote},
-                {"session_sum", state.sessionSum},
-                {"sent", step.sent},
-                {"verdict", verdict()},
-                {"refused_by", refusedBy()},
-                {"machine", JsonText::list(step.device->conditions(), condition)},
-                {"payment_text", step.paymentText},
-                {"accepting_allowed", step.acceptingAllowed}})
-        + '\n';
+    std::vector<JsonText::Member> members{
+        {"line", lineNumber},
+        {"time", time.isKnown() ? JsonText(time.iso()) : JsonText::of(QJsonValue::Null)},
+        {"device", state.deviceId},
+        {"thread", state.threadId},
+        {"state", state.stateAsString()},
+        {"state_text", state.stateText},
+        {"error_text", state.errorText},
+        {"note", state.currentNote},
+        {"session_sum", state.sessionSum},
+        {"sent", step.sent},
+        {"verdict", verdict()},
+        {"refused_by", refusedBy()},
+        {"machine", jsonOf(step.device->conditions())},
+        {"payment_text", step.paymentText},
+        {"accepting_allowed", step.acceptingAllowed}};
+    if (step.startsSession)
+        members.push_back({"session", QStringLiteral("start")});
+    return JsonText::object(members) + '\n';
 }
 
 // A line of the table; the last cell takes what room is left, in several lines if need be.
