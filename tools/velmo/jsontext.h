@@ -16,10 +16,7 @@ class JsonText : public QByteArray
 public:
     struct Member;
 
-    JsonText(const QString& text)
-        : JsonText(of(text))
-    {
-    }
+    JsonText(const QString& text);
 
     template <typename Number, typename = std::enable_if_t<std::is_integral_v<Number>>>
     JsonText(Number number)
@@ -66,11 +63,3 @@ struct JsonText::Member
     const char* key; ///< plain ASCII
     JsonText value;
 };
-
-inline JsonText JsonText::object(const std::vector<Member>& members)
-{
-    QByteArray text;
-    for (const Member& member : members)
-        text += QByteArray(text.isEmpty() ? "\"" : ",\"") + member.key + "\":" + member.value;
-    return JsonText('{' + text + '}');
-}

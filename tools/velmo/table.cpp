@@ -50,12 +50,14 @@ QString formatList(const QList<QStringList>& rows)
 
 QString wrapped(const QString& text, int indent, int width)
 {
+    if (width == 0)
+        return text + QLatin1Char('\n');
     QString result;
     int column = 0;
     const QStringList words = text.split(QLatin1Char(' '));
     for (const QString& word : words) {
         const bool isFirst = column == 0;
-        if (width > 0 && column > indent && column + 1 + word.size() > width) {
+        if (column > indent && column + 1 + word.size() > width) {
             result += QLatin1Char('\n') + QString(indent, QLatin1Char(' ')) + word;
             column = indent + int(word.size());
         } else {

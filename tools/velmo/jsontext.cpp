@@ -1,0 +1,22 @@
+#include "jsontext.h"
+
+#include "jsonwriter_p.h"
+
+JsonText::JsonText(const QString& text)
+{
+    JsonWriter json;
+    json.write(text);
+    append(json.text().toUtf8());
+}
+
+JsonText JsonText::object(const std::vector<Member>& members)
+{
+    QByteArray text;
+    for (const Member& member : members) {
+        text += text.isEmpty() ? "\"" : ",\"";
+        text += member.key;
+        text += "\":";
+        text += member.value;
+    }
+    return JsonText('{' + text + '}');
+}
