@@ -48,11 +48,14 @@ QByteArray jsonLine(qint64 lineNumber, const LogTime& time, const ReplayStep& st
     return JsonText::object(members) + '\n';
 }
 
-// A line of the table; the last cell takes what room is left, in several lines if need be.
+// A line of the table. The last cell takes what room is left, in several lines if need be; where
+// there is little, it stands below the others.
 QByteArray tableRow(const QStringList& cells, bool withTime)
 {
     // Negative: right-aligned. The second column is the time.
-    constexpr int widths[] = {-6, 12, 6, 10, -7, -7, 7};
+    constexpr int widths[] = {-6, 8, 6, 10, -6, -7, 7};
+    constexpr int leastRoom = 30;
+    constexpr int below = 8;
     static const int width = outputWidth();
     QString row;
     for (int i = 0; i < int(std::size(widths)); ++i) {
@@ -62,11 +65,14 @@ QByteArray tableRow(const QStringList& cells, bool withTime)
         row += column < 0 ? cells.at(i).rightJustified(-column) : cells.at(i).leftJustified(column);
         row += QStringLiteral("  ");
     }
-    const int indent = int(row.size());
-    QString line = wrapped(row + cells.constLast(), indent, width);
-    while (line.endsWith(QLatin1String(" \n")))
-        line.remove(line.size() - 2, 1);
-    return line.toUtf8();
+    const QString& last = cells.constLast();
+    const int room = width - int(row.size());
+    if (width == 0 || room >= qMin(leastRoom, int(last.size())))
+        return wrapped(row + last, int(row.size()), width).toUtf8();
+    while (row.endsWith(QLatin1Char(' ')))
+        row.chop(1);
+    const QString meaning = QString(below, QLatin1Char(' ')) + last;
+    return (row + QLatin1Char('\n') + wrapped(meaning, below, width)).toUtf8();
 }
 
 QByteArray tableHead(bool withTime)
@@ -117,7 +123,7 @@ QByteArray tableLine(qint64 lineNumber, const LogTime& time, const ReplayStep& s
         ? QString::number(step.device->deviceId())
         : QStringLiteral("%1/%2").arg(step.device->deviceId()).arg(step.device->threadId());
     const QByteArray row =
-        tableRow({QString::number(lineNumber), time.clock(), device, state.stateAsString(),
+        tableRow({QString::number(lineNumber), time.clock().left(8), device, state.stateAsString(),
                   QString::number(state.currentNote), QString::number(state.sessionSum),
                   verdictText(step), meaning(step)},
                  withTime);
