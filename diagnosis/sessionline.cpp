@@ -135,7 +135,7 @@ int fieldIndex(const QString& key)
     static const QHash<QString, int> indexes = [] {
         QHash<QString, int> found;
         for (const Field& known : fields())
-            found.insert(known.key, found.size());
+            found.insert(known.key, int(found.size()));
         return found;
     }();
     return indexes.value(key, -1);
@@ -251,7 +251,8 @@ SessionLine::SessionLine(const QString& text)
             return false;
         if (!isSession)
             m_time = readTime(value);
-        else if (value != QVariant(QStringLiteral("start")))
+        else if (value.userType() != QMetaType::QString
+                 || value.toString() != QLatin1String("start"))
             throw Fault{Diagnosis::tr("\"session\": expected \"start\"")};
         m_startsSession = m_startsSession || isSession;
         return true;

@@ -89,7 +89,7 @@ void checkText(const QByteArray& bytes)
     }
 }
 
-void checkSettings(const ArrayFile& file)
+void checkSettingsFile(const ArrayFile& file)
 {
     try {
         checkSettings(file);
@@ -121,7 +121,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     try {
         const ArrayFile settings = arrayFile(parts.value(1), "settings");
-        checkSettings(settings);
+        checkSettingsFile(settings);
         CHECK(FilterSet(settings, ListKind::Settings).rules().size() > 0);
     } catch (const Fault& fault) {
         CHECK(fault.message.startsWith(QLatin1String("settings")));

@@ -267,12 +267,30 @@ private Q_SLOTS:
         QCOMPARE(result, expected);
     }
 
+    void documentedLinesAreRead()
+    {
+        QFile file(QStringLiteral(FORMATS));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString example =
+            QString::fromUtf8(file.readAll()).section("```jsonl\n"_s, 1).section("\n```"_s, 0, 0);
+        QVector<NoteAnswer> answers;
+        LogExplainer explainer(filterSet("[]"_s),
+                               [&](const NoteAnswer& answer) { answers += answer; });
+        for (const QString& line : example.split(QLatin1Char('\n')))
+            explainer.take(SessionLine(line), 1);
+        explainer.finish();
+        QCOMPARE(answers.size(), 1);
+        QVERIFY(answers.at(0).taken);
+        QCOMPARE(answers.at(0).time.iso(), "2026-11-16T10:05:12.000Z"_s);
+    }
+
     void badLinesAreNamed_data()
     {
         addRows(R"(
             {"time":"10:05"}                            | "time": expected an ISO 8601 time or milliseconds since 1970
             {"time":"2026-02-30T10:05:12"}              | "time": expected an ISO 8601 time
             {"time":"2026-11-16T24:05:12Z"}             | "time": expected an ISO 8601 time
+            {"session":true}                            | "session": expected "start"
             {"time":true}                               | "time": expected an ISO 8601 time
             {"device_states":{}}                        | expected a list "device_states"
             {"device_states":[null,1]}                  | "device_states": element 2: expected a JSON object
