@@ -2,6 +2,24 @@
 
 #include <algorithm>
 
+namespace {
+
+// What a payment screen reads of a published device.
+AcceptorStateItem published(const DeviceState& state)
+{
+    AcceptorStateItem item;
+    item.setDeviceId(static_cast<int>(state.deviceId));
+    item.setEnabled(state.enabled);
+    item.setState(state.stateAsString());
+    item.setStackerPresent(state.stackerPresent);
+    item.setStackerFull(state.stackerFull);
+    item.setErrorCritical(state.errCritical);
+    item.setHalt(state.halt);
+    return item;
+}
+
+} // namespace
+
 std::vector<ReplayStep> Replay::take(const SessionLine& line, qint64 lineNumber)
 {
     std::vector<ReplayStep> steps;
@@ -31,7 +49,7 @@ void Replay::publish(const LogDevice& device)
     QList<AcceptorStateItem> states = m_screen.deviceStates();
     const auto known = std::find(m_published.begin(), m_published.end(), &device);
     const auto index = static_cast<int>(known - m_published.begin());
-    const AcceptorStateItem state(device.state().toMap());
+    const AcceptorStateItem state = published(device.state());
     if (known == m_published.end()) {
         m_published.push_back(&device);
         states.append(state);

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the release preset and replays a sample session in which a
-# fished note is refused.
+# Installs what is missing, builds the release preset and explains a sample session in which a fished
+# note is refused.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -10,5 +10,5 @@ cmake --preset release
 cmake --build --preset release
 
 echo
-echo '$ velmo replay samples/fished-note.jsonl --filters samples/filters.json'
-build/release/bin/velmo replay samples/fished-note.jsonl --filters samples/filters.json
+echo '$ velmo explain samples/fished-note.jsonl --filters samples/filters.json'
+build/release/bin/velmo explain samples/fished-note.jsonl --filters samples/filters.json

@@ -25,21 +25,21 @@ JsonText jsonOf(const QString& log, const NoteAnswer& answer)
                                  {"evidence", JsonText::list(objection.evidence)},
                                  {"text", objection.text}});
     };
-    const JsonText null = JsonText::of(QJsonValue::Null);
-    return JsonText::object({{"kind", QStringLiteral("note")},
-                             {"log", log},
-                             {"session", answer.session},
-                             {"device", qint64(answer.device)},
-                             {"thread", qint64(answer.thread)},
-                             {"line", answer.line},
-                             {"time", answer.time.isKnown() ? JsonText(answer.time.iso()) : null},
-                             {"note", answer.wasOffered() ? JsonText(answer.note) : null},
-                             {"outcome", outcomeKey(answer.outcome)},
-                             {"taken", answer.taken},
-                             {"filters", JsonText::list(answer.objections, filter)},
-                             {"machine", jsonOf(answer.machine)},
-                             {"uncertain", JsonText::list(answer.uncertain)},
-                             {"text", answer.text()}});
+    return JsonText::object(
+        {{"kind", QStringLiteral("note")},
+         {"log", log},
+         {"session", answer.session},
+         {"device", qint64(answer.device)},
+         {"thread", qint64(answer.thread)},
+         {"line", answer.line},
+         {"time", answer.time.isKnown() ? JsonText(answer.time.iso()) : JsonText::null()},
+         {"note", answer.wasOffered() ? JsonText(answer.note) : JsonText::null()},
+         {"outcome", outcomeKey(answer.outcome)},
+         {"taken", answer.taken},
+         {"filters", JsonText::list(answer.objections, filter)},
+         {"machine", jsonOf(answer.machine)},
+         {"uncertain", JsonText::list(answer.uncertain)},
+         {"text", answer.text()}});
 }
 
 JsonText jsonOf(const Summary& summary)

@@ -9,14 +9,20 @@ JsonText::JsonText(const QString& text)
     append(json.text().toUtf8());
 }
 
+JsonText JsonText::null()
+{
+    return JsonText(QByteArrayLiteral("null"));
+}
+
 JsonText JsonText::object(const std::vector<Member>& members)
 {
     QByteArray text;
+    text.reserve(512);
     for (const Member& member : members) {
-        text += text.isEmpty() ? "\"" : ",\"";
+        text += text.isEmpty() ? "{\"" : ",\"";
         text += member.key;
         text += "\":";
         text += member.value;
     }
-    return JsonText('{' + text + '}');
+    return JsonText(text + '}');
 }

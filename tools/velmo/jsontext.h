@@ -33,6 +33,8 @@ public:
         return JsonText(array.mid(1, array.size() - 2));
     }
 
+    static JsonText null();
+
     static JsonText object(const std::vector<Member>& members);
 
     /// @param toText gives the text of one element

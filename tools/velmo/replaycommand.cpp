@@ -18,18 +18,18 @@ QByteArray jsonLine(qint64 lineNumber, const LogTime& time, const ReplayStep& st
     const DeviceState& state = step.device->state();
     const auto verdict = [&step] {
         if (step.verdict == ReplayStep::NoNote)
-            return JsonText::of(QJsonValue::Null);
+            return JsonText::null();
         return JsonText(step.refusedBy ? QStringLiteral("reject") : QStringLiteral("accept"));
     };
     const auto refusedBy = [&step] {
         return step.refusedBy
             ? JsonText::object({{"name", filterName(*step.refusedBy)},
                                 {"params", JsonText::of(filterParams(*step.refusedBy))}})
-            : JsonText::of(QJsonValue::Null);
+            : JsonText::null();
     };
     std::vector<JsonText::Member> members{
         {"line", lineNumber},
-        {"time", time.isKnown() ? JsonText(time.iso()) : JsonText::of(QJsonValue::Null)},
+        {"time", time.isKnown() ? JsonText(time.iso()) : JsonText::null()},
         {"device", state.deviceId},
         {"thread", state.threadId},
         {"state", state.stateAsString()},
