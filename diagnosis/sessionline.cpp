@@ -253,7 +253,7 @@ SessionLine::SessionLine(const QString& text)
             m_time = readTime(value);
         else if (value.userType() != QMetaType::QString
                  || value.toString() != QLatin1String("start"))
-            throw Fault{Diagnosis::tr("\"session\": expected \"start\"")};
+            throw Fault{Diagnosis::tr(R"("session": expected "start")")};
         m_startsSession = m_startsSession || isSession;
         return true;
     });

@@ -97,7 +97,7 @@ QString rulesText(const FiltersInput& input)
 
 int explainCommand(const Arguments& arguments)
 {
-    const QStringList logs = arguments.operands();
+    const QStringList& logs = arguments.operands();
     const FiltersInput input = readFilters(arguments, logs);
     const Question question{numberOf(arguments, options::session),
                             numberOf(arguments, options::device),
