@@ -19,5 +19,5 @@ require_packages()
 }
 
 build_packages=(cmake g++ ninja-build qtbase5-dev libqt5serialport5-dev qttools5-dev
-    qttools5-dev-tools dbus fonts-dejavu-core)
+    qttools5-dev-tools zlib1g-dev dbus fonts-dejavu-core)
 install_packages=(make pkg-config qt5-qmake)

@@ -79,6 +79,14 @@ bool SimulatedDevice::step()
     return true;
 }
 
+QVariantMap SimulatedDevice::lastReport()
+{
+    QVariantMap report = m_session.at(m_nextLine - 1);
+    report.insert(deviceStateDescConst::DEVICE_ID, m_worker.getState()->deviceId);
+    report.insert(deviceStateDescConst::THREAD_ID, m_worker.getState()->threadId);
+    return report;
+}
+
 QVariantMap SimulatedDevice::toMap()
 {
     QVariantMap map = m_worker.getState()->toMap();

@@ -3,6 +3,7 @@
 #include "fault.h"
 
 #include <cstdio>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace {
@@ -30,6 +31,22 @@ void Output::flush()
 {
     if (!m_file.flush())
         throw outputFault(m_file);
+}
+
+int outputWidth()
+{
+    const int wanted = qEnvironmentVariableIntValue("COLUMNS");
+    if (wanted > 0)
+        return wanted;
+    winsize terminal{};
+    if (!isatty(STDOUT_FILENO) || ioctl(STDOUT_FILENO, TIOCGWINSZ, &terminal) != 0)
+        return 0;
+    return terminal.ws_col;
+}
+
+bool isOutputColored()
+{
+    return isatty(STDOUT_FILENO) && qEnvironmentVariableIsEmpty("NO_COLOR");
 }
 
 void print(const QString& text)

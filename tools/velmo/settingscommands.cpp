@@ -4,6 +4,7 @@
 #include "acceptorsettings.h"
 #include "arrayfile.h"
 #include "droutemapitem.h"
+#include "filterset.h"
 #include "inputfile.h"
 #include "knownsettings.h"
 #include "options.h"
@@ -21,8 +22,10 @@ namespace {
 
 ArrayFile readSettings(const QString& fileName)
 {
-    TextInput file = openInput(fileName);
-    return {file, QStringLiteral("settings")};
+    TextInput text = openInput(fileName);
+    const ArrayFile file(text, QStringLiteral("settings"));
+    requireKind(file, ListKind::Settings);
+    return file;
 }
 
 // One element a line, like the lists that people write.

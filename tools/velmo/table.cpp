@@ -48,15 +48,16 @@ QString formatList(const QList<QStringList>& rows)
     return list;
 }
 
-QString wrapped(const QString& text, int indent)
+QString wrapped(const QString& text, int indent, int width)
 {
-    constexpr int pageWidth = 80;
+    if (width == 0)
+        return text + QLatin1Char('\n');
     QString result;
     int column = 0;
     const QStringList words = text.split(QLatin1Char(' '));
     for (const QString& word : words) {
         const bool isFirst = column == 0;
-        if (column > indent && column + 1 + word.size() > pageWidth) {
+        if (column > indent && column + 1 + word.size() > width) {
             result += QLatin1Char('\n') + QString(indent, QLatin1Char(' ')) + word;
             column = indent + int(word.size());
         } else {

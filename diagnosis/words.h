@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QCoreApplication>
+
+/// The words of what is diagnosed, in the language that is shown: Diagnosis::tr("...").
+class Diagnosis
+{
+    Q_DECLARE_TR_FUNCTIONS(Diagnosis)
+};

@@ -1,0 +1,28 @@
+#include "filtersinput.h"
+
+#include "arrayfile.h"
+#include "command.h"
+#include "inputfile.h"
+#include "options.h"
+#include "output.h"
+#include "settingscheck.h"
+
+FiltersInput readFilters(const Arguments& arguments, const QStringList& logs)
+{
+    const bool ofSettings = arguments.isSet(options::settings);
+    if (ofSettings == arguments.isSet(options::filters))
+        throw arguments.usageFault();
+    const QString fileName = arguments.value(ofSettings ? options::settings : options::filters);
+    if (fileName == QLatin1String("-") && logs.contains(fileName))
+        throw Fault{Velmo::tr("log and filters cannot both come from standard input")};
+
+    TextInput text = openInput(fileName);
+    const ArrayFile file(text, ofSettings ? Velmo::tr("settings") : Velmo::tr("filters"));
+    FilterSet filters(file, ofSettings ? ListKind::Settings : ListKind::Filters);
+    const QStringList findings = ofSettings ? checkSettings(file) : QStringList();
+    for (const QString& finding : findings)
+        printError(finding);
+    if (!findings.isEmpty())
+        printError(Velmo::tr("%1: answers may differ from the service's").arg(file.name()));
+    return {std::move(filters), file.name()};
+}
