@@ -98,6 +98,12 @@ const QString ccnetGroup = QStringLiteral("ccnet");
 const QString id003Group = QStringLiteral("id003");
 const QString tcpInterface = QStringLiteral("tcp");
 
+// An int also where Qt's containers count with 64 bits.
+int deviceObjects()
+{
+    return static_cast<int>(S::devices.size());
+}
+
 QString attemptsText()
 {
     const QList<AcceptorAttemptFilterItem> limits = S::attemptsFilter();
@@ -139,7 +145,7 @@ const struct
      [](Form) { return QVariant(int(S::portLogs())); }},
     // The list counts the devices that it holds, the map shows as many as are configured.
     {S::SERVICE_SECTION, S::DEVICE_COUNT,
-     [](Form form) { return QVariant(form == ListForm ? S::devices.size() : S::deviceCount()); }},
+     [](Form form) { return QVariant(form == ListForm ? deviceObjects() : S::deviceCount()); }},
     {S::SERVICE_SECTION, S::RESET_IDLE_TIMEOUT,
      [](Form) { return QVariant(S::resetIdleTimeout()); }},
     {S::DISPENSER_SECTION, S::ROUTE_MAP, [](Form) { return QVariant(S::routeMap()); }},
@@ -641,7 +647,7 @@ void AcceptorSettings::removeDeviceByIndex(int position)
 {
     if (position < 0 || position >= devices.size())
         return;
-    const auto entry = devices.begin() + position;
+    const auto entry = std::next(devices.begin(), position);
     delete entry.value();
     devices.erase(entry);
     deviceCount_ = wrappingDifference(deviceCount_, 1);
@@ -681,7 +687,7 @@ void AcceptorSettings::fromAcceptorInfoList(const QList<AcceptorInfo>& infos)
     const bool renumber = firstIndex > 0 || dropped;
     devices.clear();
     for (const auto& [index, device] : std::as_const(kept))
-        devices.insert(renumber ? devices.size() : index, device);
+        devices.insert(renumber ? deviceObjects() : index, device);
     int index = devices.isEmpty() ? -1 : devices.lastKey();
     for (const AcceptorInfo& info : std::as_const(infoByType)) {
         do
@@ -689,7 +695,7 @@ void AcceptorSettings::fromAcceptorInfoList(const QList<AcceptorInfo>& infos)
         while (devices.contains(index));
         devices.insert(index, new AcceptorDeviceSettings(info));
     }
-    deviceCount_ = devices.size();
+    deviceCount_ = deviceObjects();
 }
 
 QSet<int> AcceptorSettings::fixedDeviceTypes() const

@@ -212,7 +212,7 @@ void SettingsManager::clear()
 
 int SettingsManager::count() const
 {
-    return items->size();
+    return static_cast<int>(items->size());
 }
 
 bool SettingsManager::isLoaded() const

@@ -12,11 +12,11 @@ int lineOfElement(const QByteArray& text, int index)
     int depth = 0;
     bool inString = false;
     bool beforeElement = false;
-    for (int i = 0; i < text.size(); ++i) {
+    for (decltype(text.size()) i = 0; i < text.size(); ++i) {
         const char c = text.at(i);
         if (beforeElement && !isspace(static_cast<unsigned char>(c))) {
             if (index-- == 0)
-                return 1 + text.left(i).count('\n');
+                return 1 + static_cast<int>(text.left(i).count('\n'));
             beforeElement = false;
         }
         if (inString && c == '\\')

@@ -17,7 +17,7 @@ void loadTranslations(const QString& language)
 {
     // The same place in the build folder and where the tool is installed.
     const QString folder =
-        QCoreApplication::applicationDirPath() + QStringLiteral("/../share/velmolib/translations");
+        QCoreApplication::applicationDirPath() + QStringLiteral("/../" TRANSLATIONS);
     QStringList components = palx::AppVersionManager::localisations();
     components.removeDuplicates();
     bool anyLoaded = false;
