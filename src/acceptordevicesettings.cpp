@@ -2,6 +2,7 @@
 
 #include "acceptorportsettingsconsts.h"
 #include "serialporttexts_p.h"
+#include "variants_p.h"
 
 using namespace acceptorportsettingsconsts;
 
@@ -70,7 +71,7 @@ AcceptorInfo AcceptorDeviceSettings::toAcceptorInfo() const
 void AcceptorDeviceSettings::setAcceptorInfo(const AcceptorInfo& info)
 {
     const auto parameter = [&info](const QString& key) {
-        return info.portSettings.value(key).toString();
+        return Variants::toString(info.portSettings.value(key));
     };
     setInterfaceType(serialInterface);
     setPortName(info.portName);
@@ -236,7 +237,7 @@ void AcceptorDeviceSettings::setRest_interval(int value)
 void AcceptorDeviceSettings::setBaudrateStr(const QString& text)
 {
     bool isNumber = false;
-    const uint rate = text.toUInt(&isNumber);
+    const uint rate = Variants::number(text).toUInt(&isNumber);
     if (isNumber)
         setBaudrate(static_cast<QSerialPort::BaudRate>(rate));
 }

@@ -4,6 +4,7 @@
 #include "jsonreader_p.h"
 #include "serialporttexts_p.h"
 #include "settingslist_p.h"
+#include "variants_p.h"
 #include "wraparound_p.h"
 
 #include <QJsonDocument>
@@ -119,7 +120,7 @@ QList<AcceptorAttemptFilterItem> attemptsFromText(const QString& text)
     QList<AcceptorAttemptFilterItem> limits;
     const QVariantList elements = JsonReader::readList(text);
     for (const QVariant& element : elements) {
-        const QVariantMap map = element.toMap();
+        const QVariantMap map = Variants::toMap(element);
         if (map.isEmpty())
             continue;
         AcceptorAttemptFilterItem limit;
@@ -288,7 +289,7 @@ void walk(Form form, Visitor visit)
 
 bool isOne(const QString& value)
 {
-    return value.toUInt() == 1;
+    return Variants::number(value).toUInt() == 1;
 }
 
 // How the service's settings are read.
@@ -301,10 +302,10 @@ const struct
     {S::ACCEPTOR_COMMON_SECTION, S::ACCEPT_ALL,
      [](const QString& value) { S::setAcceptAll(isOne(value)); }},
     {S::ACCEPTOR_COMMON_SECTION, S::MAX_SUMM,
-     [](const QString& value) { S::setMaxSumm(value.toLongLong()); }},
+     [](const QString& value) { S::setMaxSumm(Variants::number(value).toLongLong()); }},
     {S::ACCEPTOR_COMMON_SECTION, S::RESET_STATISTICS,
      [](const QString& value) {
-         const int mode = value.toInt();
+         const int mode = Variants::number(value).toInt();
          const bool known = mode >= S::CleanStatistics0 && mode <= S::CleanStatistics4;
          S::setCleanStatistics(known ? static_cast<S::ECleanStatistics>(mode)
                                      : S::CleanStatistics0);
@@ -314,9 +315,9 @@ const struct
     {S::ACCEPTOR_COMMON_SECTION, S::ATTEMPTS_FILTER,
      [](const QString& value) { S::setAttemptsFilter(attemptsFromText(value)); }},
     {S::SERVICE_SECTION, S::DEVICE_COUNT,
-     [](const QString& value) { S::setDeviceCount(value.toInt()); }},
+     [](const QString& value) { S::setDeviceCount(Variants::number(value).toInt()); }},
     {S::SERVICE_SECTION, S::RESET_IDLE_TIMEOUT,
-     [](const QString& value) { S::setResetIdleTimeout(value.toLongLong()); }},
+     [](const QString& value) { S::setResetIdleTimeout(Variants::number(value).toLongLong()); }},
     {S::DISPENSER_SECTION, S::ROUTE_MAP, [](const QString& value) { S::setRouteMap(value); }},
 };
 
@@ -329,13 +330,13 @@ void setText(Device& device, const QString& value)
 template <auto Setter>
 void setNumber(Device& device, const QString& value)
 {
-    (device.*Setter)(value.toInt());
+    (device.*Setter)(Variants::number(value).toInt());
 }
 
 void setStopBits(Device& device, const QString& value)
 {
     // The two low bits are all that count: 5 is one stop bit, 4 none that the port knows.
-    device.setStopBits(static_cast<QSerialPort::StopBits>(value.toUInt() & 3U));
+    device.setStopBits(static_cast<QSerialPort::StopBits>(Variants::number(value).toUInt() & 3U));
 }
 
 enum KeyMatch : qint32 { ExactKey, KeyInAnyCase };
@@ -368,7 +369,7 @@ const struct
     {S::HARDWARE_SECTION, S::PORT_NAME, KeyInAnyCase, setText<&Device::setPortName>},
     {S::HARDWARE_SECTION, S::PORT_BAUDRATE, ExactKey,
      [](Device& device, const QString& value) {
-         device.setBaudrate(static_cast<QSerialPort::BaudRate>(value.toUInt()));
+         device.setBaudrate(static_cast<QSerialPort::BaudRate>(Variants::number(value).toUInt()));
      }},
     {S::HARDWARE_SECTION, S::PORT_FLOW_CONTROL, KeyInAnyCase,
      [](Device& device, const QString& value) {
@@ -381,7 +382,8 @@ const struct
      }},
     {S::HARDWARE_SECTION, S::PORT_DATABITS, KeyInAnyCase,
      [](Device& device, const QString& value) {
-         device.setDataBitsType(static_cast<QSerialPort::DataBits>(value.toUInt()));
+         device.setDataBitsType(
+             static_cast<QSerialPort::DataBits>(Variants::number(value).toUInt()));
      }},
     {S::HARDWARE_SECTION, S::PORT_STOPBIT, KeyInAnyCase, setStopBits},
     // The formatted map writes this key.
@@ -431,10 +433,10 @@ bool applySetting(AcceptorSettings& settings, const QVariantMap& setting)
 {
     if (!setting.contains(SettingsList::groupKey))
         return false;
-    const GroupPath path(setting.value(SettingsList::groupKey).toString());
+    const GroupPath path(Variants::toString(setting.value(SettingsList::groupKey)));
     return settings.updateValue(path.group, path.subgroup,
-                                setting.value(SettingsList::nameKey).toString(),
-                                setting.value(SettingsList::valueKey).toString());
+                                Variants::toString(setting.value(SettingsList::nameKey)),
+                                Variants::toString(setting.value(SettingsList::valueKey)));
 }
 
 Device& deviceAt(int index)
@@ -469,8 +471,9 @@ void AcceptorAttemptFilterItem::setDenom(int denom)
 
 void AcceptorAttemptFilterItem::loadFromMap(QVariantMap map)
 {
-    m_denom = map.value(QStringLiteral("denom"), 1).toString().toInt();
-    m_attempts = map.value(QStringLiteral("attempts"), 1).toString().toInt();
+    m_denom = Variants::number(Variants::toString(map.value(QStringLiteral("denom"), 1))).toInt();
+    m_attempts =
+        Variants::number(Variants::toString(map.value(QStringLiteral("attempts"), 1))).toInt();
 }
 
 QVariantMap AcceptorAttemptFilterItem::toMap() const
@@ -596,7 +599,7 @@ void AcceptorSettings::setList(const QVariantList& list)
     deviceCount_ = 0;
     cleanStatistics_ = CleanStatistics0;
     for (const QVariant& element : list)
-        applySetting(*this, element.toMap());
+        applySetting(*this, Variants::toMap(element));
 }
 
 QVariantMap AcceptorSettings::toFormattedMap() const
@@ -616,9 +619,10 @@ void AcceptorSettings::setFotmattedMap(const QVariantMap& map)
     const QMutexLocker locker(&settingsMutex_);
     for (auto entry = map.constBegin(); entry != map.constEnd(); ++entry) {
         const GroupPath path(entry.key());
-        const QVariantMap settings = entry.value().toMap();
+        const QVariantMap settings = Variants::toMap(entry.value());
         for (auto setting = settings.constBegin(); setting != settings.constEnd(); ++setting)
-            updateValue(path.group, path.subgroup, setting.key(), setting.value().toString());
+            updateValue(path.group, path.subgroup, setting.key(),
+                        Variants::toString(setting.value()));
     }
     for (auto entry = devices.lowerBound(deviceCount_); entry != devices.end();) {
         delete entry.value();
@@ -638,7 +642,7 @@ bool AcceptorSettings::updateValue(QString group, QString subgroup, QString key,
         return true;
     if (!group.contains(DEVICE))
         return false;
-    const int index = group.remove(DEVICE).toInt();
+    const int index = Variants::number(group.remove(DEVICE)).toInt();
     updateDeviceSetting(deviceAt(index), subgroup, key, value);
     return subgroup == HARDWARE_SECTION || subgroup == DEVICE_SECTION;
 }

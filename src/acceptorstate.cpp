@@ -4,6 +4,7 @@
 #include "dispenserregistrymodel.h"
 #include "jsonreader_p.h"
 #include "statitem.h"
+#include "variants_p.h"
 
 #include <QObject>
 #include <QStringList>
@@ -46,8 +47,9 @@ void fileRow(QVariantMap& registry, const QVariantMap& row, const QVariant& chan
 {
     const QString key =
         QStringLiteral("%1_%2_%3_%4")
-            .arg(row.value(Row::BILL_TYPE).toString(), channel.toString(),
-                 row.value(Row::DENOMINATION).toString(), row.value(Row::CURRENCY).toString());
+            .arg(Variants::toString(row.value(Row::BILL_TYPE)), Variants::toString(channel),
+                 Variants::toString(row.value(Row::DENOMINATION)),
+                 Variants::toString(row.value(Row::CURRENCY)));
     registry.insert(key, row);
 }
 
@@ -55,7 +57,7 @@ QVariantMap registryByChannel(const QVariantList& rows)
 {
     QVariantMap registry;
     for (const QVariant& element : rows) {
-        QVariantMap row = element.toMap();
+        QVariantMap row = Variants::toMap(element);
         if (row.isEmpty())
             continue;
         const QVariant channel = row.take(Row::CHANNEL);
@@ -73,27 +75,31 @@ const auto& deviceFields()
     using Item = AcceptorStateItem;
     using Set = void (*)(Item & item, const QVariant& value);
     static const std::pair<QString, Set> fields[] = {
-        {DEVICE_ID, [](Item& item, const QVariant& v) { item.setDeviceId(v.toInt()); }},
-        {ENABLED, [](Item& item, const QVariant& v) { item.setEnabled(v.toBool()); }},
+        {DEVICE_ID, [](Item& item, const QVariant& v) { item.setDeviceId(Variants::toInt(v)); }},
+        {ENABLED, [](Item& item, const QVariant& v) { item.setEnabled(Variants::toBool(v)); }},
         {STACKER_PRESENT,
-         [](Item& item, const QVariant& v) { item.setStackerPresent(v.toBool()); }},
-        {STACKER_FULL, [](Item& item, const QVariant& v) { item.setStackerFull(v.toBool()); }},
-        {ERROR_CRITICAL, [](Item& item, const QVariant& v) { item.setErrorCritical(v.toBool()); }},
-        {ERROR_TEXT, [](Item& item, const QVariant& v) { item.setErrorText(v.toString()); }},
-        {STATE, [](Item& item, const QVariant& v) { item.setState(v.toString()); }},
-        {STATE_TEXT, [](Item& item, const QVariant& v) { item.setStateText(v.toString()); }},
-        {THREAD_ID, [](Item& item, const QVariant& v) { item.setThreadId(v.toInt()); }},
-        {HALT, [](Item& item, const QVariant& v) { item.setHalt(v.toBool()); }},
-        {ID_STRING, [](Item& item, const QVariant& v) { item.setIdString(v.toString()); }},
+         [](Item& item, const QVariant& v) { item.setStackerPresent(Variants::toBool(v)); }},
+        {STACKER_FULL,
+         [](Item& item, const QVariant& v) { item.setStackerFull(Variants::toBool(v)); }},
+        {ERROR_CRITICAL,
+         [](Item& item, const QVariant& v) { item.setErrorCritical(Variants::toBool(v)); }},
+        {ERROR_TEXT,
+         [](Item& item, const QVariant& v) { item.setErrorText(Variants::toString(v)); }},
+        {STATE, [](Item& item, const QVariant& v) { item.setState(Variants::toString(v)); }},
+        {STATE_TEXT,
+         [](Item& item, const QVariant& v) { item.setStateText(Variants::toString(v)); }},
+        {THREAD_ID, [](Item& item, const QVariant& v) { item.setThreadId(Variants::toInt(v)); }},
+        {HALT, [](Item& item, const QVariant& v) { item.setHalt(Variants::toBool(v)); }},
+        {ID_STRING, [](Item& item, const QVariant& v) { item.setIdString(Variants::toString(v)); }},
         {StatItem::NOTES_INSERTED,
-         [](Item& item, const QVariant& v) { item.setNotesInserted(v.toInt()); }},
+         [](Item& item, const QVariant& v) { item.setNotesInserted(Variants::toInt(v)); }},
         {StatItem::NOTES_REJECTED,
-         [](Item& item, const QVariant& v) { item.setNotesRejected(v.toInt()); }},
+         [](Item& item, const QVariant& v) { item.setNotesRejected(Variants::toInt(v)); }},
         {StatItem::NOTES_RETURNED,
-         [](Item& item, const QVariant& v) { item.setNotesReturned(v.toInt()); }},
+         [](Item& item, const QVariant& v) { item.setNotesReturned(Variants::toInt(v)); }},
         {DispenserRegistryModel::DISPENSER_REGISTRY,
          [](Item& item, const QVariant& v) {
-             item.setDispRegistry(registryByChannel(v.toList()));
+             item.setDispRegistry(registryByChannel(Variants::toList(v)));
          }},
     };
     return fields;
@@ -161,7 +167,7 @@ QList<AcceptorStateItem> readDevices(const QString& text)
         AcceptorStateItem device = withDefaults;
         QVariant other;
         const bool complete = json.isAtObject() ? readDevice(json, device) : json.readValue(other);
-        if (!other.isValid() || !other.isNull())
+        if (!other.isValid() || !Variants::isNull(other))
             devices.append(device);
         return complete;
     };
@@ -504,10 +510,10 @@ QString AcceptorState::systemStatusDescr(QMap<int, QString> names) const
 void AcceptorState::loadFromStateMap(QVariantMap stateMap, AcceptorState& state)
 {
     QList<AcceptorStateItem> devices;
-    const QVariantList published = stateMap.value(deviceStatesKey).toList();
+    const QVariantList published = Variants::toList(stateMap.value(deviceStatesKey));
     for (const QVariant& device : published) {
-        if (!device.isNull())
-            devices.append(AcceptorStateItem(device.toMap()));
+        if (!Variants::isNull(device))
+            devices.append(AcceptorStateItem(Variants::toMap(device)));
     }
     state.setDeviceStates(devices);
 }
