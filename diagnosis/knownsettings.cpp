@@ -77,7 +77,7 @@ QString routeMap(const QString& value)
     const QJsonDocument document = QJsonDocument::fromJson(value.toUtf8());
     if (!document.isArray())
         return QStringLiteral("is no JSON array and holds no route");
-    const int dropped = document.array().size() - DRouteMap::fromJson(value).size();
+    const auto dropped = document.array().size() - DRouteMap::fromJson(value).size();
     return dropped == 0 ? QString()
                         : QStringLiteral("%1 of its rows lack keys and are dropped").arg(dropped);
 }

@@ -33,7 +33,7 @@ QHash<QString, QJsonObject> byPath(const QJsonArray& list)
 
 void insertBesideItsGroup(QJsonArray& list, const QJsonObject& element)
 {
-    int position = list.size();
+    auto position = list.size();
     while (position > 0 && list.at(position - 1).toObject()[groupKey] != element[groupKey])
         --position;
     list.insert(position == 0 ? list.size() : position, element);
@@ -56,7 +56,7 @@ void setElement(QJsonArray& list, const QJsonObject& element)
 
 void removeElements(QJsonArray& list, const QString& path)
 {
-    for (int i = list.size() - 1; i >= 0; --i) {
+    for (auto i = list.size() - 1; i >= 0; --i) {
         if (pathOf(list.at(i).toObject()) == path)
             list.removeAt(i);
     }
@@ -83,7 +83,7 @@ QJsonArray editSettings(const QJsonArray& list, const QList<Assignment>& assignm
     QList<QJsonObject> assigned;
     for (const Assignment& assignment : assignments) {
         const QString path = checked(assignment).path;
-        const int keyBegin = path.lastIndexOf(QLatin1Char('/')) + 1;
+        const auto keyBegin = path.lastIndexOf(QLatin1Char('/')) + 1;
         assigned += QJsonObject{{groupKey, path.left(keyBegin - 1)},
                                 {nameKey, path.mid(keyBegin)},
                                 {valueKey, assignment.value}};

@@ -1,5 +1,7 @@
 #include "acceptorattemptfilteritem.h"
 
+#include "variants_p.h"
+
 int AcceptorAttemptFilterItem::attempts() const
 {
     return m_attempts;
@@ -22,8 +24,8 @@ void AcceptorAttemptFilterItem::setDenom(int denom)
 
 void AcceptorAttemptFilterItem::loadFromMap(QVariantMap map)
 {
-    m_denom = map.value(QStringLiteral("denom"), 1).toString().toInt();
-    m_attempts = map.value(QStringLiteral("attempts"), 1).toString().toInt();
+    m_denom = Variants::number(Variants::toString(map.value(QStringLiteral("denom"), 1))).toInt();
+    m_attempts = Variants::number(Variants::toString(map.value(QStringLiteral("attempts"), 1))).toInt();
 }
 
 QVariantMap AcceptorAttemptFilterItem::toMap() const

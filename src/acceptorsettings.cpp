@@ -3,6 +3,7 @@
 #include "acceptors.h"
 #include "settingslist_p.h"
 #include "settingstable_p.h"
+#include "variants_p.h"
 #include "wraparound_p.h"
 
 #include <QMutexLocker>
@@ -157,12 +158,12 @@ public:
         const auto path = element.constFind(SettingsList::groupKey);
         if (path == element.constEnd())
             return false;
-        const QString text = path->toString();
+        const QString text = Variants::toString(*path);
         if (text != m_path)
             m_group = SettingGroup(text);
         m_path = text;
-        return ::apply(m_group, element.value(SettingsList::nameKey).toString(),
-                       element.value(SettingsList::valueKey).toString());
+        return ::apply(m_group, Variants::toString(element.value(SettingsList::nameKey)),
+                       Variants::toString(element.value(SettingsList::valueKey)));
     }
 
 private:
@@ -310,7 +311,7 @@ void AcceptorSettings::setList(const QVariantList& list)
     cleanStatistics_ = CleanStatistics0;
     Elements elements;
     for (const QVariant& element : list)
-        elements.apply(element.toMap());
+        elements.apply(Variants::toMap(element));
 }
 
 QVariantMap AcceptorSettings::toFormattedMap() const
@@ -333,9 +334,9 @@ void AcceptorSettings::setFotmattedMap(const QVariantMap& map)
     const QMutexLocker locker(&settingsMutex_);
     for (auto entry = map.constBegin(); entry != map.constEnd(); ++entry) {
         const SettingGroup group(entry.key());
-        const QVariantMap settings = entry.value().toMap();
+        const QVariantMap settings = Variants::toMap(entry.value());
         for (auto setting = settings.constBegin(); setting != settings.constEnd(); ++setting)
-            apply(group, setting.key(), setting.value().toString());
+            apply(group, setting.key(), Variants::toString(setting.value()));
     }
     for (auto entry = devices.lowerBound(deviceCount_); entry != devices.end();) {
         delete entry.value();
@@ -358,7 +359,7 @@ void AcceptorSettings::removeDeviceByIndex(int position)
 {
     if (position < 0 || position >= devices.size())
         return;
-    const auto entry = devices.begin() + position;
+    const auto entry = std::next(devices.begin(), position);
     delete entry.value();
     devices.erase(entry);
     deviceCount_ = wrappingDifference(deviceCount_, 1);
@@ -398,7 +399,7 @@ void AcceptorSettings::fromAcceptorInfoList(const QList<AcceptorInfo>& infos)
     const bool renumber = firstIndex > 0 || dropped;
     devices.clear();
     for (const auto& [index, device] : std::as_const(kept))
-        devices.insert(renumber ? devices.size() : index, device);
+        devices.insert(renumber ? int(devices.size()) : index, device);
     int index = devices.isEmpty() ? -1 : devices.lastKey();
     for (const AcceptorInfo& info : std::as_const(infoByType)) {
         do
@@ -406,7 +407,7 @@ void AcceptorSettings::fromAcceptorInfoList(const QList<AcceptorInfo>& infos)
         while (devices.contains(index));
         devices.insert(index, new AcceptorDeviceSettings(info));
     }
-    deviceCount_ = devices.size();
+    deviceCount_ = int(devices.size());
 }
 
 QSet<int> AcceptorSettings::fixedDeviceTypes() const

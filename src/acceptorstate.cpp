@@ -46,8 +46,9 @@ void fileRow(QVariantMap& registry, const QVariantMap& row, const QVariant& chan
 {
     const QString key =
         QStringLiteral("%1_%2_%3_%4")
-            .arg(row.value(Row::BILL_TYPE).toString(), channel.toString(),
-                 row.value(Row::DENOMINATION).toString(), row.value(Row::CURRENCY).toString());
+            .arg(Variants::toString(row.value(Row::BILL_TYPE)), Variants::toString(channel),
+                 Variants::toString(row.value(Row::DENOMINATION)),
+                 Variants::toString(row.value(Row::CURRENCY)));
     registry.insert(key, row);
 }
 
@@ -55,7 +56,7 @@ QVariantMap registryByChannel(const QVariantList& rows)
 {
     QVariantMap registry;
     for (const QVariant& element : rows) {
-        QVariantMap row = element.toMap();
+        QVariantMap row = Variants::toMap(element);
         if (row.isEmpty())
             continue;
         const QVariant channel = row.take(Row::CHANNEL);
@@ -96,7 +97,7 @@ const struct
     {StatItem::NOTES_RETURNED, set<int, &Item::setNotesReturned>},
     {DispenserRegistryModel::DISPENSER_REGISTRY,
      [](Item& item, const QVariant& value) {
-         item.setDispRegistry(registryByChannel(value.toList()));
+         item.setDispRegistry(registryByChannel(Variants::toList(value)));
      }},
 };
 
@@ -162,7 +163,7 @@ QList<AcceptorStateItem> readDevices(const QString& text)
         AcceptorStateItem device = withDefaults;
         QVariant other;
         const bool complete = json.isAtObject() ? readDevice(json, device) : json.readValue(other);
-        if (!other.isValid() || !other.isNull())
+        if (!other.isValid() || !Variants::isNull(other))
             devices.append(device);
         return complete;
     };
@@ -505,10 +506,10 @@ QString AcceptorState::systemStatusDescr(QMap<int, QString> names) const
 void AcceptorState::loadFromStateMap(QVariantMap stateMap, AcceptorState& state)
 {
     QList<AcceptorStateItem> devices;
-    const QVariantList published = stateMap.value(deviceStatesKey).toList();
+    const QVariantList published = Variants::toList(stateMap.value(deviceStatesKey));
     for (const QVariant& device : published) {
-        if (!device.isNull())
-            devices.append(AcceptorStateItem(device.toMap()));
+        if (!Variants::isNull(device))
+            devices.append(AcceptorStateItem(Variants::toMap(device)));
     }
     state.setDeviceStates(devices);
 }

@@ -37,7 +37,7 @@ RecordField<DeviceState> stateField()
         &deviceStateDescConst::STATE,
         [](const DeviceState& record) { return QVariant(record.stateAsString()); },
         [](DeviceState& record, const QVariant& value) {
-            return DeviceState::stateFromString(value.toString(), record.state);
+            return DeviceState::stateFromString(Variants::toString(value), record.state);
         },
         [](JsonWriter& json, const DeviceState& record) { json.write(record.stateAsString()); }};
 }

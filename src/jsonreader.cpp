@@ -21,7 +21,8 @@ QVariantList JsonReader::readList(const QString& text)
 {
     JsonReader reader(text);
     QVariant value;
-    return reader.readValue(value) && reader.isAtEnd() ? value.toList() : QVariantList();
+    return reader.isAtArray() && reader.readValue(value) && reader.isAtEnd() ? value.toList()
+                                                                             : QVariantList();
 }
 
 bool JsonReader::readValue(QVariant& value)

@@ -3,6 +3,7 @@
 #include "acceptors.h"
 #include "droutemapitem.h"
 #include "jsonreader_p.h"
+#include "variants_p.h"
 
 #include <QJsonDocument>
 
@@ -38,7 +39,7 @@ void tell(bool* isUnderstood, bool answer)
 
 struct Number
 {
-    static int read(const QString& text, bool* isUnderstood) { return text.toInt(isUnderstood); }
+    static int read(const QString& text, bool* isUnderstood) { return Variants::number(text).toInt(isUnderstood); }
     static QVariant written(Form /*form*/, int number) { return number; }
 };
 
@@ -46,7 +47,7 @@ struct LongNumber
 {
     static qint64 read(const QString& text, bool* isUnderstood)
     {
-        return text.toLongLong(isUnderstood);
+        return Variants::number(text).toLongLong(isUnderstood);
     }
     static QVariant written(Form /*form*/, qint64 number) { return number; }
 };
@@ -55,7 +56,7 @@ struct Switch
 {
     static bool read(const QString& text, bool* isUnderstood)
     {
-        const bool isOn = text.toUInt() == 1;
+        const bool isOn = Variants::number(text).toUInt() == 1;
         tell(isUnderstood, isOn || text == QLatin1String("0"));
         return isOn;
     }
@@ -88,7 +89,7 @@ struct NumberText : Text
     static const QString& read(const QString& text, bool* isUnderstood)
     {
         if (isUnderstood)
-            text.toInt(isUnderstood);
+            Variants::number(text).toInt(isUnderstood);
         return text;
     }
 };
@@ -98,7 +99,7 @@ struct StatisticsMode
     static S::ECleanStatistics read(const QString& text, bool* isUnderstood)
     {
         bool isNumber = false;
-        const int mode = text.toInt(&isNumber);
+        const int mode = Variants::number(text).toInt(&isNumber);
         const bool isMode = mode >= S::CleanStatistics0 && mode <= S::CleanStatistics4;
         tell(isUnderstood, isNumber && isMode);
         return isMode ? static_cast<S::ECleanStatistics>(mode) : S::CleanStatistics0;
@@ -114,7 +115,7 @@ bool isArray(const QString& text)
 
 bool isPositive(const QVariant& number)
 {
-    return number.toString().toInt() > 0;
+    return Variants::number(Variants::toString(number)).toInt() > 0;
 }
 
 struct Limits
@@ -125,7 +126,7 @@ struct Limits
         bool areSound = true;
         const QVariantList elements = JsonReader::readList(text);
         for (const QVariant& element : elements) {
-            const QVariantMap map = element.toMap();
+            const QVariantMap map = Variants::toMap(element);
             areSound = areSound && isPositive(map.value(QStringLiteral("denom")))
                 && isPositive(map.value(QStringLiteral("attempts")));
             if (map.isEmpty())
@@ -170,7 +171,7 @@ struct PortNumber
     static Value read(const QString& text, bool* isUnderstood)
     {
         bool isNumber = false;
-        const uint number = text.toUInt(&isNumber);
+        const uint number = Variants::number(text).toUInt(&isNumber);
         tell(isUnderstood, isNumber && (number & Mask) == number);
         return static_cast<Value>(number & Mask);
     }
@@ -543,7 +544,7 @@ SettingGroup::SettingGroup(const QString& group, const QString& subgroup)
         m_name = group;
     } else if (group.contains(S::DEVICE)) {
         m_kind = OfDevice;
-        m_deviceIndex = QString(group).remove(S::DEVICE).toInt();
+        m_deviceIndex = Variants::number(QString(group).remove(S::DEVICE)).toInt();
         m_name = subgroup;
     }
 }

@@ -9,11 +9,11 @@ execute_process(COMMAND ${READELF} -d ${LIBRARY}
 execute_process(COMMAND ${NM} -DC --defined-only ${LIBRARY}
     OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
 
-if(NOT dynamic MATCHES "SONAME[^\n]*\\[libvelmolib\\.so\\.5\\]")
-    message(SEND_ERROR "The SONAME is not libvelmolib.so.5:\n${dynamic}")
+if(NOT dynamic MATCHES "SONAME[^\n]*\\[lib${NAME}\\.so\\.5\\]")
+    message(SEND_ERROR "The SONAME is not lib${NAME}.so.5:\n${dynamic}")
 endif()
 cmake_path(GET LIBRARY FILENAME file)
-if(NOT file STREQUAL "libvelmolib.so.${VERSION}")
+if(NOT file STREQUAL "lib${NAME}.so.${VERSION}")
     message(SEND_ERROR "The file version is not ${VERSION}: ${LIBRARY}")
 endif()
 
@@ -21,7 +21,7 @@ if(NOT dynamic MATCHES "NODELETE")
     message(SEND_ERROR "The library can be unloaded while Qt still knows its types:\n${dynamic}")
 endif()
 
-set(allowed "Qt5Core\\.so\\.5|Qt5SerialPort\\.so\\.5|stdc\\+\\+\\.so\\.6|gcc_s\\.so\\.1")
+set(allowed "Qt${QT_MAJOR}(Core|SerialPort)\\.so\\.${QT_MAJOR}|stdc\\+\\+\\.so\\.6|gcc_s\\.so\\.1")
 string(APPEND allowed "|c\\.so\\.6|m\\.so\\.6")
 if(SANITIZED)
     string(APPEND allowed "|[at]san\\.so\\.[0-9]|ubsan\\.so\\.[0-9]")
@@ -29,7 +29,7 @@ endif()
 string(REGEX MATCHALL "NEEDED[^\n]*" needed "${dynamic}")
 foreach(entry IN LISTS needed)
     if(NOT entry MATCHES "\\[lib(${allowed})\\]")
-        message(SEND_ERROR "Needs more than Qt5Core, Qt5SerialPort and the run time: ${entry}")
+        message(SEND_ERROR "Needs more than Qt Core, Qt SerialPort and the run time: ${entry}")
     endif()
 endforeach()
 

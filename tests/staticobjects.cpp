@@ -18,7 +18,7 @@ struct Kiosk
 {
     ~Kiosk()
     {
-        const int before = log.texts().size();
+        const auto before = log.texts().size();
         chain->setEvents(&events)->validate();
         chain.reset();
         const QVariantMap setting{{"group"_s, "ccnet"_s}, {"key"_s, "a"_s}, {"value"_s, 15}};

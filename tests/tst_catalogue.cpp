@@ -13,8 +13,8 @@ private Q_SLOTS:
         for (const QVariant& row : Acceptors::SupportedDevicesAsVariantList()) {
             const QVariantMap map = row.toMap();
             QCOMPARE(map.keys(), QStringList({"class"_s, "id"_s, "protocol"_s, "type"_s}));
-            QCOMPARE(map.value("id"_s).type(), QVariant::Int);
-            QCOMPARE(map.value("type"_s).type(), QVariant::Int);
+            QCOMPARE(map.value("id"_s).userType(), QMetaType::Int);
+            QCOMPARE(map.value("type"_s).userType(), QMetaType::Int);
             ids.append(map.value("id"_s).toInt());
         }
         QCOMPARE(ids, QList<int>({6, 7, 5, 1, 2, 50, 3, 4, 51, 100, 150, 200, 201}));

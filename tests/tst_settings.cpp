@@ -212,7 +212,8 @@ private Q_SLOTS:
         d.setBaudrate(QSerialPort::Baud19200);
         d.setParityType(QSerialPort::MarkParity);
         d.setStopBits(QSerialPort::OneAndHalfStop);
-        d.setDataBitsType(QSerialPort::UnknownDataBits);
+        int unknown = -1; // Qt 6 has no enumerator for it
+        d.setDataBitsType(static_cast<QSerialPort::DataBits>(unknown));
         d.setFlowControl(static_cast<QSerialPort::FlowControl>(3));
         AcceptorInfo record = d.toAcceptorInfo();
         QCOMPARE(record.portSettings,

@@ -19,7 +19,7 @@ namespace {
 void loadTranslations(const QString& language)
 {
     const QString folder =
-        QCoreApplication::applicationDirPath() + QStringLiteral("/../share/velmolib/translations");
+        QCoreApplication::applicationDirPath() + QStringLiteral("/../" TRANSLATIONS);
     QStringList components = palx::AppVersionManager::localisations();
     components.removeDuplicates();
     for (const QString& component : std::as_const(components)) {

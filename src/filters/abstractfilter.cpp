@@ -1,8 +1,7 @@
 #include "abstractfilter.h"
 
 #include "log_p.h"
-
-#include <QMetaProperty>
+#include "variants_p.h"
 
 AbstractFilter::FilterResult AbstractFilter::validate()
 {
@@ -13,11 +12,11 @@ AbstractFilter* AbstractFilter::setParams(const QVariantMap& params)
 {
     for (auto param = params.begin(); param != params.end(); ++param) {
         logDebug() << QStringLiteral("Setting property %1 to %2")
-                          .arg(param.key(), param.value().toString());
+                          .arg(param.key(), Variants::toString(param.value()));
         const int index = metaObject()->indexOfProperty(param.key().toUtf8().constData());
         const QMetaProperty property = metaObject()->property(index);
         if (property.isReadable())
-            property.write(this, param.value());
+            Variants::write(property, this, param.value());
         else
             qWarning().noquote() << QStringLiteral("Property %1 does not exists").arg(param.key());
     }

@@ -3,6 +3,7 @@
 #include "log_p.h"
 #include "settingslist_p.h"
 #include "settingstable_p.h"
+#include "variants_p.h"
 
 #include <algorithm>
 
@@ -207,7 +208,7 @@ void SettingsManager::clear()
 
 int SettingsManager::count() const
 {
-    return items->size();
+    return static_cast<int>(items->size());
 }
 
 bool SettingsManager::isLoaded() const
@@ -230,12 +231,12 @@ bool SettingsManager::load(const quorbus::ClientSettings& settings)
     clear();
     const QList<QVariant> list = settings.settings();
     for (const QVariant& element : list) {
-        const QVariantMap map = element.toMap();
+        const QVariantMap map = Variants::toMap(element);
         const SettingsItem* const item =
-            addItem(map.value(SettingsList::groupKey).toString(),
-                    map.value(SettingsList::nameKey).toString(), map.value(SettingsList::valueKey));
+            addItem(Variants::toString(map.value(SettingsList::groupKey)),
+                    Variants::toString(map.value(SettingsList::nameKey)), map.value(SettingsList::valueKey));
         logDebug() << QStringLiteral("Added [%1/%2 = %3]")
-                          .arg(item->group, item->name, item->value.toString());
+                          .arg(item->group, item->name, Variants::toString(item->value));
     }
     loaded = true;
     return true;

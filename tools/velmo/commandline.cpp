@@ -115,7 +115,7 @@ Fault unknownOption(const QString& name, const std::vector<const Option*>& known
 QString translationsFolder()
 {
     return QCoreApplication::applicationDirPath()
-        + QStringLiteral("/../share/velmolib/translations");
+        + QStringLiteral("/../" TRANSLATIONS);
 }
 
 void loadTranslations(const QString& language)

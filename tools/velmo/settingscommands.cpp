@@ -53,7 +53,7 @@ void save(const QJsonArray& list, const QString& fileName)
 // Splits GROUP/KEY, in which the group of a device has a slash of its own.
 Assignment assignment(const QString& path, const QString& value)
 {
-    const int keyBegin = path.lastIndexOf(QLatin1Char('/')) + 1;
+    const auto keyBegin = path.lastIndexOf(QLatin1Char('/')) + 1;
     if (keyBegin < 2)
         throw Fault{QStringLiteral("\"%1\": expected GROUP/KEY").arg(path)};
     return {path.left(keyBegin - 1), path.mid(keyBegin), value};
@@ -163,7 +163,7 @@ int setSettingsCommand(const Arguments& arguments)
     const QStringList texts = arguments.operands().mid(1);
     QList<Assignment> assignments;
     for (const QString& text : texts) {
-        const int equals = text.indexOf(QLatin1Char('='));
+        const auto equals = text.indexOf(QLatin1Char('='));
         if (equals < 0)
             throw Fault{QStringLiteral("\"%1\": expected GROUP/KEY=VALUE").arg(text)};
         assignments += assignment(text.left(equals), text.mid(equals + 1));

@@ -10,11 +10,11 @@ QString formatTable(const QStringList& head, const QList<QStringList>& rows)
     for (const QString& heading : head) {
         numeric += heading.startsWith(QLatin1Char('>'));
         headings += numeric.constLast() ? heading.mid(1) : heading;
-        widths += headings.constLast().size();
+        widths += static_cast<int>(headings.constLast().size());
     }
     for (const QStringList& row : rows) {
         for (int i = 0; i < row.size(); ++i)
-            widths[i] = qMax(widths.at(i), row.at(i).size());
+            widths[i] = qMax(widths.at(i), static_cast<int>(row.at(i).size()));
     }
 
     QString table;
