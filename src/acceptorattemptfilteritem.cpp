@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "acceptorattemptfilteritem.h"
 
 #include "variants_p.h"
@@ -25,7 +28,8 @@ void AcceptorAttemptFilterItem::setDenom(int denom)
 void AcceptorAttemptFilterItem::loadFromMap(QVariantMap map)
 {
     m_denom = Variants::number(Variants::toString(map.value(QStringLiteral("denom"), 1))).toInt();
-    m_attempts = Variants::number(Variants::toString(map.value(QStringLiteral("attempts"), 1))).toInt();
+    m_attempts =
+        Variants::number(Variants::toString(map.value(QStringLiteral("attempts"), 1))).toInt();
 }
 
 QVariantMap AcceptorAttemptFilterItem::toMap() const

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "settingstable_p.h"
 
 #include "acceptors.h"
@@ -39,7 +42,10 @@ void tell(bool* isUnderstood, bool answer)
 
 struct Number
 {
-    static int read(const QString& text, bool* isUnderstood) { return Variants::number(text).toInt(isUnderstood); }
+    static int read(const QString& text, bool* isUnderstood)
+    {
+        return Variants::number(text).toInt(isUnderstood);
+    }
     static QVariant written(Form /*form*/, int number) { return number; }
 };
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 // A program whose static object uses the library when Qt's own static objects are gone. It ends
 // with an error unless every log line is then written as before.
 

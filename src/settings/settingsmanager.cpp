@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "settingsmanager.h"
 
 #include "log_p.h"
@@ -234,7 +237,8 @@ bool SettingsManager::load(const quorbus::ClientSettings& settings)
         const QVariantMap map = Variants::toMap(element);
         const SettingsItem* const item =
             addItem(Variants::toString(map.value(SettingsList::groupKey)),
-                    Variants::toString(map.value(SettingsList::nameKey)), map.value(SettingsList::valueKey));
+                    Variants::toString(map.value(SettingsList::nameKey)),
+                    map.value(SettingsList::valueKey));
         logDebug() << QStringLiteral("Added [%1/%2 = %3]")
                           .arg(item->group, item->name, Variants::toString(item->value));
     }

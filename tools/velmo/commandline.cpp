@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "command.h"
 #include "nearest.h"
 #include "options.h"
@@ -114,8 +117,7 @@ Fault unknownOption(const QString& name, const std::vector<const Option*>& known
 // The same place in the build folder and where the tool is installed.
 QString translationsFolder()
 {
-    return QCoreApplication::applicationDirPath()
-        + QStringLiteral("/../" TRANSLATIONS);
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../" TRANSLATIONS);
 }
 
 void loadTranslations(const QString& language)
