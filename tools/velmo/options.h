@@ -11,7 +11,7 @@ namespace options {
 constexpr Option help{"help", "h", nullptr, QT_TRANSLATE_NOOP("Velmo", "Print this help.")};
 constexpr Option language{
     "lang", nullptr, "LANG",
-    QT_TRANSLATE_NOOP("Velmo", "Show the library's texts in a language, as \"ru\".")};
+    QT_TRANSLATE_NOOP("Velmo", "The language of the texts, as \"ru\", in place of the system's.")};
 constexpr Option version{
     "version", "v", nullptr,
     QT_TRANSLATE_NOOP("Velmo", "Print the version of the library and the time of its build.")};
