@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 // A chain of four filters over its worst case, against a plain loop over the same list.
 
 #include "benching.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 // Records as maps, against the same entries put into and read from a map by plain code.
 
 #include "benching.h"

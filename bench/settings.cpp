@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 // The settings list at 10 and at 1,000 devices; "per element" is what must not grow.
 
 #include "acceptorsettings.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 // Device and service states as JSON text: the library, and the same work with what people would use
 // instead, from and to the same records and texts.
 

@@ -5,27 +5,39 @@
 
 include(CMakePackageConfigHelpers)
 
-set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/velmolib)
+set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${velmolib_name})
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/velmolib-config.cmake.in
-    velmolib-config.cmake INSTALL_DESTINATION ${config_dir})
-write_basic_package_version_file(velmolib-config-version.cmake COMPATIBILITY SameMajorVersion)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/velmolib-config.cmake
-    ${CMAKE_CURRENT_BINARY_DIR}/velmolib-config-version.cmake
+    ${velmolib_name}-config.cmake INSTALL_DESTINATION ${config_dir})
+write_basic_package_version_file(${velmolib_name}-config-version.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${velmolib_name}-config.cmake
+    ${CMAKE_CURRENT_BINARY_DIR}/${velmolib_name}-config-version.cmake
     DESTINATION ${config_dir} COMPONENT development)
-install(EXPORT velmolib NAMESPACE velmolib:: FILE velmolib-targets.cmake
+install(EXPORT velmolib NAMESPACE velmolib:: FILE ${velmolib_name}-targets.cmake
     DESTINATION ${config_dir} COMPONENT development)
 
 # The file finds its prefix from where it is itself.
 set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH pkgconfig_to_prefix /${pkgconfig_dir} /)
-configure_file(${CMAKE_CURRENT_LIST_DIR}/velmolib.pc.in velmolib.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/velmolib.pc
+configure_file(${CMAKE_CURRENT_LIST_DIR}/velmolib.pc.in ${velmolib_name}.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${velmolib_name}.pc
     DESTINATION ${pkgconfig_dir} COMPONENT development)
+
+if(VELMOLIB_QT_MAJOR EQUAL 5)
+    set(library_package libvelmolib5)
+    set(qt_packages "qtbase5-dev (>= 5.15), libqt5serialport5-dev (>= 5.15)")
+else()
+    set(library_package libvelmolib-qt6-5)
+    set(qt_packages "qt6-base-dev (>= 6.4), qt6-serialport-dev (>= 6.4)")
+endif()
 
 # The copyright and the changelog that every Debian package has.
 set(policy_host www.debian.org)
 configure_file(${PROJECT_SOURCE_DIR}/packaging/copyright.in copyright @ONLY)
-foreach(pair library:libvelmolib5 development:libvelmolib-dev tool:velmo)
+set(pairs library:${library_package} development:lib${velmolib_name}-dev)
+if(VELMOLIB_BUILD_TOOLS)
+    list(APPEND pairs tool:velmo)
+endif()
+foreach(pair IN LISTS pairs)
     string(REGEX MATCH "(.*):(.*)" pair ${pair})
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/copyright
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CMAKE_MATCH_2} COMPONENT ${CMAKE_MATCH_1})
@@ -45,9 +57,9 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/src)
 
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME libvelmolib5)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${library_package})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "common model of a kiosk's cash devices
+set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "common model of a kiosk's cash devices (Qt ${VELMOLIB_QT_MAJOR})
  Device catalogue, states, settings and note filters, shared by the
  service that drives the devices, its configuration tools and its
  payment and service screens.")
@@ -55,17 +67,17 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libvelmolib-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME lib${velmolib_name}-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "libvelmolib5 (= ${PROJECT_VERSION}), \
-qtbase5-dev (>= 5.15), libqt5serialport5-dev (>= 5.15)")
-set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "common model of a kiosk's cash devices - development files
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${library_package} (= ${PROJECT_VERSION}), \
+${qt_packages}")
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "common model of a kiosk's cash devices - development files (Qt ${VELMOLIB_QT_MAJOR})
  Headers, CMake package and pkg-config file for programs that link
- libvelmolib.")
+ lib${velmolib_name}.")
 
 set(CPACK_DEBIAN_TOOL_PACKAGE_NAME velmo)
 set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION utils)
-set(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS "libvelmolib5 (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS "${library_package} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_TOOL_DESCRIPTION "questions about the cash devices of a kiosk, answered
  Replays sessions, explains refused notes and service states, shows,
  changes and checks the service's settings.")

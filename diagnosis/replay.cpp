@@ -1,45 +1,63 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "replay.h"
 
 #include <algorithm>
 
-Replay::Replay(FilterSource source, const ArrayFile& filters)
+namespace {
+
+// What a payment screen reads of a published device.
+AcceptorStateItem published(const DeviceState& state)
 {
-    m_chain.setEvents(m_worker.getStatesList());
-    m_filters = source(filters, m_chain);
+    AcceptorStateItem item;
+    item.setDeviceId(static_cast<int>(state.deviceId));
+    item.setEnabled(state.enabled);
+    item.setState(state.stateAsString());
+    item.setStackerPresent(state.stackerPresent);
+    item.setStackerFull(state.stackerFull);
+    item.setErrorCritical(state.errCritical);
+    item.setHalt(state.halt);
+    return item;
 }
 
-ReplayStep Replay::take(const SessionLine& line)
+} // namespace
+
+std::vector<ReplayStep> Replay::take(const SessionLine& line, qint64 lineNumber)
 {
-    if (line.startsSession())
-        m_worker.startSession();
-    DeviceState& state = *m_worker.getState();
-    line.applyTo(state);
-
-    ReplayStep step{};
-    step.startsSession = line.startsSession();
-    step.state = state.stateAsString();
-    step.note = state.currentNote;
-    step.sessionSum = state.sessionSum;
-    step.sent = m_worker.checkState();
-    if (step.sent)
-        m_worker.saveState();
-    step.hasEvent = !m_worker.getStatesList()->isEmpty();
-    step.verdict = m_chain.validate();
-    step.refusedBy = step.verdict == AbstractFilter::FILTER_ACCEPT ? nullptr : firstRefusing();
-
-    const QVariantList devices{state.toMap()};
-    AcceptorState::loadFromStateMap({{QStringLiteral("device_states"), devices}}, m_screen);
-    step.paymentText = m_screen.paymentStateDescr();
-    step.acceptingAllowed = m_screen.isAcceptingAllowed();
-    return step;
+    std::vector<ReplayStep> steps;
+    for (const LogStep& step : m_player.take(line, lineNumber)) {
+        const LogDevice& device = *step.device;
+        publish(device);
+        ReplayStep& taken = steps.emplace_back();
+        taken.device = &device;
+        taken.startsSession = step.startsSession;
+        taken.sent = step.sent;
+        if (device.state().currentNote <= 0)
+            continue;
+        // Filters keep nothing between verdicts: the first that refuses is the chain's verdict.
+        const QList<const AbstractFilter*> refusing = device.refusing();
+        taken.verdict = refusing.isEmpty() ? ReplayStep::Accepted : ReplayStep::Refused;
+        taken.refusedBy = refusing.isEmpty() ? nullptr : refusing.constFirst();
+    }
+    for (ReplayStep& step : steps) {
+        step.paymentText = m_screen.paymentStateDescr();
+        step.acceptingAllowed = m_screen.isAcceptingAllowed();
+    }
+    return steps;
 }
 
-// The chain does not say which filter refused, but filters keep nothing between verdicts: asked
-// again, the same one refuses.
-const AbstractFilter* Replay::firstRefusing() const
+void Replay::publish(const LogDevice& device)
 {
-    const auto refusing = std::find_if(m_filters.begin(), m_filters.end(), [](AbstractFilter* f) {
-        return f->validate() != AbstractFilter::FILTER_ACCEPT;
-    });
-    return refusing == m_filters.end() ? nullptr : *refusing;
+    QList<AcceptorStateItem> states = m_screen.deviceStates();
+    const auto known = std::find(m_published.begin(), m_published.end(), &device);
+    const auto index = static_cast<int>(known - m_published.begin());
+    const AcceptorStateItem state = published(device.state());
+    if (known == m_published.end()) {
+        m_published.push_back(&device);
+        states.append(state);
+    } else {
+        states[index] = state;
+    }
+    m_screen.setDeviceStates(states);
 }

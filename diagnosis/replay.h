@@ -1,47 +1,47 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "acceptorstate.h"
-#include "arrayfile.h"
-#include "devicestateworker.h"
-#include "filterchain.h"
-#include "sessionline.h"
+#include "logplayer.h"
 
 #include <QString>
 
-/// What one line of a session file led to.
+/// What one line of a session log led to for one device.
 struct ReplayStep
 {
+    const LogDevice* device; ///< valid until the next line
     bool startsSession;
-    QString state;
-    int note;
-    int sessionSum;
     bool sent; ///< the state differed from the one before and was sent
-    AbstractFilter::FilterResult verdict;
-    const AbstractFilter* refusedBy; ///< null when the note may be accepted
-    bool hasEvent; ///< something was sent in the session; without it, there is no note to refuse
-    QString paymentText;
+    /// What the filters say about the note in hand; nothing without a note.
+    enum Verdict { NoNote, Accepted, Refused } verdict;
+    const AbstractFilter* refusedBy; ///< the first that refuses; null when the note may be accepted
+    QString paymentText; ///< on a screen that knows all devices of the log
     bool acceptingAllowed;
 };
 
-/// Takes a session file's lines the way that the service and a payment screen would: the worker
-/// takes the fields and sends the state if it changed, the chain judges the sent states, and the
-/// state is published and read back by the screen.
+/// Takes a session log's lines the way that the service and a payment screen would: the worker of a
+/// device takes the fields and sends the state if it changed, the chain judges the sent states, and
+/// the states of all devices are published and read back by the screen.
 class Replay
 {
 public:
-    /// loadFilters() or filtersOfSettings().
-    using FilterSource = QList<AbstractFilter*> (*)(const ArrayFile& file, FilterChain& chain);
+    explicit Replay(const FilterSet& filters)
+        : m_player(filters)
+    {
+    }
 
-    /// Throws Fault for a bad file.
-    Replay(FilterSource source, const ArrayFile& filters);
+    /// One step for each device that the line is about.
+    std::vector<ReplayStep> take(const SessionLine& line, qint64 lineNumber);
 
-    ReplayStep take(const SessionLine& line);
+    /// Tells that a line could not be read.
+    void skipLine() { m_player.skipLine(); }
 
 private:
-    const AbstractFilter* firstRefusing() const;
+    void publish(const LogDevice& device);
 
-    DeviceStateWorker m_worker;
-    FilterChain m_chain;
-    QList<AbstractFilter*> m_filters; // owned by the chain, in its order
+    LogPlayer m_player;
+    std::vector<const LogDevice*> m_published; // the devices of the screen's states
     AcceptorState m_screen;
 };

@@ -1,144 +1,284 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "sessionline.h"
 
 #include "dispenserregistrymodel.h"
-#include "fault.h"
+#include "jsonreader_p.h"
+#include "statitem.h"
+#include "textinput.h"
+#include "words.h"
 
 #include <QHash>
-#include <QJsonArray>
+#include <QJsonObject>
 
+#include <array>
 #include <cmath>
 #include <limits>
 
 namespace {
 
-const QLatin1String sessionKey("session");
-
-void read(const QJsonValue& value, bool& field)
+Fault unknownKey(const QString& key)
 {
-    if (!value.isBool())
-        throw Fault{QStringLiteral("expected true or false")};
+    return {Diagnosis::tr("unknown key \"%1\"").arg(key)};
+}
+
+void read(const QVariant& value, bool& field)
+{
+    if (value.userType() != QMetaType::Bool)
+        throw Fault{Diagnosis::tr("expected true or false")};
     field = value.toBool();
 }
 
-void read(const QJsonValue& value, QString& field)
+void read(const QVariant& value, QString& field)
 {
-    if (!value.isString())
-        throw Fault{QStringLiteral("expected a text")};
+    if (value.userType() != QMetaType::QString)
+        throw Fault{Diagnosis::tr("expected a text")};
     field = value.toString();
 }
 
 template <typename Number>
-void read(const QJsonValue& value, Number& field)
+void read(const QVariant& value, Number& field)
 {
     constexpr Number min = std::numeric_limits<Number>::min();
     constexpr Number max = std::numeric_limits<Number>::max();
-    const double number = value.toDouble(std::numeric_limits<double>::quiet_NaN());
+    const bool isNumber =
+        value.userType() == QMetaType::LongLong || value.userType() == QMetaType::Double;
+    const double number = isNumber ? value.toDouble() : std::numeric_limits<double>::quiet_NaN();
     if (!(number >= min && number <= max) || std::trunc(number) != number)
-        throw Fault{QStringLiteral("expected a whole number from %1 to %2").arg(min).arg(max)};
+        throw Fault{Diagnosis::tr("expected a whole number from %1 to %2").arg(min).arg(max)};
     field = static_cast<Number>(number);
 }
 
-void read(const QJsonValue& value, State& field)
+void read(const QVariant& value, State& field)
 {
-    if (!value.isString() || !DeviceState::stateFromString(value.toString(), field))
-        throw Fault{QStringLiteral("unknown state name \"%1\"").arg(value.toVariant().toString())};
+    if (value.userType() != QMetaType::QString
+        || !DeviceState::stateFromString(value.toString(), field))
+        throw Fault{Diagnosis::tr("unknown state name \"%1\"").arg(value.toString())};
 }
 
-DispenserRegistryItem registryRow(const QJsonObject& object)
+DispenserRegistryItem registryRow(const QVariantMap& map)
 {
     DispenserRegistryItem row;
     QString missingKey;
-    if (!row.fromMap(object.toVariantMap(), &missingKey))
-        throw Fault{QStringLiteral("key \"%1\" is missing").arg(missingKey)};
+    if (!row.fromMap(map, &missingKey))
+        throw Fault{Diagnosis::tr("key \"%1\" is missing").arg(missingKey)};
     // The row reads leniently, but must say what the line says.
+    const QJsonObject said = QJsonObject::fromVariantMap(map);
     const QJsonObject taken = QJsonObject::fromVariantMap(row.toMap());
-    for (auto field = object.begin(); field != object.end(); ++field) {
+    for (auto field = said.begin(); field != said.end(); ++field) {
         if (!taken.contains(field.key()))
-            throw Fault{QStringLiteral("unknown key \"%1\"").arg(field.key())};
+            throw unknownKey(field.key());
         if (taken.value(field.key()) != field.value())
-            throw Fault{QStringLiteral("\"%1\" cannot hold this value").arg(field.key())};
+            throw Fault{Diagnosis::tr("\"%1\" cannot hold this value").arg(field.key())};
     }
     return row;
 }
 
-void read(const QJsonValue& value, QList<DispenserRegistryItem>& field)
+void read(const QVariant& value, QList<DispenserRegistryItem>& field)
 {
-    if (!value.isArray())
-        throw Fault{QStringLiteral("expected a list of registry rows")};
-    const QJsonArray rows = value.toArray();
-    for (int i = 0; i < rows.size(); ++i) {
+    if (value.userType() != QMetaType::QVariantList)
+        throw Fault{Diagnosis::tr("expected a list of registry rows")};
+    field.clear();
+    const QVariantList rows = value.toList();
+    for (const QVariant& row : rows) {
         try {
-            field.append(registryRow(rows.at(i).toObject()));
+            field.append(registryRow(row.toMap()));
         } catch (const Fault& fault) {
-            throw Fault{QStringLiteral("row %1: %2").arg(QString::number(i + 1), fault.message)};
+            throw Fault{
+                Diagnosis::tr("row %1: %2").arg(QString::number(field.size() + 1), fault.message)};
         }
     }
 }
 
 struct Field
 {
-    void (*read)(DeviceState& state, const QJsonValue& value);
+    const QString& key;
+    void (*read)(DeviceState& state, const QVariant& value);
     void (*copy)(DeviceState& to, const DeviceState& from);
 };
 
 template <auto Member>
-Field field()
+Field field(const QString& key)
 {
-    return {[](DeviceState& state, const QJsonValue& value) { read(value, state.*Member); },
+    return {key, [](DeviceState& state, const QVariant& value) { read(value, state.*Member); },
             [](DeviceState& to, const DeviceState& from) { to.*Member = from.*Member; }};
 }
 
-const QHash<QString, Field>& fields()
+const auto& fields()
 {
     using namespace deviceStateDescConst;
-    static const QHash<QString, Field> table{
-        {ENABLED, field<&DeviceState::enabled>()},
-        {STATE, field<&DeviceState::state>()},
-        {STACKER_PRESENT, field<&DeviceState::stackerPresent>()},
-        {STACKER_FULL, field<&DeviceState::stackerFull>()},
-        {CASH, field<&DeviceState::cash>()},
-        {ERROR_TEXT, field<&DeviceState::errorText>()},
-        {ERROR_CRITICAL, field<&DeviceState::errCritical>()},
-        {HALT, field<&DeviceState::halt>()},
-        {STATE_TEXT, field<&DeviceState::stateText>()},
-        {THREAD_ID, field<&DeviceState::threadId>()},
-        {DEVICE_ID, field<&DeviceState::deviceId>()},
-        {SESSION_SUM, field<&DeviceState::sessionSum>()},
-        {CURRENT_NOTE, field<&DeviceState::currentNote>()},
-        {CURRENT_CHANNEL, field<&DeviceState::currentChannel>()},
-        {DISPENSED_SUM, field<&DeviceState::dispensedSum>()},
-        {ID_STRING, field<&DeviceState::idString>()},
-        {ONLINE, field<&DeviceState::online>()},
-        {DispenserRegistryModel::DISPENSER_REGISTRY, field<&DeviceState::dispenserRegistry>()},
+    using D = DeviceState;
+    static const std::array table{
+        field<&D::enabled>(ENABLED),
+        field<&D::state>(STATE),
+        field<&D::stackerPresent>(STACKER_PRESENT),
+        field<&D::stackerFull>(STACKER_FULL),
+        field<&D::cash>(CASH),
+        field<&D::errorText>(ERROR_TEXT),
+        field<&D::errCritical>(ERROR_CRITICAL),
+        field<&D::halt>(HALT),
+        field<&D::stateText>(STATE_TEXT),
+        field<&D::threadId>(THREAD_ID),
+        field<&D::deviceId>(DEVICE_ID),
+        field<&D::sessionSum>(SESSION_SUM),
+        field<&D::currentNote>(CURRENT_NOTE),
+        field<&D::currentChannel>(CURRENT_CHANNEL),
+        field<&D::dispensedSum>(DISPENSED_SUM),
+        field<&D::idString>(ID_STRING),
+        field<&D::online>(ONLINE),
+        field<&D::dispenserRegistry>(DispenserRegistryModel::DISPENSER_REGISTRY),
     };
     return table;
 }
 
-} // namespace
-
-SessionLine::SessionLine(const QJsonObject& line)
+// Its place in the table of fields; -1 for a key that is none.
+int fieldIndex(const QString& key)
 {
-    for (auto entry = line.begin(); entry != line.end(); ++entry) {
-        if (entry.key() == sessionKey) {
-            if (entry.value() != QJsonValue(QLatin1String("start")))
-                throw Fault{QStringLiteral("\"session\": expected \"start\"")};
-            m_startsSession = true;
-            continue;
-        }
-        const auto known = fields().constFind(entry.key());
-        if (known == fields().constEnd())
-            throw Fault{QStringLiteral("unknown key \"%1\"").arg(entry.key())};
+    static const QHash<QString, int> indexes = [] {
+        QHash<QString, int> found;
+        for (const Field& known : fields())
+            found.insert(known.key, int(found.size()));
+        return found;
+    }();
+    return indexes.value(key, -1);
+}
+
+bool isCounter(const QString& key)
+{
+    return key == StatItem::NOTES_INSERTED || key == StatItem::NOTES_REJECTED
+        || key == StatItem::NOTES_RETURNED;
+}
+
+bool readField(JsonReader& json, int index, DeviceReport& report)
+{
+    const Field& known = fields().at(size_t(index));
+    QVariant value;
+    if (!json.readValue(value))
+        return false;
+    try {
+        known.read(report.fields, value);
+    } catch (const Fault& fault) {
+        throw Fault{QStringLiteral("\"%1\": %2").arg(known.key, fault.message)};
+    }
+    report.reported |= 1U << index;
+    return true;
+}
+
+bool readPublishedDevice(JsonReader& json, DeviceReport& report)
+{
+    const bool isSound = json.readObject([&](const QString& key) {
+        const int index = fieldIndex(key);
+        if (index >= 0)
+            return readField(json, index, report);
+        if (!isCounter(key))
+            throw unknownKey(key);
+        return json.skipValue();
+    });
+    static const quint32 deviceBit = DeviceReport::bit(deviceStateDescConst::DEVICE_ID);
+    if (isSound && !report.has(deviceBit))
+        throw Fault{Diagnosis::tr("key \"%1\" is missing").arg(deviceStateDescConst::DEVICE_ID)};
+    // A device without rows is published without the key.
+    report.reported |= DeviceReport::bit(DispenserRegistryModel::DISPENSER_REGISTRY);
+    return isSound;
+}
+
+bool readPublished(JsonReader& json, std::vector<DeviceReport>& devices)
+{
+    devices.clear(); // of doubled keys the last one counts
+    if (!json.isAtArray())
+        throw Fault{Diagnosis::tr("expected a list \"device_states\"")};
+    int element = 0;
+    return json.readArray([&] {
+        ++element;
         try {
-            known->read(m_reported, entry.value());
+            if (json.isAtObject())
+                return readPublishedDevice(json, devices.emplace_back());
+            QVariant other;
+            const bool isSound = json.readValue(other);
+            if (isSound && !other.isNull()) // which every reader passes over
+                throw Fault{Diagnosis::tr("expected a JSON object")};
+            return isSound;
         } catch (const Fault& fault) {
-            throw Fault{QStringLiteral("\"%1\": %2").arg(entry.key(), fault.message)};
+            throw Fault{Diagnosis::tr("\"device_states\": element %1: %2")
+                            .arg(QString::number(element), fault.message)};
         }
-        m_copies.append(known->copy);
+    });
+}
+
+LogTime readTime(const QVariant& value)
+{
+    try {
+        return LogTime(value);
+    } catch (const Fault& fault) {
+        throw Fault{QStringLiteral("\"time\": %1").arg(fault.message)};
     }
 }
 
-void SessionLine::applyTo(DeviceState& state) const
+} // namespace
+
+void DeviceReport::applyTo(DeviceState& state) const
 {
-    for (const Copy copy : m_copies)
-        copy(state, m_reported);
+    quint32 bits = reported;
+    for (size_t index = 0; bits != 0; ++index, bits >>= 1U) {
+        if ((bits & 1U) != 0)
+            ::fields().at(index).copy(state, fields);
+    }
+}
+
+quint32 DeviceReport::bit(const QString& key)
+{
+    return 1U << fieldIndex(key);
+}
+
+SessionLine::SessionLine(const QString& text)
+{
+    JsonReader json(text);
+    DeviceReport report;
+    QString stray; // the first unknown key: those who read published states pass over such
+    const bool isSound = json.readObject([&](const QString& key) {
+        const int index = fieldIndex(key);
+        if (index >= 0)
+            return readField(json, index, report);
+        if (key == QLatin1String("device_states")) {
+            m_isPublished = true;
+            return readPublished(json, m_reports);
+        }
+        const bool isSession = key == QLatin1String("session");
+        if (!isSession && key != QLatin1String("time")) {
+            stray = stray.isNull() ? key : stray;
+            return json.skipValue();
+        }
+        QVariant value;
+        if (!json.readValue(value))
+            return false;
+        if (!isSession)
+            m_time = readTime(value);
+        else if (value.userType() != QMetaType::QString
+                 || value.toString() != QLatin1String("start"))
+            throw Fault{Diagnosis::tr(R"("session": expected "start")")};
+        m_startsSession = m_startsSession || isSession;
+        return true;
+    });
+    if (!isSound || !json.isAtEnd())
+        throw Fault{Diagnosis::tr("expected a JSON object")};
+    if (m_isPublished && report.reported != 0)
+        throw Fault{Diagnosis::tr("fields of one device beside \"device_states\"")};
+    if (!m_isPublished && !stray.isNull())
+        throw unknownKey(stray);
+    if (!m_isPublished)
+        m_reports.push_back(report);
+}
+
+SessionLine SessionLine::read(const TextInput& file, const QByteArray& text)
+{
+    const QString decoded = QString::fromUtf8(text);
+    if (decoded.contains(QChar(QChar::ReplacementCharacter)))
+        file.parseJson(text, file.lineNumber()); // which may not be UTF-8 at all
+    try {
+        return SessionLine(decoded);
+    } catch (const Fault& fault) {
+        file.parseJson(text, file.lineNumber()); // says where a text is not JSON
+        throw file.faultAt(file.lineNumber(), fault.message);
+    }
 }

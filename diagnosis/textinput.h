@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "fault.h"
@@ -9,14 +12,19 @@
 
 #include <memory>
 
-/// Text that is read from a device, with what a fault in it needs: its name and the number of the
-/// line. Throws Fault when the device cannot be read.
+class Gzip;
+
+/// Text that is read from a device, plain or compressed by gzip, with what a fault in it needs: its
+/// name and the number of the line. Throws Fault when the device cannot be read, for compressed
+/// data that are damaged or cut off, and for more than 256 MiB in one line or in readAll().
 class TextInput
 {
 public:
     /// @param device is open for reading
     /// @param name for people, for example the file's
     TextInput(std::unique_ptr<QIODevice> device, const QString& name);
+    TextInput(TextInput&& other) noexcept;
+    ~TextInput();
 
     /// Reads the next line, without its line feed; false at the end of the file.
     bool readLine(QByteArray& line);
@@ -25,7 +33,7 @@ public:
 
     QString name() const { return m_name; }
 
-    /// The number of the line that was read last, counted from 1.
+    /// The number of the line that was read last, counted from 1 in the uncompressed text.
     qint64 lineNumber() const { return m_lineNumber; }
 
     /// Whether the input comes from a pipe or a terminal, so that someone may be waiting for
@@ -38,9 +46,14 @@ public:
     Fault faultAt(qint64 line, const QString& what) const;
 
 private:
-    void checkRead() const;
+    bool readMore();
+    int readText(char* data, int size);
 
     std::unique_ptr<QIODevice> m_device;
     QString m_name;
     qint64 m_lineNumber = 0;
+    std::unique_ptr<Gzip> m_gzip; // null for plain text
+    bool m_isOpen = false; // it is known whether the text is compressed
+    QByteArray m_text; // read and, from m_next on, not yet given away
+    int m_next = 0;
 };

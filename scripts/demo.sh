@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 velmolib maintainers
 # SPDX-License-Identifier: MIT
 
-# Installs what is missing, builds the tool and replays a sample session in which a fished note is
+# Installs what is missing, builds the tool and explains a sample session in which a fished note is
 # refused.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -13,5 +13,5 @@ cmake --preset release
 cmake --build --preset release --target velmo velmolib_translations
 
 echo
-echo '$ velmo replay samples/fished-note.jsonl --filters samples/filters.json'
-build/release/bin/velmo replay samples/fished-note.jsonl --filters samples/filters.json
+echo '$ velmo explain samples/fished-note.jsonl --filters samples/filters.json'
+build/release/bin/velmo explain samples/fished-note.jsonl --filters samples/filters.json

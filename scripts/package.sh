@@ -9,7 +9,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
 
-require_packages "${build_packages[@]}" "${install_packages[@]}" devscripts dpkg-dev file lintian
+require_packages "${build_packages[@]}" "${qt6_packages[@]}" "${install_packages[@]}" devscripts dpkg-dev file lintian
 umask 022
 export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
 
@@ -21,9 +21,11 @@ flags()
         dpkg-buildflags --get "$1"
 }
 # Nothing of an earlier build: Ninja does not notice another SOURCE_DATE_EPOCH.
-rm -rf build/package
-CXXFLAGS="$(flags CXXFLAGS) $(flags CPPFLAGS)" LDFLAGS=$(flags LDFLAGS) cmake --preset package
-cmake --build --preset package
-(cd build/package && cpack)
+rm -rf build/package build/package-qt6
+for preset in package package-qt6; do
+    CXXFLAGS="$(flags CXXFLAGS) $(flags CPPFLAGS)" LDFLAGS=$(flags LDFLAGS) cmake --preset $preset
+    cmake --build --preset $preset
+    (cd build/$preset && cpack -B "$OLDPWD/build/package")
+done
 tests/check_packages.sh . build/package
 ls -l build/package/*.deb

@@ -19,5 +19,7 @@ require_packages()
 }
 
 build_packages=(cmake g++ ninja-build qtbase5-dev libqt5serialport5-dev qttools5-dev
-    qttools5-dev-tools dbus fonts-dejavu-core)
-install_packages=(make pkg-config qt5-qmake)
+    qttools5-dev-tools zlib1g-dev dbus fonts-dejavu-core)
+qt6_packages=(qt6-base-dev qt6-base-dev-tools qt6-serialport-dev qt6-l10n-tools qt6-tools-dev
+    qt6-tools-dev-tools)
+install_packages=(make pkg-config qt5-qmake qmake6)

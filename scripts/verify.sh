@@ -9,7 +9,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
 
-require_packages "${build_packages[@]}" "${install_packages[@]}"
+require_packages "${build_packages[@]}" "${install_packages[@]}" clang libclang-rt-14-dev
 scripts/lint.sh
 for preset in asan tsan; do
     cmake --preset "$preset"

@@ -1,4 +1,9 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "acceptorattemptfilteritem.h"
+
+#include "variants_p.h"
 
 int AcceptorAttemptFilterItem::attempts() const
 {
@@ -22,8 +27,9 @@ void AcceptorAttemptFilterItem::setDenom(int denom)
 
 void AcceptorAttemptFilterItem::loadFromMap(QVariantMap map)
 {
-    m_denom = map.value(QStringLiteral("denom"), 1).toString().toInt();
-    m_attempts = map.value(QStringLiteral("attempts"), 1).toString().toInt();
+    m_denom = Variants::number(Variants::toString(map.value(QStringLiteral("denom"), 1))).toInt();
+    m_attempts =
+        Variants::number(Variants::toString(map.value(QStringLiteral("attempts"), 1))).toInt();
 }
 
 QVariantMap AcceptorAttemptFilterItem::toMap() const

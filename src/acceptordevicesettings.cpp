@@ -1,29 +1,33 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "acceptordevicesettings.h"
 
 #include "acceptorportsettingsconsts.h"
 #include "serialporttexts_p.h"
+#include "variants_p.h"
 
 using namespace acceptorportsettingsconsts;
 
 namespace {
 
 const QString serialInterface = QStringLiteral("rs232");
+constexpr int unknown = -1; // Qt 6 has no enumerators for it
 
 // The description without serial number and firmware version.
 QString nameFrom(const QString& description)
 {
     const QString lower = description.toLower();
-    const int serial = lower.indexOf(QLatin1String("s/n"));
-    const int firmware = lower.indexOf(QLatin1String("firmware"));
-    const int cut = serial < 0 || firmware < 0 ? qMax(serial, firmware) : qMin(serial, firmware);
+    const auto serial = lower.indexOf(QLatin1String("s/n"));
+    const auto firmware = lower.indexOf(QLatin1String("firmware"));
+    const auto cut = serial < 0 || firmware < 0 ? qMax(serial, firmware) : qMin(serial, firmware);
     return cut > 0 && cut < description.size() ? description.left(cut) : description;
 }
 
 QString flowControlText(QSerialPort::FlowControl flowControl)
 {
     // Unlike the other forms, the record has no text for a number that is no flow control.
-    const bool known = flowControl >= QSerialPort::UnknownFlowControl
-        && flowControl <= QSerialPort::SoftwareControl;
+    const bool known = flowControl >= unknown && flowControl <= QSerialPort::SoftwareControl;
     using namespace SerialPortTexts;
     return known ? text(flowControls, FlatRecord, flowControl) : QString();
 }
@@ -52,8 +56,7 @@ AcceptorInfo AcceptorDeviceSettings::toAcceptorInfo() const
 {
     using namespace SerialPortTexts;
     const palx::Rs232PortSettings port = RS232Settings::portSettings();
-    const int dataBits =
-        port.dataBits() == QSerialPort::UnknownDataBits ? QSerialPort::Data8 : port.dataBits();
+    const int dataBits = port.dataBits() == unknown ? QSerialPort::Data8 : port.dataBits();
     AcceptorInfo info;
     info.type = static_cast<quint16>(type());
     info.portName = portName();
@@ -71,7 +74,7 @@ AcceptorInfo AcceptorDeviceSettings::toAcceptorInfo() const
 void AcceptorDeviceSettings::setAcceptorInfo(const AcceptorInfo& info)
 {
     const auto parameter = [&info](const QString& key) {
-        return info.portSettings.value(key).toString();
+        return Variants::toString(info.portSettings.value(key));
     };
     setInterfaceType(serialInterface);
     setPortName(info.portName);
@@ -237,7 +240,7 @@ void AcceptorDeviceSettings::setRest_interval(int value)
 void AcceptorDeviceSettings::setBaudrateStr(const QString& text)
 {
     bool isNumber = false;
-    const uint rate = text.toUInt(&isNumber);
+    const uint rate = Variants::number(text).toUInt(&isNumber);
     if (isNumber)
         setBaudrate(static_cast<QSerialPort::BaudRate>(rate));
 }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "acceptorinfo.h"
@@ -14,7 +17,7 @@ public:
     virtual ~AbstractSettings();
 };
 
-/// A TCP endpoint.
+/// A TCP endpoint, for programs: nothing here uses it.
 class VELMOLIB_EXPORT TcpSettings : public AbstractSettings
 {
 public:

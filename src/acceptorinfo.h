@@ -1,4 +1,9 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
+
+#include "velmolib_global.h"
 
 #include <QString>
 #include <QVariant>
@@ -6,7 +11,7 @@
 /// A device's identity and serial connection, as service and settings exchange them; see
 /// AcceptorDeviceSettings::toAcceptorInfo() and setAcceptorInfo(). The library only carries text,
 /// number and flag.
-struct AcceptorInfo
+struct VELMOLIB_EXPORT AcceptorInfo
 {
     QString text;
     qint32 number = -1;

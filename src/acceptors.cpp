@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "acceptors.h"
 
 #include <QDebug>
@@ -11,6 +14,8 @@ const QString idKey = QStringLiteral("id");
 const QString protocolKey = QStringLiteral("protocol");
 const QString classKey = QStringLiteral("class");
 const QString typeKey = QStringLiteral("type");
+
+using A = Acceptors;
 
 struct Model
 {
@@ -26,40 +31,33 @@ struct Model
 };
 
 // In the order of every list that the catalogue gives.
-const auto& catalogue()
-{
-    using A = Acceptors;
-    static const Model models[] = {
-        {A::ArdacEliteId003, QStringLiteral("Ardac Elite ID 003"), QStringLiteral("NAArdacId003"),
-         A::NoteAcceptor},
-        {A::JcmIproId003, QStringLiteral("JCM iPRO ID003"), QStringLiteral("NaJcmIproId003"),
-         A::NoteRecycler},
-        {A::Id003, QStringLiteral("ID 003"), QStringLiteral("NAJcmId003"), A::NoteAcceptor},
-        {A::CCNet, QStringLiteral("CCNet"), QStringLiteral("NACashCode"), A::NoteAcceptor},
-        {A::Ebds, QStringLiteral("EBDS"), QStringLiteral("NAMeiCashflow"), A::NoteAcceptor},
-        {A::EsspPayout, QStringLiteral("eSSP with Payout module"), QStringLiteral("NANv200Payout"),
-         A::NoteRecycler},
-        {A::Ssp, QStringLiteral("Innovative Technology SSP"), QStringLiteral("NANV"),
-         A::NoteAcceptor},
-        {A::Ict, QStringLiteral("ICT 002/004"), QStringLiteral("NAIct"), A::NoteAcceptor},
-        {A::PuloonLcdm2, QStringLiteral("Puloon LCDM2"), QStringLiteral("NAPuloonLCDM2"),
-         A::NoteDispenser},
-        {A::CCTalk, QStringLiteral("CCTalk"), QStringLiteral("CANriG13"), A::CoinAcceptor},
-        {A::SmartHopper, QStringLiteral("eSSP, Smart Hopper"), QStringLiteral("CASmartHopper"),
-         A::CoinHopper},
-        {A::Uniteller, QStringLiteral("Uniteller"), QStringLiteral("CRUniteller"), A::CardReader},
-        {A::PosD200, QStringLiteral("PosD200"), QStringLiteral("CRPosD200"), A::CardReader},
-    };
-    return models;
-}
+const Model catalogue[] = {
+    {A::ArdacEliteId003, QStringLiteral("Ardac Elite ID 003"), QStringLiteral("NAArdacId003"),
+     A::NoteAcceptor},
+    {A::JcmIproId003, QStringLiteral("JCM iPRO ID003"), QStringLiteral("NaJcmIproId003"),
+     A::NoteRecycler},
+    {A::Id003, QStringLiteral("ID 003"), QStringLiteral("NAJcmId003"), A::NoteAcceptor},
+    {A::CCNet, QStringLiteral("CCNet"), QStringLiteral("NACashCode"), A::NoteAcceptor},
+    {A::Ebds, QStringLiteral("EBDS"), QStringLiteral("NAMeiCashflow"), A::NoteAcceptor},
+    {A::EsspPayout, QStringLiteral("eSSP with Payout module"), QStringLiteral("NANv200Payout"),
+     A::NoteRecycler},
+    {A::Ssp, QStringLiteral("Innovative Technology SSP"), QStringLiteral("NANV"), A::NoteAcceptor},
+    {A::Ict, QStringLiteral("ICT 002/004"), QStringLiteral("NAIct"), A::NoteAcceptor},
+    {A::PuloonLcdm2, QStringLiteral("Puloon LCDM2"), QStringLiteral("NAPuloonLCDM2"),
+     A::NoteDispenser},
+    {A::CCTalk, QStringLiteral("CCTalk"), QStringLiteral("CANriG13"), A::CoinAcceptor},
+    {A::SmartHopper, QStringLiteral("eSSP, Smart Hopper"), QStringLiteral("CASmartHopper"),
+     A::CoinHopper},
+    {A::Uniteller, QStringLiteral("Uniteller"), QStringLiteral("CRUniteller"), A::CardReader},
+    {A::PosD200, QStringLiteral("PosD200"), QStringLiteral("CRPosD200"), A::CardReader},
+};
 
 // Null for a model that is not in the catalogue.
 const Model* findModel(Acceptors::Supported id)
 {
-    const auto& models = catalogue();
-    const auto model = std::find_if(std::begin(models), std::end(models),
+    const auto model = std::find_if(std::begin(catalogue), std::end(catalogue),
                                     [id](const Model& m) { return m.id == id; });
-    return model == std::end(models) ? nullptr : model;
+    return model == std::end(catalogue) ? nullptr : model;
 }
 
 } // namespace
@@ -73,7 +71,7 @@ SupportedDevice Acceptors::addDevice(short id, QString protocol, QString classNa
 QList<SupportedDevice> Acceptors::supportedDevices()
 {
     QList<SupportedDevice> devices;
-    for (const Model& model : catalogue())
+    for (const Model& model : catalogue)
         devices.append(model.row());
     return devices;
 }
@@ -81,7 +79,7 @@ QList<SupportedDevice> Acceptors::supportedDevices()
 QVariantList Acceptors::SupportedDevicesAsVariantList()
 {
     QVariantList devices;
-    for (const Model& model : catalogue())
+    for (const Model& model : catalogue)
         devices.append(model.row());
     return devices;
 }

@@ -1,15 +1,17 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "acceptorsettings.h"
 
 #include "acceptors.h"
 #include "settingslist_p.h"
 #include "settingstable_p.h"
+#include "variants_p.h"
 #include "wraparound_p.h"
 
 #include <QMutexLocker>
 #include <QPair>
 #include <QStringBuilder>
-
-#include <optional>
 
 const QString AcceptorSettings::SERVICE_SECTION = QStringLiteral("service");
 const QString AcceptorSettings::DEVICE_SECTION = QStringLiteral("device");
@@ -139,49 +141,15 @@ Device& deviceAt(int index)
     return *device;
 }
 
-// What the two parts of a group path mean.
-struct Group
+// The result is that of updateValue().
+bool apply(const SettingGroup& group, const QString& key, const QString& value)
 {
-    Group(QString name, QString subgroupName)
-        : subgroup(std::move(subgroupName))
-        , isOfService(SettingsTable::isServiceGroup(name))
-        , isOfDevice(!isOfService && name.contains(S::DEVICE))
-        , serviceGroup(isOfService ? name : QString())
-        , deviceIndex(isOfDevice ? name.remove(S::DEVICE).toInt() : 0)
-    {
-    }
-
-    const SettingRow* find(const QString& key) const
-    {
-        if (isOfService)
-            return SettingsTable::findServiceSetting(serviceGroup, key);
-        return isOfDevice ? SettingsTable::findDeviceSetting(subgroup, key) : nullptr;
-    }
-
-    // The result is that of updateValue().
-    bool apply(const QString& key, const QString& value) const
-    {
-        Device* const device = isOfDevice ? &deviceAt(deviceIndex) : nullptr;
-        const SettingRow* const row = find(key);
-        if (row && row->access.set)
-            row->access.set(device, value);
-        return isOfService
-            || (isOfDevice && (subgroup == S::HARDWARE_SECTION || subgroup == S::DEVICE_SECTION));
-    }
-
-    QString subgroup;
-    bool isOfService;
-    bool isOfDevice;
-    QString serviceGroup;
-    int deviceIndex;
-};
-
-// A part that is missing is empty, further parts do not count.
-Group groupAt(const QString& path)
-{
-    const auto slash = path.indexOf(QLatin1Char('/'));
-    const QString rest = slash < 0 ? QString() : path.mid(slash + 1);
-    return {path.left(slash), rest.left(rest.indexOf(QLatin1Char('/')))};
+    Device* const device = group.isOfDevice() ? &deviceAt(group.deviceIndex()) : nullptr;
+    const SettingRow* const row = group.find(key);
+    if (row && row->access.set)
+        row->access.set(device, value);
+    return !device ? group.isOfService()
+                   : group.name() == S::HARDWARE_SECTION || group.name() == S::DEVICE_SECTION;
 }
 
 // Elements of one group follow each other in a list: its path is read once for all of them.
@@ -193,17 +161,17 @@ public:
         const auto path = element.constFind(SettingsList::groupKey);
         if (path == element.constEnd())
             return false;
-        const QString text = path->toString();
-        if (!m_group || text != m_path)
-            m_group = groupAt(text);
+        const QString text = Variants::toString(*path);
+        if (text != m_path)
+            m_group = SettingGroup(text);
         m_path = text;
-        return m_group->apply(element.value(SettingsList::nameKey).toString(),
-                              element.value(SettingsList::valueKey).toString());
+        return ::apply(m_group, Variants::toString(element.value(SettingsList::nameKey)),
+                       Variants::toString(element.value(SettingsList::valueKey)));
     }
 
 private:
     QString m_path;
-    std::optional<Group> m_group;
+    SettingGroup m_group{m_path};
 };
 
 } // namespace
@@ -314,12 +282,12 @@ QList<SettingDescription> AcceptorSettings::settingDescriptions()
 
 SettingDescription AcceptorSettings::settingDescription(const QString& group, const QString& key)
 {
-    const Group asked = groupAt(group);
+    const SettingGroup asked(group);
     const SettingRow* const row = asked.find(key);
     if (!row)
         return {};
-    const QString index = QString::number(asked.deviceIndex);
-    return {row, asked.isOfService ? row->group : deviceGroup(index, row->group)};
+    const QString index = QString::number(asked.deviceIndex());
+    return {row, asked.isOfService() ? row->group : deviceGroup(index, row->group)};
 }
 
 bool AcceptorSettings::isEmpty()
@@ -346,7 +314,7 @@ void AcceptorSettings::setList(const QVariantList& list)
     cleanStatistics_ = CleanStatistics0;
     Elements elements;
     for (const QVariant& element : list)
-        elements.apply(element.toMap());
+        elements.apply(Variants::toMap(element));
 }
 
 QVariantMap AcceptorSettings::toFormattedMap() const
@@ -368,10 +336,10 @@ void AcceptorSettings::setFotmattedMap(const QVariantMap& map)
 {
     const QMutexLocker locker(&settingsMutex_);
     for (auto entry = map.constBegin(); entry != map.constEnd(); ++entry) {
-        const Group group = groupAt(entry.key());
-        const QVariantMap settings = entry.value().toMap();
+        const SettingGroup group(entry.key());
+        const QVariantMap settings = Variants::toMap(entry.value());
         for (auto setting = settings.constBegin(); setting != settings.constEnd(); ++setting)
-            group.apply(setting.key(), setting.value().toString());
+            apply(group, setting.key(), Variants::toString(setting.value()));
     }
     for (auto entry = devices.lowerBound(deviceCount_); entry != devices.end();) {
         delete entry.value();
@@ -387,14 +355,14 @@ bool AcceptorSettings::setValue(const QVariantMap& setting)
 
 bool AcceptorSettings::updateValue(QString group, QString subgroup, QString key, QString value)
 {
-    return Group(std::move(group), std::move(subgroup)).apply(key, value);
+    return apply(SettingGroup(group, subgroup), key, value);
 }
 
 void AcceptorSettings::removeDeviceByIndex(int position)
 {
     if (position < 0 || position >= devices.size())
         return;
-    const auto entry = devices.begin() + position;
+    const auto entry = std::next(devices.begin(), position);
     delete entry.value();
     devices.erase(entry);
     deviceCount_ = wrappingDifference(deviceCount_, 1);
@@ -434,7 +402,7 @@ void AcceptorSettings::fromAcceptorInfoList(const QList<AcceptorInfo>& infos)
     const bool renumber = firstIndex > 0 || dropped;
     devices.clear();
     for (const auto& [index, device] : std::as_const(kept))
-        devices.insert(renumber ? devices.size() : index, device);
+        devices.insert(renumber ? int(devices.size()) : index, device);
     int index = devices.isEmpty() ? -1 : devices.lastKey();
     for (const AcceptorInfo& info : std::as_const(infoByType)) {
         do
@@ -442,12 +410,13 @@ void AcceptorSettings::fromAcceptorInfoList(const QList<AcceptorInfo>& infos)
         while (devices.contains(index));
         devices.insert(index, new AcceptorDeviceSettings(info));
     }
-    deviceCount_ = devices.size();
+    deviceCount_ = int(devices.size());
 }
 
 QSet<int> AcceptorSettings::fixedDeviceTypes() const
 {
-    static const QSet<int> fixedtypes{Acceptors::PosD200, Acceptors::Uniteller};
+    // Never destroyed: the destructor of a program's static object may ask.
+    static const auto& fixedtypes = *new QSet<int>{Acceptors::PosD200, Acceptors::Uniteller};
     return fixedtypes;
 }
 

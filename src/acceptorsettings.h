@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "acceptorattemptfilteritem.h"
@@ -188,7 +191,8 @@ public:
     /// (fixedDeviceTypes()); of the other devices, the first of each type takes the last
     /// description of its type, the rest are deleted; descriptions that are left become new
     /// devices at the end. Indexes are renumbered from 0 when the first that is not negative was
-    /// above 0 or a device was deleted. The device count becomes the number of devices.
+    /// above 0, a device was deleted or a null entry vanished. The device count becomes the number
+    /// of devices.
     void fromAcceptorInfoList(const QList<AcceptorInfo>& infos);
 
     /// The catalogue identifiers of the card terminals. May be called from any thread.

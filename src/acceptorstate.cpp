@@ -1,15 +1,18 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "acceptorstate.h"
 
 #include "devicestatesconst.h"
 #include "dispenserregistrymodel.h"
-#include "jsonreader_p.h"
+#include "recordfields_p.h"
 #include "statitem.h"
 
+#include <QLocale>
 #include <QObject>
 #include <QStringList>
 
 #include <algorithm>
-#include <utility>
 
 const QString AcceptorState::ACCEPTOR_STATE_BUSY = QStringLiteral("busy");
 
@@ -46,8 +49,9 @@ void fileRow(QVariantMap& registry, const QVariantMap& row, const QVariant& chan
 {
     const QString key =
         QStringLiteral("%1_%2_%3_%4")
-            .arg(row.value(Row::BILL_TYPE).toString(), channel.toString(),
-                 row.value(Row::DENOMINATION).toString(), row.value(Row::CURRENCY).toString());
+            .arg(Variants::toString(row.value(Row::BILL_TYPE)), Variants::toString(channel),
+                 Variants::toString(row.value(Row::DENOMINATION)),
+                 Variants::toString(row.value(Row::CURRENCY)));
     registry.insert(key, row);
 }
 
@@ -55,7 +59,7 @@ QVariantMap registryByChannel(const QVariantList& rows)
 {
     QVariantMap registry;
     for (const QVariant& element : rows) {
-        QVariantMap row = element.toMap();
+        QVariantMap row = Variants::toMap(element);
         if (row.isEmpty())
             continue;
         const QVariant channel = row.take(Row::CHANNEL);
@@ -66,38 +70,39 @@ QVariantMap registryByChannel(const QVariantList& rows)
     return registry;
 }
 
-// What an entry reads of a device's map.
-const auto& deviceFields()
+using Item = AcceptorStateItem;
+
+template <typename Value, auto Setter>
+void set(Item& item, const QVariant& value)
 {
-    using namespace deviceStateDescConst;
-    using Item = AcceptorStateItem;
-    using Set = void (*)(Item & item, const QVariant& value);
-    static const std::pair<QString, Set> fields[] = {
-        {DEVICE_ID, [](Item& item, const QVariant& v) { item.setDeviceId(v.toInt()); }},
-        {ENABLED, [](Item& item, const QVariant& v) { item.setEnabled(v.toBool()); }},
-        {STACKER_PRESENT,
-         [](Item& item, const QVariant& v) { item.setStackerPresent(v.toBool()); }},
-        {STACKER_FULL, [](Item& item, const QVariant& v) { item.setStackerFull(v.toBool()); }},
-        {ERROR_CRITICAL, [](Item& item, const QVariant& v) { item.setErrorCritical(v.toBool()); }},
-        {ERROR_TEXT, [](Item& item, const QVariant& v) { item.setErrorText(v.toString()); }},
-        {STATE, [](Item& item, const QVariant& v) { item.setState(v.toString()); }},
-        {STATE_TEXT, [](Item& item, const QVariant& v) { item.setStateText(v.toString()); }},
-        {THREAD_ID, [](Item& item, const QVariant& v) { item.setThreadId(v.toInt()); }},
-        {HALT, [](Item& item, const QVariant& v) { item.setHalt(v.toBool()); }},
-        {ID_STRING, [](Item& item, const QVariant& v) { item.setIdString(v.toString()); }},
-        {StatItem::NOTES_INSERTED,
-         [](Item& item, const QVariant& v) { item.setNotesInserted(v.toInt()); }},
-        {StatItem::NOTES_REJECTED,
-         [](Item& item, const QVariant& v) { item.setNotesRejected(v.toInt()); }},
-        {StatItem::NOTES_RETURNED,
-         [](Item& item, const QVariant& v) { item.setNotesReturned(v.toInt()); }},
-        {DispenserRegistryModel::DISPENSER_REGISTRY,
-         [](Item& item, const QVariant& v) {
-             item.setDispRegistry(registryByChannel(v.toList()));
-         }},
-    };
-    return fields;
+    (item.*Setter)(fromVariant<Value>(value));
 }
+
+// What an entry reads of a device's map.
+const struct
+{
+    const QString& key;
+    void (*set)(Item& item, const QVariant& value);
+} deviceFields[] = {
+    {deviceStateDescConst::DEVICE_ID, set<int, &Item::setDeviceId>},
+    {deviceStateDescConst::ENABLED, set<bool, &Item::setEnabled>},
+    {deviceStateDescConst::STACKER_PRESENT, set<bool, &Item::setStackerPresent>},
+    {deviceStateDescConst::STACKER_FULL, set<bool, &Item::setStackerFull>},
+    {deviceStateDescConst::ERROR_CRITICAL, set<bool, &Item::setErrorCritical>},
+    {deviceStateDescConst::ERROR_TEXT, set<QString, &Item::setErrorText>},
+    {deviceStateDescConst::STATE, set<QString, &Item::setState>},
+    {deviceStateDescConst::STATE_TEXT, set<QString, &Item::setStateText>},
+    {deviceStateDescConst::THREAD_ID, set<int, &Item::setThreadId>},
+    {deviceStateDescConst::HALT, set<bool, &Item::setHalt>},
+    {deviceStateDescConst::ID_STRING, set<QString, &Item::setIdString>},
+    {StatItem::NOTES_INSERTED, set<int, &Item::setNotesInserted>},
+    {StatItem::NOTES_REJECTED, set<int, &Item::setNotesRejected>},
+    {StatItem::NOTES_RETURNED, set<int, &Item::setNotesReturned>},
+    {DispenserRegistryModel::DISPENSER_REGISTRY,
+     [](Item& item, const QVariant& value) {
+         item.setDispRegistry(registryByChannel(Variants::toList(value)));
+     }},
+};
 
 // The constant of a row's key, which costs no memory in each row; any other key itself.
 QString sharedKey(const QString& key)
@@ -139,12 +144,12 @@ bool readDevice(JsonReader& json, AcceptorStateItem& device)
             device.setDispRegistry(registry);
             return complete;
         }
-        for (const auto& [known, set] : deviceFields()) {
-            if (key != known)
+        for (const auto& field : deviceFields) {
+            if (key != field.key)
                 continue;
             QVariant value;
             const bool complete = json.readValue(value);
-            set(device, value);
+            field.set(device, value);
             return complete;
         }
         return json.skipValue();
@@ -161,7 +166,7 @@ QList<AcceptorStateItem> readDevices(const QString& text)
         AcceptorStateItem device = withDefaults;
         QVariant other;
         const bool complete = json.isAtObject() ? readDevice(json, device) : json.readValue(other);
-        if (!other.isValid() || !other.isNull())
+        if (!other.isValid() || !Variants::isNull(other))
             devices.append(device);
         return complete;
     };
@@ -232,10 +237,10 @@ AcceptorStateItem::AcceptorStateItem(QVariantMap map)
     , m_threadId(-1)
     , m_stackerPresent(true)
 {
-    for (const auto& [key, set] : deviceFields()) {
-        const auto entry = map.constFind(key);
+    for (const auto& field : deviceFields) {
+        const auto entry = map.constFind(field.key);
         if (entry != map.constEnd())
-            set(*this, *entry);
+            field.set(*this, *entry);
     }
 }
 
@@ -497,17 +502,17 @@ QString AcceptorState::systemStatusDescr(QMap<int, QString> names) const
         lines += QStringLiteral("\n");
     }
     if (m_dt.isValid())
-        lines += m_dt.toString(QStringLiteral("dd.MM.yyyy hh.mm.ss"));
+        lines += QLocale::c().toString(m_dt, QStringLiteral("dd.MM.yyyy hh.mm.ss"));
     return lines.join(QLatin1Char('\n'));
 }
 
 void AcceptorState::loadFromStateMap(QVariantMap stateMap, AcceptorState& state)
 {
     QList<AcceptorStateItem> devices;
-    const QVariantList published = stateMap.value(deviceStatesKey).toList();
+    const QVariantList published = Variants::toList(stateMap.value(deviceStatesKey));
     for (const QVariant& device : published) {
-        if (!device.isNull())
-            devices.append(AcceptorStateItem(device.toMap()));
+        if (!Variants::isNull(device))
+            devices.append(AcceptorStateItem(Variants::toMap(device)));
     }
     state.setDeviceStates(devices);
 }

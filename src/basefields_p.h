@@ -1,19 +1,21 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
-#include "devandthreaditem.h"
-#include "noteitem.h"
 #include "recordfields_p.h"
 
-// The fields that derived records begin with. They are asked for on first use only: before that,
-// the keys of another file need not be there yet.
+// The fields that derived records begin with. They know the records that they belong to only as
+// Record, and are asked for on first use only: before that, the keys of another file need not be
+// there yet.
 
 template <typename Record>
 auto basicNoteFields()
 {
     return std::array{
-        recordField<Record, &BasicNoteItem::currency>(BasicNoteItem::CURRENCY),
-        recordField<Record, &BasicNoteItem::denomination>(BasicNoteItem::DENOMINATION),
-        recordField<Record, &BasicNoteItem::billType>(BasicNoteItem::BILL_TYPE),
+        recordField<Record, &Record::currency>(Record::CURRENCY),
+        recordField<Record, &Record::denomination>(Record::DENOMINATION),
+        recordField<Record, &Record::billType>(Record::BILL_TYPE),
     };
 }
 
@@ -21,14 +23,14 @@ template <typename Record>
 auto noteFields()
 {
     return joined(basicNoteFields<Record>(),
-                  std::array{recordField<Record, &NoteItem::count>(NoteItem::COUNT)});
+                  std::array{recordField<Record, &Record::count>(Record::COUNT)});
 }
 
 template <typename Record>
 auto devAndThreadFields()
 {
     return std::array{
-        recordField<Record, &DevAndThreadItem::deviceId>(DevAndThreadItem::DEVICE_ID),
-        recordField<Record, &DevAndThreadItem::threadId>(DevAndThreadItem::THREAD_ID),
+        recordField<Record, &Record::deviceId>(Record::DEVICE_ID),
+        recordField<Record, &Record::threadId>(Record::THREAD_ID),
     };
 }

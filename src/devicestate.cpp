@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "devicestate.h"
 
 #include "dispenserregistryjson_p.h"
@@ -37,7 +40,7 @@ RecordField<DeviceState> stateField()
         &deviceStateDescConst::STATE,
         [](const DeviceState& record) { return QVariant(record.stateAsString()); },
         [](DeviceState& record, const QVariant& value) {
-            return DeviceState::stateFromString(value.toString(), record.state);
+            return DeviceState::stateFromString(Variants::toString(value), record.state);
         },
         [](JsonWriter& json, const DeviceState& record) { json.write(record.stateAsString()); }};
 }
@@ -90,6 +93,7 @@ const auto& table()
 
 DeviceState& DeviceState::operator=(const DeviceState& other)
 {
+    // An equal state is left alone: references into its rows stay valid, null texts stay null.
     if (*this != other)
         fields(*this) = fields(other);
     return *this;

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "devicestatesconst.h"
@@ -49,8 +52,8 @@ public:
     /// resetOper() clears. Thread, device and registry rows stay.
     void reset();
 
-    /// Clears the operational part: enabled, state (busy), stacker (present, not full), error and
-    /// state texts, halt, current note and channel, dispensed sum.
+    /// Clears the operational part: enabled, state (busy), stacker (present, not full), critical
+    /// error, error and state texts, halt, current note and channel, dispensed sum.
     void resetOper();
 
     /// The state's name; a null string for a number that is no state.

@@ -1,12 +1,15 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "devicestateworker.h"
 
 namespace {
 
-template <typename T>
-void update(T& field, const T& value)
+// An empty text stays as it is when it is equal: the map shows whether it is null.
+void update(QString& field, const QString& text)
 {
-    if (field != value)
-        field = value;
+    if (field != text)
+        field = text;
 }
 
 } // namespace
@@ -18,27 +21,27 @@ DeviceStateWorker::DeviceStateWorker(QObject* parent)
 
 void DeviceStateWorker::setEnabled(const bool& enabled)
 {
-    update(currentState.enabled, enabled);
+    currentState.enabled = enabled;
 }
 
 void DeviceStateWorker::setState(const State& state)
 {
-    update(currentState.state, state);
+    currentState.state = state;
 }
 
 void DeviceStateWorker::setStackerPresent(const bool& present)
 {
-    update(currentState.stackerPresent, present);
+    currentState.stackerPresent = present;
 }
 
 void DeviceStateWorker::setStackerFull(const bool& full)
 {
-    update(currentState.stackerFull, full);
+    currentState.stackerFull = full;
 }
 
 void DeviceStateWorker::setCash(const unsigned int& cash)
 {
-    update(currentState.cash, cash);
+    currentState.cash = cash;
 }
 
 void DeviceStateWorker::setErrorText(const QString& text)
@@ -48,12 +51,12 @@ void DeviceStateWorker::setErrorText(const QString& text)
 
 void DeviceStateWorker::setErrCritical(const bool& critical)
 {
-    update(currentState.errCritical, critical);
+    currentState.errCritical = critical;
 }
 
 void DeviceStateWorker::setHalt(const bool& halt)
 {
-    update(currentState.halt, halt);
+    currentState.halt = halt;
 }
 
 void DeviceStateWorker::setStateText(const QString& text)
@@ -63,32 +66,32 @@ void DeviceStateWorker::setStateText(const QString& text)
 
 void DeviceStateWorker::setThreadId(const unsigned int& threadId)
 {
-    update(currentState.threadId, threadId);
+    currentState.threadId = threadId;
 }
 
 void DeviceStateWorker::setDeviceId(const unsigned int& deviceId)
 {
-    update(currentState.deviceId, deviceId);
+    currentState.deviceId = deviceId;
 }
 
 void DeviceStateWorker::setSessionSum(const int& sum)
 {
-    update(currentState.sessionSum, sum);
+    currentState.sessionSum = sum;
 }
 
 void DeviceStateWorker::setCurrentNote(const int& note)
 {
-    update(currentState.currentNote, note);
+    currentState.currentNote = note;
 }
 
 void DeviceStateWorker::setCurrentChannel(const short& channel)
 {
-    update(currentState.currentChannel, channel);
+    currentState.currentChannel = channel;
 }
 
 void DeviceStateWorker::setDispensedSum(const unsigned int& sum)
 {
-    update(currentState.dispensedSum, sum);
+    currentState.dispensedSum = sum;
 }
 
 void DeviceStateWorker::setIdString(const QString& text)
@@ -98,7 +101,7 @@ void DeviceStateWorker::setIdString(const QString& text)
 
 void DeviceStateWorker::setOnline(bool online)
 {
-    update(currentState.online, online);
+    currentState.online = online;
 }
 
 void DeviceStateWorker::setDispenserRegistryList(const QList<DispenserRegistryItem>& rows)

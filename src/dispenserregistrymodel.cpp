@@ -1,4 +1,9 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "dispenserregistrymodel.h"
+
+#include "variants_p.h"
 
 #include <algorithm>
 
@@ -56,10 +61,10 @@ bool DispenserRegistryModel::fromMap(const QVariantMap& map)
     const auto entry = map.constFind(DISPENSER_REGISTRY);
     if (entry == map.constEnd())
         return false;
-    const QVariantList rows = entry->toList();
+    const QVariantList rows = Variants::toList(*entry);
     m_rows.clear();
     for (const QVariant& row : rows)
-        m_rows.append(DispenserRegistryItem::createFromMap(row.toMap()));
+        m_rows.append(DispenserRegistryItem::createFromMap(Variants::toMap(row)));
     return true;
 }
 

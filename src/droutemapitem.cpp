@@ -1,6 +1,10 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "droutemapitem.h"
 
 #include "basefields_p.h"
+#include "variants_p.h"
 
 #include <QJsonDocument>
 
@@ -55,7 +59,7 @@ QList<DRouteMapItem> DRouteMap::fromJson(const QString& json)
     const QVariantList elements = JsonReader::readList(json);
     for (const QVariant& element : elements) {
         DRouteMapItem row;
-        if (row.fromMap(element.toMap(), nullptr))
+        if (row.fromMap(Variants::toMap(element), nullptr))
             rows.append(row);
     }
     return rows;

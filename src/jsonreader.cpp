@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "jsonreader_p.h"
 
 #include <QJsonArray>
@@ -21,7 +24,8 @@ QVariantList JsonReader::readList(const QString& text)
 {
     JsonReader reader(text);
     QVariant value;
-    return reader.readValue(value) && reader.isAtEnd() ? value.toList() : QVariantList();
+    return reader.isAtArray() && reader.readValue(value) && reader.isAtEnd() ? value.toList()
+                                                                             : QVariantList();
 }
 
 bool JsonReader::readValue(QVariant& value)

@@ -1,7 +1,11 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "jsonreader_p.h"
 #include "jsonwriter_p.h"
+#include "variants_p.h"
 
 #include <QString>
 #include <QVariant>
@@ -49,13 +53,13 @@ template <typename T>
 T fromVariant(const QVariant& value)
 {
     if constexpr (std::is_same_v<T, QString>)
-        return value.toString();
+        return Variants::toString(value);
     else if constexpr (std::is_same_v<T, bool>)
-        return value.toBool();
+        return Variants::toBool(value);
     else if constexpr (std::is_same_v<T, quint64>)
-        return value.toULongLong();
+        return Variants::toULongLong(value);
     else
-        return static_cast<T>(value.toInt());
+        return static_cast<T>(Variants::toInt(value));
 }
 
 template <typename T>

@@ -1,8 +1,12 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "settingstable_p.h"
 
 #include "acceptors.h"
 #include "droutemapitem.h"
 #include "jsonreader_p.h"
+#include "variants_p.h"
 
 #include <QJsonDocument>
 
@@ -38,7 +42,10 @@ void tell(bool* isUnderstood, bool answer)
 
 struct Number
 {
-    static int read(const QString& text, bool* isUnderstood) { return text.toInt(isUnderstood); }
+    static int read(const QString& text, bool* isUnderstood)
+    {
+        return Variants::number(text).toInt(isUnderstood);
+    }
     static QVariant written(Form /*form*/, int number) { return number; }
 };
 
@@ -46,7 +53,7 @@ struct LongNumber
 {
     static qint64 read(const QString& text, bool* isUnderstood)
     {
-        return text.toLongLong(isUnderstood);
+        return Variants::number(text).toLongLong(isUnderstood);
     }
     static QVariant written(Form /*form*/, qint64 number) { return number; }
 };
@@ -55,7 +62,7 @@ struct Switch
 {
     static bool read(const QString& text, bool* isUnderstood)
     {
-        const bool isOn = text.toUInt() == 1;
+        const bool isOn = Variants::number(text).toUInt() == 1;
         tell(isUnderstood, isOn || text == QLatin1String("0"));
         return isOn;
     }
@@ -88,7 +95,7 @@ struct NumberText : Text
     static const QString& read(const QString& text, bool* isUnderstood)
     {
         if (isUnderstood)
-            text.toInt(isUnderstood);
+            Variants::number(text).toInt(isUnderstood);
         return text;
     }
 };
@@ -98,7 +105,7 @@ struct StatisticsMode
     static S::ECleanStatistics read(const QString& text, bool* isUnderstood)
     {
         bool isNumber = false;
-        const int mode = text.toInt(&isNumber);
+        const int mode = Variants::number(text).toInt(&isNumber);
         const bool isMode = mode >= S::CleanStatistics0 && mode <= S::CleanStatistics4;
         tell(isUnderstood, isNumber && isMode);
         return isMode ? static_cast<S::ECleanStatistics>(mode) : S::CleanStatistics0;
@@ -114,7 +121,7 @@ bool isArray(const QString& text)
 
 bool isPositive(const QVariant& number)
 {
-    return number.toString().toInt() > 0;
+    return Variants::number(Variants::toString(number)).toInt() > 0;
 }
 
 struct Limits
@@ -125,7 +132,7 @@ struct Limits
         bool areSound = true;
         const QVariantList elements = JsonReader::readList(text);
         for (const QVariant& element : elements) {
-            const QVariantMap map = element.toMap();
+            const QVariantMap map = Variants::toMap(element);
             areSound = areSound && isPositive(map.value(QStringLiteral("denom")))
                 && isPositive(map.value(QStringLiteral("attempts")));
             if (map.isEmpty())
@@ -170,7 +177,7 @@ struct PortNumber
     static Value read(const QString& text, bool* isUnderstood)
     {
         bool isNumber = false;
-        const uint number = text.toUInt(&isNumber);
+        const uint number = Variants::number(text).toUInt(&isNumber);
         tell(isUnderstood, isNumber && (number & Mask) == number);
         return static_cast<Value>(number & Mask);
     }
@@ -264,19 +271,19 @@ constexpr qint64 longMax = std::numeric_limits<qint64>::max();
 
 constexpr Row::Values number(qint64 minimum, qint64 maximum)
 {
-    return {SettingDescription::Number, minimum, maximum, nullptr};
+    return {SettingDescription::Number, minimum, maximum};
 }
 
 constexpr Row::Values choice(QStringList (*choices)())
 {
-    return {SettingDescription::Choice, 0, 0, choices};
+    return {SettingDescription::Choice, {}, {}, choices};
 }
 
 constexpr Row::Values interval = number(0, intMax);
-constexpr Row::Values onOff{SettingDescription::Switch, 0, 0, nullptr};
-constexpr Row::Values anyText{SettingDescription::Text, 0, 0, nullptr};
-constexpr Row::Values limits{SettingDescription::AttemptsLimits, 0, 0, nullptr};
-constexpr Row::Values routes{SettingDescription::RouteMap, 0, 0, nullptr};
+constexpr Row::Values onOff{SettingDescription::Switch};
+constexpr Row::Values anyText{SettingDescription::Text};
+constexpr Row::Values limits{SettingDescription::AttemptsLimits};
+constexpr Row::Values routes{SettingDescription::RouteMap};
 
 QStringList models()
 {
@@ -311,13 +318,12 @@ QStringList numbers()
 }
 
 constexpr Row::Devices always{};
-constexpr Row::Devices ofSerialPort{{}, Row::SerialPort, false};
-constexpr Row::Devices ofTcp{{}, Row::TcpPort, false};
+constexpr Row::Devices ofSerialPort{{}, Row::SerialPort};
+constexpr Row::Devices ofTcp{{}, Row::TcpPort};
 constexpr Row::Devices ofCCNet{{Acceptors::CCNet, Acceptors::CCNet}, Row::AnyPort, true};
-constexpr Row::Devices ofId003{{Acceptors::Id003, Acceptors::ArdacEliteId003}, Row::AnyPort, false};
-constexpr Row::Devices ofUniteller{
-    {Acceptors::Uniteller, Acceptors::Uniteller}, Row::AnyPort, false};
-constexpr Row::Devices ofPosD200{{Acceptors::PosD200, Acceptors::PosD200}, Row::AnyPort, false};
+constexpr Row::Devices ofId003{{Acceptors::Id003, Acceptors::ArdacEliteId003}, Row::AnyPort};
+constexpr Row::Devices ofUniteller{{Acceptors::Uniteller, Acceptors::Uniteller}, Row::AnyPort};
+constexpr Row::Devices ofPosD200{{Acceptors::PosD200, Acceptors::PosD200}, Row::AnyPort};
 
 constexpr Row::Keys inBoth(const QString& key)
 {
@@ -527,33 +533,42 @@ Rows deviceSettings()
     return {std::begin(deviceRows), std::end(deviceRows)};
 }
 
-bool isServiceGroup(const QString& group)
+} // namespace SettingsTable
+
+SettingGroup::SettingGroup(const QString& path)
 {
-    return group == S::ACCEPTOR_COMMON_SECTION || group == S::SERVICE_SECTION
-        || group == S::DISPENSER_SECTION;
+    const QString group = path.left(path.indexOf(QLatin1Char('/')));
+    const QString rest = path.mid(group.size() + 1);
+    *this = SettingGroup(group, rest.left(rest.indexOf(QLatin1Char('/'))));
 }
 
-const SettingRow* findServiceSetting(const QString& group, const QString& key)
+SettingGroup::SettingGroup(const QString& group, const QString& subgroup)
 {
-    const auto row =
-        std::find_if(std::begin(serviceRows), std::end(serviceRows),
-                     [&](const Row& r) { return key == r.keys.list && group == r.group; });
-    return row == std::end(serviceRows) ? nullptr : row;
+    if (group == S::ACCEPTOR_COMMON_SECTION || group == S::SERVICE_SECTION
+        || group == S::DISPENSER_SECTION) {
+        m_kind = OfService;
+        m_name = group;
+    } else if (group.contains(S::DEVICE)) {
+        m_kind = OfDevice;
+        m_deviceIndex = Variants::number(QString(group).remove(S::DEVICE)).toInt();
+        m_name = subgroup;
+    }
 }
 
-const SettingRow* findDeviceSetting(const QString& subgroup, const QString& key)
+const SettingRow* SettingGroup::find(const QString& key) const
 {
-    const QString lowerKey = key.toLower();
+    if (m_kind == OfNone)
+        return nullptr;
     const Row* anywhere = nullptr;
-    for (const Row& row : deviceRows) {
+    const QString lowerKey = key.toLower();
+    for (const Row& row :
+         isOfService() ? SettingsTable::serviceSettings() : SettingsTable::deviceSettings()) {
         if (!row.isCalled(key, lowerKey))
             continue;
-        if (subgroup == row.group)
+        if (m_name == row.group)
             return &row;
         if (row.devices.readInAnySubgroup)
             anywhere = &row;
     }
     return anywhere;
 }
-
-} // namespace SettingsTable

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "acceptorsettings.h"
@@ -32,7 +35,7 @@ struct SettingRow
     {
         qint32 models[2]; ///< Acceptors::Supported, one of them twice; 0: any
         Port port;
-        bool readInAnySubgroup; ///< and for any model
+        bool readInAnySubgroup = false; ///< and for any model
     };
 
     /// How it is written and read. The device is null for the service's settings.
@@ -49,9 +52,9 @@ struct SettingRow
     struct Values
     {
         SettingDescription::Kind kind;
-        qint64 minimum;
-        qint64 maximum;
-        QStringList (*choices)();
+        qint64 minimum = 0;
+        qint64 maximum = 0;
+        QStringList (*choices)() = nullptr;
     };
 
     bool isCalled(const QString& key, const QString& lowerKey) const
@@ -96,10 +99,31 @@ Rows serviceSettings();
 /// The settings of each device, in the order of the list form.
 Rows deviceSettings();
 
-bool isServiceGroup(const QString& group);
-
-/// The setting that is read under a group and a key; null where there is none.
-const SettingRow* findServiceSetting(const QString& group, const QString& key);
-const SettingRow* findDeviceSetting(const QString& subgroup, const QString& key);
-
 } // namespace SettingsTable
+
+/// What a group path means.
+class SettingGroup
+{
+public:
+    /// A part of the path that is missing is empty; parts beyond the second do not count.
+    explicit SettingGroup(const QString& path);
+    SettingGroup(const QString& group, const QString& subgroup);
+
+    bool isOfService() const { return m_kind == OfService; }
+    bool isOfDevice() const { return m_kind == OfDevice; }
+
+    int deviceIndex() const { return m_deviceIndex; }
+
+    /// The service's group, or the sub-group of the device.
+    QString name() const { return m_name; }
+
+    /// The setting that is read under a key; null where there is none.
+    const SettingRow* find(const QString& key) const;
+
+private:
+    enum Kind : qint32 { OfNone, OfService, OfDevice };
+
+    Kind m_kind = OfNone;
+    int m_deviceIndex = 0;
+    QString m_name;
+};

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "statitem.h"
 
 #include "basefields_p.h"
@@ -38,7 +41,7 @@ bool StatItem::fromMap(const QVariantMap& map, QString* error)
     return table().fromMap(map, *this, error);
 }
 
-void StatItem::addToMap(QVariantMap& map) const
+void StatItem::addToMap(QVariantMap& map)
 {
     for (const RecordField<StatItem>& counter : counterFields())
         map.insert(*counter.key, counter.get(*this));

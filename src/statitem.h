@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "devandthreaditem.h"
@@ -23,7 +26,7 @@ public:
 
     /// Sets the three counters in a map that someone else builds, such as a device's state map;
     /// no other key is touched.
-    virtual void addToMap(QVariantMap& map) const;
+    virtual void addToMap(QVariantMap& map);
 
     /// Whether both count for the same device and thread.
     bool eqDev(const StatItem& other) const;

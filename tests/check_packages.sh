@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 velmolib maintainers
 # SPDX-License-Identifier: MIT
 
-# Checks the Debian packages of a folder: unpacks them into an empty root and uses them from there.
+# Checks the Debian packages of a folder: unpacks them into an empty root, those for Qt 5 and for Qt 6
+# side by side, and uses them from there.
 # Usage: check_packages.sh SOURCE_DIR FOLDER
 set -euo pipefail
 root=$(mktemp -d)
@@ -15,9 +16,10 @@ fail()
 }
 
 lintian --fail-on error --suppress-tags bad-distribution-in-changes-file "$2"/*.deb
-for package in libvelmolib5 libvelmolib-dev velmo; do
+for package in libvelmolib5 libvelmolib-dev libvelmolib-qt6-5 libvelmolib-qt6-dev velmo; do
     deb=$(ls "$2/${package}_"*.deb)
     dpkg-deb --field "$deb" Package Version Depends
+    dpkg-deb --fsys-tarfile "$deb" | tar -t | grep -v '/$' >> "$root/files"
     dpkg-deb --extract "$deb" "$root"
 done
 version=$(dpkg-deb --field "$2"/libvelmolib5_*.deb Version)
@@ -25,12 +27,18 @@ version=$(dpkg-deb --field "$2"/libvelmolib5_*.deb Version)
     || fail "packaging/changelog does not begin with $version"
 [ "$(grep -m 1 '^## ' "$1/CHANGELOG.md")" = "## $version" ] \
     || fail "CHANGELOG.md does not begin with $version"
+shared=$(sort "$root/files" | uniq -d)
+[ -z "$shared" ] || fail "in two packages: $shared"
 dpkg-deb --field "$2"/libvelmolib5_*.deb Depends | grep -q 'libqt5core5a (>= 5\.15'
+dpkg-deb --field "$2"/libvelmolib-qt6-5_*.deb Depends | grep -q 'libqt6core6 (>= 6\.4'
 # Debian 12 builds nothing with control flow protection. The library calls no function of which the
 # compiler makes the fortified form; the tool, built with the same flags, does.
 hardening-check --nocfprotection "$root"/usr/bin/velmo
-hardening-check --nocfprotection --nofortify "$root"/usr/lib/*/libvelmolib.so.5.*
+hardening-check --nocfprotection --nofortify "$root"/usr/lib/*/libvelmolib*.so.5.*
 ! grep -rqF "$(realpath "$1")/" "$root" || fail "a package names the folder that it was built in"
-grep -qazx src/acceptors.cpp "$root"/usr/lib/*/libvelmolib.so.5.* \
-    || fail "log lines do not name their file as in the tree"
-"$(dirname "$0")/installed.sh" "$1" "$root/usr"
+for library in "$root"/usr/lib/*/libvelmolib*.so.5.*; do
+    grep -qazx src/acceptors.cpp "$library" || fail "log lines do not name their file as in the tree"
+done
+for qt_major in 5 6; do
+    "$(dirname "$0")/installed.sh" "$1" "$root/usr" $qt_major
+done

@@ -5,9 +5,13 @@
 # Uses an installed copy the way a newcomer would: builds the examples with CMake, with pkg-config
 # and with qmake, outside the source tree, and runs them and velmo.
 # The copy is moved first: it must work wherever it lies.
-# Usage: installed.sh SOURCE_DIR PREFIX
+# Usage: installed.sh SOURCE_DIR PREFIX [QT_MAJOR]   (default: 5)
 set -euo pipefail
 source_dir=$(realpath "$1")
+case ${3:-5} in
+    5) package=velmolib qmake=qmake ;;
+    6) package=velmolib-qt6 qmake=qmake6 ;;
+esac
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 prefix=$work/prefix
@@ -20,20 +24,20 @@ fail()
 }
 
 cp -r "$source_dir"/examples/{service,screen,configuration} "$work"
-lib=$(dirname "$(find "$prefix" -name 'libvelmolib.so')")
+lib=$(dirname "$(find "$prefix" -name "lib$package.so")")
 export LD_LIBRARY_PATH=$lib PKG_CONFIG_PATH=$lib/pkgconfig
 cd "$work"
 
-cmake -S service -B service/build -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_BUILD_TYPE=Release
+cmake -S service -B service/build -DVELMOLIB=$package -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_BUILD_TYPE=Release
 cmake --build service/build
 g++ -std=c++17 -fPIC -Wall -Wextra -Werror screen/main.cpp -o screen/screen -MMD \
-    $(pkg-config --cflags --libs velmolib)
-(cd configuration && QT_SELECT=5 qmake configuration.pro && make -s)
+    $(pkg-config --cflags --libs $package)
+(cd configuration && QT_SELECT=5 $qmake configuration.pro && make -s)
 
 ! grep -rqIF "$source_dir/" "$work" || fail "an example was built with the source tree"
 for version in 4 6; do
-    printf 'cmake_minimum_required(VERSION 3.16)\nproject(x)\nfind_package(velmolib %s CONFIG)\nif(velmolib_FOUND)\nmessage(FATAL_ERROR found)\nendif()\n' \
-        $version > CMakeLists.txt
+    printf 'cmake_minimum_required(VERSION 3.16)\nproject(x)\nfind_package(%s %s CONFIG)\nif(%s_FOUND)\nmessage(FATAL_ERROR found)\nendif()\n' \
+        $package $version $package > CMakeLists.txt
     cmake -S . -B "version$version" -DCMAKE_PREFIX_PATH="$prefix" > /dev/null 2>&1 \
         || fail "version $version of the library was found"
 done
@@ -52,7 +56,7 @@ velmo=$prefix/bin/velmo
 
 "$velmo" report - --lang ru < states > shown
 grep -qx 'Внесите купюры' shown || fail "velmo shows: $(cat shown)"
-"$velmo" --version | grep -q "^velmo $(pkg-config --modversion velmolib) (library built 2" \
+"$velmo" --version | grep -q "^velmo $(pkg-config --modversion $package) (library built 2" \
     || fail "$("$velmo" --version)"
 bash -n "$prefix"/share/bash-completion/completions/velmo
 gzip -dc "$prefix"/share/man/man1/velmo.1.gz | grep -q '^\.TH VELMO 1' || fail "no manual page"

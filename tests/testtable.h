@@ -1,6 +1,11 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include <QtTest>
+
+#include <array>
 
 inline QString operator""_s(const char* text, std::size_t size)
 {
@@ -8,7 +13,8 @@ inline QString operator""_s(const char* text, std::size_t size)
 }
 
 /// Makes the current test's data of a text: one row a line, its cells between vertical bars. The
-/// test fetches the cells as QStringList "row".
+/// test fetches the cells as QStringList "row", or gives each a name: const auto [a, b] =
+/// cells<2>().
 inline void addRows(const QString& table)
 {
     QTest::addColumn<QStringList>("row");
@@ -18,4 +24,14 @@ inline void addRows(const QString& table)
             cells += cell.trimmed();
         QTest::newRow(line.simplified().toUtf8().constData()) << cells;
     }
+}
+
+/// The cells of the current row; those that it lacks are null.
+template <std::size_t Size>
+std::array<QString, Size> cells()
+{
+    QFETCH(QStringList, row);
+    std::array<QString, Size> cells;
+    std::copy_n(row.cbegin(), std::min(Size, std::size_t(row.size())), cells.begin());
+    return cells;
 }

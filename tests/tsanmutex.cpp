@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 // ThreadSanitizer does not see what QMutex does in the system's Qt, which is built without it.
 // These stand before Qt's own functions, tell it and pass the call on. Only the thread
 // sanitizer's builds link this file.

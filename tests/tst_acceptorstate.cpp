@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "acceptorstate.h"
 #include "devicestate.h"
 #include "statitem.h"
@@ -134,11 +137,11 @@ private Q_SLOTS:
 
     void answers()
     {
-        QFETCH(QStringList, row);
-        const AcceptorState state = serviceState(row.at(0));
-        QCOMPARE(state.isAcceptingAllowed() ? "yes"_s : "no"_s, row.at(1));
-        QCOMPARE(state.paymentStatusDescr(), row.at(2));
-        QCOMPARE(state.paymentStateDescr(), row.at(row.at(3).isEmpty() ? 2 : 3));
+        const auto [devices, accepting, status, told] = cells<4>();
+        const AcceptorState state = serviceState(devices);
+        QCOMPARE(state.isAcceptingAllowed() ? "yes"_s : "no"_s, accepting);
+        QCOMPARE(state.paymentStatusDescr(), status);
+        QCOMPARE(state.paymentStateDescr(), told.isEmpty() ? status : told);
     }
 
     void listAnswersKeepOrderAndRepeats()

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "acceptorbus.h"
 #include "paymentscreen.h"
 #include "testtable.h"
@@ -86,6 +89,13 @@ private Q_SLOTS:
             QTRY_COMPARE(shown(screen) + " => "_s + published(), expected);
         }
         QVERIFY(file.atEnd());
+        QFile log(m_folder.filePath("log.jsonl"_s));
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        const QJsonObject first = QJsonDocument::fromJson(log.readLine()).object();
+        QCOMPARE(first["session"_s], QJsonValue("start"_s));
+        QVERIFY(first["device_id"_s].toInt() > 0 && first["thread_id"_s].toInt() > 0);
+        QVERIFY(QDateTime::fromString(first["time"_s].toString(), Qt::ISODate).isValid());
+        QVERIFY(log.readAll().endsWith("}\n"));
         const QString report = screen.findChild<QPlainTextEdit*>("serviceReport"_s)->toPlainText();
         QVERIFY(report.startsWith("DeviceId: 1,ThreadId: 1\nName: Note validator\n"_s));
         const QString picture = qEnvironmentVariable("VELMOLIB_SCREENSHOT");
@@ -109,7 +119,9 @@ private Q_SLOTS:
 private:
     void startService(const QString& folder, const QString& sessions)
     {
-        QStringList arguments{"--step"_s, "0"_s, "--filters"_s, "samples/filters.json"_s};
+        QStringList arguments{"--step"_s,    "0"_s,
+                              "--filters"_s, "samples/filters.json"_s,
+                              "--record"_s,  m_folder.filePath("log.jsonl"_s)};
         for (const QString& session : sessions.split(QLatin1Char(' ')))
             arguments += folder + "/"_s + session + ".jsonl"_s;
         m_service.setWorkingDirectory(QStringLiteral(SOURCES));
@@ -119,6 +131,7 @@ private:
     }
 
     QProcess m_service;
+    QTemporaryDir m_folder;
 };
 
 QTEST_MAIN(tst_Bus)

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "acceptors.h"
 #include "logcapture.h"
 #include "testtable.h"
@@ -13,8 +16,8 @@ private Q_SLOTS:
         for (const QVariant& row : Acceptors::SupportedDevicesAsVariantList()) {
             const QVariantMap map = row.toMap();
             QCOMPARE(map.keys(), QStringList({"class"_s, "id"_s, "protocol"_s, "type"_s}));
-            QCOMPARE(map.value("id"_s).type(), QVariant::Int);
-            QCOMPARE(map.value("type"_s).type(), QVariant::Int);
+            QCOMPARE(map.value("id"_s).userType(), QMetaType::Int);
+            QCOMPARE(map.value("type"_s).userType(), QMetaType::Int);
             ids.append(map.value("id"_s).toInt());
         }
         QCOMPARE(ids, QList<int>({6, 7, 5, 1, 2, 50, 3, 4, 51, 100, 150, 200, 201}));
@@ -37,13 +40,13 @@ private Q_SLOTS:
 
     void modelsAreKnownByKind()
     {
-        QFETCH(QStringList, row);
+        const auto [id, name, type, abilities] = cells<4>();
         const LogCapture log;
-        const auto model = static_cast<Acceptors::Supported>(row.at(0).toInt());
-        QCOMPARE(Acceptors::devName(model), row.at(1));
-        QCOMPARE(QString::number(Acceptors::devType(model)), row.at(2));
-        QCOMPARE(Acceptors::canDispense(model), row.at(3).contains("pays out"_s));
-        QCOMPARE(Acceptors::isSmartDispenser(model), row.at(3).contains("smart"_s));
+        const auto model = static_cast<Acceptors::Supported>(id.toInt());
+        QCOMPARE(Acceptors::devName(model), name);
+        QCOMPARE(QString::number(Acceptors::devType(model)), type);
+        QCOMPARE(Acceptors::canDispense(model), abilities.contains("pays out"_s));
+        QCOMPARE(Acceptors::isSmartDispenser(model), abilities.contains("smart"_s));
     }
 
     void unknownModelIsLogged()

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "devicestateworker.h"
 #include "testtable.h"
 
@@ -178,6 +181,12 @@ private Q_SLOTS:
         QVERIFY(a != b);
         b = a;
         QCOMPARE(b, a);
+        // What refers to a row may outlive the copy of an equal state.
+        DeviceState equal;
+        equal.setDispenserRegistry({row(5)});
+        const DispenserRegistryItem* const held = &equal.dispenserRegistry.constFirst();
+        equal = a;
+        QCOMPARE(&equal.dispenserRegistry.constFirst(), held);
     }
 
     void resetsKeepWhatTheyShould()

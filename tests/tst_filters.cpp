@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "filterchain.h"
 #include "filterfactory.h"
 #include "filtermanager.h"
@@ -59,7 +62,7 @@ class tst_Filters : public QObject
 private Q_SLOTS:
     void judgesTheNewestEvent_data()
     {
-        // The guarded note is 500. The third cell is the limit.
+        // The guarded note is 500.
         addRows(R"(
             reject | AttemptsFilter   | 2 | idling 0, rejected 7, rejected 500, accepting 500
             accept | AttemptsFilter   | 3 | idling 0, rejected 7, rejected 500, accepting 500
@@ -92,13 +95,13 @@ private Q_SLOTS:
 
     void judgesTheNewestEvent()
     {
-        QFETCH(QStringList, row);
+        const auto [verdict, name, limit, states] = cells<4>();
         const LogCapture log;
-        const FieldDescription limit = FilterFactory::getFieldsDesc(row.at(1)).constLast();
-        StatesList events = session(row.at(3));
+        const QString parameter = FilterFactory::getFieldsDesc(name).constLast().name;
+        StatesList events = session(states);
         const std::unique_ptr<AbstractFilter> filter(
-            FilterFactory::createFilter(row.at(1), {{"denom"_s, 500}, {limit.name, row.at(2)}}));
-        const int expected = row.at(0) == "accept"_s ? 0 : 1;
+            FilterFactory::createFilter(name, {{"denom"_s, 500}, {parameter, limit}}));
+        const int expected = verdict == "accept"_s ? 0 : 1;
         QCOMPARE(int(filter->setEvents(&events)->validate()), expected);
         if (events.isEmpty())
             QCOMPARE(int(filter->setEvents(nullptr)->validate()), expected);
@@ -133,10 +136,9 @@ private Q_SLOTS:
 
     void everyFilterDescribesItself()
     {
-        QFETCH(QStringList, row);
-        const QString& name = row.at(0);
+        const auto [name, properties, title, good, bad] = cells<5>();
         QVERIFY(FilterFactory::getFilters().contains(name));
-        QCOMPARE(FilterFactory::getFilterDesc(name).section(QLatin1Char('|'), 0, 0), row.at(2));
+        QCOMPARE(FilterFactory::getFilterDesc(name).section(QLatin1Char('|'), 0, 0), title);
         const QList<FieldDescription> fields = FilterFactory::getFieldsDesc(name);
         const std::unique_ptr<AbstractFilter> filter(FilterFactory::createFilter(name, {}));
         QStringList names;
@@ -144,11 +146,11 @@ private Q_SLOTS:
             names += field.name;
             QVERIFY(filter->property(field.name.toUtf8().constData()).isValid());
         }
-        QCOMPARE(names.join(QLatin1Char(' ')), row.at(1));
+        QCOMPARE(names.join(QLatin1Char(' ')), properties);
         const QRegularExpression pattern(fields.last().regexp);
-        for (const QString& text : row.at(3).split(QLatin1Char(' ')))
+        for (const QString& text : good.split(QLatin1Char(' ')))
             QVERIFY2(pattern.match(text).hasMatch(), qPrintable(text));
-        for (const QString& text : row.at(4).split(QLatin1Char(' ')))
+        for (const QString& text : bad.split(QLatin1Char(' ')))
             QVERIFY2(!pattern.match(text).hasMatch(), qPrintable(text));
     }
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "dispenserregistrymodel.h"
 #include "statitem.h"
 #include "testtable.h"
@@ -19,6 +22,17 @@ QString channels(const QList<DispenserRegistryItem>& rows)
         texts += QString::number(r.channel);
     return texts.join(QLatin1Char(' '));
 }
+
+// Adds something of its own to the counters.
+class StateItem : public StatItem
+{
+public:
+    void addToMap(QVariantMap& map) override
+    {
+        StatItem::addToMap(map);
+        map.insert("state"_s, "counted"_s);
+    }
+};
 
 // Takes one key after the other out of a complete map: the fields before it are read, those after
 // it keep their defaults, and its bare text is reported.
@@ -97,7 +111,8 @@ private Q_SLOTS:
 
     void countersKeepTheirFullWidth()
     {
-        StatItem stat;
+        StateItem counted;
+        StatItem& stat = counted;
         stat.notesInserted = ULLONG_MAX;
         stat.notesReturned = 1ULL << 40;
         StatItem read;
@@ -109,6 +124,7 @@ private Q_SLOTS:
         QCOMPARE(state.keys().join(QLatin1Char(' ')),
                  "notes_inserted notes_rejected notes_returned state"_s);
         QCOMPARE(state.value("notes_inserted"_s), QVariant(qulonglong(ULLONG_MAX)));
+        QCOMPARE(state.value("state"_s), QVariant("counted"_s));
 
         read.notesRejected = 1;
         QVERIFY(stat.eqDev(read));

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "velmorun.h"
 
 #include <QJsonDocument>
@@ -35,13 +38,14 @@ private Q_SLOTS:
         for (const QString& line : run.outLines()) {
             const QJsonObject o = QJsonDocument::fromJson(line.toUtf8()).object();
             const QString refusedBy = o["refused_by"_s].toObject()["name"_s].toString("-"_s);
-            actual += "%1 %2 %3 %4 %5 %6 %7 %8 %9"_s.arg(o["line"_s].toInt())
-                          .arg(o["state"_s].toString())
-                          .arg(o["note"_s].toInt())
-                          .arg(o["session_sum"_s].toInt())
-                          .arg(o["sent"_s].toBool() ? "sent"_s : "-"_s, o["verdict"_s].toString(),
-                               refusedBy, o["accepting_allowed"_s].toBool() ? "yes"_s : "no"_s,
-                               o["payment_text"_s].toString());
+            actual +=
+                "%1 %2 %3 %4 %5 %6 %7 %8 %9"_s.arg(o["line"_s].toInt())
+                    .arg(o["state"_s].toString())
+                    .arg(o["note"_s].toInt())
+                    .arg(o["session_sum"_s].toInt())
+                    .arg(o["sent"_s].toBool() ? "sent"_s : "-"_s, o["verdict"_s].toString("-"_s),
+                         refusedBy, o["accepting_allowed"_s].toBool() ? "yes"_s : "no"_s,
+                         o["payment_text"_s].toString());
         }
         QCOMPARE(actual, expected);
     }
@@ -57,10 +61,11 @@ private Q_SLOTS:
 {"state":"accepting"})");
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.outLines().size(), 5);
-        QCOMPARE(run.outLines().at(1), "-- session --"_s);
-        QCOMPARE(run.outLines().at(2).simplified(), "1 busy 0 0 yes accept yes Wait..."_s);
+        QCOMPARE(run.outLines().at(1), "-- session 1 --"_s);
+        QCOMPARE(run.outLines().at(2).simplified(),
+                 "1 1 busy 0 0 Wait...; money may be accepted"_s);
         QCOMPARE(run.outLines().at(4).simplified(),
-                 "3 accepting 1000 0 yes reject no Wait... AttemptsFilter attempts=1 denom=1000"_s);
+                 "3 1 accepting 1000 0 reject Wait...; AttemptsFilter attempts=1 denom=1000"_s);
     }
 
     void badSessionLineIsNamed_data()

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "acceptorportsettingsconsts.h"
 #include "acceptorsettings.h"
 #include "testtable.h"
@@ -164,19 +167,19 @@ private Q_SLOTS:
 
     void textsOfTheRecordParse()
     {
-        QFETCH(QStringList, row);
+        const auto [baudrate, flowControl, parity, dataBits, stopBits, read] = cells<6>();
         AcceptorDeviceSettings d;
-        d.setBaudrateStr(row.at(0));
-        d.setFlowControlStr(row.at(1));
-        d.setParityTypeStr(row.at(2));
-        d.setDataBitsTypeStr(row.at(3));
-        d.setStopBitsStr(row.at(4));
+        d.setBaudrateStr(baudrate);
+        d.setFlowControlStr(flowControl);
+        d.setParityTypeStr(parity);
+        d.setDataBitsTypeStr(dataBits);
+        d.setStopBitsStr(stopBits);
         QCOMPARE("%1 %2 %3 %4 %5"_s.arg(int(d.baudrate()))
                      .arg(d.flowControl())
                      .arg(d.parityType())
                      .arg(d.dataBits())
                      .arg(d.stopBits()),
-                 row.at(5));
+                 read);
     }
 
     void nameIsCutFromTheDescription_data()
@@ -212,7 +215,8 @@ private Q_SLOTS:
         d.setBaudrate(QSerialPort::Baud19200);
         d.setParityType(QSerialPort::MarkParity);
         d.setStopBits(QSerialPort::OneAndHalfStop);
-        d.setDataBitsType(QSerialPort::UnknownDataBits);
+        int unknown = -1; // Qt 6 has no enumerator for it
+        d.setDataBitsType(static_cast<QSerialPort::DataBits>(unknown));
         d.setFlowControl(static_cast<QSerialPort::FlowControl>(3));
         AcceptorInfo record = d.toAcceptorInfo();
         QCOMPARE(record.portSettings,
@@ -287,15 +291,15 @@ private Q_SLOTS:
 
     void singleValuesAreApplied()
     {
-        QFETCH(QStringList, row);
+        const auto [group, key, value, result, carriedValue, otherKey, otherValue] = cells<7>();
         AcceptorSettings settings;
         AcceptorSettings::setPortLogs(false);
-        const bool known = settings.setValue(setting(row.at(0), row.at(1), row.at(2)));
-        QCOMPARE(known ? "true"_s : "false"_s, row.at(3));
-        QCOMPARE(carried(QString(row.at(0)).remove("/x"_s), row.at(1)), row.at(4));
-        if (row.size() > 6)
-            QCOMPARE(carried(row.at(0), row.at(5)), row.at(6));
-        QCOMPARE(AcceptorSettings::devices.size(), row.at(0).contains("device"_s) ? 1 : 0);
+        const bool known = settings.setValue(setting(group, key, value));
+        QCOMPARE(known ? "true"_s : "false"_s, result);
+        QCOMPARE(carried(QString(group).remove("/x"_s), key), carriedValue);
+        if (!otherKey.isEmpty())
+            QCOMPARE(carried(group, otherKey), otherValue);
+        QCOMPARE(AcceptorSettings::devices.size(), group.contains("device"_s) ? 1 : 0);
     }
 
     void commonValuesAreResetAndLimitsReplaced()

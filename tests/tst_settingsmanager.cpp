@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "droutemapitem.h"
 #include "logcapture.h"
 #include "settingsmanager.h"
@@ -59,18 +62,18 @@ private Q_SLOTS:
 
     void defaultsAreTexts()
     {
-        QFETCH(QStringList, row);
+        const auto [group, name, expected] = cells<3>();
         const LogCapture log;
-        const QVariant value = SettingsManager().getDefault(row.at(0), row.at(1));
-        if (row.at(2) != "none"_s) {
-            QCOMPARE(value, QVariant(row.at(2)));
+        const QVariant value = SettingsManager().getDefault(group, name);
+        if (expected != "none"_s) {
+            QCOMPARE(value, QVariant(expected));
             QVERIFY(log.texts().isEmpty());
             return;
         }
         QCOMPARE(value, QVariant(false));
         QCOMPARE(log.texts(),
-                 QStringList("critical: Default settings not found for param "_s + row.at(1)
-                             + " in group "_s + row.at(0)));
+                 QStringList("critical: Default settings not found for param "_s + name
+                             + " in group "_s + group));
         QVERIFY(log.places().at(0).startsWith("default src/settings/settingsmanager.cpp"_s));
     }
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "velmorun.h"
 
 #include <QJsonArray>
@@ -42,7 +45,7 @@ private Q_SLOTS:
                  "\033[2J\033[HWait...\nAccepting money: not allowed\n\n"
                  "DeviceId: 1,ThreadId: 2\nName: BNV\nActivity: enabled\n"
                  "Critical error: no description\n"
-                 "Status: disabled money acceptinng or summ overflow\n\n\n"
+                 "Status: money accepting disabled or sum exceeded\n\n\n"
                  "DeviceId: 100,ThreadId: -1\nName: Unknown\nActivity: disabled\n\n\n"_s);
         QCOMPARE(run.err, "velmo: standard input:2: expected a list \"device_states\"\n"_s);
         QCOMPARE(run.exitCode, 2);

@@ -1,8 +1,14 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "acceptorservice.h"
 
 #include <QDateTime>
+#include <QDebug>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <stdexcept>
 
 AcceptorService::AcceptorService(const QStringList& sessionFiles, const QJsonArray& filters)
 {
@@ -11,11 +17,36 @@ AcceptorService::AcceptorService(const QStringList& sessionFiles, const QJsonArr
     publish();
 }
 
+void AcceptorService::record(const QString& fileName)
+{
+    m_record.setFileName(fileName);
+    if (!m_record.open(QIODevice::WriteOnly | QIODevice::Append)) {
+        throw std::runtime_error(
+            QStringLiteral("%1: %2").arg(fileName, m_record.errorString()).toStdString());
+    }
+}
+
+void AcceptorService::record(SimulatedDevice& device)
+{
+    QJsonObject line = QJsonObject::fromVariantMap(device.lastReport());
+    line.insert(QStringLiteral("time"),
+                QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs));
+    m_record.write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
+    // Whoever follows the log sees the line at once.
+    if (!m_record.flush())
+        qWarning().noquote() << m_record.fileName() + QStringLiteral(": ") + m_record.errorString();
+}
+
 bool AcceptorService::step()
 {
     bool stepped = false;
-    for (const auto& device : m_devices)
-        stepped = device->step() || stepped;
+    for (const auto& device : m_devices) {
+        if (!device->step())
+            continue;
+        stepped = true;
+        if (m_record.isOpen())
+            record(*device);
+    }
     publish();
     return stepped;
 }

@@ -1,8 +1,12 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "acceptorbus.h"
 #include "simulateddevice.h"
 
+#include <QFile>
 #include <QObject>
 #include <QStringList>
 
@@ -22,6 +26,10 @@ public:
     /// SimulatedDevice does.
     AcceptorService(const QStringList& sessionFiles, const QJsonArray& filters);
 
+    /// Appends what the devices report from now on to a session log, a line at once. Throws
+    /// std::runtime_error when the file cannot be written.
+    void record(const QString& fileName);
+
 public Q_SLOTS: // on the bus
     /// Lets every device report the next line of its session; false when none has one left.
     bool step();
@@ -35,8 +43,10 @@ Q_SIGNALS: // on the bus
 
 private:
     void publish();
+    void record(SimulatedDevice& device);
 
     std::vector<std::unique_ptr<SimulatedDevice>> m_devices;
+    QFile m_record; // open while the reports are recorded
     QString m_state;
     QString m_timestamp;
 };

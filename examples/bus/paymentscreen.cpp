@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "paymentscreen.h"
 
 #include "acceptorbus.h"
@@ -89,7 +92,7 @@ PaymentScreen::PaymentScreen(const QMap<int, QString>& names, QWidget* parent)
 
     const QStringList columns{tr("Device"),       tr("Status"),         tr("Stacker"),
                               tr("Stacker full"), tr("Critical error"), tr("Accepting")};
-    m_devices->setColumnCount(columns.size());
+    m_devices->setColumnCount(static_cast<int>(columns.size()));
     m_devices->setHorizontalHeaderLabels(columns);
     m_devices->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_devices->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
@@ -166,7 +169,7 @@ void PaymentScreen::showState(const QString& state, const QString& timestamp)
     m_report->setPlainText(acceptor.systemStatusDescr(m_names));
     m_serviceStatus->setText(tr("State of %1").arg(published.time().toString()));
     const QList<AcceptorStateItem> devices = acceptor.deviceStates();
-    m_devices->setRowCount(devices.size());
+    m_devices->setRowCount(static_cast<int>(devices.size()));
     for (int row = 0; row < devices.size(); ++row)
         showDevice(row, devices.at(row));
 }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "paymentscreen.h"
 
 #include <palx/appversionmanager.h>
@@ -19,7 +22,7 @@ namespace {
 void loadTranslations(const QString& language)
 {
     const QString folder =
-        QCoreApplication::applicationDirPath() + QStringLiteral("/../share/velmolib/translations");
+        QCoreApplication::applicationDirPath() + QStringLiteral("/../" TRANSLATIONS);
     QStringList components = palx::AppVersionManager::localisations();
     components.removeDuplicates();
     for (const QString& component : std::as_const(components)) {

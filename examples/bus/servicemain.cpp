@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "acceptorservice.h"
 
 #include <QCommandLineParser>
@@ -43,7 +46,11 @@ int run(QCoreApplication& app)
         QStringLiteral("step"),
         QStringLiteral("The time between two lines; 0 waits for calls of step() on the bus."),
         QStringLiteral("MILLISECONDS"), QStringLiteral("1000"));
-    parser.addOptions({filters, interval});
+    const QCommandLineOption recording(
+        QStringLiteral("record"),
+        QStringLiteral("Append what the devices report to a session log, for velmo explain."),
+        QStringLiteral("LOG.jsonl"));
+    parser.addOptions({filters, interval, recording});
     parser.process(app);
 
     bool isNumber = false;
@@ -54,6 +61,8 @@ int run(QCoreApplication& app)
     AcceptorService service(parser.positionalArguments(),
                             parser.isSet(filters) ? readFilters(parser.value(filters))
                                                   : QJsonArray());
+    if (parser.isSet(recording))
+        service.record(parser.value(recording));
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         throw fault(QStringLiteral("no session bus: %1").arg(bus.lastError().message()));

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "simulateddevice.h"
 
 #include "dispenserregistrymodel.h"
@@ -77,6 +80,14 @@ bool SimulatedDevice::step()
     if (m_worker.checkState())
         m_worker.saveState();
     return true;
+}
+
+QVariantMap SimulatedDevice::lastReport()
+{
+    QVariantMap report = m_session.at(m_nextLine - 1);
+    report.insert(deviceStateDescConst::DEVICE_ID, m_worker.getState()->deviceId);
+    report.insert(deviceStateDescConst::THREAD_ID, m_worker.getState()->threadId);
+    return report;
 }
 
 QVariantMap SimulatedDevice::toMap()

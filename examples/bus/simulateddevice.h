@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "devicestateworker.h"
@@ -21,6 +24,9 @@ public:
 
     /// Reports the next line; false when there is none left.
     bool step();
+
+    /// What it reported last, with its numbers of device and thread: a line of a session log.
+    QVariantMap lastReport();
 
     /// Whether it has reported anything.
     bool isKnown() const { return m_nextLine > 0; }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 // The configuration tool side: reads a settings list, limits the fishing of notes of 1000, moves
 // the first device to another port and writes the list back.
 

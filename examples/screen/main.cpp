@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 // The screen side: reads published service states, one a line, and shows what they mean. Built
 // without a build system:
 //

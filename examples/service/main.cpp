@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 // The service side: a validator's handler keeps the device's state, asks the note filters and
 // publishes the service state, here on standard output.
 

@@ -1,8 +1,10 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "abstractfilter.h"
 
 #include "log_p.h"
-
-#include <QMetaProperty>
+#include "variants_p.h"
 
 AbstractFilter::FilterResult AbstractFilter::validate()
 {
@@ -12,13 +14,12 @@ AbstractFilter::FilterResult AbstractFilter::validate()
 AbstractFilter* AbstractFilter::setParams(const QVariantMap& params)
 {
     for (auto param = params.begin(); param != params.end(); ++param) {
-        if (logsDebug())
-            qDebug().noquote() << QStringLiteral("Setting property %1 to %2")
-                                      .arg(param.key(), param.value().toString());
+        logDebug() << QStringLiteral("Setting property %1 to %2")
+                          .arg(param.key(), Variants::toString(param.value()));
         const int index = metaObject()->indexOfProperty(param.key().toUtf8().constData());
         const QMetaProperty property = metaObject()->property(index);
         if (property.isReadable())
-            property.write(this, param.value());
+            Variants::write(property, this, param.value());
         else
             qWarning().noquote() << QStringLiteral("Property %1 does not exists").arg(param.key());
     }

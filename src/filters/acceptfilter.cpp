@@ -1,11 +1,13 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "acceptfilter.h"
 
 #include "log_p.h"
 
 AbstractFilter::FilterResult AcceptFilter::validate()
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Accept filter");
+    logDebug() << QStringLiteral("Accept filter");
     return m_acceptAll ? FILTER_ACCEPT : FILTER_REJECT;
 }
 

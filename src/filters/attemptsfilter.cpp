@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "attemptsfilter.h"
 
 AbstractFilter::FilterResult AttemptsFilter::validate()
@@ -10,7 +13,7 @@ AbstractFilter::FilterResult AttemptsFilter::validate()
 
     int rejections = 0;
     // The oldest event is never examined: it is the state in which the session began.
-    for (int i = events->size() - 1; i > 0; --i) {
+    for (auto i = events->size() - 1; i > 0; --i) {
         const State state = events->at(i).state;
         if (state == STATE_REJECTED)
             ++rejections;

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "denomcountfilter.h"
 
 AbstractFilter::FilterResult DenomCountFilter::validate()
@@ -11,7 +14,7 @@ AbstractFilter::FilterResult DenomCountFilter::validate()
     int accepted = 0;
     State later = STATE_BUSY;
     // The oldest event is never examined: it is the state in which the session began.
-    for (int i = events->size() - 1; i > 0; --i) {
+    for (auto i = events->size() - 1; i > 0; --i) {
         const DeviceState& event = events->at(i);
         // A device may report one accepted note several times: only the newest of a run counts.
         if (event.state == STATE_ACCEPTED && later != STATE_ACCEPTED

@@ -1,32 +1,31 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "filterchain.h"
 
 #include "log_p.h"
 
 FilterChain::FilterChain()
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Creating filter chain");
+    logDebug() << QStringLiteral("Creating filter chain");
 }
 
 FilterChain::~FilterChain()
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Deleting filter chain");
+    logDebug() << QStringLiteral("Deleting filter chain");
     clear();
 }
 
 FilterChain* FilterChain::setEvents(StatesList* source)
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Setting events source for the chain");
+    logDebug() << QStringLiteral("Setting events source for the chain");
     m_events = source;
     return this;
 }
 
 FilterChain* FilterChain::add(PAbstractFilter filter)
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Append to chain: %1").arg(filter->getFilterName());
+    logDebug() << QStringLiteral("Append to chain: %1").arg(filter->getFilterName());
     filter->setEvents(m_events);
     m_filters.append(filter);
     return this;
@@ -41,9 +40,7 @@ AbstractFilter::FilterResult FilterChain::validate()
     for (AbstractFilter* const filter : filters) {
         const AbstractFilter::FilterResult result = filter->validate();
         if (result != AbstractFilter::FILTER_ACCEPT) {
-            if (logsDebug())
-                qDebug().noquote()
-                    << QStringLiteral("Reject raised by %1").arg(filter->getFilterName());
+            logDebug() << QStringLiteral("Reject raised by %1").arg(filter->getFilterName());
             return result;
         }
     }
@@ -52,8 +49,7 @@ AbstractFilter::FilterResult FilterChain::validate()
 
 FilterChain* FilterChain::clear()
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Clearing chain");
+    logDebug() << QStringLiteral("Clearing chain");
     qDeleteAll(m_filters);
     m_filters.clear();
     return this;

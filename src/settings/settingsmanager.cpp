@@ -1,8 +1,12 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "settingsmanager.h"
 
 #include "log_p.h"
 #include "settingslist_p.h"
 #include "settingstable_p.h"
+#include "variants_p.h"
 
 #include <algorithm>
 
@@ -207,7 +211,7 @@ void SettingsManager::clear()
 
 int SettingsManager::count() const
 {
-    return items->size();
+    return static_cast<int>(items->size());
 }
 
 bool SettingsManager::isLoaded() const
@@ -226,18 +230,17 @@ QVariant SettingsManager::getDefault(QString group, QString param) const
 
 bool SettingsManager::load(const quorbus::ClientSettings& settings)
 {
-    if (logsDebug())
-        qDebug().noquote() << QStringLiteral("Parsing settings list...");
+    logDebug() << QStringLiteral("Parsing settings list...");
     clear();
     const QList<QVariant> list = settings.settings();
     for (const QVariant& element : list) {
-        const QVariantMap map = element.toMap();
+        const QVariantMap map = Variants::toMap(element);
         const SettingsItem* const item =
-            addItem(map.value(SettingsList::groupKey).toString(),
-                    map.value(SettingsList::nameKey).toString(), map.value(SettingsList::valueKey));
-        if (logsDebug())
-            qDebug().noquote() << QStringLiteral("Added [%1/%2 = %3]")
-                                      .arg(item->group, item->name, item->value.toString());
+            addItem(Variants::toString(map.value(SettingsList::groupKey)),
+                    Variants::toString(map.value(SettingsList::nameKey)),
+                    map.value(SettingsList::valueKey));
+        logDebug() << QStringLiteral("Added [%1/%2 = %3]")
+                          .arg(item->group, item->name, Variants::toString(item->value));
     }
     loaded = true;
     return true;

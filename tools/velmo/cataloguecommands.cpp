@@ -1,7 +1,11 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "commands.h"
 
 #include "acceptors.h"
 #include "filterfactory.h"
+#include "filterwords.h"
 #include "options.h"
 #include "output.h"
 #include "table.h"
@@ -61,6 +65,7 @@ QJsonObject filterObject(const QString& name)
         params.append(QJsonObject::fromVariantMap(field.toMap()));
     const auto [title, explanation] = texts(name);
     return {{QStringLiteral("name"), name},
+            {QStringLiteral("purpose"), filterPurpose(name)},
             {QStringLiteral("title"), title},
             {QStringLiteral("explanation"), explanation},
             {QStringLiteral("params"), params}};
@@ -74,8 +79,7 @@ QString filterText(const QString& name)
         rows +=
             QStringList{QStringLiteral("  ") + field.name, field.type, field.regexp, field.desc};
     }
-    const auto [title, explanation] = texts(name);
-    return QStringLiteral("%1: %2\n  %3\n").arg(name, title, explanation)
+    return name + QLatin1Char('\n') + wrapped(QStringLiteral("  ") + filterPurpose(name), 2)
         + formatTable({QStringLiteral("  Parameter"), QStringLiteral("Type"),
                        QStringLiteral("Pattern"), QStringLiteral("Meaning")},
                       rows);

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "command.h"
 #include "nearest.h"
 #include "options.h"
@@ -8,6 +11,7 @@
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <QLocale>
 #include <QTranslator>
 
 #include <algorithm>
@@ -114,21 +118,29 @@ Fault unknownOption(const QString& name, const std::vector<const Option*>& known
 // The same place in the build folder and where the tool is installed.
 QString translationsFolder()
 {
-    return QCoreApplication::applicationDirPath()
-        + QStringLiteral("/../share/velmolib/translations");
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../" TRANSLATIONS);
 }
 
+// Empty: the system's language, or English where there is no translation for it. English is loaded
+// too: it has the plurals, and mends what is misspelt in the library.
 void loadTranslations(const QString& language)
 {
     QStringList components = palx::AppVersionManager::localisations();
+    components << QStringLiteral("diagnosis") << QStringLiteral("velmo");
     components.removeDuplicates();
+    const QString folder = translationsFolder();
     bool anyLoaded = false;
     for (const QString& component : std::as_const(components)) {
         auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
-        if (translator->load(component + QLatin1Char('_') + language, translationsFolder()))
+        const QString prefix = component + QLatin1Char('_');
+        const bool isLoaded = language.isEmpty()
+            ? translator->load(QLocale::system(), prefix, QString(), folder)
+                || translator->load(prefix + QLatin1String("en"), folder)
+            : translator->load(prefix + language, folder);
+        if (isLoaded)
             anyLoaded = QCoreApplication::installTranslator(translator.release()) || anyLoaded;
     }
-    if (!anyLoaded)
+    if (!anyLoaded && !language.isEmpty())
         throw Fault{Velmo::tr("no translations for language \"%1\"").arg(language)};
 }
 
@@ -241,6 +253,7 @@ int runCommand(const QStringList& arguments)
         return parser.isSet(QLatin1String(option.name));
     };
 
+    loadTranslations(parser.value(QLatin1String(options::language.name)));
     const QStringList words = parser.positionalArguments();
     const Command* const command = findCommand(words);
     const QStringList unknown = parser.unknownOptionNames();
@@ -248,9 +261,6 @@ int runCommand(const QStringList& arguments)
         throw unknownOption(unknown.constFirst(), command ? optionsOf(*command) : everyOption());
     if (!isSound)
         throw Fault{parser.errorText()};
-    if (isSet(options::language))
-        loadTranslations(parser.value(QLatin1String(options::language.name)));
-
     const bool asksHelp = words.value(0) == QLatin1String("help");
     if (asksHelp || isSet(options::help)) {
         print(helpOn(words.mid(asksHelp ? 1 : 0)));

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "commands.h"
 
 #include "options.h"
@@ -8,17 +11,31 @@ const std::vector<Command>& commands()
 {
     constexpr int anyNumber = std::numeric_limits<int>::max();
     static const std::vector<Command> table{
-        {"replay",
-         "SESSION.jsonl (--filters FILTERS.json | --settings SETTINGS.json)",
+        {"explain",
+         "LOG.jsonl... (--filters FILTERS.json | --settings SETTINGS.json)",
          1,
-         1,
-         QT_TRANSLATE_NOOP("Velmo", "What happened in a session, and why notes were refused."),
+         anyNumber,
+         QT_TRANSLATE_NOOP("Velmo", "Why notes were refused: one answer for every note of a log."),
          QT_TRANSLATE_NOOP(
              "Velmo",
-             "Plays what a device reported through the worker, the note filters and the "
-             "published state, and shows for every line what came of it. A session file "
-             "has one JSON object a line with the reported fields; "
-             R"({"session":"start"} begins a session.)"),
+             "Tells for each note what became of it and why: every filter that objected, with the "
+             "lines that counted and what clears them, or what was the matter with the device. A "
+             "session log has one JSON object a line, plain or compressed by gzip: what a device "
+             "reported, or a published state {\"device_states\": [...]}, with \"time\" and "
+             "\"session\": \"start\" where known."),
+         {&options::filters, &options::settings, &options::session, &options::device,
+          &options::refusals, &options::summary, &options::exitCode, &options::json,
+          &options::keepGoing},
+         explainCommand},
+        {"replay",
+         "LOG.jsonl (--filters FILTERS.json | --settings SETTINGS.json)",
+         1,
+         1,
+         QT_TRANSLATE_NOOP("Velmo", "What happened in a session log, event by event."),
+         QT_TRANSLATE_NOOP(
+             "Velmo",
+             "Plays what the devices reported through the worker, the note filters and the "
+             "published state, and shows for every line what came of it."),
          {&options::filters, &options::settings, &options::json, &options::keepGoing},
          replayCommand},
         {"report",

@@ -1,9 +1,13 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "command.h"
 
 // What the commands run; each returns the exit code.
 
+int explainCommand(const Arguments& arguments);
 int replayCommand(const Arguments& arguments);
 int reportCommand(const Arguments& arguments);
 int stateCommand(const Arguments& arguments);

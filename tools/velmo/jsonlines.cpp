@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "jsonlines.h"
 
 #include "command.h"
@@ -41,23 +44,11 @@ private:
     QElapsedTimer m_sinceShown;
 };
 
-QByteArray processLine(const TextInput& file, const QByteArray& text,
-                       const std::function<QByteArray(const QJsonObject& line)>& toText)
-{
-    const QJsonDocument document = file.parseJson(text, file.lineNumber());
-    try {
-        if (!document.isObject())
-            throw Fault{QStringLiteral("expected a JSON object")};
-        return toText(document.object());
-    } catch (const Fault& fault) {
-        throw file.faultAt(file.lineNumber(), fault.message);
-    }
-}
-
 } // namespace
 
-int processJsonLines(TextInput& file, bool keepGoing,
-                     const std::function<QByteArray(const QJsonObject& line)>& toText)
+int processLines(TextInput& file, bool keepGoing,
+                 const std::function<QByteArray(const QByteArray& line)>& toText,
+                 const std::function<void()>& skipLine)
 {
     Output output;
     const bool flushLines = file.isLive() || isatty(STDOUT_FILENO);
@@ -70,15 +61,18 @@ int processJsonLines(TextInput& file, bool keepGoing,
             continue;
         QByteArray result;
         try {
-            result = processLine(file, text, toText);
+            result = toText(text);
         } catch (const Fault& fault) {
             if (!keepGoing)
                 throw;
             progress.erase();
             printError(fault.message);
             ++skipped;
+            skipLine();
             continue;
         }
+        if (result.isEmpty())
+            continue;
         output.write(result);
         if (flushLines)
             output.flush();
@@ -89,4 +83,19 @@ int processJsonLines(TextInput& file, bool keepGoing,
         return exitSuccess;
     printError(QStringLiteral("bad lines skipped: %1").arg(skipped));
     return exitBadInput;
+}
+
+int processJsonLines(TextInput& file, bool keepGoing,
+                     const std::function<QByteArray(const QJsonObject& line)>& toText)
+{
+    return processLines(file, keepGoing, [&](const QByteArray& text) {
+        const QJsonDocument document = file.parseJson(text, file.lineNumber());
+        try {
+            if (!document.isObject())
+                throw Fault{QStringLiteral("expected a JSON object")};
+            return toText(document.object());
+        } catch (const Fault& fault) {
+            throw file.faultAt(file.lineNumber(), fault.message);
+        }
+    });
 }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "command.h"
@@ -8,7 +11,7 @@ namespace options {
 constexpr Option help{"help", "h", nullptr, QT_TRANSLATE_NOOP("Velmo", "Print this help.")};
 constexpr Option language{
     "lang", nullptr, "LANG",
-    QT_TRANSLATE_NOOP("Velmo", "Show the library's texts in a language, as \"ru\".")};
+    QT_TRANSLATE_NOOP("Velmo", "The language of the texts, as \"ru\", in place of the system's.")};
 constexpr Option version{
     "version", "v", nullptr,
     QT_TRANSLATE_NOOP("Velmo", "Print the version of the library and the time of its build.")};
@@ -26,6 +29,17 @@ constexpr Option json{"json", nullptr, nullptr,
 constexpr Option keepGoing{
     "keep-going", nullptr, nullptr,
     QT_TRANSLATE_NOOP("Velmo", "Skip bad lines and count them; the exit code is still 2.")};
+constexpr Option session{"session", nullptr, "N",
+                         QT_TRANSLATE_NOOP("Velmo", "Only session N, counted from 1 in each log.")};
+constexpr Option device{"device", nullptr, "ID",
+                        QT_TRANSLATE_NOOP("Velmo", "Only the device with that identifier.")};
+constexpr Option refusals{"refusals", nullptr, nullptr,
+                          QT_TRANSLATE_NOOP("Velmo", "Show only what the filters refused.")};
+constexpr Option summary{"summary", nullptr, nullptr,
+                         QT_TRANSLATE_NOOP("Velmo", "Show only the summary.")};
+constexpr Option exitCode{
+    "exit-code", nullptr, nullptr,
+    QT_TRANSLATE_NOOP("Velmo", "Make the exit code 1 when the filters refused something.")};
 constexpr Option names{
     "names", nullptr, "NAMES.json",
     QT_TRANSLATE_NOOP("Velmo", R"(Display names by device identifier: {"1": "Validator"}.)")};

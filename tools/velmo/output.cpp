@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "output.h"
 
 #include "fault.h"
@@ -42,6 +45,11 @@ int outputWidth()
     if (!isatty(STDOUT_FILENO) || ioctl(STDOUT_FILENO, TIOCGWINSZ, &terminal) != 0)
         return 0;
     return terminal.ws_col;
+}
+
+bool isOutputColored()
+{
+    return isatty(STDOUT_FILENO) && qEnvironmentVariableIsEmpty("NO_COLOR");
 }
 
 void print(const QString& text)

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include <QByteArray>
@@ -19,6 +22,9 @@ private:
 /// The columns that a line on standard output may have: those of the terminal or of the variable
 /// COLUMNS; 0 for any number where people do not read it as it comes.
 int outputWidth();
+
+/// Whether standard output may be coloured: on a terminal unless NO_COLOR is set.
+bool isOutputColored();
 
 /// Writes a whole text to standard output.
 void print(const QString& text);

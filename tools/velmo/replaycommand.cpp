@@ -1,114 +1,161 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "answerjson.h"
 #include "commands.h"
-#include "filtersfile.h"
+#include "filtersinput.h"
 #include "inputfile.h"
 #include "jsonlines.h"
 #include "options.h"
+#include "output.h"
 #include "replay.h"
+#include "table.h"
 
-#include <QJsonDocument>
+#include <iterator>
+#include <optional>
 
 namespace {
 
-QString verdictText(AbstractFilter::FilterResult verdict)
+QByteArray jsonLine(qint64 lineNumber, const LogTime& time, const ReplayStep& step)
 {
-    return verdict == AbstractFilter::FILTER_ACCEPT ? QStringLiteral("accept")
-                                                    : QStringLiteral("reject");
-}
-
-QByteArray jsonLine(qint64 lineNumber, const ReplayStep& step)
-{
-    QJsonObject object{
-        {QStringLiteral("line"), lineNumber},
-        {QStringLiteral("state"), step.state},
-        {QStringLiteral("note"), step.note},
-        {QStringLiteral("session_sum"), step.sessionSum},
-        {QStringLiteral("sent"), step.sent},
-        {QStringLiteral("verdict"), verdictText(step.verdict)},
-        {QStringLiteral("refused_by"), QJsonValue::Null},
-        {QStringLiteral("payment_text"), step.paymentText},
-        {QStringLiteral("accepting_allowed"), step.acceptingAllowed},
+    const DeviceState& state = step.device->state();
+    const auto verdict = [&step] {
+        if (step.verdict == ReplayStep::NoNote)
+            return JsonText::null();
+        return JsonText(step.refusedBy ? QStringLiteral("reject") : QStringLiteral("accept"));
     };
+    const auto refusedBy = [&step] {
+        return step.refusedBy
+            ? JsonText::object({{"name", filterName(*step.refusedBy)},
+                                {"params", JsonText::of(filterParams(*step.refusedBy))}})
+            : JsonText::null();
+    };
+    std::vector<JsonText::Member> members{
+        {"line", lineNumber},
+        {"time", time.isKnown() ? JsonText(time.iso()) : JsonText::null()},
+        {"device", state.deviceId},
+        {"thread", state.threadId},
+        {"state", state.stateAsString()},
+        {"state_text", state.stateText},
+        {"error_text", state.errorText},
+        {"note", state.currentNote},
+        {"session_sum", state.sessionSum},
+        {"sent", step.sent},
+        {"verdict", verdict()},
+        {"refused_by", refusedBy()},
+        {"machine", jsonOf(step.device->conditions())},
+        {"payment_text", step.paymentText},
+        {"accepting_allowed", step.acceptingAllowed}};
     if (step.startsSession)
-        object.insert(QStringLiteral("session"), QStringLiteral("start"));
-    if (step.refusedBy) {
-        object.insert(QStringLiteral("refused_by"),
-                      QJsonObject{{QStringLiteral("name"), filterName(*step.refusedBy)},
-                                  {QStringLiteral("params"), filterParams(*step.refusedBy)}});
-    }
-    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+        members.push_back({"session", QStringLiteral("start")});
+    return JsonText::object(members) + '\n';
 }
 
-// One line of the table; the last cell takes what room it needs.
-QByteArray tableRow(const QStringList& cells)
+// A line of the table. The last cell takes what room is left, in several lines if need be; where
+// there is little, it stands below the others.
+QByteArray tableRow(const QStringList& cells, bool withTime)
 {
-    // Negative: right-aligned.
-    constexpr int widths[] = {-7, 10, -8, -9, 4, 7, 9, 27, 0};
+    // Negative: right-aligned. The second column is the time.
+    constexpr int widths[] = {-6, 8, 6, 10, -6, -7, 7};
+    constexpr int leastRoom = 30;
+    constexpr int below = 8;
+    static const int width = outputWidth();
     QString row;
-    for (int i = 0; i < cells.size(); ++i) {
-        const int width = widths[i];
-        row += width < 0 ? cells.at(i).rightJustified(-width) : cells.at(i).leftJustified(width);
+    for (int i = 0; i < int(std::size(widths)); ++i) {
+        if (i == 1 && !withTime)
+            continue;
+        const int column = widths[i];
+        row += column < 0 ? cells.at(i).rightJustified(-column) : cells.at(i).leftJustified(column);
         row += QStringLiteral("  ");
     }
+    const QString& last = cells.constLast();
+    const int room = width - int(row.size());
+    if (width == 0 || room >= qMin(leastRoom, int(last.size())))
+        return wrapped(row + last, int(row.size()), width).toUtf8();
     while (row.endsWith(QLatin1Char(' ')))
         row.chop(1);
-    return row.toUtf8() + '\n';
+    const QString meaning = QString(below, QLatin1Char(' ')) + last;
+    return (row + QLatin1Char('\n') + wrapped(meaning, below, width)).toUtf8();
 }
 
-QByteArray tableHead()
+QByteArray tableHead(bool withTime)
 {
-    return tableRow({QStringLiteral("Line"), QStringLiteral("State"), QStringLiteral("Note"),
-                     QStringLiteral("Sum"), QStringLiteral("Sent"), QStringLiteral("Verdict"),
-                     QStringLiteral("Accepting"), QStringLiteral("Payment text"),
-                     QStringLiteral("Refused by")});
+    return tableRow({Velmo::tr("Line"), Velmo::tr("Time"), Velmo::tr("Device"), Velmo::tr("State"),
+                     Velmo::tr("Note"), Velmo::tr("Sum"), Velmo::tr("Verdict"),
+                     Velmo::tr("What it means")},
+                    withTime);
 }
 
-QByteArray tableLine(qint64 lineNumber, const ReplayStep& step)
+QString verdictText(const ReplayStep& step)
 {
-    const auto yesNo = [](bool yes) { return yes ? QStringLiteral("yes") : QStringLiteral("no"); };
-    QStringList refusal;
+    if (step.verdict == ReplayStep::NoNote)
+        return {};
+    return step.refusedBy ? Velmo::tr("reject") : Velmo::tr("accept");
+}
+
+// What the screen shows, and why the device or a filter takes no note.
+QString meaning(const ReplayStep& step)
+{
+    const DeviceState& state = step.device->state();
+    QStringList parts{step.paymentText};
+    if (step.acceptingAllowed)
+        parts += Velmo::tr("money may be accepted");
+    if (!step.sent)
+        parts += Velmo::tr("nothing new");
+    if (!state.stateText.isEmpty())
+        parts += state.stateText;
+    if (!state.errorText.isEmpty() && !state.errCritical)
+        parts += state.errorText;
+    const QVector<MachineCondition> conditions = step.device->conditions();
+    for (const MachineCondition& condition : conditions)
+        parts += condition.text;
     if (step.refusedBy) {
-        if (!step.hasEvent)
-            refusal += QStringLiteral("(nothing sent yet)");
-        refusal += filterName(*step.refusedBy);
+        QString refusal = filterName(*step.refusedBy);
         const QJsonObject params = filterParams(*step.refusedBy);
-        for (auto param = params.begin(); param != params.end(); ++param) {
-            refusal +=
-                QStringLiteral("%1=%2").arg(param.key(), param.value().toVariant().toString());
-        }
+        for (auto param = params.begin(); param != params.end(); ++param)
+            refusal += QStringLiteral(" %1=%2").arg(param.key()).arg(param.value().toInt());
+        parts += refusal;
     }
+    return parts.join(QStringLiteral("; "));
+}
+
+QByteArray tableLine(qint64 lineNumber, const LogTime& time, const ReplayStep& step, bool withTime)
+{
+    const DeviceState& state = step.device->state();
+    const QString device = step.device->threadId() == 0
+        ? QString::number(step.device->deviceId())
+        : QStringLiteral("%1/%2").arg(step.device->deviceId()).arg(step.device->threadId());
     const QByteArray row =
-        tableRow({QString::number(lineNumber), step.state, QString::number(step.note),
-                  QString::number(step.sessionSum), yesNo(step.sent), verdictText(step.verdict),
-                  yesNo(step.acceptingAllowed), step.paymentText, refusal.join(QLatin1Char(' '))});
-    return (step.startsSession ? QByteArrayLiteral("-- session --\n") : QByteArray()) + row;
+        tableRow({QString::number(lineNumber), time.clock().left(8), device, state.stateAsString(),
+                  QString::number(state.currentNote), QString::number(state.sessionSum),
+                  verdictText(step), meaning(step)},
+                 withTime);
+    if (!step.startsSession)
+        return row;
+    return Velmo::tr("-- session %1 --").arg(step.device->session()).toUtf8() + '\n' + row;
 }
 
 } // namespace
 
 int replayCommand(const Arguments& arguments)
 {
-    const bool ofSettings = arguments.isSet(options::settings);
-    if (ofSettings == arguments.isSet(options::filters))
-        throw arguments.usageFault();
-    const QString sessionName = arguments.operands().constFirst();
-    const QString filtersName = arguments.value(ofSettings ? options::settings : options::filters);
-    if (sessionName == filtersName && sessionName == QLatin1String("-"))
-        throw Fault{Velmo::tr("session and filters cannot both come from standard input")};
-
-    TextInput filtersText = openInput(filtersName);
-    const ArrayFile filters(filtersText,
-                            ofSettings ? QStringLiteral("settings") : QStringLiteral("filters"));
-    Replay replay(ofSettings ? filtersOfSettings : loadFilters, filters);
-    TextInput session = openInput(sessionName);
+    const FiltersInput input = readFilters(arguments, arguments.operands());
+    Replay replay(input.filters);
+    TextInput log = openInput(arguments.operands().constFirst());
     const bool json = arguments.isSet(options::json);
-    bool headWritten = json;
-    return processJsonLines(session, arguments.isSet(options::keepGoing),
-                            [&](const QJsonObject& line) {
-                                const ReplayStep step = replay.take(SessionLine(line));
-                                const QByteArray head = headWritten ? QByteArray() : tableHead();
-                                headWritten = true;
-                                return head
-                                    + (json ? jsonLine(session.lineNumber(), step)
-                                            : tableLine(session.lineNumber(), step));
-                            });
+    std::optional<bool> withTime; // known from the first line on
+    const auto toText = [&](const QByteArray& text) {
+        const SessionLine line = SessionLine::read(log, text);
+        QByteArray result;
+        if (!withTime && !json)
+            result += tableHead(line.time().isKnown());
+        withTime = withTime.value_or(line.time().isKnown());
+        for (const ReplayStep& step : replay.take(line, log.lineNumber())) {
+            result += json ? jsonLine(log.lineNumber(), line.time(), step)
+                           : tableLine(log.lineNumber(), line.time(), step, *withTime);
+        }
+        return result;
+    };
+    return processLines(log, arguments.isSet(options::keepGoing), toText,
+                        [&replay] { replay.skipLine(); });
 }

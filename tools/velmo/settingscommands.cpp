@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "settingsinput.h"
 
 #include "acceptors.h"
@@ -5,7 +8,7 @@
 #include "commands.h"
 #include "droutemapitem.h"
 #include "filterchain.h"
-#include "filtersfile.h"
+#include "filterset.h"
 #include "options.h"
 #include "output.h"
 #include "settingscheck.h"
@@ -301,24 +304,19 @@ int diffSettingsCommand(const Arguments& arguments)
 int settingsFiltersCommand(const Arguments& arguments)
 {
     const ArrayFile file = readSettings(arguments.operands().constFirst());
+    const FilterSet filters(file, ListKind::Settings);
+    if (!arguments.isSet(options::json)) {
+        const QStringList rules = filters.rules();
+        print(rules.join(QLatin1Char('\n')) + QLatin1Char('\n'));
+        return exitSuccess;
+    }
     FilterChain chain;
     QJsonArray list;
-    QString text;
-    for (const AbstractFilter* const filter : filtersOfSettings(file, chain)) {
-        const QJsonObject params = filterParams(*filter);
+    for (const AbstractFilter* const filter : filters.addTo(chain)) {
         list += QJsonObject{{QStringLiteral("name"), filterName(*filter)},
-                            {QStringLiteral("params"), params}};
-        QStringList values;
-        for (auto param = params.begin(); param != params.end(); ++param)
-            values += param.key() + QLatin1Char(' ') + param.value().toVariant().toString();
-        text += QStringLiteral("%1 (%2): %3\n")
-                    .arg(filterName(*filter), values.join(QStringLiteral(", ")),
-                         filter->getFilterDescription().section(QLatin1Char('|'), 1));
+                            {QStringLiteral("params"), filterParams(*filter)}};
     }
-    if (arguments.isSet(options::json))
-        printList(list);
-    else
-        print(text);
+    printList(list);
     return exitSuccess;
 }
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "commands.h"
 
 #include "acceptorstate.h"
@@ -24,11 +27,14 @@ auto inFile(const TextInput& file, Work work)
     }
 }
 
-QJsonObject readObject(TextInput& file)
+QJsonObject readObject(TextInput& file, QByteArray* text = nullptr)
 {
-    const QJsonDocument document = file.parseJson(file.readAll(), 1);
+    const QByteArray read = file.readAll();
+    const QJsonDocument document = file.parseJson(read, 1);
     if (!document.isObject())
         throw file.faultAt(1, QStringLiteral("expected a JSON object"));
+    if (text)
+        *text = read;
     return document.object();
 }
 
@@ -63,18 +69,22 @@ QByteArray report(const QJsonObject& published, const QMap<int, QString>& names)
         .toUtf8();
 }
 
-DeviceState checkedState(const QJsonObject& object)
+DeviceState checkedState(const QByteArray& text)
 {
-    const SessionLine line(object);
+    const SessionLine line(QString::fromUtf8(text));
+    const DeviceReport report =
+        line.reports().size() == 1 ? line.reports().front() : DeviceReport();
     const QVariantMap every = DeviceState().toMap();
     for (auto key = every.keyBegin(); key != every.keyEnd(); ++key) {
-        if (!object.contains(*key))
+        if (line.isPublished() || !report.has(DeviceReport::bit(*key)))
             throw Fault{QStringLiteral("key \"%1\" is missing").arg(*key)};
     }
     if (line.startsSession())
         throw Fault{QStringLiteral("unknown key \"session\"")};
+    if (line.time().isKnown())
+        throw Fault{QStringLiteral("unknown key \"time\"")};
     DeviceState state;
-    line.applyTo(state);
+    report.applyTo(state);
     return state;
 }
 
@@ -101,8 +111,9 @@ int reportCommand(const Arguments& arguments)
 int stateCommand(const Arguments& arguments)
 {
     TextInput file = openInput(arguments.operands().constFirst());
-    const QJsonObject object = readObject(file);
-    const DeviceState state = inFile(file, [&] { return checkedState(object); });
+    QByteArray text;
+    readObject(file, &text);
+    const DeviceState state = inFile(file, [&] { return checkedState(text); });
     const QJsonDocument document(QJsonObject::fromVariantMap(state.toMap()));
     print(arguments.isSet(options::map) ? QString::fromUtf8(document.toJson())
                                         : state.serialize() + QLatin1Char('\n'));

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #include "table.h"
 
 #include <QVector>
@@ -24,11 +27,11 @@ QString formatTable(const QStringList& head, const QList<QStringList>& rows, int
     for (const QString& heading : head) {
         numeric += heading.startsWith(QLatin1Char('>'));
         headings += numeric.constLast() ? heading.mid(1) : heading;
-        widths += headings.constLast().size();
+        widths += static_cast<int>(headings.constLast().size());
     }
     for (const QStringList& row : rows) {
         for (int i = 0; i < row.size(); ++i)
-            widths[i] = qMax(widths.at(i), row.at(i).size());
+            widths[i] = qMax(widths.at(i), static_cast<int>(row.at(i).size()));
     }
 
     QString table;
@@ -68,15 +71,16 @@ QString formatList(const QList<QStringList>& rows)
     return list;
 }
 
-QString wrapped(const QString& text, int indent)
+QString wrapped(const QString& text, int indent, int width)
 {
-    constexpr int pageWidth = 80;
+    if (width == 0)
+        return text + QLatin1Char('\n');
     QString result;
     int column = 0;
     const QStringList words = text.split(QLatin1Char(' '));
     for (const QString& word : words) {
         const bool isFirst = column == 0;
-        if (column > indent && column + 1 + word.size() > pageWidth) {
+        if (column > indent && column + 1 + word.size() > width) {
             result += QLatin1Char('\n') + QString(indent, QLatin1Char(' ')) + word;
             column = indent + int(word.size());
         } else {

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include <QList>
@@ -11,5 +14,8 @@ QString formatTable(const QStringList& head, const QList<QStringList>& rows, int
 /// Rows of a name and what it means, the meanings side by side and broken at the width of a page.
 QString formatList(const QList<QStringList>& rows);
 
-/// A text broken at the width of a page, every line but the first one indented.
-QString wrapped(const QString& text, int indent = 0);
+constexpr int pageWidth = 80;
+
+/// A text broken at a width, every line but the first one indented.
+/// @param width 0 for any
+QString wrapped(const QString& text, int indent = 0, int width = pageWidth);

@@ -1,0 +1,23 @@
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
+# Reads Qt's headers once for all targets of this tree, which takes half the time of a build. The
+# release build goes without: it shows that every file includes what it needs.
+
+file(WRITE "${CMAKE_BINARY_DIR}/precompiled.cpp" "")
+add_library(velmolib_precompiled OBJECT "${CMAKE_BINARY_DIR}/precompiled.cpp")
+target_link_libraries(velmolib_precompiled PRIVATE Qt${VELMOLIB_QT_MAJOR}::Core
+    Qt${VELMOLIB_QT_MAJOR}::SerialPort)
+target_precompile_headers(velmolib_precompiled PRIVATE <QtCore> <QSerialPort>)
+
+foreach(folder platform src diagnosis tools/velmo tests fuzz)
+    if(IS_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/${folder}")
+        get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
+        foreach(target IN LISTS targets)
+            get_target_property(type ${target} TYPE)
+            if(type MATCHES "LIBRARY|EXECUTABLE" AND NOT type STREQUAL INTERFACE_LIBRARY)
+                target_precompile_headers(${target} REUSE_FROM velmolib_precompiled)
+            endif()
+        endforeach()
+    endif()
+endforeach()

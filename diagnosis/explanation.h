@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "filterwords.h"
+#include "logplayer.h"
+
+#include <QMap>
+#include <QStringList>
+
+#include <array>
+#include <deque>
+#include <functional>
+#include <unordered_map>
+
+/// What became of a note.
+enum class Outcome {
+    Refused, ///< by the filters
+    Taken,
+    Rejected, ///< by the device
+    Returned,
+    Unknown ///< the log does not say
+};
+constexpr int outcomeCount = 5;
+
+/// "refused", "taken", ...
+QString outcomeKey(Outcome outcome);
+
+/// What happened to one note of a log, and why.
+struct NoteAnswer
+{
+    int session = 0;
+    quint32 device = 0;
+    quint32 thread = 0;
+    QString deviceName;
+    qint64 line = 0; ///< on which it was offered, or rejected without having been
+    LogTime time; ///< of that line
+    int note = 0; ///< face value; 0 when the device rejected it before it knew
+    Outcome outcome = Outcome::Unknown;
+    bool taken = false; ///< also of a note that the filters refused
+    qint64 lastLine = 0; ///< on which it became clear what became of it; 0 when it did not
+    QVector<Objection> objections; ///< of every filter that refused it
+    /// What was the matter when the device rejected or returned the note, or when its trace ends.
+    QVector<MachineCondition> machine;
+    QStringList uncertain; ///< what may make this answer wrong
+
+    bool wasOffered() const { return note > 0; }
+
+    /// "Session 1, line 8, 10:05:12, Bill validator (CCNet): note of 1000 refused."
+    QString headline() const;
+
+    /// The reasons and doubts, a sentence or two each.
+    QStringList details() const;
+
+    /// All of it in one line.
+    QString text() const;
+};
+
+/// Notes and their sum.
+struct Tally
+{
+    qint64 count = 0;
+    qint64 sum = 0;
+
+    void add(int note);
+};
+
+/// The answers of a log together.
+struct Summary
+{
+    int sessions = 0;
+    Tally offered;
+    std::array<Tally, outcomeCount> outcomes; ///< by Outcome
+    Tally takenAlthoughRefused;
+    QMap<QString, qint64> refusedBy; ///< notes that a filter of that name refused
+
+    void add(const NoteAnswer& answer);
+    const Tally& of(Outcome outcome) const { return outcomes.at(size_t(outcome)); }
+};
+
+/// Explains a session log. A note is offered by an event in state accepting with a note above 0,
+/// unless the device's event before it was the same. It is refused when a filter objects then;
+/// otherwise what follows decides, up to the next note or session of the device: a stacked,
+/// rejected or returned event, or else an accepted or stacking one before the device idles. A
+/// rejection without an offer is a rejected note of unknown value.
+class LogExplainer
+{
+public:
+    using Receiver = std::function<void(const NoteAnswer& answer)>;
+
+    /// @param receiver is given each answer, in the order of their lines, once it is clear
+    LogExplainer(const FilterSet& filters, Receiver receiver);
+
+    void take(const SessionLine& line, qint64 lineNumber);
+
+    /// Tells that a line could not be read.
+    void skipLine() { m_player.skipLine(); }
+
+    /// Gives away what is still open at the end of the log.
+    void finish();
+
+    int sessions() const { return m_player.sessions(); }
+
+private:
+    struct Note
+    {
+        NoteAnswer answer;
+        Outcome followedBy = Outcome::Unknown; // so far
+        bool isOpen = true;
+        bool startSeen = false; // of the session
+        qint64 skippedBefore = 0; // the session
+    };
+
+    void takeEvent(const LogDevice& device, const SessionLine& line, qint64 lineNumber);
+    Note& addNote(const LogDevice& device, const SessionLine& line, qint64 lineNumber);
+    void follow(const LogDevice& device, Note& note, qint64 lineNumber);
+    void close(const LogDevice& device);
+    void giveAway();
+
+    LogPlayer m_player;
+    const Receiver m_receiver;
+    std::deque<Note> m_notes; // from the oldest open one on
+    std::unordered_map<const LogDevice*, Note*> m_open; // at most one of each device
+};

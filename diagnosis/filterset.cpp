@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "filterset.h"
+
+#include "acceptorsettings.h"
+#include "arrayfile.h"
+#include "fault.h"
+#include "filterchain.h"
+#include "filterfactory.h"
+#include "filterwords.h"
+#include "words.h"
+
+#include <algorithm>
+#include <climits>
+#include <memory>
+
+namespace {
+
+const QLatin1String nameKey("name");
+const QLatin1String paramsKey("params");
+
+// A number, a text that reads as one, or a switch; the filter's property has taken it when both
+// are the same number.
+bool holds(const AbstractFilter& filter, const QString& param, const QVariant& value)
+{
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    return isNumber && number == filter.property(param.toUtf8().constData()).toDouble();
+}
+
+std::pair<QString, QVariantMap> checkedFilter(const QJsonValue& element)
+{
+    const QJsonObject description = element.toObject();
+    if (!description.value(nameKey).isString())
+        throw Fault{Diagnosis::tr("expected an object with the filter's \"name\"")};
+    const QStringList keys = description.keys();
+    for (const QString& key : keys) {
+        if (key != nameKey && key != paramsKey)
+            throw Fault{Diagnosis::tr("unknown key \"%1\"").arg(key)};
+    }
+    const QString name = description.value(nameKey).toString();
+    const QJsonValue paramsValue = description.value(paramsKey);
+    if (!paramsValue.isObject() && !paramsValue.isUndefined())
+        throw Fault{Diagnosis::tr("\"params\": expected an object")};
+    const QVariantMap params = paramsValue.toObject().toVariantMap();
+
+    const std::unique_ptr<AbstractFilter> filter(FilterFactory::createFilter(name, {}));
+    if (!filter) {
+        throw Fault{Diagnosis::tr("unknown filter \"%1\" (known: %2)")
+                        .arg(name, FilterFactory::getFilters().join(QStringLiteral(", ")))};
+    }
+    const QJsonObject known = filterParams(*filter);
+    for (auto param = params.keyBegin(); param != params.keyEnd(); ++param) {
+        if (!known.contains(*param)) {
+            throw Fault{Diagnosis::tr("%1: unknown parameter \"%2\" (known: %3)")
+                            .arg(name, *param, known.keys().join(QStringLiteral(", ")))};
+        }
+    }
+    filter->setParams(params);
+    for (auto param = params.begin(); param != params.end(); ++param) {
+        if (!holds(*filter, param.key(), param.value()))
+            throw Fault{Diagnosis::tr("%1: parameter \"%2\" cannot hold this value")
+                            .arg(name, param.key())};
+    }
+    return {name, params};
+}
+
+} // namespace
+
+ListKind kindOf(const ArrayFile& file)
+{
+    const QJsonArray elements = file.elements();
+    const auto anyHas = [&elements](const char* key) {
+        return std::any_of(elements.begin(), elements.end(), [key](const QJsonValue& element) {
+            return element.toObject().contains(QLatin1String(key));
+        });
+    };
+    if (anyHas("group"))
+        return ListKind::Settings;
+    return anyHas("name") ? ListKind::Filters : ListKind::Other;
+}
+
+void requireKind(const ArrayFile& file, ListKind wanted)
+{
+    const ListKind kind = kindOf(file);
+    if (kind == wanted || kind == ListKind::Other)
+        return;
+    const QString fault = kind == ListKind::Settings
+        ? Diagnosis::tr("%1: is a settings list, where a filters file is expected")
+        : Diagnosis::tr("%1: is a filters file, where a settings list is expected");
+    throw Fault{fault.arg(file.name())};
+}
+
+FilterSet::FilterSet(const ArrayFile& file, ListKind kind)
+{
+    requireKind(file, kind);
+    if (kind == ListKind::Settings)
+        addSettings(file);
+    else
+        addFilters(file);
+}
+
+void FilterSet::addFilters(const ArrayFile& file)
+{
+    const QJsonArray elements = file.elements();
+    for (int i = 0; i < elements.size(); ++i) {
+        try {
+            m_filters.append(checkedFilter(elements.at(i)));
+        } catch (const Fault& fault) {
+            throw Fault{QStringLiteral("%1: %2").arg(file.place(i), fault.message)};
+        }
+    }
+}
+
+void FilterSet::addSettings(const ArrayFile& file)
+{
+    AcceptorSettings().setList(file.elements().toVariantList());
+    const auto add = [this, &file](const char* name, const QVariantMap& params) {
+        const QJsonObject description{{nameKey, QLatin1String(name)},
+                                      {paramsKey, QJsonObject::fromVariantMap(params)}};
+        try {
+            m_filters.append(checkedFilter(description));
+        } catch (const Fault& fault) {
+            throw Fault{QStringLiteral("%1: %2").arg(file.name(), fault.message)};
+        }
+    };
+    add(filters::ACCEPT_FILTER, {{QStringLiteral("acceptAll"), AcceptorSettings::acceptAll()}});
+    const QList<AcceptorAttemptFilterItem> limits = AcceptorSettings::attemptsFilter();
+    for (const AcceptorAttemptFilterItem& limit : limits) {
+        add(filters::ATTEMPTS_FILTER,
+            {{QStringLiteral("denom"), limit.denom()},
+             {QStringLiteral("attempts"), limit.attempts()}});
+    }
+    if (AcceptorSettings::maxSumm() > 0) {
+        // The sums of a session have 32 bits: none exceeds this.
+        const qint64 maximum = qMin<qint64>(AcceptorSettings::maxSumm(), INT_MAX);
+        add(filters::SESSION_SUM_FILTER, {{QStringLiteral("sessionSum"), maximum}});
+    }
+    for (const AcceptorDeviceSettings* const device : std::as_const(AcceptorSettings::devices)) {
+        const auto id = static_cast<quint32>(device->type());
+        // Of two devices of a model, nobody knows which one the log means.
+        m_deviceNames.insert(id, m_deviceNames.contains(id) ? QString() : device->name());
+    }
+}
+
+QList<AbstractFilter*> FilterSet::addTo(FilterChain& chain) const
+{
+    QList<AbstractFilter*> made;
+    for (const auto& [name, params] : m_filters) {
+        made.append(FilterFactory::createFilter(name, params));
+        chain.add(made.last());
+    }
+    return made;
+}
+
+QStringList FilterSet::rules() const
+{
+    FilterChain chain;
+    const QList<AbstractFilter*> made = addTo(chain);
+    QStringList sentences;
+    for (const AbstractFilter* const filter : made)
+        sentences += filterRule(*filter);
+    return sentences;
+}
+
+QString filterName(const AbstractFilter& filter)
+{
+    return QLatin1String(filter.metaObject()->className());
+}
+
+QJsonObject filterParams(const AbstractFilter& filter)
+{
+    QJsonObject params;
+    const QList<FieldDescription> descriptions = filter.getFieldsDescription();
+    for (const FieldDescription& description : descriptions) {
+        const QVariant value = filter.property(description.name.toUtf8().constData());
+        params.insert(description.name, value.toInt());
+    }
+    return params;
+}

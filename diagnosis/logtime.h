@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+/// When a line of a log was written: an ISO 8601 text as it stands, or milliseconds since 1970, or
+/// not known.
+class LogTime
+{
+public:
+    LogTime() = default;
+
+    /// Throws Fault for a value that is no time.
+    explicit LogTime(const QVariant& value);
+
+    bool isKnown() const { return m_hasMilliseconds || !m_text.isEmpty(); }
+
+    /// The text as it stands, or the milliseconds in UTC; empty when not known.
+    QString iso() const;
+
+    /// The time of day on the clock that the log was written by, as 10:05:12; that of UTC has
+    /// "UTC" behind it. Empty when not known.
+    QString clock() const;
+
+private:
+    QString m_text;
+    qint64 m_milliseconds = 0;
+    bool m_hasMilliseconds = false;
+};

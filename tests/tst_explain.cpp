@@ -1,0 +1,399 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "velmorun.h"
+
+#include "arrayfile.h"
+#include "explanation.h"
+#include "fault.h"
+
+#include <QBuffer>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <random>
+
+namespace {
+
+std::unique_ptr<QIODevice> bufferOf(const QByteArray& bytes)
+{
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(bytes);
+    buffer->open(QIODevice::ReadOnly);
+    return buffer;
+}
+
+FilterSet filterSet(const QString& json)
+{
+    TextInput text(bufferOf(json.toUtf8()), "filters"_s);
+    const ArrayFile file(text, "filters"_s);
+    return {file, ListKind::Filters};
+}
+
+QString numbers(const QJsonValue& array)
+{
+    QStringList texts;
+    for (const QVariant& number : array.toVariant().toList())
+        texts += number.toString();
+    return texts.join(QLatin1Char(','));
+}
+
+// A line of JSON as the expected answers have it: numbers and names, and behind a bar the text
+// after the headline's place.
+QString answerLine(const QString& json)
+{
+    const QJsonObject o = QJsonDocument::fromJson(json.toUtf8()).object();
+    if (o["kind"_s] != QJsonValue("note"_s))
+        return {};
+    QStringList parts{"%1"_s.arg(o["session"_s].toInt()),
+                      "%1/%2"_s.arg(o["device"_s].toInt()).arg(o["thread"_s].toInt()),
+                      "%1"_s.arg(o["line"_s].toInt()),
+                      o["note"_s].isNull() ? "?"_s : "%1"_s.arg(o["note"_s].toInt()),
+                      o["outcome"_s].toString() + (o["taken"_s].toBool() ? "+"_s : QString())};
+    for (const QVariant& filter : o["filters"_s].toArray().toVariantList()) {
+        const QJsonObject objection = QJsonObject::fromVariantMap(filter.toMap());
+        parts += "%1(%2)"_s.arg(objection["name"_s].toString(), numbers(objection["evidence"_s]));
+    }
+    for (const QVariant& machine : o["machine"_s].toArray().toVariantList())
+        parts += "%1@%2"_s.arg(machine.toMap()["what"_s].toString(),
+                               machine.toMap()["line"_s].toString());
+    for (const QVariant& doubt : o["uncertain"_s].toArray().toVariantList())
+        parts += "!%1"_s.arg(doubt.toString());
+    return parts.join(QLatin1Char(' '));
+}
+
+const QByteArray gzipOfOneLine = QByteArray::fromHex(
+    "1f8b0800000000000203ab562a2e492c4955b2524a4c4e4e2d28c9cc4b57d2514a2e2d2a4acd2b89cfcb074919"
+    "1a1818d47201007e589d2b2a000000");
+
+} // namespace
+
+class tst_Explain : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QLoggingCategory::setFilterRules("default.debug=false"_s); }
+
+    // Logs and their hand-written answers: tests/explain/*.expected, the logs of that name in
+    // samples or beside them.
+    void logGivesItsAnswers_data()
+    {
+        QTest::addColumn<QString>("log");
+        const QDir expected(QStringLiteral(EXPLANATIONS));
+        for (const QString& name : expected.entryList({"*.expected"_s})) {
+            const QString own = expected.filePath(name.chopped(9) + ".jsonl"_s);
+            QTest::newRow(qPrintable(name.chopped(9)))
+                << (QFile::exists(own) ? own : sample(name.chopped(9) + ".jsonl"_s));
+        }
+        for (const QString& name : QDir(sample({})).entryList({"*.jsonl"_s}))
+            QVERIFY2(expected.exists(name.chopped(6) + ".expected"_s), qPrintable(name));
+    }
+
+    void logGivesItsAnswers()
+    {
+        QFETCH(QString, log);
+        QFile file(QStringLiteral(EXPLANATIONS "/%1.expected")
+                       .arg(QString::fromUtf8(QTest::currentDataTag())));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QStringList expected = QString::fromUtf8(file.readAll())
+                                         .split(QLatin1Char('\n'))
+                                         .filter(QRegularExpression("^[^#]"_s));
+        const VelmoRun run = velmo({"explain"_s, log, "--filters"_s, sample("filters.json"_s),
+                                    "--json"_s, "--keep-going"_s});
+        QCOMPARE(run.exitCode, run.err.isEmpty() ? 0 : 2);
+        QStringList actual;
+        for (const QString& line : run.outLines())
+            actual += answerLine(line);
+        actual.removeAll(QString());
+        QCOMPARE(actual, expected);
+    }
+
+    void sentencesTellWhy_data()
+    {
+        // Filter, log with the lines between semicolons, what the last answer says.
+        addRows(R"(
+            AttemptsFilter denom=1000 attempts=2 | {"enabled":true};R;{"state":"busy"};R;A1000 | line 5, Device 0: note of 1000 refused. Notes were rejected 2 times since the session began (lines 2 and 4); 2 are allowed for 1000. The next stacked note or session clears this.
+            AttemptsFilter denom=1000 attempts=2 | {"enabled":true};A500;{"state":"stacked"};R;{"state":"busy"};R;{"state":"busy"};R;A1000 | Notes were rejected 3 times since the stacked note of line 3 (at last in lines 6 and 8); 2 are allowed for 1000.
+            AttemptsFilter denom=1000 attempts=0 | {"enabled":true};A1000 | No attempts at all are allowed for 1000.
+            DenomCountFilter denom=500 count=0 | {"enabled":true};A500 | No notes of 500 are allowed at all.
+            SessionSumFilter sessionSum=3000 | {"session_sum":2500};A1000 | 2500 taken + note 1000 > limit 3000. The next session clears this.
+            AcceptFilter acceptAll=0 | A1000 | All notes are switched off (acceptAll is 0).
+            AcceptFilter acceptAll=0 | A1000;{"state":"stacked"} | It was taken although refused (line 2).
+            AcceptFilter acceptAll=1 | A1000;{"state":"rejected"} | note of 1000 rejected. By the device itself; no filter objected.
+            AcceptFilter acceptAll=1 | {"error_critical":true};A1000;{"state":"returned","error_text":"jam"} | note of 1000 returned. The device had a critical error (since line 1): jam. Uncertain:
+            AcceptFilter acceptAll=1 | {"time":"2026-11-16T10:05:12","device_id":100};{"time":"2026-11-16T10:05:12","state":"accepting","current_note":10} | Session 1, line 2, 10:05:12, Coin acceptor (CCTalk): coin of 10: the log does not say what became of it.
+            AcceptFilter acceptAll=1 | {"time":0,"device_id":1,"state":"rejected"} | line 1, 00:00:00 UTC, Bill validator (CCNet): note of unknown value rejected.)"_s);
+    }
+
+    void sentencesTellWhy()
+    {
+        QFETCH(QStringList, row);
+        QJsonObject params;
+        const QStringList filter = row.at(0).split(QLatin1Char(' '));
+        for (const QString& param : filter.mid(1))
+            params[param.section(QLatin1Char('='), 0, 0)] = param.section(QLatin1Char('='), 1);
+        const QByteArray description = QJsonDocument(params).toJson(QJsonDocument::Compact);
+        NoteAnswer last;
+        LogExplainer explainer(filterSet(R"([{"name":"%1","params":%2}])"_s.arg(
+                                   filter.at(0), QString::fromUtf8(description))),
+                               [&](const NoteAnswer& answer) { last = answer; });
+        const QStringList lines = row.at(1).split(QLatin1Char(';'));
+        for (int i = 0; i < lines.size(); ++i) {
+            QString line = lines.at(i);
+            if (line.startsWith(QLatin1Char('A')))
+                line = R"({"state":"accepting","current_note":%1})"_s.arg(line.mid(1));
+            else if (line == "R"_s)
+                line = R"({"state":"rejected"})"_s;
+            explainer.take(SessionLine(line), i + 1);
+        }
+        explainer.finish();
+        QVERIFY2(last.text().contains(row.at(2)), qPrintable(last.text()));
+    }
+
+    // Random sessions: a note is explained as refused exactly when the chain refused it, and the
+    // evidence is enough: with every other event idle the chain still refuses it.
+    void explanationsHoldAgainstTheFilters()
+    {
+        std::mt19937 random(12);
+        const auto pick = [&random](int below) { return int(random() % unsigned(below)); };
+        int refusals = 0;
+        for (int round = 0; round < 400; ++round) {
+            const FilterSet filters = filterSet(
+                R"([{"name":"AttemptsFilter","params":{"denom":100,"attempts":%1}},
+                    {"name":"DenomCountFilter","params":{"denom":500,"count":%2}},
+                    {"name":"SessionSumFilter","params":{"sessionSum":%3}}])"_s.arg(pick(4))
+                    .arg(pick(4))
+                    .arg(500 + 100 * pick(30)));
+            DeviceStateWorker worker; // what the service would hold
+            FilterChain chain;
+            chain.setEvents(worker.getStatesList());
+            filters.addTo(chain);
+            QVector<qint64> eventLines;
+            QMap<qint64, StatesList> refused; // the events up to each refused note, by its line
+            QMap<qint64, QVector<qint64>> linesOf;
+            QVector<qint64> explained;
+            LogExplainer explainer(filters, [&](const NoteAnswer& answer) {
+                if (answer.outcome != Outcome::Refused)
+                    return;
+                explained += answer.line;
+                StatesList events = refused.value(answer.line);
+                QVector<qint64> evidence;
+                for (const Objection& objection : answer.objections)
+                    evidence += objection.evidence;
+                for (int i = 0; i < events.size() - 1; ++i) {
+                    if (!evidence.contains(linesOf.value(answer.line).at(i))) {
+                        events[i] = DeviceState();
+                        events[i].state = STATE_IDLING;
+                    }
+                }
+                FilterChain again;
+                again.setEvents(&events);
+                filters.addTo(again);
+                QVERIFY(!events.isEmpty() && again.validate() == AbstractFilter::FILTER_REJECT);
+            });
+            static const char* const states[] = {"accepting", "accepting", "accepted", "rejected",
+                                                 "rejected",  "stacked",   "idling"};
+            for (int line = 1; line <= 40; ++line) {
+                QJsonObject report{{"state"_s, QString::fromUtf8(states[pick(7)])}};
+                if (pick(2) == 0)
+                    report["current_note"_s] =
+                        QVector<int>{0, 100, 100, 500, 500, 1000}.at(pick(6));
+                if (pick(4) == 0)
+                    report["session_sum"_s] = 100 * pick(30);
+                if (pick(15) == 0)
+                    report["session"_s] = "start"_s;
+                const SessionLine said(QString::fromUtf8(QJsonDocument(report).toJson()));
+                if (said.startsSession()) {
+                    worker.startSession();
+                    eventLines.clear();
+                }
+                const DeviceState before = worker.getStatesList()->isEmpty()
+                    ? DeviceState()
+                    : worker.getStatesList()->constLast();
+                said.reports().front().applyTo(*worker.getState());
+                if (worker.checkState()) {
+                    worker.saveState();
+                    eventLines += line;
+                    const DeviceState& event = worker.getStatesList()->constLast();
+                    const bool isOffer = event.state == STATE_ACCEPTING && event.currentNote > 0
+                        && !(before.state == STATE_ACCEPTING
+                             && before.currentNote == event.currentNote);
+                    if (isOffer && chain.validate() != AbstractFilter::FILTER_ACCEPT) {
+                        refused.insert(line, *worker.getStatesList());
+                        linesOf.insert(line, eventLines);
+                    }
+                }
+                explainer.take(said, line);
+            }
+            explainer.finish();
+            QCOMPARE(explained, refused.keys().toVector());
+            refusals += int(explained.size());
+        }
+        QVERIFY(refusals > 500);
+    }
+
+    void logsAreReadPlainAndCompressed_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("expected"); // lines between bars, or a fault
+        const QByteArray gz = gzipOfOneLine;
+        QTest::newRow("plain") << QByteArray("a\n\nb") << "a||b"_s;
+        QTest::newRow("line as long as many chunks") << QByteArray(300000, 'x') + "\ny\n"
+                                                     << QString(300000, QLatin1Char('x')) + "|y"_s;
+        QTest::newRow("compressed") << gz << R"({"state":"accepting","current_note":1000})"_s;
+        QTest::newRow("two members")
+            << gz + gz
+            << R"({"state":"accepting","current_note":1000}|{"state":"accepting","current_note":1000})"_s;
+        QTest::newRow("cut off") << gz.left(40) << "log: the compressed file is cut off"_s;
+        QTest::newRow("damaged") << gz.left(20) + "junkjunkjunk" + gz.mid(32)
+                                 << "log: the compressed file is damaged"_s;
+        QTest::newRow("one byte") << QByteArray("\x1f") << "\x1f"_s;
+    }
+
+    void logsAreReadPlainAndCompressed()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, expected);
+        TextInput input(bufferOf(bytes), "log"_s);
+        QByteArrayList lines;
+        QString result;
+        try {
+            QByteArray line;
+            while (input.readLine(line))
+                lines += line;
+            result = QString::fromUtf8(lines.join('|'));
+            QCOMPARE(input.lineNumber(), qint64(lines.size()));
+        } catch (const Fault& fault) {
+            result = fault.message;
+        }
+        QCOMPARE(result, expected);
+    }
+
+    void documentedLinesAreRead()
+    {
+        QFile file(QStringLiteral(FORMATS));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString example =
+            QString::fromUtf8(file.readAll()).section("```jsonl\n"_s, 1).section("\n```"_s, 0, 0);
+        QVector<NoteAnswer> answers;
+        LogExplainer explainer(filterSet("[]"_s),
+                               [&](const NoteAnswer& answer) { answers += answer; });
+        for (const QString& line : example.split(QLatin1Char('\n')))
+            explainer.take(SessionLine(line), 1);
+        explainer.finish();
+        QCOMPARE(answers.size(), 1);
+        QVERIFY(answers.at(0).taken);
+        QCOMPARE(answers.at(0).time.iso(), "2026-11-16T10:05:12.000Z"_s);
+    }
+
+    void badLinesAreNamed_data()
+    {
+        addRows(R"(
+            {"time":"10:05"}                            | "time": expected an ISO 8601 time or milliseconds since 1970
+            {"time":"2026-02-30T10:05:12"}              | "time": expected an ISO 8601 time
+            {"time":"2026-11-16T24:05:12Z"}             | "time": expected an ISO 8601 time
+            {"session":true}                            | "session": expected "start"
+            {"time":true}                               | "time": expected an ISO 8601 time
+            {"device_states":{}}                        | expected a list "device_states"
+            {"device_states":[null,1]}                  | "device_states": element 2: expected a JSON object
+            {"device_states":[{"state":"idling"}]}      | "device_states": element 1: key "device_id" is missing
+            {"device_states":[{"device_id":1,"x":1}]}   | "device_states": element 1: unknown key "x"
+            {"device_states":[],"state":"idling"}       | fields of one device beside "device_states"
+            {"notes_inserted":1}                        | unknown key "notes_inserted"
+            {"state":"idling"                           | not JSON: unterminated)"_s);
+    }
+
+    void badLinesAreNamed()
+    {
+        QFETCH(QStringList, row);
+        const QStringList arguments{"explain"_s, "-"_s, "--filters"_s, sample("filters.json"_s),
+                                    "--json"_s};
+        const QByteArray log = "{}\n" + row.at(0).toUtf8() + "\n";
+        const VelmoRun run = velmo(arguments, log);
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.startsWith("velmo: standard input:2: "_s + row.at(1)),
+                 qPrintable(run.err));
+    }
+
+    void optionsChooseWhatIsShown()
+    {
+        const QString log = sample("fished-note.jsonl"_s);
+        const auto explain = [&](const QStringList& more) {
+            return velmo(QStringList{"explain"_s, log, "--filters"_s, sample("filters.json"_s)}
+                         + more);
+        };
+        QCOMPARE(explain({"--exit-code"_s}).exitCode, 1);
+        QCOMPARE(explain({"--exit-code"_s, "--session"_s, "2"_s}).exitCode, 0);
+        QCOMPARE(explain({"--json"_s, "--refusals"_s}).outLines().size(), 2);
+        QCOMPARE(explain({"--json"_s, "--device"_s, "2"_s}).outLines().size(), 1);
+        const VelmoRun summary = explain({"--json"_s, "--summary"_s, log});
+        QCOMPARE(
+            summary.out,
+            R"({"kind":"summary","sessions":4,"offered":{"count":12,"sum":11000},"taken":{"count":2,"sum":1000},"refused":{"count":2,"sum":2000,"by":{"AttemptsFilter":2},"taken":{"count":0,"sum":0}},"rejected":{"count":4,"sum":4000},"returned":{"count":0,"sum":0},"unknown":{"count":4,"sum":4000}})"_s
+                + "\n"_s);
+        QCOMPARE(explain({"--session"_s, "x"_s}).err, "velmo: --session: expected a number\n"_s);
+        const VelmoRun text = explain({});
+        QVERIFY(text.out.startsWith("Filters in force (%1):\n"_s.arg(sample("filters.json"_s))));
+        QVERIFY(!text.out.contains(QLatin1Char('\033')));
+        QVERIFY(text.out.contains("\nOffered                      6  5500\n"_s));
+    }
+
+    void textFitsTheTerminal()
+    {
+        qputenv("COLUMNS", "60");
+        const VelmoRun explained = velmo(
+            {"explain"_s, sample("fished-note.jsonl"_s), "--filters"_s, sample("filters.json"_s)});
+        const VelmoRun replayed =
+            velmo({"replay"_s, sample("jam.jsonl"_s), "--filters"_s, sample("filters.json"_s)});
+        qunsetenv("COLUMNS");
+        for (const QString& line : explained.outLines())
+            QVERIFY2(line.size() <= 60 || line.contains("fished-note"_s)
+                         || line.startsWith("Filters"_s),
+                     qPrintable(line));
+        QVERIFY2(replayed.out.contains(
+                     "accept\n        Wait...; The stacker was full (since line 4).\n"_s),
+                 qPrintable(replayed.out));
+    }
+
+    void wrongKindsOfFilesAreNamed_data()
+    {
+        addRows(R"(
+            explain jam.jsonl --filters settings.json   | settings.json: is a settings list, where a filters file is expected
+            replay jam.jsonl --settings filters.json    | filters.json: is a filters file, where a settings list is expected
+            settings show filters.json                  | filters.json: is a filters file, where a settings list is expected
+            explain settings.json --filters filters.json| settings.json:1: not JSON)"_s);
+    }
+
+    void wrongKindsOfFilesAreNamed()
+    {
+        QFETCH(QStringList, row);
+        QStringList arguments = row.at(0).split(QLatin1Char(' '));
+        for (QString& argument : arguments)
+            argument = argument.contains(QLatin1Char('.')) ? sample(argument) : argument;
+        const VelmoRun run = velmo(arguments);
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.startsWith("velmo: "_s + sample(row.at(1))), qPrintable(run.err));
+    }
+
+    void settingsThatReadDifferentlyAreToldOnce()
+    {
+        const QString settings = writeFile(
+            m_folder.filePath("s.json"_s),
+            R"([{"group":"acceptor_common","key":"acceptAll","value":"no"},{"group":"service","key":"devices_count","value":0}])"_s);
+        const VelmoRun run = velmo({"explain"_s, sample("jam.jsonl"_s), sample("jam.jsonl"_s),
+                                    "--settings"_s, settings, "--json"_s});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.errLines().size(), 2);
+        QCOMPARE(run.errLines().at(1),
+                 "velmo: %1: answers may differ from the service's"_s.arg(settings));
+        QVERIFY(run.outLines().at(0).contains(
+            R"("filters":[{"name":"AcceptFilter","params":{"acceptAll":0},"evidence":[])"_s));
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QTEST_GUILESS_MAIN(tst_Explain)
+#include "tst_explain.moc"

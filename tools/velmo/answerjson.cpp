@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "answerjson.h"
+
+namespace {
+
+JsonText jsonOf(const Tally& tally)
+{
+    return JsonText::object({{"count", tally.count}, {"sum", tally.sum}});
+}
+
+} // namespace
+
+JsonText jsonOf(const QVector<MachineCondition>& conditions)
+{
+    return JsonText::list(conditions, [](const MachineCondition& condition) {
+        return JsonText::object(
+            {{"what", condition.what}, {"line", condition.line}, {"text", condition.text}});
+    });
+}
+
+JsonText jsonOf(const QString& log, const NoteAnswer& answer)
+{
+    const auto filter = [](const Objection& objection) {
+        return JsonText::object({{"name", objection.filter},
+                                 {"params", JsonText::of(objection.params)},
+                                 {"evidence", JsonText::list(objection.evidence)},
+                                 {"text", objection.text}});
+    };
+    return JsonText::object(
+        {{"kind", QStringLiteral("note")},
+         {"log", log},
+         {"session", answer.session},
+         {"device", qint64(answer.device)},
+         {"thread", qint64(answer.thread)},
+         {"line", answer.line},
+         {"time", answer.time.isKnown() ? JsonText(answer.time.iso()) : JsonText::null()},
+         {"note", answer.wasOffered() ? JsonText(answer.note) : JsonText::null()},
+         {"outcome", outcomeKey(answer.outcome)},
+         {"taken", answer.taken},
+         {"filters", JsonText::list(answer.objections, filter)},
+         {"machine", jsonOf(answer.machine)},
+         {"uncertain", JsonText::list(answer.uncertain)},
+         {"text", answer.text()}});
+}
+
+JsonText jsonOf(const Summary& summary)
+{
+    QJsonObject by;
+    for (auto filter = summary.refusedBy.begin(); filter != summary.refusedBy.end(); ++filter)
+        by.insert(filter.key(), filter.value());
+    const Tally& refused = summary.of(Outcome::Refused);
+    return JsonText::object({{"kind", QStringLiteral("summary")},
+                             {"sessions", summary.sessions},
+                             {"offered", jsonOf(summary.offered)},
+                             {"taken", jsonOf(summary.of(Outcome::Taken))},
+                             {"refused",
+                              JsonText::object({{"count", refused.count},
+                                                {"sum", refused.sum},
+                                                {"by", JsonText::of(by)},
+                                                {"taken", jsonOf(summary.takenAlthoughRefused)}})},
+                             {"rejected", jsonOf(summary.of(Outcome::Rejected))},
+                             {"returned", jsonOf(summary.of(Outcome::Returned))},
+                             {"unknown", jsonOf(summary.of(Outcome::Unknown))}});
+}

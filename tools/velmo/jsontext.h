@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QString>
+
+#include <type_traits>
+#include <vector>
+
+/// A JSON value as compact text. Unlike a QJsonObject, an object keeps its members in the order in
+/// which they were given, which is that of their meaning.
+class JsonText : public QByteArray
+{
+public:
+    struct Member;
+
+    JsonText(const QString& text);
+
+    template <typename Number, typename = std::enable_if_t<std::is_integral_v<Number>>>
+    JsonText(Number number)
+    {
+        if constexpr (std::is_same_v<Number, bool>)
+            append(number ? "true" : "false");
+        else
+            setNum(qint64(number));
+    }
+
+    static JsonText of(const QJsonValue& value)
+    {
+        const QByteArray array = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+        return JsonText(array.mid(1, array.size() - 2));
+    }
+
+    static JsonText null();
+
+    static JsonText object(const std::vector<Member>& members);
+
+    /// @param toText gives the text of one element
+    template <typename List, typename ToText>
+    static JsonText list(const List& elements, ToText toText)
+    {
+        QByteArray text;
+        for (const auto& element : elements)
+            text += (text.isEmpty() ? "" : ",") + toText(element);
+        return JsonText('[' + text + ']');
+    }
+
+    template <typename List>
+    static JsonText list(const List& elements)
+    {
+        return list(elements, [](const auto& element) { return JsonText(element); });
+    }
+
+private:
+    explicit JsonText(const QByteArray& text)
+        : QByteArray(text)
+    {
+    }
+};
+
+struct JsonText::Member
+{
+    const char* key; ///< plain ASCII
+    JsonText value;
+};
