@@ -360,8 +360,8 @@ private Q_SLOTS:
     {
         addRows(R"(
             explain jam.jsonl --filters settings.json   | settings.json: is a settings list, where a filters file is expected
-            replay jam.jsonl --settings filters.json    | filters.json: is a filters file, where a settings list is expected
-            settings show filters.json                  | filters.json: is a filters file, where a settings list is expected
+            replay jam.jsonl --settings filters.json    | filters.json: not a settings list: looks like a filters file
+            settings show filters.json                  | filters.json: not a settings list: looks like a filters file
             explain settings.json --filters filters.json| settings.json:1: not JSON)"_s);
     }
 

@@ -1,19 +1,171 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
+#include "acceptors.h"
+#include "acceptorsettings.h"
+#include "settingscheck.h"
+#include "settingsedit.h"
 #include "velmorun.h"
 
+#include <QBuffer>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRandomGenerator>
+
+#include <algorithm>
 
 namespace {
 
-QString contentOf(const QString& name)
+QByteArray contentOf(const QString& name)
 {
     QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
+
+// A path of this test's table: a file of the samples or of tests/settings.
+QString located(const QString& name)
+{
+    const QString own = QStringLiteral(SETTINGS "/") + name;
+    return QFileInfo::exists(own) ? own : sample(name);
+}
+
+ArrayFile arrayFile(const QByteArray& text)
+{
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(text);
+    buffer->open(QIODevice::ReadOnly);
+    TextInput input(std::move(buffer), "list"_s);
+    return readSettingsFile(input);
+}
+
+// What the model has of a list. Each device's port log is not its own there.
+QMap<QString, QString> modelValues(const QVariantList& list)
+{
+    AcceptorSettings().setList(list);
+    QMap<QString, QString> values;
+    const QVariantList written = AcceptorSettings().toList();
+    for (const QVariant& element : written) {
+        const QVariantMap map = element.toMap();
+        const QString path = map["group"_s].toString() + "/"_s + map["key"_s].toString();
+        if (!path.endsWith("/debug/port_logging"_s))
+            values.insert(path, map["value"_s].toString());
+    }
+    values["service/devices_count"_s] = QString::number(AcceptorSettings::deviceCount());
+    return values;
+}
+
+// The lines of a list, each without its comma.
+class Lines : public QStringList
+{
+public:
+    explicit Lines(const QByteArray& text)
+        : QStringList(QString::fromUtf8(text).replace("},\n"_s, "}\n"_s).split("\n"_s))
+    {
+    }
+
+    Lines without(const Lines& others) const
+    {
+        Lines rest = *this;
+        for (const QString& line : others)
+            rest.removeOne(line);
+        return rest;
+    }
+
+    // "PATH=VALUE" for each.
+    QString elements() const
+    {
+        QStringList texts;
+        for (const QString& line : *this) {
+            const QJsonObject element = QJsonDocument::fromJson(line.toUtf8()).object();
+            texts += element["group"_s].toString() + "/"_s + element["key"_s].toString() + "="_s
+                + element["value"_s].toVariant().toString();
+        }
+        return texts.join(QLatin1Char(' '));
+    }
+};
+
+int commonBegin(const QByteArray& a, const QByteArray& b)
+{
+    return int(std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first - a.begin());
+}
+
+// Whether two texts are the same before and behind one value.
+bool differOnlyIn(const QByteArray& before, const QByteArray& after,
+                  const SettingsEdit::Change& change)
+{
+    const int begin = commonBegin(before, after);
+    const auto reversed = [begin](QByteArray text) {
+        std::reverse(text.begin(), text.end());
+        return text.chopped(begin);
+    };
+    const int end = commonBegin(reversed(before), reversed(after));
+    const auto room = [](const QVariant& value) {
+        return QJsonDocument(QJsonArray{value.toString()}).toJson(QJsonDocument::Compact).size();
+    };
+    return before.size() - begin - end < room(change.before)
+        && after.size() - begin - end < room(change.after);
+}
+
+class Random : public QRandomGenerator
+{
+public:
+    using QRandomGenerator::QRandomGenerator;
+
+    int below(int limit) { return int(bounded(limit)); }
+
+    template <typename List>
+    auto of(const List& list)
+    {
+        return list.at(below(int(list.size())));
+    }
+
+    QString valueFor(const SettingDescription& setting)
+    {
+        switch (setting.kind()) {
+        case SettingDescription::Number:
+            return QString::number(setting.minimum().toInt() + below(5));
+        case SettingDescription::Switch:
+            return QString::number(below(2));
+        case SettingDescription::Choice:
+            return of(setting.choices());
+        case SettingDescription::AttemptsLimits:
+            return R"([{"attempts":"%1","denom":"100"}])"_s.arg(1 + below(3));
+        case SettingDescription::RouteMap:
+            return QString();
+        default:
+            return "text %1, \"quoted\""_s.arg(generate());
+        }
+    }
+
+    // A configuration in which everything is set and no two devices have one address.
+    QVariantList completeList()
+    {
+        AcceptorSettings settings;
+        settings.setList({});
+        const int count = 1 + below(4);
+        for (int device = 0; device < count; ++device) {
+            for (const SettingDescription& setting : AcceptorSettings::settingDescriptions()) {
+                const QStringList group = setting.group().split(QLatin1Char('/'));
+                const QString subgroup = group.value(1);
+                if (setting.isRead())
+                    settings.updateValue(subgroup.isEmpty() ? group.at(0)
+                                                            : "device"_s + QString::number(device),
+                                         subgroup, setting.key(), valueFor(setting));
+            }
+        }
+        return settings.toList();
+    }
+
+    QByteArray textOf(const QVariantList& list)
+    {
+        const QJsonDocument document = QJsonDocument::fromVariant(list);
+        if (below(2) == 0)
+            return document.toJson();
+        return document.toJson(QJsonDocument::Compact).replace("},", "},\r\n\t");
+    }
+};
 
 } // namespace
 
@@ -24,167 +176,323 @@ class tst_SettingsTool : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_list = writeFile(m_folder.filePath("list.json"_s),
-                           contentOf(sample("settings.json"_s)).remove("\n\n"_s));
+        m_list = m_folder.filePath("list.json"_s);
+        QFile::remove(m_list);
+        QVERIFY(QFile::copy(sample("settings.json"_s), m_list));
     }
 
-    void sampleIsCleanAndShown()
-    {
-        const VelmoRun check = velmo({"settings"_s, "check"_s, sample("settings.json"_s)});
-        QCOMPARE(check.out + check.err, QString());
-        QCOMPARE(check.exitCode, 0);
-
-        const VelmoRun show = velmo({"settings"_s, "show"_s, m_list});
-        QCOMPARE(show.exitCode, 0);
-        const QString shown = show.out.simplified();
-        QVERIFY(
-            shown.startsWith("Common settings Setting Value acceptor_common/acceptAll default 1 "
-                             "acceptor_common/maxSumm 15000 "_s));
-        QVERIFY(shown.contains(R"(Device 0: CCNet (1) "Bill validator", rs232 ttyS0 Setting)"_s));
-        QVERIFY(shown.contains("device0/ccnet/response_time default 1000 "_s));
-        QVERIFY(shown.contains("device0/ccnet/reset_interval 4000 "_s));
-        QVERIFY(shown.contains(R"("Card terminal", tcp 192.168.10.5:10400 )"_s));
-        const VelmoRun json = velmo({"settings"_s, "show"_s, m_list, "--json"_s});
-        const QJsonObject map = QJsonDocument::fromJson(json.out.toUtf8()).object();
-        QCOMPARE(map["device1/hw_interface"_s].toObject()["parity"_s], QJsonValue("EVEN"_s));
-        QVERIFY(velmo({"settings"_s, "routes"_s, m_list})
-                    .out.contains("RUB              500  note      1     20\n"_s));
-    }
-
-    void getAnswersThroughTheModel_data()
+    // What was asked of which list, the exit code and what the answer has; of several things, "&"
+    // stands between them.
+    void whatTheServiceWouldUseIsSaid_data()
     {
         addRows(R"(
-            device0/ccnet/response_time         | 1000
-            device2/hw_interface/PortName       | ttyS2
-            service/devices_count               | 5
-            device0/ccnet/response_tim          | nearest known: device0/ccnet/response_time
-            acceptor_common/maxSum              | nearest known: acceptor_common/maxSumm
-            device1/id003/response_time         | device1/id003/response_time is not set
-            devices_count                       | expected GROUP/KEY)"_s);
+            check settings.json                                              | 0 |
+            check sound.json                                                 | 0 |
+            check stopbits-twice.json                                        | 1 | stopbits-twice.json:13: error: device0/hw_interface/stopbits: does not count
+            get stopbits-twice.json device0/hw_interface/stopBit --source    | 0 | 2\tlist ( & stopbits-twice.json:14)
+            set stopbits-twice.json device0/hw_interface/stopbits=1 -n       | 0 | -    {"group": "device0/hw_interface", "key": "stopBit", "value": "2"} & +    {"group": "device0/hw_interface", "key": "stopBit", "value": "1"}
+            get port-name-for-number.json device1/hw_interface/tcp_port      | 0 | http\n
+            check port-name-for-number.json                                  | 1 | :17: error: device1/hw_interface/tcp_port: "http" is no whole number
+            get count-without-devices.json service/devices_count             | 0 | 7\n
+            show count-without-devices.json                                  | 0 | 7\n
+            check count-without-devices.json                                 | 1 | error: device0: is missing, but below the device count & error: device6: is
+            get device-port-log.json device0/debug/port_logging              | 0 | true\n
+            show device-port-log.json --json                                 | 0 | {"default":false,"path":"device0/debug/port_logging","source":"list","value":true}
+            set device-port-log.json device0/debug/port_logging=0 -n         | 0 | "key": "port_logging", "value": false}
+            check device-port-log.json                                       | 1 | :5: warning: device0/debug/port_logging: differs
+            check no-ccnet.json                                              | 1 | device0/ccnet/response_time: is missing: the built-in default is "1000" & rest_interval
+            get no-ccnet.json device0/ccnet/response_time --source           | 0 | 1000\tdefault & AcceptorSettings has "0"
+            check no-model.json                                              | 1 | error: device1/device/device_id: is missing
+            check gap.json                                                   | 1 | error: device1: is missing, but below the device count
+            check same-port.json                                             | 1 | :15: error: device1/hw_interface/portname: "ttyS0" is where device0 is too
+            check same-host.json                                             | 1 | error: device1/hw_interface/tcp_port: "127.0.0.1:10400" is where device0 is too
+            check count-above-devices.json                                   | 1 | error: device2: is missing
+            check empty-port.json                                            | 1 | :11: error: device0/hw_interface/portname: "" is no address
+            check out-of-range.json                                          | 1 | maxSumm: "-5" is out of its range 0 to & devices_count: "1000000" is out & tcp_port: "99999" is out of its range 1 to 65535 & response_time: "-1"
+            set settings.json device5/device/device_id=1                     | 2 | error: device5/hw_interface/portname: "" is no address & not written
+            add-device settings.json ccnet portname=ttyS9 -n                 | 0 | "device5/ccnet", "key": "response_time", "value": 1000} & "value": 6}
+            add-device gap.json 1 portname=ttyS9 -n                          | 0 | "device1/ccnet", "key": "bill_table_interval", "value": 5000}
+            add-device settings.json 6 portname=a -n                         | 0 | "device5/id003", "key": "polling_interval", "value": 200} & device5/id003/polling_interval has no built-in default and gets that of device5/ccnet/polling_interval
+            add-device settings.json CCNot                                   | 2 | "CCNot" is no model of the catalogue (nearest known: CCNet)
+            add-device settings.json 1 port=x                                | 2 | has no "port" (nearest known:
+            set settings.json device7/device/device_id=1                     | 2 | there is no device7; velmo settings add-device makes device5
+            set settings.json acceptor_common/maxSumm=-5                     | 2 | maxSumm: "-5" is out of its range
+            set settings.json acceptor_common/maxSumm=much                   | 2 | "much" is no whole number: reads as "0"
+            set settings.json acceptor_common/reset_stats=7                  | 2 | "7" is out of its range 0 to 4: reads as "0"
+            set settings.json device0/device/device_id=8                     | 2 | "8" is none of 6, 7, 5
+            set settings.json device0/hw_interface/parity=mark               | 2 | "mark" is none of even, odd, space, none: reads as "none"
+            set settings.json service/devices_count=4                        | 2 | error: device4: is not below the device count
+            set settings.json device3/hw_interface/interface_type=rs232      | 2 | device3/hw_interface/portname: "" is no address
+            set settings.json acceptor_common/acceptal=1                     | 2 | nearest known: acceptor_common/acceptAll
+            set settings.json acceptor_common/acceptAll                      | 2 | expected SETTING=VALUE
+            unset settings.json device0/ccnet/rest_interval                  | 2 | error: device0/ccnet/rest_interval: is missing
+            remove-device settings.json 5                                    | 2 | there is no device5
+            check filters.json                                               | 2 | not a settings list: looks like a filters file
+            show jam.jsonl                                                   | 2 | not a settings list: looks like a session log
+            get settings.json device0/ccnet/response_tim                     | 2 | nearest known: device0/ccnet/response_time
+            get settings.json device1/id003/response_time                    | 2 | not for a device of this model
+            get settings.json devices_count                                  | 2 | expected GROUP/KEY
+            get settings.json device2/hw_interface/PortName                  | 0 | ttyS2\n
+            get settings.json device0/ict/reset_timeout --source             | 0 | 0\tdefault
+            filters settings.json --json                                     | 0 | {"name":"AttemptsFilter","params":{"attempts":2,"denom":5000}}, & {"sessionSum":15000}
+            show settings.json                                               | 0 | Device 0: CCNet (1) "Bill validator", rs232 ttyS0\n & "Card terminal", tcp 192.168.10.5:10400\n & \n  RUB              500  note      1     20\n
+            show settings.json --formatted                                   | 0 | "parity": "EVEN"
+            complete settings set settings.json device1/hw_interface/parity= | 0 | device1/hw_interface/parity=even\n
+            complete settings get settings.json device4/dev                  | 0 | device4/device/device_id\ndevice4/device/device_name\n
+            complete settings add-device settings.json CC                    | 0 | CCNet\nCCTalk\n)"_s);
     }
 
-    void getAnswersThroughTheModel()
+    void whatTheServiceWouldUseIsSaid()
     {
         QFETCH(QStringList, row);
-        const VelmoRun run = velmo({"settings"_s, "get"_s, m_list, row.at(0)});
-        const bool isValue = run.exitCode == 0;
-        QVERIFY2(isValue ? run.out == row.at(1) + "\n"_s : run.err.contains(row.at(1)),
-                 qPrintable(run.out + run.err));
-        QCOMPARE(isValue, !row.at(1).contains(QLatin1Char(' ')));
+        QStringList words = row.at(0).split(QLatin1Char(' '));
+        const bool completes = words.at(0) == "complete"_s;
+        for (QString& word : words) {
+            if (word.contains(".json"_s))
+                word = located(word);
+        }
+        const QByteArray sampleBefore = contentOf(sample("settings.json"_s));
+        const VelmoRun run = completes ? velmo(QStringList("complete"_s) << "--"_s << words.mid(1))
+                                       : velmo(QStringList("settings"_s) + words);
+        const QString answer = run.out + run.err;
+        QVERIFY2(run.exitCode == row.at(1).toInt(), qPrintable(answer));
+        QString expected = row.at(2);
+        expected.replace("\\n"_s, "\n"_s).replace("\\t"_s, "\t"_s);
+        for (const QString& part : expected.split(" & "_s))
+            QVERIFY2(answer.contains(part), qPrintable(answer));
+        QCOMPARE(answer.isEmpty(), expected.isEmpty());
+        QCOMPARE(contentOf(sample("settings.json"_s)), sampleBefore);
     }
 
-    // Assignments, then the elements that the list has more, and those that it has no more.
-    void setChangesNothingElse_data()
+    // The edit, then the elements that the sample has more and those that it has no more.
+    void editChangesNothingElse_data()
     {
         addRows(R"(
-            acceptor_common/maxSumm=20000                 | acceptor_common/maxSumm=20000 | acceptor_common/maxSumm=15000
-            acceptor_common/maxSumm=15000                 | |
-            device0/hw_interface/flowControl=XON/XOFF     | device0/hw_interface/flowcontrol=xonxoff | device0/hw_interface/flowcontrol=none
-            service/devices_count=4                       | service/devices_count=4 | service/devices_count=5
-            device2/ict/reset_interval=7                  | device2/ict/reset_interval=7 |
-            device3/device/device_id=200                  | device3/device/device_id=200 device3/uniteller_service/terminal_id=10204417 | device3/device/device_id=201 device3/posd200/count_nak=3 device3/posd200/packet_size=1024 device3/posd200/terminal_id=10204417 device3/posd200/timeout_ack=5000 device3/posd200/timeout_packet=45000)"_s);
+            set acceptor_common/maxSumm=20000              | acceptor_common/maxSumm=20000 | acceptor_common/maxSumm=15000
+            set acceptor_common/maxSumm=15000              | |
+            set device0/hw_interface/flowControl=XON/XOFF  | device0/hw_interface/flowcontrol=xonxoff | device0/hw_interface/flowcontrol=none
+            set device0/hw_interface/flowControl=OFF       | |
+            set device2/ict/reset_timeout=7                | device2/ict/reset_timeout=7 |
+            set device3/device/device_id=200               | device3/device/device_id=200 device3/uniteller_service/terminal_id=10204417 | device3/device/device_id=201 device3/posd200/terminal_id=10204417 device3/posd200/timeout_ack=5000 device3/posd200/timeout_packet=45000 device3/posd200/count_nak=3 device3/posd200/packet_size=1024
+            set device0/device/device_id=6                 | device0/id003/response_time=1000 device0/id003/polling_interval=200 device0/id003/rest_interval=100 device0/device/device_id=6 | device0/ccnet/response_time=1000 device0/ccnet/polling_interval=200 device0/ccnet/bill_table_interval=5000 device0/ccnet/reset_interval=4000 device0/ccnet/rest_interval=100 device0/device/device_id=1
+            set device4/hw_interface/interface_type=tcp    | device4/hw_interface/interface_type=tcp device4/hw_interface/tcp_host=127.0.0.1 device4/hw_interface/tcp_port=10400 | device4/hw_interface/interface_type=rs232 device4/hw_interface/portname=ttyUSB0
+            set device3/hw_interface/portname=ttyS7 device3/hw_interface/interface_type=rs232 | device3/hw_interface/interface_type=rs232 device3/hw_interface/portname=ttyS7 | device3/hw_interface/interface_type=tcp device3/hw_interface/tcp_host=192.168.10.5 device3/hw_interface/tcp_port=10400
+            unset acceptor_common/reset_stats              | | acceptor_common/reset_stats=2
+            set -f service/devices_count=4                 | service/devices_count=4 | service/devices_count=5
+            add-device 2 tcp_host=h interface_type=tcp     | service/devices_count=6 device5/debug/port_logging=false device5/device/device_id=2 device5/device/device_name= device5/hw_interface/interface_type=tcp device5/hw_interface/tcp_host=h device5/hw_interface/tcp_port=10400 device5/hw_interface/baudrate=115200 device5/hw_interface/flowcontrol=none device5/hw_interface/parity=none device5/hw_interface/databits=8 device5/hw_interface/stopbits=1 | service/devices_count=5)"_s);
     }
 
-    void setChangesNothingElse()
+    void editChangesNothingElse()
     {
         QFETCH(QStringList, row);
-        const auto elements = [this] {
-            QSet<QString> texts;
-            for (const QJsonValue e : QJsonDocument::fromJson(contentOf(m_list).toUtf8()).array())
-                texts += e["group"_s].toString() + "/"_s + e["key"_s].toString() + "="_s
-                    + e["value"_s].toVariant().toString();
-            return texts;
+        const QByteArray sampleText = contentOf(m_list);
+        QStringList words = row.at(0).split(QLatin1Char(' '));
+        words.insert(1, m_list);
+        const VelmoRun run = velmo(QStringList("settings"_s) + words);
+        QVERIFY2(run.exitCode == 0, qPrintable(run.err));
+        const Lines after(contentOf(m_list));
+        const Lines before(sampleText);
+        QCOMPARE(after.without(before).elements(), row.at(1));
+        QCOMPARE(before.without(after).elements(), row.at(2));
+        QCOMPARE(before.without(before.without(after)), after.without(after.without(before)));
+        QCOMPARE(contentOf(m_list) == sampleText, row.at(1).isEmpty() && row.at(2).isEmpty());
+    }
+
+    void removedDeviceLeavesNoGap()
+    {
+        const VelmoRun run = velmo({"settings"_s, "remove-device"_s, m_list, "1"_s});
+        QVERIFY(run.out.startsWith("removed device1/debug/port_logging: false\n"_s));
+        QVERIFY(run.out.endsWith("changed service/devices_count: 5 -> 4\n"_s));
+        QCOMPARE(run.errLines().at(0), "velmo: device2 becomes device1"_s);
+        QCOMPARE(velmo({"settings"_s, "check"_s, m_list}).exitCode, 0);
+        QCOMPARE(velmo({"settings"_s, "get"_s, m_list, "device3/device/device_name"_s}).out,
+                 "Coin hopper\n"_s);
+        // Every other byte is that of the sample.
+        const QByteArray text = contentOf(sample("settings.json"_s));
+        const int begin = int(text.indexOf("    {\"group\": \"device1"));
+        const int end = int(text.indexOf("\n    {\"group\": \"device2"));
+        QByteArray expected = text.left(begin) + text.mid(end + 1);
+        expected.replace("devices_count\", \"value\": 5", "devices_count\", \"value\": 4");
+        for (int device = 2; device < 5; ++device) {
+            expected.replace("\"device" + QByteArray::number(device),
+                             "\"device" + QByteArray::number(device - 1));
+        }
+        QCOMPARE(contentOf(m_list), expected);
+    }
+
+    void filesAreWrittenOnlyWhenTold()
+    {
+        const QString link = m_folder.filePath("link.json"_s);
+        QFile::remove(link);
+        QVERIFY(QFile::link(m_list, link));
+        const auto mode = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
+        QFile list(m_list);
+        QVERIFY(list.open(QIODevice::ReadWrite) && list.setPermissions(mode));
+        const QDateTime longAgo = QDateTime::fromSecsSinceEpoch(1000);
+        QVERIFY(list.setFileTime(longAgo, QFileDevice::FileModificationTime));
+        list.close();
+        const QString copy = m_folder.filePath("copy.json"_s);
+        const QString sum = "acceptor_common/maxSumm=1"_s;
+        const auto set = [](const QStringList& words) {
+            return velmo(QStringList{"settings"_s, "set"_s} + words);
         };
-        const auto sorted = [](const QSet<QString>& texts) {
-            QStringList list = texts.values();
-            list.sort();
-            return list.join(QLatin1Char(' '));
-        };
-        const QSet<QString> before = elements();
-        const VelmoRun run = velmo({"settings"_s, "set"_s, m_list, row.at(0)});
-        QCOMPARE(run.err, QString());
-        QCOMPARE(sorted(elements() - before), row.at(1));
-        QCOMPARE(sorted(before - elements()), row.at(2));
+        QCOMPARE(set({link, "acceptor_common/maxSumm=15000"_s}).out, "nothing to change\n"_s);
+        QVERIFY(set({link, sum, "--dry-run"_s}).out.startsWith("--- "_s));
+        QCOMPARE(set({link, sum, "-o"_s, copy, "-q"_s}).out, QString());
+        QCOMPARE(set({link, sum, "-o"_s, m_folder.filePath("no/list.json"_s)}).exitCode, 2);
+        QCOMPARE(QFileInfo(m_list).lastModified(), longAgo);
+        QVERIFY(contentOf(copy).contains("\"maxSumm\", \"value\": 1}"));
+
+        QCOMPARE(set({link, sum}).out, "changed acceptor_common/maxSumm: 15000 -> 1\n"_s);
+        QCOMPARE(contentOf(m_list), contentOf(copy));
+        QVERIFY(QFileInfo(link).isSymLink());
+        QCOMPARE(QFileInfo(m_list).permissions() & ~(QFile::ReadUser | QFile::WriteUser),
+                 QFile::Permissions(mode));
     }
 
     void setKeepsWhatTheModelIgnores()
     {
-        const QString list = R"([
+        const QByteArray list = R"([
     {"group":"x","key":"y","value":[1]},
     7,
     {"group":"service","key":"devices_count","value":1},
     {"group":"device0/ict","key":"reset_timeout","value":5}
 ]
-)"_s;
+)";
         const VelmoRun run =
-            velmo({"settings"_s, "set"_s, "-"_s, "acceptor_common/acceptAll=0"_s}, list.toUtf8());
-        QCOMPARE(run.out, QString(list).replace("5}\n"_s, R"(5},
-    {"group":"acceptor_common","key":"acceptAll","value":0}
-)"_s));
+            velmo({"settings"_s, "set"_s, "-"_s, "acceptor_common/acceptAll=0"_s, "-f"_s}, list);
+        const QByteArray added = R"({"group":"acceptor_common","key":"acceptAll","value":0},)";
+        const QByteArray next = R"({"group":"service")";
+        QCOMPARE(run.out.toUtf8(), QByteArray(list).replace(next, added + "\n    " + next));
     }
 
-    void badAssignmentsLeaveTheFileAlone_data()
-    {
-        addRows(R"(
-            acceptor_common/maxSumm=much     | acceptor_common/maxSumm = much reads as 0
-            acceptor_common/reset_stats=7    | the modes are 0 to 4
-            device0/device/device_id=8       | is no model of the catalogue
-            device0/hw_interface/parity=mark | reads as no parity
-            acceptor_common/acceptal=1       | nearest known: acceptor_common/acceptAll
-            acceptor_common/acceptAll        | expected GROUP/KEY=VALUE)"_s);
-    }
-
-    void badAssignmentsLeaveTheFileAlone()
-    {
-        QFETCH(QStringList, row);
-        const QString before = contentOf(m_list);
-        const VelmoRun run =
-            velmo({"settings"_s, "set"_s, m_list, "acceptor_common/maxSumm=1"_s, row.at(0)});
-        QCOMPARE(run.exitCode, 2);
-        QVERIFY2(run.err.contains(row.at(1)), qPrintable(run.err));
-        QCOMPARE(contentOf(m_list), before);
-        QCOMPARE(velmo({"settings"_s, "set"_s, m_list, "acceptor_common/maxSumm=1"_s, "-o"_s,
-                        m_folder.filePath("no/list.json"_s)})
-                     .exitCode,
-                 2);
-    }
-
+    // An element behind a sound list, the level and the text of what is found.
     void checkFindsWhatTheModelWouldNotTake_data()
     {
         addRows(R"(
-            7                                                                        | is skipped: no "group"
-            {"key":"a","value":1}                                                    | is skipped: no "group"
-            {"group":"other","key":"a","value":1}                                    | other/a is ignored
-            {"group":"device0/ict","key":"reset_timeout","value":1}                  | device0/ict/reset_timeout is ignored
-            {"group":"device0/hw_interface","key":"BaudRate","value":1}              | nearest known: device0/hw_interface/baudrate
-            {"group":"device1/debug","key":"port_logging","value":1}                 | device 1 is not below the device count of 1
-            {"group":"device/debug","key":"port_logging","value":1}                  | has no device number and means device 0
-            {"group":"acceptor_common","key":"acceptAll","value":true}               | acceptAll = true reads as off
-            {"group":"acceptor_common","key":"maxSumm","value":null}                 | reads as 0
-            {"group":"acceptor_common","key":"attempts_filter_settings","value":"x"} | is no JSON array
-            {"group":"acceptor_common","key":"attempts_filter_settings","value":"[{\\"denom\\":1}]"} | limit 1: "attempts" reads as 1
-            {"group":"dispenser","key":"route_map","value":"[{}]"}                   | 1 of its rows lack keys
-            {"group":"device0/device","key":"device_id","value":8}                   | is no model of the catalogue
-            {"group":"device0/device","key":"device_name","value":{}}                | reads as an empty text
-            {"group":"device0/hw_interface","key":"flowcontrol","value":"rts"}       | reads as no flow control
-            {"group":"device0/hw_interface","key":"stopbits","value":6}              | reads as 2
-            {"group":"device0/hw_interface","key":"databits","value":"x"}            | is no number of data bits
-            {"group":"service","key":"devices_count","value":1}                      | was set by element 1 already)"_s);
+            7                                                                        | warning: is skipped: no "group"
+            {"key":"a","value":1}                                                    | error: a: is skipped: no "group"
+            {"group":"other","key":"a","value":1}                                    | warning: other/a: is ignored
+            {"group":"device0/hw_interface","key":"BaudRate","value":1}              | error: device0/hw_interface/BaudRate: is ignored (nearest known: device0/hw_interface/baudrate)
+            {"group":"device0/ict","key":"reset_timeout","value":1}                  |
+            {"group":"service","key":"reset_after_empty_sessions","value":1}         |
+            {"group":"device2/ict","key":"reset_timeout","value":1}                  | error: device2: is not below the device count
+            {"group":"device/debug","key":"port_logging","value":0}                  | warning: device/debug/port_logging: is read as device0/debug/port_logging
+            {"group":"acceptor_common","key":"port_logging","value":true}            | error: acceptor_common/port_logging: "true" is neither 0 nor 1: reads as "0"
+            {"group":"acceptor_common","key":"reset_stats","value":null}             | error: acceptor_common/reset_stats: has no text or number: reads as "0"
+            {"group":"acceptor_common","key":"attempts_filter_settings","value":"x"} | error: acceptor_common/attempts_filter_settings: "x" is no JSON array of limits
+            {"group":"acceptor_common","key":"attempts_filter_settings","value":"[{\u0022denom\u0022:1}]"} | reads as "[{"attempts":"1","denom":"1"}]"
+            {"group":"dispenser","key":"route_map","value":"[{}]"}                   | "[{}]" is no JSON array of whole routes; 0 can be read
+            {"group":"device0/device","key":"device_name","value":{}}                | error: device0/device/device_name: has no text or number: reads as ""
+            {"group":"device0/hw_interface","key":"flowcontrol","value":"rts"}       | "rts" is none of hardware, xonxoff, none: reads as "none"
+            {"group":"device1/hw_interface","key":"stopbits","value":6}              | "6" is none of 1, 2, 3: reads as "2"
+            {"group":"device0/posd200","key":"packet_size","value":0}                | warning: device0/posd200/packet_size: is read as device0/ccnet/reset_interval
+            {"group":"device0/hw_interface","key":"stopBits","value":1}              | warning: device0/hw_interface/stopbits: is set again by a later element, to the same)"_s);
     }
 
     void checkFindsWhatTheModelWouldNotTake()
     {
         QFETCH(QStringList, row);
-        const QString list =
-            writeFile(m_folder.filePath("check.json"_s),
-                      "[{\"group\":\"service\",\"key\":\"devices_count\",\"value\":1},\n"_s
-                          + QString(row.at(0)).replace(R"(\\)"_s, R"(\)"_s) + "]"_s);
-        const VelmoRun run = velmo({"settings"_s, "check"_s, list});
-        QCOMPARE(run.exitCode, 1);
-        QCOMPARE(run.outLines().size(), 1);
-        QVERIFY2(run.out.startsWith(list + ":2: element 2: "_s), qPrintable(run.out));
+        QByteArray list = contentOf(located("sound.json"_s)).trimmed();
+        list.chop(2);
+        list += ",\n" + row.at(0).toUtf8() + "]";
+        const VelmoRun run = velmo({"settings"_s, "check"_s, "-"_s}, list);
+        QCOMPARE(run.exitCode, row.at(1).isEmpty() ? 0 : 1);
         QVERIFY2(run.out.contains(row.at(1)), qPrintable(run.out));
         QCOMPARE(velmo({"settings"_s, "check"_s, "-"_s}, "{}").exitCode, 2);
+    }
+
+    void differencesAreThoseOfTheService()
+    {
+        const auto diff = [this](const QStringList& edits) {
+            velmo(QStringList{"settings"_s, "set"_s, m_list, "-q"_s} + edits);
+            return velmo({"settings"_s, "diff"_s, sample("settings.json"_s), m_list});
+        };
+        QCOMPARE(diff({}).exitCode, 0);
+        const VelmoRun changed = diff(
+            {"device0/hw_interface/flowControl=OFF"_s, "device0/hw_interface/baudrate=19200"_s});
+        QCOMPARE(changed.out, "device0/hw_interface/baudrate: \"9600\" -> \"19200\"\n"_s);
+        QCOMPARE(changed.exitCode, 1);
+        // What is not said twice is no difference, unless the default is in doubt.
+        velmo({"settings"_s, "unset"_s, m_list, "device0/hw_interface/parity"_s, "-f"_s,
+               "device0/hw_interface/baudrate"_s});
+        QCOMPARE(velmo({"settings"_s, "diff"_s, sample("settings.json"_s), m_list, "--json"_s}).out,
+                 "[\n"_s
+                 R"(    {"a":"9600","b":null,"path":"device0/hw_interface/baudrate"})"_s
+                 "\n]\n"_s);
+    }
+
+    void completeListHasNoErrors()
+    {
+        Random random(1);
+        for (int i = 0; i < 100; ++i) {
+            const QByteArray text = random.textOf(random.completeList());
+            const ArrayFile file = arrayFile(text);
+            for (const SettingsFinding& finding : checkSettings(file))
+                QVERIFY2(finding.level != SettingsFinding::Error, qPrintable(finding.line(file)));
+        }
+    }
+
+    // Also in lists that say things twice, under other names and in disorder.
+    void editChangesInTheModelWhatItSays()
+    {
+        Random random(2);
+        for (int i = 0; i < 300; ++i) {
+            const bool isTidy = random.below(2) == 0;
+            QVariantList list = random.completeList();
+            for (int doubled = isTidy ? 0 : 8; doubled > 0; --doubled) {
+                QVariantMap element = random.of(list).toMap();
+                const QString key = element["key"_s].toString();
+                element["key"_s] = key == "stopbits"_s ? "stopBit"_s : key.toUpper();
+                element["group"_s] = element["group"_s].toString().replace("id003"_s, "ccnet"_s);
+                list.insert(random.below(int(list.size())),
+                            doubled % 2 ? random.of(list) : element);
+            }
+            const ArrayFile file = arrayFile(random.textOf(list));
+            SettingsEdit edit(file);
+            const SettingsList::Used used = random.of(SettingsList(file.elements()).used());
+            const QString path = used.setting.path();
+            if (!used.setting.description().isRead())
+                continue;
+            const int devices = SettingsList(file.elements()).devices().lastKey() + 1;
+            const int action = isTidy ? random.below(4) : 3;
+            if (action == 0)
+                edit.addDevice(
+                    random.of(used.setting.description().kind() == SettingDescription::Choice
+                                  ? QStringList{"1"_s, "5"_s, "201"_s}
+                                  : QStringList{"200"_s, "2"_s}),
+                    {});
+            else if (action == 1)
+                edit.removeDevice(devices - 1);
+            else
+                edit.set({{path, random.valueFor(used.setting.description())}});
+            const QMap<QString, QString> before = modelValues(file.elements().toVariantList());
+            const QMap<QString, QString> after =
+                modelValues(edit.file().elements().toVariantList());
+            QStringList said;
+            for (const SettingsEdit::Change& change : edit.changes()) {
+                if (!change.path.endsWith("/debug/port_logging"_s))
+                    said += change.path + "="_s + change.after.toString();
+            }
+            QStringList done;
+            QStringList keys = before.keys() + after.keys();
+            keys.removeDuplicates();
+            for (const QString& key : std::as_const(keys)) {
+                if (before.value(key) != after.value(key)
+                    || before.contains(key) != after.contains(key))
+                    done += key + "="_s + after.value(key);
+            }
+            said.sort();
+            done.sort();
+            QVERIFY2(said == done,
+                     qPrintable(path + ":\n"_s + said.join("\n"_s) + "\n\n"_s + done.join("\n"_s)
+                                + QString::fromUtf8(edit.file().text())));
+            const QList<SettingsEdit::Change> changes = edit.changes();
+            if (changes.isEmpty())
+                QCOMPARE(edit.file().text(), file.text());
+            if (changes.size() == 1 && changes.at(0).before.isValid() && action > 1)
+                QVERIFY(differOnlyIn(file.text(), edit.file().text(), changes.at(0)));
+        }
     }
 
     void replayTakesTheFiltersOfTheSettings()

@@ -79,9 +79,9 @@ private Q_SLOTS:
     {
         // Command line, what its output has.
         addRows(R"(
-            help                             | \n  settings set     Changes values
+            help                             | \n  settings set            Changes values
             --lang ru settings --help        | \n  settings routes
-            help settings set                | Usage: velmo settings set LIST.json GROUP/KEY=VALUE... [--output OUT]\n
+            help settings set                | Usage: velmo settings set LIST.json GROUP/KEY=VALUE... [--dry-run] [--output OUT] [--force] [--quiet]\n
             report --help                    | \n  --names NAMES.json
             complete -- se                   | settings\n
             complete -- settings sh          | show\n
