@@ -1,7 +1,8 @@
 #include "paymentscreen.h"
 
 #include "acceptorbus.h"
-#include "devicestatesconst.h"
+
+#include <velmolib/devicestatesconst.h>
 
 #include <QDBusConnection>
 #include <QDBusPendingCallWatcher>

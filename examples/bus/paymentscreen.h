@@ -1,6 +1,6 @@
 #pragma once
 
-#include "acceptorstate.h"
+#include <velmolib/acceptorstate.h>
 
 #include <QMap>
 #include <QWidget>

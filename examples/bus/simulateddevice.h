@@ -1,8 +1,8 @@
 #pragma once
 
-#include "devicestateworker.h"
-#include "filterchain.h"
-#include "statitem.h"
+#include <velmolib/devicestateworker.h>
+#include <velmolib/filterchain.h>
+#include <velmolib/statitem.h>
 
 #include <QJsonArray>
 #include <QVariant>
