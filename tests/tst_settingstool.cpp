@@ -65,12 +65,12 @@ private Q_SLOTS:
 
     void getAnswersThroughTheModel()
     {
-        QFETCH(QStringList, row);
-        const VelmoRun run = velmo({"settings"_s, "get"_s, m_list, row.at(0)});
+        const auto [path, answer] = cells<2>();
+        const VelmoRun run = velmo({"settings"_s, "get"_s, m_list, path});
         const bool isValue = run.exitCode == 0;
-        QVERIFY2(isValue ? run.out == row.at(1) + "\n"_s : run.err.contains(row.at(1)),
+        QVERIFY2(isValue ? run.out == answer + "\n"_s : run.err.contains(answer),
                  qPrintable(run.out + run.err));
-        QCOMPARE(isValue, !row.at(1).contains(QLatin1Char(' ')));
+        QCOMPARE(isValue, !answer.contains(QLatin1Char(' ')));
     }
 
     // Assignments, then the elements that the list has more, and those that it has no more.
@@ -87,7 +87,7 @@ private Q_SLOTS:
 
     void setChangesNothingElse()
     {
-        QFETCH(QStringList, row);
+        const auto [assignment, added, removed] = cells<3>();
         const auto elements = [this] {
             QSet<QString> texts;
             for (const QJsonValue e : QJsonDocument::fromJson(contentOf(m_list).toUtf8()).array())
@@ -101,10 +101,10 @@ private Q_SLOTS:
             return list.join(QLatin1Char(' '));
         };
         const QSet<QString> before = elements();
-        const VelmoRun run = velmo({"settings"_s, "set"_s, m_list, row.at(0)});
+        const VelmoRun run = velmo({"settings"_s, "set"_s, m_list, assignment});
         QCOMPARE(run.err, QString());
-        QCOMPARE(sorted(elements() - before), row.at(1));
-        QCOMPARE(sorted(before - elements()), row.at(2));
+        QCOMPARE(sorted(elements() - before), added);
+        QCOMPARE(sorted(before - elements()), removed);
     }
 
     void setKeepsWhatTheModelIgnores()
@@ -136,12 +136,12 @@ private Q_SLOTS:
 
     void badAssignmentsLeaveTheFileAlone()
     {
-        QFETCH(QStringList, row);
+        const auto [assignment, fault] = cells<2>();
         const QString before = contentOf(m_list);
         const VelmoRun run =
-            velmo({"settings"_s, "set"_s, m_list, "acceptor_common/maxSumm=1"_s, row.at(0)});
+            velmo({"settings"_s, "set"_s, m_list, "acceptor_common/maxSumm=1"_s, assignment});
         QCOMPARE(run.exitCode, 2);
-        QVERIFY2(run.err.contains(row.at(1)), qPrintable(run.err));
+        QVERIFY2(run.err.contains(fault), qPrintable(run.err));
         QCOMPARE(contentOf(m_list), before);
         QCOMPARE(velmo({"settings"_s, "set"_s, m_list, "acceptor_common/maxSumm=1"_s, "-o"_s,
                         m_folder.filePath("no/list.json"_s)})
@@ -174,16 +174,16 @@ private Q_SLOTS:
 
     void checkFindsWhatTheModelWouldNotTake()
     {
-        QFETCH(QStringList, row);
+        const auto [element, finding] = cells<2>();
         const QString list =
             writeFile(m_folder.filePath("check.json"_s),
                       "[{\"group\":\"service\",\"key\":\"devices_count\",\"value\":1},\n"_s
-                          + QString(row.at(0)).replace(R"(\\)"_s, R"(\)"_s) + "]"_s);
+                          + QString(element).replace(R"(\\)"_s, R"(\)"_s) + "]"_s);
         const VelmoRun run = velmo({"settings"_s, "check"_s, list});
         QCOMPARE(run.exitCode, 1);
         QCOMPARE(run.outLines().size(), 1);
         QVERIFY2(run.out.startsWith(list + ":2: element 2: "_s), qPrintable(run.out));
-        QVERIFY2(run.out.contains(row.at(1)), qPrintable(run.out));
+        QVERIFY2(run.out.contains(finding), qPrintable(run.out));
         QCOMPARE(velmo({"settings"_s, "check"_s, "-"_s}, "{}").exitCode, 2);
     }
 
