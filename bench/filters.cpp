@@ -44,7 +44,7 @@ void chain(benchmark::State& bench)
 bool plainVerdict(const StatesList& events)
 {
     int rejections = 0;
-    for (int i = events.size() - 1; i > 0; --i) {
+    for (auto i = events.size() - 1; i > 0; --i) {
         const State state = events.at(i).state;
         rejections += state == STATE_REJECTED;
         if (rejections >= 3)
@@ -54,7 +54,7 @@ bool plainVerdict(const StatesList& events)
     }
     int accepted = 0;
     State later = STATE_BUSY;
-    for (int i = events.size() - 1; i > 0; --i) {
+    for (auto i = events.size() - 1; i > 0; --i) {
         const DeviceState& event = events.at(i);
         accepted +=
             event.state == STATE_ACCEPTED && later != STATE_ACCEPTED && event.currentNote == 500;

@@ -32,7 +32,7 @@ void setList(benchmark::State& bench)
     AcceptorSettings settings;
     for (auto _ : bench)
         settings.setList(list);
-    perElement(bench, list.size());
+    perElement(bench, int(list.size()));
 }
 
 void toList(benchmark::State& bench)
@@ -41,7 +41,7 @@ void toList(benchmark::State& bench)
     const AcceptorSettings settings;
     for (auto _ : bench)
         benchmark::DoNotOptimize(settings.toList());
-    perElement(bench, list.size());
+    perElement(bench, int(list.size()));
 }
 
 void load(benchmark::State& bench)

@@ -4,17 +4,19 @@
 
 # Installs what is missing, builds the benchmarks and prints how the library compares with what people
 # would use instead: the medians of 7 repetitions of one run.
+# Usage: bench.sh [PRESET]   (default: bench; bench-qt6 for Qt 6)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
+preset=${1:-bench}
 
-require_packages "${build_packages[@]}" libbenchmark-dev nlohmann-json3-dev rapidjson-dev python3
-cmake --preset bench
-cmake --build --preset bench
-build/bench/bench/velmolib_bench --benchmark_repetitions=7 --benchmark_min_time=0.1 \
+require_packages "${build_packages[@]}" "${qt6_packages[@]}" libbenchmark-dev nlohmann-json3-dev rapidjson-dev python3
+cmake --preset "$preset"
+cmake --build --preset "$preset"
+"build/$preset"/bench/velmolib_bench --benchmark_repetitions=7 --benchmark_min_time=0.1 \
     --benchmark_report_aggregates_only=true --benchmark_out_format=json \
-    --benchmark_out=build/bench/results.json > /dev/null
-python3 - build/bench/results.json << 'PYTHON'
+    --benchmark_out="build/$preset/results.json" > /dev/null
+python3 - "build/$preset/results.json" << 'PYTHON'
 import json
 import sys
 

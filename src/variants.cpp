@@ -145,6 +145,7 @@ QString Variants::number(const QString& text)
 
 bool Variants::write(const QMetaProperty& property, QObject* object, const QVariant& value)
 {
+    const bool textDiffers = isReal(value) || value.typeId() == QMetaType::QByteArray;
     switch (property.typeId()) {
     case QMetaType::Bool:
         if (isEnumeration(value) || isOneOf<uchar, long, ulong>(value))
@@ -160,7 +161,7 @@ bool Variants::write(const QMetaProperty& property, QObject* object, const QVari
         return property.write(object, wholeNumber(value));
     case QMetaType::QString:
         return !isOneOf<uchar, long, ulong>(value)
-            && property.write(object, value.isValid() ? Variants::toString(value) : value);
+            && property.write(object, textDiffers ? Variants::toString(value) : value);
     default:
         return property.write(object, value);
     }

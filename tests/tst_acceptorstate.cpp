@@ -184,13 +184,12 @@ private Q_SLOTS:
 
     void reportNamesEveryTrouble()
     {
-        QFETCH(QStringList, row);
-        const AcceptorState state =
-            serviceState("1 "_s + row.at(0) + " unstacked full error texts"_s);
+        const auto [device, status] = cells<2>();
+        const AcceptorState state = serviceState("1 "_s + device + " unstacked full error texts"_s);
         QCOMPARE(state.systemStatusDescr({{1, QString()}}),
                  "DeviceId: 1,ThreadId: 2\nName: \nActivity: enabled\nCritical error: E17\n"
                  "stacker not present\nstacker is full\nStatus: "_s
-                     + row.at(1) + "\nstatus description:door open\n\n"_s);
+                     + status + "\nstatus description:door open\n\n"_s);
     }
 
     void textsForPeopleAreTranslated()
@@ -216,12 +215,12 @@ private Q_SLOTS:
 
     void textReadsLikeItsMap()
     {
-        QFETCH(QStringList, row);
+        const auto [text] = cells<1>();
         AcceptorState ofText;
         AcceptorState ofMap;
-        AcceptorState::loadFromClientState(quorbus::ClientState(row.at(0), {}), ofText);
-        AcceptorState::loadFromStateMap(
-            QJsonDocument::fromJson(row.at(0).toUtf8()).toVariant().toMap(), ofMap);
+        AcceptorState::loadFromClientState(quorbus::ClientState(text, {}), ofText);
+        AcceptorState::loadFromStateMap(QJsonDocument::fromJson(text.toUtf8()).toVariant().toMap(),
+                                        ofMap);
         QCOMPARE(ofText.deviceStates().size(), ofMap.deviceStates().size());
         QCOMPARE(ofText.systemStatusDescr({}), ofMap.systemStatusDescr({}));
         for (int i = 0; i < ofMap.deviceStates().size(); ++i) {
@@ -247,11 +246,11 @@ private Q_SLOTS:
 
     void badStatesEmptyTheList()
     {
-        QFETCH(QStringList, row);
-        const quorbus::ClientState published(row.at(0), QDateTime({2026, 11, 16}, {10, 5}));
+        const auto [text, devices] = cells<2>();
+        const quorbus::ClientState published(text, QDateTime({2026, 11, 16}, {10, 5}));
         AcceptorState state = serviceState("1 idling"_s);
         const AcceptorState copy = AcceptorState::loadFromClientState(published, state);
-        QCOMPARE(QString::number(state.deviceStates().size()), row.at(1));
+        QCOMPARE(QString::number(state.deviceStates().size()), devices);
         QCOMPARE(copy.deviceStates().size(), state.deviceStates().size());
         QCOMPARE(state.dt(), published.dt());
         if (!state.deviceStates().isEmpty())

@@ -75,10 +75,10 @@ private Q_SLOTS:
 
     void screenFollowsTheService()
     {
-        QFETCH(QStringList, row);
-        QFile file(EXPECTED "/%1.expected"_s.arg(row.at(0)));
+        const auto [name, folder, sessions] = cells<3>();
+        QFile file(EXPECTED "/%1.expected"_s.arg(name));
         QVERIFY(file.open(QIODevice::ReadOnly));
-        startService(row.at(1), row.at(2));
+        startService(folder, sessions);
         PaymentScreen screen({{1, "Note validator"_s},
                               {2, "Note recycler"_s},
                               {100, "Coin acceptor"_s},

@@ -128,9 +128,9 @@ private Q_SLOTS:
 
     void sentencesTellWhy()
     {
-        QFETCH(QStringList, row);
+        const auto [filterText, log, sentence] = cells<3>();
         QJsonObject params;
-        const QStringList filter = row.at(0).split(QLatin1Char(' '));
+        const QStringList filter = filterText.split(QLatin1Char(' '));
         for (const QString& param : filter.mid(1))
             params[param.section(QLatin1Char('='), 0, 0)] = param.section(QLatin1Char('='), 1);
         const QByteArray description = QJsonDocument(params).toJson(QJsonDocument::Compact);
@@ -138,7 +138,7 @@ private Q_SLOTS:
         LogExplainer explainer(filterSet(R"([{"name":"%1","params":%2}])"_s.arg(
                                    filter.at(0), QString::fromUtf8(description))),
                                [&](const NoteAnswer& answer) { last = answer; });
-        const QStringList lines = row.at(1).split(QLatin1Char(';'));
+        const QStringList lines = log.split(QLatin1Char(';'));
         for (int i = 0; i < lines.size(); ++i) {
             QString line = lines.at(i);
             if (line.startsWith(QLatin1Char('A')))
@@ -148,7 +148,7 @@ private Q_SLOTS:
             explainer.take(SessionLine(line), i + 1);
         }
         explainer.finish();
-        QVERIFY2(last.text().contains(row.at(2)), qPrintable(last.text()));
+        QVERIFY2(last.text().contains(sentence), qPrintable(last.text()));
     }
 
     // Random sessions: a note is explained as refused exactly when the chain refused it, and the
@@ -306,14 +306,13 @@ private Q_SLOTS:
 
     void badLinesAreNamed()
     {
-        QFETCH(QStringList, row);
+        const auto [line, fault] = cells<2>();
         const QStringList arguments{"explain"_s, "-"_s, "--filters"_s, sample("filters.json"_s),
                                     "--json"_s};
-        const QByteArray log = "{}\n" + row.at(0).toUtf8() + "\n";
+        const QByteArray log = "{}\n" + line.toUtf8() + "\n";
         const VelmoRun run = velmo(arguments, log);
         QCOMPARE(run.exitCode, 2);
-        QVERIFY2(run.err.startsWith("velmo: standard input:2: "_s + row.at(1)),
-                 qPrintable(run.err));
+        QVERIFY2(run.err.startsWith("velmo: standard input:2: "_s + fault), qPrintable(run.err));
     }
 
     void optionsChooseWhatIsShown()
@@ -367,13 +366,13 @@ private Q_SLOTS:
 
     void wrongKindsOfFilesAreNamed()
     {
-        QFETCH(QStringList, row);
-        QStringList arguments = row.at(0).split(QLatin1Char(' '));
+        const auto [commandLine, fault] = cells<2>();
+        QStringList arguments = commandLine.split(QLatin1Char(' '));
         for (QString& argument : arguments)
             argument = argument.contains(QLatin1Char('.')) ? sample(argument) : argument;
         const VelmoRun run = velmo(arguments);
         QCOMPARE(run.exitCode, 2);
-        QVERIFY2(run.err.startsWith("velmo: "_s + sample(row.at(1))), qPrintable(run.err));
+        QVERIFY2(run.err.startsWith("velmo: "_s + sample(fault)), qPrintable(run.err));
     }
 
     void settingsThatReadDifferentlyAreToldOnce()

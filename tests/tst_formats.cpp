@@ -3,10 +3,15 @@
 
 #include "abstractfilter.h"
 #include "acceptorsettings.h"
+#include "arrayfile.h"
 #include "dispenserregistrymodel.h"
 #include "droutemapitem.h"
+#include "filterchain.h"
+#include "filterset.h"
 #include "statitem.h"
-#include "testtable.h"
+#include "velmorun.h"
+
+#include <QBuffer>
 
 namespace {
 
@@ -21,6 +26,43 @@ QVariantMap written(const QVariant& example)
 {
     Record record;
     return record.fromMap(example.toMap()) ? record.toMap() : QVariantMap();
+}
+
+QVariantList writtenFilters(const QVariant& example)
+{
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(text(example).toUtf8());
+    buffer->open(QIODevice::ReadOnly);
+    TextInput input(std::move(buffer), {});
+    FilterChain chain;
+    QVariantList written;
+    const auto filters = FilterSet(ArrayFile(input, {}), ListKind::Filters).addTo(chain);
+    for (const AbstractFilter* filter : filters) {
+        written += QVariantMap{{"name"_s, filterName(*filter)},
+                               {"params"_s, filterParams(*filter).toVariantMap()}};
+    }
+    return written;
+}
+
+// The names that a report has for the devices.
+QVariantMap reportedNames(const QVariant& example)
+{
+    QVariantList devices;
+    const QStringList ids = example.toMap().keys();
+    for (const QString& id : ids)
+        devices += QVariantMap{{"device_id"_s, id}};
+    QTemporaryDir folder;
+    const QString names = writeFile(folder.filePath("names.json"_s), text(example));
+    const VelmoRun run =
+        velmo({"report"_s, "-"_s, "--names"_s, names},
+              text(QVariantMap{{"device_states"_s, devices}}).simplified().toUtf8());
+    const QRegularExpression device("DeviceId: (\\d+),.*\nName: (.*)\n"_s);
+    QVariantMap reported;
+    for (auto found = device.globalMatch(run.out); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        reported.insert(match.captured(1), match.captured(2));
+    }
+    return reported;
 }
 
 // Reads an example with the class that reads its format and writes it again.
@@ -63,6 +105,8 @@ const QMap<QString, std::function<QVariant(const QVariant& example)>> checks{
          return QVariantMap{{"device_states"_s, QVariantList{map}}};
      }},
     {"field description"_s, written<FieldDescription>},
+    {"filters file"_s, writtenFilters},
+    {"names file"_s, reportedNames},
 };
 
 QString page()
@@ -141,5 +185,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_Formats)
+QTEST_GUILESS_MAIN(tst_Formats)
 #include "tst_formats.moc"

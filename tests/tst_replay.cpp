@@ -86,14 +86,14 @@ private Q_SLOTS:
 
     void badSessionLineIsNamed()
     {
-        QFETCH(QStringList, row);
+        const auto [line, fault] = cells<2>();
         const QString session = writeFile(m_folder.filePath("bad.jsonl"_s),
-                                          "{\"state\":\"idling\"}\n"_s + row.at(0) + "\n{}\n"_s);
+                                          "{\"state\":\"idling\"}\n"_s + line + "\n{}\n"_s);
         const VelmoRun run =
             velmo({"replay"_s, session, "--filters"_s, sample("filters.json"_s), "--json"_s});
         QCOMPARE(run.exitCode, 2);
         QVERIFY2(run.err.startsWith("velmo: "_s + session + ":2: "_s), qPrintable(run.err));
-        QVERIFY2(run.err.contains(row.at(1)), qPrintable(run.err));
+        QVERIFY2(run.err.contains(fault), qPrintable(run.err));
         QCOMPARE(run.outLines().size(), 1);
     }
 
@@ -113,14 +113,13 @@ private Q_SLOTS:
 
     void badFiltersAreNamed()
     {
-        QFETCH(QStringList, row);
-        const QString filters =
-            writeFile(m_folder.filePath("bad.json"_s),
-                      "[{\"name\":\"AcceptFilter\"},\n"_s + row.at(0) + "\n]"_s);
+        const auto [filter, fault] = cells<2>();
+        const QString filters = writeFile(m_folder.filePath("bad.json"_s),
+                                          "[{\"name\":\"AcceptFilter\"},\n"_s + filter + "\n]"_s);
         const VelmoRun run = velmo({"replay"_s, sample("jam.jsonl"_s), "--filters"_s, filters});
         QCOMPARE(run.exitCode, 2);
         QVERIFY2(run.err.startsWith("velmo: "_s + filters + ":2: "_s), qPrintable(run.err));
-        QVERIFY2(run.err.contains(row.at(1)), qPrintable(run.err));
+        QVERIFY2(run.err.contains(fault), qPrintable(run.err));
         QCOMPARE(run.out, QString());
     }
 
@@ -137,10 +136,10 @@ private Q_SLOTS:
 
     void badCommandLinesAreNamed()
     {
-        QFETCH(QStringList, row);
-        const VelmoRun run = velmo(row.at(0).split(QLatin1Char(' '), Qt::SkipEmptyParts));
+        const auto [arguments, fault] = cells<2>();
+        const VelmoRun run = velmo(arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts));
         QCOMPARE(run.exitCode, 2);
-        QVERIFY2(run.err.contains(row.at(1)), qPrintable(run.err));
+        QVERIFY2(run.err.contains(fault), qPrintable(run.err));
         QCOMPARE(run.out, QString());
     }
 

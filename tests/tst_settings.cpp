@@ -196,9 +196,9 @@ private Q_SLOTS:
 
     void nameIsCutFromTheDescription()
     {
-        QFETCH(QStringList, row);
-        QCOMPARE(AcceptorDeviceSettings(info(1, row.at(0))).name(),
-                 QString(row.at(1)).replace(QLatin1Char('_'), QLatin1Char(' ')));
+        const auto [description, name] = cells<2>();
+        QCOMPARE(AcceptorDeviceSettings(info(1, description)).name(),
+                 QString(name).replace(QLatin1Char('_'), QLatin1Char(' ')));
     }
 
     void recordCarriesThePortOnly()
@@ -463,11 +463,11 @@ private Q_SLOTS:
 
     void settingsAreFoundInEverySpelling()
     {
-        QFETCH(QStringList, row);
-        const SettingDescription d = AcceptorSettings::settingDescription(row.at(0), row.at(1));
-        QCOMPARE(d.path(), row.at(2));
-        QCOMPARE(d.isValid(), !row.at(2).isEmpty());
-        QCOMPARE(d.isRead(), d.isValid() && row.at(1) != "port_logging"_s);
+        const auto [group, key, path] = cells<3>();
+        const SettingDescription d = AcceptorSettings::settingDescription(group, key);
+        QCOMPARE(d.path(), path);
+        QCOMPARE(d.isValid(), !path.isEmpty());
+        QCOMPARE(d.isRead(), d.isValid() && key != "port_logging"_s);
         QCOMPARE(d.appliesTo(7, "rs232"_s),
                  d.isValid()
                      && !QRegularExpression("id003|ccnet|posd"_s).match(d.path()).hasMatch());
@@ -507,13 +507,13 @@ private Q_SLOTS:
 
     void valuesAreAccepted()
     {
-        QFETCH(QStringList, row);
-        const SettingDescription d = AcceptorSettings::settingDescription(row.at(0), row.at(1));
-        for (const QString& value : row.at(2).split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        const auto [group, key, good, bad] = cells<4>();
+        const SettingDescription d = AcceptorSettings::settingDescription(group, key);
+        for (const QString& value : good.split(QLatin1Char(' '), Qt::SkipEmptyParts))
             QVERIFY2(d.accepts(value), qPrintable(value));
-        for (const QString& value : row.value(3).split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        for (const QString& value : bad.split(QLatin1Char(' '), Qt::SkipEmptyParts))
             QVERIFY2(!d.accepts(value), qPrintable(value));
-        const bool mayBeEmpty = row.at(1) == "terminal_id"_s || row.at(1) == "route_map"_s;
+        const bool mayBeEmpty = key == "terminal_id"_s || key == "route_map"_s;
         QCOMPARE(d.accepts({}), mayBeEmpty);
     }
 

@@ -244,8 +244,8 @@ private Q_SLOTS:
 
     void whatTheServiceWouldUseIsSaid()
     {
-        QFETCH(QStringList, row);
-        QStringList words = row.at(0).split(QLatin1Char(' '));
+        const auto [command, exitCode, parts] = cells<3>();
+        QStringList words = command.split(QLatin1Char(' '));
         const bool completes = words.at(0) == "complete"_s;
         for (QString& word : words) {
             if (word.contains(".json"_s))
@@ -255,8 +255,8 @@ private Q_SLOTS:
         const VelmoRun run = completes ? velmo(QStringList("complete"_s) << "--"_s << words.mid(1))
                                        : velmo(QStringList("settings"_s) + words);
         const QString answer = run.out + run.err;
-        QVERIFY2(run.exitCode == row.at(1).toInt(), qPrintable(answer));
-        QString expected = row.at(2);
+        QVERIFY2(run.exitCode == exitCode.toInt(), qPrintable(answer));
+        QString expected = parts;
         expected.replace("\\n"_s, "\n"_s).replace("\\t"_s, "\t"_s);
         for (const QString& part : expected.split(" & "_s))
             QVERIFY2(answer.contains(part), qPrintable(answer));
@@ -284,18 +284,18 @@ private Q_SLOTS:
 
     void editChangesNothingElse()
     {
-        QFETCH(QStringList, row);
+        const auto [edit, added, removed] = cells<3>();
         const QByteArray sampleText = contentOf(m_list);
-        QStringList words = row.at(0).split(QLatin1Char(' '));
+        QStringList words = edit.split(QLatin1Char(' '));
         words.insert(1, m_list);
         const VelmoRun run = velmo(QStringList("settings"_s) + words);
         QVERIFY2(run.exitCode == 0, qPrintable(run.err));
         const Lines after(contentOf(m_list));
         const Lines before(sampleText);
-        QCOMPARE(after.without(before).elements(), row.at(1));
-        QCOMPARE(before.without(after).elements(), row.at(2));
+        QCOMPARE(after.without(before).elements(), added);
+        QCOMPARE(before.without(after).elements(), removed);
         QCOMPARE(before.without(before.without(after)), after.without(after.without(before)));
-        QCOMPARE(contentOf(m_list) == sampleText, row.at(1).isEmpty() && row.at(2).isEmpty());
+        QCOMPARE(contentOf(m_list) == sampleText, added.isEmpty() && removed.isEmpty());
     }
 
     void removedDeviceLeavesNoGap()
@@ -392,13 +392,13 @@ private Q_SLOTS:
 
     void checkFindsWhatTheModelWouldNotTake()
     {
-        QFETCH(QStringList, row);
+        const auto [element, finding] = cells<2>();
         QByteArray list = contentOf(located("sound.json"_s)).trimmed();
         list.chop(2);
-        list += ",\n" + row.at(0).toUtf8() + "]";
+        list += ",\n" + element.toUtf8() + "]";
         const VelmoRun run = velmo({"settings"_s, "check"_s, "-"_s}, list);
-        QCOMPARE(run.exitCode, row.at(1).isEmpty() ? 0 : 1);
-        QVERIFY2(run.out.contains(row.at(1)), qPrintable(run.out));
+        QCOMPARE(run.exitCode, finding.isEmpty() ? 0 : 1);
+        QVERIFY2(run.out.contains(finding), qPrintable(run.out));
         QCOMPARE(velmo({"settings"_s, "check"_s, "-"_s}, "{}").exitCode, 2);
     }
 

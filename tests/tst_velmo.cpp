@@ -93,11 +93,10 @@ private Q_SLOTS:
 
     void helpAndCompletionKnowWhatACommandTakes()
     {
-        QFETCH(QStringList, row);
-        const VelmoRun run = velmo(row.at(0).split(QLatin1Char(' ')));
+        const auto [command, output] = cells<2>();
+        const VelmoRun run = velmo(command.split(QLatin1Char(' ')));
         QCOMPARE(run.err, QString());
-        QVERIFY2(run.out.contains(QString(row.at(1)).replace("\\n"_s, "\n"_s)),
-                 qPrintable(run.out));
+        QVERIFY2(run.out.contains(QString(output).replace("\\n"_s, "\n"_s)), qPrintable(run.out));
     }
 
     void badInputIsNamed_data()
@@ -123,10 +122,10 @@ private Q_SLOTS:
 
     void badInputIsNamed()
     {
-        QFETCH(QStringList, row);
-        const VelmoRun run = velmo(row.at(0).split(QLatin1Char(' ')), row.at(1).toUtf8());
+        const auto [command, input, fault] = cells<3>();
+        const VelmoRun run = velmo(command.split(QLatin1Char(' ')), input.toUtf8());
         QCOMPARE(run.exitCode, 2);
-        QVERIFY2(run.err.startsWith("velmo: "_s + row.at(2)), qPrintable(run.err));
+        QVERIFY2(run.err.startsWith("velmo: "_s + fault), qPrintable(run.err));
         QCOMPARE(run.out, QString());
     }
 

@@ -4,7 +4,8 @@
 #include "paymentscreen.h"
 
 #include "acceptorbus.h"
-#include "devicestatesconst.h"
+
+#include <velmolib/devicestatesconst.h>
 
 #include <QDBusConnection>
 #include <QDBusPendingCallWatcher>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "acceptorstate.h"
+#include <velmolib/acceptorstate.h>
 
 #include <QMap>
 #include <QWidget>

@@ -3,8 +3,8 @@
 
 #include "simulateddevice.h"
 
-#include "dispenserregistrymodel.h"
-#include "filterfactory.h"
+#include <velmolib/dispenserregistrymodel.h>
+#include <velmolib/filterfactory.h>
 
 #include <QFile>
 #include <QJsonDocument>

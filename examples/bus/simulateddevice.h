@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "devicestateworker.h"
-#include "filterchain.h"
-#include "statitem.h"
+#include <velmolib/devicestateworker.h>
+#include <velmolib/filterchain.h>
+#include <velmolib/statitem.h>
 
 #include <QJsonArray>
 #include <QVariant>
