@@ -339,5 +339,209 @@
         <source>more than 256 MiB of text at once</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&quot;%1&quot;: expected GROUP/KEY</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown setting &quot;%1&quot; (nearest known: %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>out of its range %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no whole number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>neither 0 nor 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no JSON array of limits, each with &quot;denom&quot; and &quot;attempts&quot; of 1 or more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>no JSON array of whole routes; %n can be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no address: the device is not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is skipped: no &quot;group&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is ignored (nearest known: %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is set again by a later element, to the same</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>does not count: a later element sets it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has no effect: not for a device of this model and interface</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is read as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has no text or number: reads as &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>: reads as &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is missing: the service drives no device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is missing, but below the device count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and more up to %1 are missing, but below the device count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is not below the device count: the service does not drive it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is where %2 is too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>: there is no built-in default, AcceptorSettings has &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>: the built-in default is &quot;%1&quot;, AcceptorSettings has &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>differs from %1, which AcceptorSettings writes here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no model of the catalogue (nearest known: %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: expected SETTING=VALUE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: there is no %2; velmo settings add-device makes %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no built-in default and gets that of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not in the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a device of this model has no &quot;%1&quot; (nearest known: %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: there is no %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 becomes %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a service state</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a formatted settings map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a session log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a device state or a line of a session log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a filters file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what velmo settings show --json prints</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a route map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a list of anti-fishing limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the catalogue of devices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an empty list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: not a settings list: no element is a known setting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: not a settings list: looks like %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

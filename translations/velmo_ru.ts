@@ -80,31 +80,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The settings, with what is at its default.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>With --json the formatted map.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>One value.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Changes values, in the list or into another file.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Changes what it is told to and what follows from that. A file that cannot be written whole is left as it was.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>What the service would ignore or read differently.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The exit code is 1 when it finds something.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -184,10 +160,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>settings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>filters</source>
         <translation type="unfinished"></translation>
     </message>
@@ -201,10 +173,6 @@
     </message>
     <message>
         <source>Print this help.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the library&apos;s texts in a language, as &quot;ru&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -309,6 +277,218 @@
     </message>
     <message>
         <source>-- session %1 --</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings as the service would use them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Marks what is at its default, and what the list lacks. With --json a list of {&quot;path&quot;, &quot;value&quot;, &quot;default&quot;, &quot;source&quot;}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One value as the service would use it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes what it is told to, and what a device needs whose model or interface changes; every other byte stays. What would leave new errors is refused. A file that cannot be written whole is left as it was.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes settings, so that their defaults apply.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds a device with the defaults of its model.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MODEL is the number or name of velmo devices. The device gets the first free index, and the device count is raised to have it in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes a device and moves up those behind it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the service would ignore, miss or read differently.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An error is where the service would do something else than the list says, or a device would not work; a warning is odd, but harmless. The exit code is 1 when it finds something.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the service would do differently with another list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The exit code is 1 when the lists differ.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The note filters that the settings imply.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --json a filters file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The language of the texts, as &quot;ru&quot;, in place of the system&apos;s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the formatted map.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say whether the value is from the list or a default.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write nothing; print what would change.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write it with the errors that it will have.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not tell what was changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Device %1: %2 (%3) &quot;%4&quot;, %5 %6</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> - not below the device count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>coin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Currency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Face value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Route</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rejections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in the table below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Common settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: there is no %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 is not set and has no default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 is not set: not for a device of this model and interface</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 is missing: the built-in default is &quot;%3&quot;, AcceptorSettings has &quot;%4&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: has another owner now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>added %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>removed %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed %1: %2 -&gt; %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing to change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: not written because of these errors; --force writes it all the same</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: expected the index of a device</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
