@@ -5,543 +5,543 @@
     <name>Diagnosis</name>
     <message>
         <source>note of %1 refused.</source>
-        <translation type="unfinished"></translation>
+        <translation>купюра %1 не принята фильтрами.</translation>
     </message>
     <message>
         <source>coin of %1 refused.</source>
-        <translation type="unfinished"></translation>
+        <translation>монета %1 не принята фильтрами.</translation>
     </message>
     <message>
         <source>note of %1 taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>купюра %1 принята.</translation>
     </message>
     <message>
         <source>coin of %1 taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>монета %1 принята.</translation>
     </message>
     <message>
         <source>note of %1 rejected.</source>
-        <translation type="unfinished"></translation>
+        <translation>купюра %1 отклонена устройством.</translation>
     </message>
     <message>
         <source>coin of %1 rejected.</source>
-        <translation type="unfinished"></translation>
+        <translation>монета %1 отклонена устройством.</translation>
     </message>
     <message>
         <source>note of %1 returned.</source>
-        <translation type="unfinished"></translation>
+        <translation>купюра %1 возвращена.</translation>
     </message>
     <message>
         <source>coin of %1 returned.</source>
-        <translation type="unfinished"></translation>
+        <translation>монета %1 возвращена.</translation>
     </message>
     <message>
         <source>note of %1: the log does not say what became of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>купюра %1: что с ней стало, из журнала не видно.</translation>
     </message>
     <message>
         <source>coin of %1: the log does not say what became of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>монета %1: что с ней стало, из журнала не видно.</translation>
     </message>
     <message>
         <source>Session %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Сеанс %1</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>строка %1</translation>
     </message>
     <message>
         <source>coin of unknown value rejected.</source>
-        <translation type="unfinished"></translation>
+        <translation>отклонена монета неизвестного номинала.</translation>
     </message>
     <message>
         <source>note of unknown value rejected.</source>
-        <translation type="unfinished"></translation>
+        <translation>отклонена купюра неизвестного номинала.</translation>
     </message>
     <message>
         <source>It was taken although refused (line %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Она принята устройством вопреки отказу фильтров (строка %1).</translation>
     </message>
     <message>
         <source>By the device itself; no filter objected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Решило само устройство; ни один фильтр не возражал.</translation>
     </message>
     <message>
         <source>Uncertain: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не наверняка: %1.</translation>
     </message>
     <message>
         <source>the log begins in the middle of this session</source>
-        <translation type="unfinished"></translation>
+        <translation>журнал начинается с середины этого сеанса</translation>
     </message>
     <message numerus="yes">
         <source>%n lines were skipped in this session</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>в этом сеансе пропущена %n строка</numerusform>
+            <numerusform>в этом сеансе пропущены %n строки</numerusform>
+            <numerusform>в этом сеансе пропущено %n строк</numerusform>
         </translation>
     </message>
     <message>
         <source>expected an object with the filter&apos;s &quot;name&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ожидается объект с именем фильтра &quot;name&quot;</translation>
     </message>
     <message>
         <source>unknown key &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>неизвестный ключ &quot;%1&quot;</translation>
     </message>
     <message>
         <source>&quot;params&quot;: expected an object</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;params&quot;: ожидается объект</translation>
     </message>
     <message>
         <source>unknown filter &quot;%1&quot; (known: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>неизвестный фильтр &quot;%1&quot; (известны: %2)</translation>
     </message>
     <message>
         <source>%1: unknown parameter &quot;%2&quot; (known: %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: неизвестный параметр &quot;%2&quot; (известны: %3)</translation>
     </message>
     <message>
         <source>%1: parameter &quot;%2&quot; cannot hold this value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: параметр &quot;%2&quot; не может иметь такое значение</translation>
     </message>
     <message>
         <source>%1: is a settings list, where a filters file is expected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: это список настроек, а ожидается файл фильтров</translation>
     </message>
     <message>
         <source>%1: is a filters file, where a settings list is expected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: это файл фильтров, а ожидается список настроек</translation>
     </message>
     <message>
         <source>Every note may be taken as far as the accept filter is concerned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Фильтр приёма пропускает любую купюру.</translation>
     </message>
     <message>
         <source>Every note is refused.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не принимается ни одна купюра.</translation>
     </message>
     <message numerus="yes">
         <source>A note of %1 is refused once notes were rejected %n times, until a note is stacked or the session ends.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Купюра %1 не принимается после %n отклонения, пока какая-нибудь купюра не окажется в стекере или не закончится сеанс.</numerusform>
+            <numerusform>Купюра %1 не принимается после %n отклонений, пока какая-нибудь купюра не окажется в стекере или не закончится сеанс.</numerusform>
+            <numerusform>Купюра %1 не принимается после %n отклонений, пока какая-нибудь купюра не окажется в стекере или не закончится сеанс.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>A session takes at most %n notes of %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>За сеанс принимается не больше %n купюры %1.</numerusform>
+            <numerusform>За сеанс принимается не больше %n купюр %1.</numerusform>
+            <numerusform>За сеанс принимается не больше %n купюр %1.</numerusform>
         </translation>
     </message>
     <message>
         <source>A session takes at most %1 in all.</source>
-        <translation type="unfinished"></translation>
+        <translation>За сеанс принимается не больше %1 всего.</translation>
     </message>
     <message>
         <source>at last in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>последняя из них в %1</translation>
     </message>
     <message>
         <source>All notes are switched off (acceptAll is 0).</source>
-        <translation type="unfinished"></translation>
+        <translation>Приём всех купюр выключен (acceptAll равен 0).</translation>
     </message>
     <message>
         <source>No attempts at all are allowed for %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Для %1 не допускается ни одной попытки.</translation>
     </message>
     <message numerus="yes">
         <source>Notes were rejected %n times since the stacked note of line %4 (%1); %2 are allowed for %3. The next stacked note or session clears this.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>С уложенной купюры в строке %4 купюры отклонялись %n раз (%1); для %3 допускается %2. Сбросит это следующая уложенная купюра или новый сеанс.</numerusform>
+            <numerusform>С уложенной купюры в строке %4 купюры отклонялись %n раза (%1); для %3 допускается %2. Сбросит это следующая уложенная купюра или новый сеанс.</numerusform>
+            <numerusform>С уложенной купюры в строке %4 купюры отклонялись %n раз (%1); для %3 допускается %2. Сбросит это следующая уложенная купюра или новый сеанс.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Notes were rejected %n times since the session began (%1); %2 are allowed for %3. The next stacked note or session clears this.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>С начала сеанса купюры отклонялись %n раз (%1); для %3 допускается %2. Сбросит это следующая уложенная купюра или новый сеанс.</numerusform>
+            <numerusform>С начала сеанса купюры отклонялись %n раза (%1); для %3 допускается %2. Сбросит это следующая уложенная купюра или новый сеанс.</numerusform>
+            <numerusform>С начала сеанса купюры отклонялись %n раз (%1); для %3 допускается %2. Сбросит это следующая уложенная купюра или новый сеанс.</numerusform>
         </translation>
     </message>
     <message>
         <source>No notes of %1 are allowed at all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Купюры %1 не принимаются совсем.</translation>
     </message>
     <message numerus="yes">
         <source>%n notes of %1 were accepted since the session began (%2); %3 are allowed. The next session clears this.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>С начала сеанса принята %n купюра %1 (%2); допускается %3. Сбросит это следующий сеанс.</numerusform>
+            <numerusform>С начала сеанса приняты %n купюры %1 (%2); допускается %3. Сбросит это следующий сеанс.</numerusform>
+            <numerusform>С начала сеанса принято %n купюр %1 (%2); допускается %3. Сбросит это следующий сеанс.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 taken + note %2 &gt; limit %3. The next session clears this.</source>
-        <translation type="unfinished"></translation>
+        <translation>принято %1 + купюра %2 &gt; предел %3. Сбросит это следующий сеанс.</translation>
     </message>
     <message>
         <source>Switches the taking of all notes and coins on or off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Включает и выключает приём всех купюр и монет.</translation>
     </message>
     <message>
         <source>Guards against fishing: once the device has rejected notes a number of times, a note of one face value is refused until a note is stacked or the session ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Защищает от выуживания: когда устройство отклонило купюры заданное число раз, купюра одного номинала не принимается, пока какая-нибудь купюра не окажется в стекере или не закончится сеанс.</translation>
     </message>
     <message>
         <source>Limits how many notes or coins of one face value a session takes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ограничивает число купюр или монет одного номинала за сеанс.</translation>
     </message>
     <message>
         <source>Limits the sum that a session takes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ограничивает сумму, которая принимается за сеанс.</translation>
     </message>
     <message>
         <source>lines %1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>строки %1 и %2</translation>
     </message>
     <message>
         <source>the compressed file is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>сжатый файл обрывается</translation>
     </message>
     <message>
         <source>the compressed file is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>сжатый файл повреждён</translation>
     </message>
     <message>
         <source>The device was disabled (since line %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Устройство было выключено (со строки %1).</translation>
     </message>
     <message>
         <source>The device was offline (since line %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Устройство было не на связи (со строки %1).</translation>
     </message>
     <message>
         <source>The device was halted (since line %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Устройство было остановлено (со строки %1).</translation>
     </message>
     <message>
         <source>The device had a critical error (since line %1): %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>У устройства была критическая ошибка (со строки %1): %2.</translation>
     </message>
     <message>
         <source>The stacker was missing (since line %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Стекера не было (со строки %1).</translation>
     </message>
     <message>
         <source>The stacker was full (since line %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Стекер был полон (со строки %1).</translation>
     </message>
     <message>
         <source>Bill validator</source>
-        <translation type="unfinished"></translation>
+        <translation>Купюроприёмник</translation>
     </message>
     <message>
         <source>Coin acceptor</source>
-        <translation type="unfinished"></translation>
+        <translation>Монетоприёмник</translation>
     </message>
     <message>
         <source>Card terminal</source>
-        <translation type="unfinished"></translation>
+        <translation>Карточный терминал</translation>
     </message>
     <message>
         <source>Note dispenser</source>
-        <translation type="unfinished"></translation>
+        <translation>Диспенсер купюр</translation>
     </message>
     <message>
         <source>Note recycler</source>
-        <translation type="unfinished"></translation>
+        <translation>Рециркулятор купюр</translation>
     </message>
     <message>
         <source>Coin hopper</source>
-        <translation type="unfinished"></translation>
+        <translation>Монетный хоппер</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Устройство</translation>
     </message>
     <message>
         <source>Device %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Устройство %1</translation>
     </message>
     <message>
         <source>no description</source>
-        <translation type="unfinished"></translation>
+        <translation>без описания</translation>
     </message>
     <message>
         <source>%1, thread %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, поток %2</translation>
     </message>
     <message>
         <source>expected an ISO 8601 time or milliseconds since 1970</source>
-        <translation type="unfinished"></translation>
+        <translation>ожидается время ISO 8601 или миллисекунды с 1970 года</translation>
     </message>
     <message>
         <source>expected true or false</source>
-        <translation type="unfinished"></translation>
+        <translation>ожидается true или false</translation>
     </message>
     <message>
         <source>expected a text</source>
-        <translation type="unfinished"></translation>
+        <translation>ожидается текст</translation>
     </message>
     <message>
         <source>expected a whole number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ожидается целое число от %1 до %2</translation>
     </message>
     <message>
         <source>unknown state name &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>неизвестное имя состояния &quot;%1&quot;</translation>
     </message>
     <message>
         <source>key &quot;%1&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>нет ключа &quot;%1&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot hold this value</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; не может иметь такое значение</translation>
     </message>
     <message>
         <source>expected a list of registry rows</source>
-        <translation type="unfinished"></translation>
+        <translation>ожидается список строк реестра</translation>
     </message>
     <message>
         <source>row %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>строка реестра %1: %2</translation>
     </message>
     <message>
         <source>expected a list &quot;device_states&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ожидается список &quot;device_states&quot;</translation>
     </message>
     <message>
         <source>expected a JSON object</source>
-        <translation type="unfinished"></translation>
+        <translation>ожидается объект JSON</translation>
     </message>
     <message>
         <source>&quot;device_states&quot;: element %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;device_states&quot;: элемент %1: %2</translation>
     </message>
     <message>
         <source>&quot;session&quot;: expected &quot;start&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;session&quot;: ожидается &quot;start&quot;</translation>
     </message>
     <message>
         <source>fields of one device beside &quot;device_states&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>поля одного устройства рядом с &quot;device_states&quot;</translation>
     </message>
     <message>
         <source>more than 256 MiB of text at once</source>
-        <translation type="unfinished"></translation>
+        <translation>больше 256 МиБ текста сразу</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: expected GROUP/KEY</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;: ожидается ГРУППА/КЛЮЧ</translation>
     </message>
     <message>
         <source>unknown setting &quot;%1&quot; (nearest known: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>неизвестная настройка &quot;%1&quot; (самая похожая: %2)</translation>
     </message>
     <message>
         <source>out of its range %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>вне допустимых границ от %1 до %2</translation>
     </message>
     <message>
         <source>no whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>не целое число</translation>
     </message>
     <message>
         <source>neither 0 nor 1</source>
-        <translation type="unfinished"></translation>
+        <translation>не 0 и не 1</translation>
     </message>
     <message>
         <source>none of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>не из числа: %1</translation>
     </message>
     <message>
         <source>no JSON array of limits, each with &quot;denom&quot; and &quot;attempts&quot; of 1 or more</source>
-        <translation type="unfinished"></translation>
+        <translation>не массив JSON пределов, у каждого из которых &quot;denom&quot; и &quot;attempts&quot; не меньше 1</translation>
     </message>
     <message numerus="yes">
         <source>no JSON array of whole routes; %n can be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>не массив JSON полных маршрутов; прочесть можно %n</numerusform>
+            <numerusform>не массив JSON полных маршрутов; прочесть можно %n</numerusform>
+            <numerusform>не массив JSON полных маршрутов; прочесть можно %n</numerusform>
         </translation>
     </message>
     <message>
         <source>no address: the device is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>не адрес: устройство не найдётся</translation>
     </message>
     <message>
         <source>is skipped: no &quot;group&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>пропускается: нет &quot;group&quot;</translation>
     </message>
     <message>
         <source>is ignored (nearest known: %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>не учитывается (самая похожая: %1)</translation>
     </message>
     <message>
         <source>is set again by a later element, to the same</source>
-        <translation type="unfinished"></translation>
+        <translation>задаётся ещё раз дальше, так же</translation>
     </message>
     <message>
         <source>does not count: a later element sets it again</source>
-        <translation type="unfinished"></translation>
+        <translation>не действует: дальше задаётся ещё раз</translation>
     </message>
     <message>
         <source>has no effect: not for a device of this model and interface</source>
-        <translation type="unfinished"></translation>
+        <translation>не действует: не для устройства этой модели и с этим интерфейсом</translation>
     </message>
     <message>
         <source>is read as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>читается как %1</translation>
     </message>
     <message>
         <source>has no text or number: reads as &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>не текст и не число: читается как &quot;%1&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; - %2</translation>
     </message>
     <message>
         <source>: reads as &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>: читается как &quot;%1&quot;</translation>
     </message>
     <message>
         <source>is missing: the service drives no device</source>
-        <translation type="unfinished"></translation>
+        <translation>нет: служба не управляет ни одним устройством</translation>
     </message>
     <message>
         <source>is missing, but below the device count</source>
-        <translation type="unfinished"></translation>
+        <translation>нет, хотя число устройств больше</translation>
     </message>
     <message>
         <source>and more up to %1 are missing, but below the device count</source>
-        <translation type="unfinished"></translation>
+        <translation>и следующих до %1 нет, хотя число устройств больше</translation>
     </message>
     <message>
         <source>is not below the device count: the service does not drive it</source>
-        <translation type="unfinished"></translation>
+        <translation>не меньше числа устройств: служба им не управляет</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is where %2 is too</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; - там же и %2</translation>
     </message>
     <message>
         <source>is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>нет</translation>
     </message>
     <message>
         <source>: there is no built-in default, AcceptorSettings has &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>: встроенного значения нет, в AcceptorSettings &quot;%1&quot;</translation>
     </message>
     <message>
         <source>: the built-in default is &quot;%1&quot;, AcceptorSettings has &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>: встроенное значение &quot;%1&quot;, в AcceptorSettings &quot;%2&quot;</translation>
     </message>
     <message>
         <source>differs from %1, which AcceptorSettings writes here</source>
-        <translation type="unfinished"></translation>
+        <translation>отличается от %1, которое пишет сюда AcceptorSettings</translation>
     </message>
     <message>
         <source>error</source>
-        <translation type="unfinished"></translation>
+        <translation>ошибка</translation>
     </message>
     <message>
         <source>warning</source>
-        <translation type="unfinished"></translation>
+        <translation>предупреждение</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no model of the catalogue (nearest known: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; нет среди моделей каталога (самая похожая: %2)</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: expected SETTING=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;: ожидается НАСТРОЙКА=ЗНАЧЕНИЕ</translation>
     </message>
     <message>
         <source>%1: there is no %2; velmo settings add-device makes %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: нет %2; velmo settings add-device добавит %3</translation>
     </message>
     <message>
         <source>%1 has no built-in default and gets that of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>у %1 нет встроенного значения, взято значение %2</translation>
     </message>
     <message>
         <source>%1 is not in the list</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 нет в списке</translation>
     </message>
     <message>
         <source>a device of this model has no &quot;%1&quot; (nearest known: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>у устройства этой модели нет &quot;%1&quot; (самая похожая: %2)</translation>
     </message>
     <message>
         <source>%1: there is no %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: нет %2</translation>
     </message>
     <message>
         <source>%1 becomes %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 становится %2</translation>
     </message>
     <message>
         <source>a service state</source>
-        <translation type="unfinished"></translation>
+        <translation>состояние службы</translation>
     </message>
     <message>
         <source>a formatted settings map</source>
-        <translation type="unfinished"></translation>
+        <translation>карту настроек</translation>
     </message>
     <message>
         <source>a session log</source>
-        <translation type="unfinished"></translation>
+        <translation>журнал сеансов</translation>
     </message>
     <message>
         <source>a device state or a line of a session log</source>
-        <translation type="unfinished"></translation>
+        <translation>состояние устройства или строку журнала сеансов</translation>
     </message>
     <message>
         <source>a filters file</source>
-        <translation type="unfinished"></translation>
+        <translation>файл фильтров</translation>
     </message>
     <message>
         <source>what velmo settings show --json prints</source>
-        <translation type="unfinished"></translation>
+        <translation>то, что печатает velmo settings show --json</translation>
     </message>
     <message>
         <source>a route map</source>
-        <translation type="unfinished"></translation>
+        <translation>карту маршрутов</translation>
     </message>
     <message>
         <source>a list of anti-fishing limits</source>
-        <translation type="unfinished"></translation>
+        <translation>список пределов защиты от выуживания</translation>
     </message>
     <message>
         <source>the catalogue of devices</source>
-        <translation type="unfinished"></translation>
+        <translation>каталог устройств</translation>
     </message>
     <message>
         <source>an empty list</source>
-        <translation type="unfinished"></translation>
+        <translation>пустой список</translation>
     </message>
     <message>
         <source>settings</source>
-        <translation type="unfinished"></translation>
+        <translation>настройки</translation>
     </message>
     <message>
         <source>%1: not a settings list: no element is a known setting</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: не список настроек: ни один элемент не является известной настройкой</translation>
     </message>
     <message>
         <source>%1: not a settings list: looks like %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: не список настроек: похоже на %2</translation>
     </message>
 </context>
 </TS>

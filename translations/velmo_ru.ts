@@ -5,491 +5,491 @@
     <name>Velmo</name>
     <message>
         <source>Options:</source>
-        <translation type="unfinished"></translation>
+        <translation>Параметры:</translation>
     </message>
     <message>
         <source>Commands (velmo help COMMAND tells more):</source>
-        <translation type="unfinished"></translation>
+        <translation>Команды (подробнее: velmo help КОМАНДА):</translation>
     </message>
     <message>
         <source>Usage:</source>
-        <translation type="unfinished"></translation>
+        <translation>Вызов:</translation>
     </message>
     <message>
         <source>Answers questions about the cash devices of a kiosk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Отвечает на вопросы о денежных устройствах киоска.</translation>
     </message>
     <message>
         <source>no command given; velmo --help lists them</source>
-        <translation type="unfinished"></translation>
+        <translation>команда не задана; их перечисляет velmo --help</translation>
     </message>
     <message>
         <source>usage: velmo %1 ... (known: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>вызов: velmo %1 ... (есть: %2)</translation>
     </message>
     <message>
         <source>unknown command &quot;%1&quot; (nearest known: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>неизвестная команда &quot;%1&quot; (самая похожая: %2)</translation>
     </message>
     <message>
         <source>unknown option %1 (nearest known: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>неизвестный параметр %1 (самый похожий: %2)</translation>
     </message>
     <message>
         <source>no translations for language &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>нет перевода на язык &quot;%1&quot;</translation>
     </message>
     <message>
         <source>velmo %1 (library built %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>velmo %1 (библиотека собрана %2)</translation>
     </message>
     <message>
         <source>usage: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>вызов: %1</translation>
     </message>
     <message>
         <source>Why notes were refused: one answer for every note of a log.</source>
-        <translation type="unfinished"></translation>
+        <translation>Почему купюры не приняты: по ответу на каждую купюру журнала.</translation>
     </message>
     <message>
         <source>Tells for each note what became of it and why: every filter that objected, with the lines that counted and what clears them, or what was the matter with the device. A session log has one JSON object a line, plain or compressed by gzip: what a device reported, or a published state {&quot;device_states&quot;: [...]}, with &quot;time&quot; and &quot;session&quot;: &quot;start&quot; where known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Говорит о каждой купюре, что с ней стало и почему: каждый фильтр, который возражал, со строками, которые учтены, и тем, что сбросит отказ, или что было с устройством. В журнале сеансов на строке один объект JSON, файл может быть сжат gzip: что сообщило устройство, или состояние службы {&quot;device_states&quot;: [...]}, с &quot;time&quot; и &quot;session&quot;: &quot;start&quot;, где они известны.</translation>
     </message>
     <message>
         <source>What happened in a session log, event by event.</source>
-        <translation type="unfinished"></translation>
+        <translation>Что происходило в журнале сеансов, событие за событием.</translation>
     </message>
     <message>
         <source>Plays what the devices reported through the worker, the note filters and the published state, and shows for every line what came of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Проводит то, что сообщали устройства, через обработчик, фильтры купюр и состояние службы и показывает для каждой строки, что вышло.</translation>
     </message>
     <message>
         <source>What a published service state means.</source>
-        <translation type="unfinished"></translation>
+        <translation>Что значит состояние службы.</translation>
     </message>
     <message>
         <source>What the customer is told, whether money may be accepted, and the service report, for a published service state {&quot;device_states&quot;: [...]}. From standard input (&quot;-&quot;), one state a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Что видит клиент, принимаются ли деньги, и отчёт для обслуживания по состоянию службы {&quot;device_states&quot;: [...]}. Со стандартного ввода (&quot;-&quot;) по состоянию на строке.</translation>
     </message>
     <message>
         <source>Checks a device state and rewrites it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверяет состояние устройства и переписывает его.</translation>
     </message>
     <message>
         <source>Checks every key and value of a device state, and writes it as the compact text that the service sends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверяет каждый ключ и каждое значение состояния устройства и пишет его кратким текстом, какой посылает служба.</translation>
     </message>
     <message>
         <source>Changes values, in the list or into another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Меняет значения в этом списке или в другом файле.</translation>
     </message>
     <message>
         <source>The route map.</source>
-        <translation type="unfinished"></translation>
+        <translation>Карта маршрутов.</translation>
     </message>
     <message>
         <source>The catalogue of device models.</source>
-        <translation type="unfinished"></translation>
+        <translation>Каталог моделей устройств.</translation>
     </message>
     <message>
         <source>The note filters and their parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Фильтры купюр и их параметры.</translation>
     </message>
     <message>
         <source>What each filter does, and its parameters with the pattern of a valid value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Что делает каждый фильтр, и его параметры с образцом допустимого значения.</translation>
     </message>
     <message>
         <source>%1: expected a number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ожидается число</translation>
     </message>
     <message>
         <source>Offered</source>
-        <translation type="unfinished"></translation>
+        <translation>Предложены</translation>
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Приняты</translation>
     </message>
     <message>
         <source>Refused by the filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Не приняты фильтрами</translation>
     </message>
     <message>
         <source>taken although refused</source>
-        <translation type="unfinished"></translation>
+        <translation>приняты вопреки фильтрам</translation>
     </message>
     <message>
         <source>Rejected by the device</source>
-        <translation type="unfinished"></translation>
+        <translation>Отклонены устройством</translation>
     </message>
     <message>
         <source>Returned</source>
-        <translation type="unfinished"></translation>
+        <translation>Возвращены</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Неизвестно</translation>
     </message>
     <message>
         <source>Sessions: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Сеансов: %1</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Купюры</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Число</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Сумма</translation>
     </message>
     <message>
         <source>Filters in force (%1):</source>
-        <translation type="unfinished"></translation>
+        <translation>Действующие фильтры (%1):</translation>
     </message>
     <message>
         <source>None: every note is accepted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет: принимается любая купюра.</translation>
     </message>
     <message>
         <source>log and filters cannot both come from standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>журнал и фильтры нельзя читать вместе со стандартного ввода</translation>
     </message>
     <message>
         <source>filters</source>
-        <translation type="unfinished"></translation>
+        <translation>фильтры</translation>
     </message>
     <message>
         <source>%1: answers may differ from the service&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ответы могут расходиться с решениями службы</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>стандартный ввод</translation>
     </message>
     <message>
         <source>Print this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать эту справку.</translation>
     </message>
     <message>
         <source>Print the version of the library and the time of its build.</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать версию библиотеки и время её сборки.</translation>
     </message>
     <message>
         <source>The note filters: [{&quot;name&quot;:&quot;AttemptsFilter&quot;,&quot;params&quot;:{&quot;denom&quot;:1000,&quot;attempts&quot;:2}}, ...]</source>
-        <translation type="unfinished"></translation>
+        <translation>Фильтры купюр: [{&quot;name&quot;:&quot;AttemptsFilter&quot;,&quot;params&quot;:{&quot;denom&quot;:1000,&quot;attempts&quot;:2}}, ...]</translation>
     </message>
     <message>
         <source>In place of --filters: the filters that the service&apos;s settings imply.</source>
-        <translation type="unfinished"></translation>
+        <translation>Вместо --filters: фильтры, которые следуют из настроек службы.</translation>
     </message>
     <message>
         <source>Print JSON in place of text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Печатать JSON вместо текста.</translation>
     </message>
     <message>
         <source>Skip bad lines and count them; the exit code is still 2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Пропускать негодные строки и считать их; код завершения всё равно 2.</translation>
     </message>
     <message>
         <source>Only session N, counted from 1 in each log.</source>
-        <translation type="unfinished"></translation>
+        <translation>Только сеанс N, в каждом журнале счёт с 1.</translation>
     </message>
     <message>
         <source>Only the device with that identifier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Только устройство с этим номером.</translation>
     </message>
     <message>
         <source>Show only what the filters refused.</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать только то, что не приняли фильтры.</translation>
     </message>
     <message>
         <source>Show only the summary.</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать только итоги.</translation>
     </message>
     <message>
         <source>Make the exit code 1 when the filters refused something.</source>
-        <translation type="unfinished"></translation>
+        <translation>Код завершения 1, когда фильтры что-нибудь не приняли.</translation>
     </message>
     <message>
         <source>Display names by device identifier: {&quot;1&quot;: &quot;Validator&quot;}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Имена для показа по номерам устройств: {&quot;1&quot;: &quot;Купюроприёмник&quot;}.</translation>
     </message>
     <message>
         <source>Clear the terminal before every state.</source>
-        <translation type="unfinished"></translation>
+        <translation>Очищать экран перед каждым состоянием.</translation>
     </message>
     <message>
         <source>Write the state as an indented map.</source>
-        <translation type="unfinished"></translation>
+        <translation>Писать состояние картой с отступами.</translation>
     </message>
     <message>
         <source>Write to OUT, &quot;-&quot; for standard output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Писать в OUT, &quot;-&quot; - в стандартный вывод.</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Строка</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Время</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Устройство</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Состояние</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>Купюра</translation>
     </message>
     <message>
         <source>Verdict</source>
-        <translation type="unfinished"></translation>
+        <translation>Решение</translation>
     </message>
     <message>
         <source>What it means</source>
-        <translation type="unfinished"></translation>
+        <translation>Что это значит</translation>
     </message>
     <message>
         <source>reject</source>
-        <translation type="unfinished"></translation>
+        <translation>не принять</translation>
     </message>
     <message>
         <source>accept</source>
-        <translation type="unfinished"></translation>
+        <translation>принять</translation>
     </message>
     <message>
         <source>money may be accepted</source>
-        <translation type="unfinished"></translation>
+        <translation>деньги можно вносить</translation>
     </message>
     <message>
         <source>nothing new</source>
-        <translation type="unfinished"></translation>
+        <translation>ничего нового</translation>
     </message>
     <message>
         <source>-- session %1 --</source>
-        <translation type="unfinished"></translation>
+        <translation>-- сеанс %1 --</translation>
     </message>
     <message>
         <source>The settings as the service would use them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки, как их поймёт служба.</translation>
     </message>
     <message>
         <source>Marks what is at its default, and what the list lacks. With --json a list of {&quot;path&quot;, &quot;value&quot;, &quot;default&quot;, &quot;source&quot;}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Помечает то, что равно встроенному значению, и то, чего в списке нет. С --json - список {&quot;path&quot;, &quot;value&quot;, &quot;default&quot;, &quot;source&quot;}.</translation>
     </message>
     <message>
         <source>One value as the service would use it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Одно значение, как его поймёт служба.</translation>
     </message>
     <message>
         <source>Changes what it is told to, and what a device needs whose model or interface changes; every other byte stays. What would leave new errors is refused. A file that cannot be written whole is left as it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Меняет то, что велено, и то, что нужно устройству, у которого меняется модель или интерфейс; остальные байты не меняются. То, из-за чего появятся новые ошибки, не записывается. Файл, который нельзя записать целиком, остаётся прежним.</translation>
     </message>
     <message>
         <source>Removes settings, so that their defaults apply.</source>
-        <translation type="unfinished"></translation>
+        <translation>Убирает настройки, чтобы действовали встроенные значения.</translation>
     </message>
     <message>
         <source>Adds a device with the defaults of its model.</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавляет устройство со встроенными значениями его модели.</translation>
     </message>
     <message>
         <source>MODEL is the number or name of velmo devices. The device gets the first free index, and the device count is raised to have it in.</source>
-        <translation type="unfinished"></translation>
+        <translation>MODEL - номер или имя из velmo devices. Устройство получает первый свободный индекс, а число устройств увеличивается, если нужно.</translation>
     </message>
     <message>
         <source>Removes a device and moves up those behind it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Убирает устройство и сдвигает те, что за ним.</translation>
     </message>
     <message>
         <source>What the service would ignore, miss or read differently.</source>
-        <translation type="unfinished"></translation>
+        <translation>Чего служба не учтёт, не найдёт или что поймёт иначе.</translation>
     </message>
     <message>
         <source>An error is where the service would do something else than the list says, or a device would not work; a warning is odd, but harmless. The exit code is 1 when it finds something.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка - когда служба сделает не то, что сказано в списке, или устройство не будет работать; предупреждение - когда странно, но безвредно. Код завершения 1, когда что-нибудь найдено.</translation>
     </message>
     <message>
         <source>What the service would do differently with another list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Что служба сделает иначе с другим списком.</translation>
     </message>
     <message>
         <source>The exit code is 1 when the lists differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>Код завершения 1, когда списки различаются.</translation>
     </message>
     <message>
         <source>The note filters that the settings imply.</source>
-        <translation type="unfinished"></translation>
+        <translation>Фильтры купюр, которые следуют из настроек.</translation>
     </message>
     <message>
         <source>With --json a filters file.</source>
-        <translation type="unfinished"></translation>
+        <translation>С --json - файл фильтров.</translation>
     </message>
     <message>
         <source>The language of the texts, as &quot;ru&quot;, in place of the system&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык текстов, например &quot;ru&quot;, вместо языка системы.</translation>
     </message>
     <message>
         <source>Print the formatted map.</source>
-        <translation type="unfinished"></translation>
+        <translation>Печатать карту настроек.</translation>
     </message>
     <message>
         <source>Say whether the value is from the list or a default.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сказать, из списка ли значение или встроенное.</translation>
     </message>
     <message>
         <source>Write nothing; print what would change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ничего не записывать; показать, что изменится.</translation>
     </message>
     <message>
         <source>Write it with the errors that it will have.</source>
-        <translation type="unfinished"></translation>
+        <translation>Записать и с ошибками, которые появятся.</translation>
     </message>
     <message>
         <source>Do not tell what was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не сообщать, что изменено.</translation>
     </message>
     <message>
         <source>unknown model</source>
-        <translation type="unfinished"></translation>
+        <translation>неизвестная модель</translation>
     </message>
     <message>
         <source>Device %1: %2 (%3) &quot;%4&quot;, %5 %6</source>
-        <translation type="unfinished"></translation>
+        <translation>Устройство %1: %2 (%3) &quot;%4&quot;, %5 %6</translation>
     </message>
     <message>
         <source> - not below the device count</source>
-        <translation type="unfinished"></translation>
+        <translation> - не меньше числа устройств</translation>
     </message>
     <message>
         <source>coin</source>
-        <translation type="unfinished"></translation>
+        <translation>монета</translation>
     </message>
     <message>
         <source>note</source>
-        <translation type="unfinished"></translation>
+        <translation>купюра</translation>
     </message>
     <message>
         <source>Currency</source>
-        <translation type="unfinished"></translation>
+        <translation>Валюта</translation>
     </message>
     <message>
         <source>Face value</source>
-        <translation type="unfinished"></translation>
+        <translation>Номинал</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Вид</translation>
     </message>
     <message>
         <source>Route</source>
-        <translation type="unfinished"></translation>
+        <translation>Маршрут</translation>
     </message>
     <message>
         <source>Count</source>
-        <translation type="unfinished"></translation>
+        <translation>Число</translation>
     </message>
     <message>
         <source>Rejections</source>
-        <translation type="unfinished"></translation>
+        <translation>Отклонений</translation>
     </message>
     <message>
         <source>in the table below</source>
-        <translation type="unfinished"></translation>
+        <translation>в таблице ниже</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>встроенное</translation>
     </message>
     <message>
         <source>missing</source>
-        <translation type="unfinished"></translation>
+        <translation>нет</translation>
     </message>
     <message>
         <source>not used</source>
-        <translation type="unfinished"></translation>
+        <translation>не действует</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройка</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Значение</translation>
     </message>
     <message>
         <source>Common settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Общие настройки</translation>
     </message>
     <message>
         <source>not set</source>
-        <translation type="unfinished"></translation>
+        <translation>не задано</translation>
     </message>
     <message>
         <source>%1: there is no %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: нет %2</translation>
     </message>
     <message>
         <source>%1: %2 is not set and has no default</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 не задано, и встроенного значения нет</translation>
     </message>
     <message>
         <source>%1: %2 is not set: not for a device of this model and interface</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 не задано: не для устройства этой модели и с этим интерфейсом</translation>
     </message>
     <message>
         <source>%1: %2 is missing: the built-in default is &quot;%3&quot;, AcceptorSettings has &quot;%4&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 нет: встроенное значение &quot;%3&quot;, в AcceptorSettings &quot;%4&quot;</translation>
     </message>
     <message>
         <source>list (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>список (%1)</translation>
     </message>
     <message>
         <source>%1: has another owner now</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: теперь у файла другой владелец</translation>
     </message>
     <message>
         <source>added %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>добавлено %1: %2</translation>
     </message>
     <message>
         <source>removed %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>убрано %1: %2</translation>
     </message>
     <message>
         <source>changed %1: %2 -&gt; %3</source>
-        <translation type="unfinished"></translation>
+        <translation>изменено %1: %2 -&gt; %3</translation>
     </message>
     <message>
         <source>nothing to change</source>
-        <translation type="unfinished"></translation>
+        <translation>менять нечего</translation>
     </message>
     <message>
         <source>error</source>
-        <translation type="unfinished"></translation>
+        <translation>ошибка</translation>
     </message>
     <message>
         <source>warning</source>
-        <translation type="unfinished"></translation>
+        <translation>предупреждение</translation>
     </message>
     <message>
         <source>%1: not written because of these errors; --force writes it all the same</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: не записано из-за этих ошибок; с --force запишется всё равно</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: expected the index of a device</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;: ожидается индекс устройства</translation>
     </message>
 </context>
 </TS>
