@@ -13,12 +13,12 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <charconv>
 
 const QString AcceptorState::ACCEPTOR_STATE_BUSY = QStringLiteral("busy");
+const QString AcceptorState::DEVICE_STATES = QStringLiteral("device_states");
 
 namespace {
-
-const QString deviceStatesKey = QStringLiteral("device_states");
 
 bool isValidator(int deviceId)
 {
@@ -42,168 +42,240 @@ bool takesNotes(const AcceptorStateItem& device)
         && !device.stackerFull();
 }
 
-using Row = DispenserRegistryItem;
-
-// Files a registry row, without the keys of its owner and its channel, under its kind and channel.
-void fileRow(QVariantMap& registry, const QVariantMap& row, const QVariant& channel)
+// Walks a value as JsonReader walks a text.
+class VariantReader
 {
-    const QString key =
-        QStringLiteral("%1_%2_%3_%4")
-            .arg(Variants::toString(row.value(Row::BILL_TYPE)), Variants::toString(channel),
-                 Variants::toString(row.value(Row::DENOMINATION)),
-                 Variants::toString(row.value(Row::CURRENCY)));
-    registry.insert(key, row);
-}
-
-QVariantMap registryByChannel(const QVariantList& rows)
-{
-    QVariantMap registry;
-    for (const QVariant& element : rows) {
-        QVariantMap row = Variants::toMap(element);
-        if (row.isEmpty())
-            continue;
-        const QVariant channel = row.take(Row::CHANNEL);
-        row.remove(Row::THREAD_ID);
-        row.remove(Row::DEVICE_ID);
-        fileRow(registry, row, channel);
+public:
+    explicit VariantReader(const QVariant& value)
+        : m_current(&value)
+    {
     }
-    return registry;
-}
 
-using Item = AcceptorStateItem;
+    bool isAtObject() const { return !Variants::toMap(*m_current).isEmpty(); }
+    bool isAtArray() const { return !Variants::toList(*m_current).isEmpty(); }
 
-template <typename Value, auto Setter>
-void set(Item& item, const QVariant& value)
-{
-    (item.*Setter)(fromVariant<Value>(value));
-}
+    template <typename Read>
+    bool readObject(Read readMember)
+    {
+        const QVariantMap map = Variants::toMap(*m_current);
+        for (auto member = map.constBegin(); member != map.constEnd(); ++member) {
+            m_current = &*member;
+            readMember(member.key());
+        }
+        return true;
+    }
 
-// What an entry reads of a device's map.
-const struct
-{
-    const QString& key;
-    void (*set)(Item& item, const QVariant& value);
-} deviceFields[] = {
-    {deviceStateDescConst::DEVICE_ID, set<int, &Item::setDeviceId>},
-    {deviceStateDescConst::ENABLED, set<bool, &Item::setEnabled>},
-    {deviceStateDescConst::STACKER_PRESENT, set<bool, &Item::setStackerPresent>},
-    {deviceStateDescConst::STACKER_FULL, set<bool, &Item::setStackerFull>},
-    {deviceStateDescConst::ERROR_CRITICAL, set<bool, &Item::setErrorCritical>},
-    {deviceStateDescConst::ERROR_TEXT, set<QString, &Item::setErrorText>},
-    {deviceStateDescConst::STATE, set<QString, &Item::setState>},
-    {deviceStateDescConst::STATE_TEXT, set<QString, &Item::setStateText>},
-    {deviceStateDescConst::THREAD_ID, set<int, &Item::setThreadId>},
-    {deviceStateDescConst::HALT, set<bool, &Item::setHalt>},
-    {deviceStateDescConst::ID_STRING, set<QString, &Item::setIdString>},
-    {StatItem::NOTES_INSERTED, set<int, &Item::setNotesInserted>},
-    {StatItem::NOTES_REJECTED, set<int, &Item::setNotesRejected>},
-    {StatItem::NOTES_RETURNED, set<int, &Item::setNotesReturned>},
-    {DispenserRegistryModel::DISPENSER_REGISTRY,
-     [](Item& item, const QVariant& value) {
-         item.setDispRegistry(registryByChannel(Variants::toList(value)));
-     }},
+    template <typename Read>
+    bool readArray(Read readElement)
+    {
+        const QVariantList list = Variants::toList(*m_current);
+        for (const QVariant& element : list) {
+            m_current = &element;
+            readElement();
+        }
+        return true;
+    }
+
+    bool readValue(QVariant& value)
+    {
+        value = *m_current;
+        return true;
+    }
+
+    static bool skipValue() { return true; }
+
+private:
+    const QVariant* m_current;
 };
 
-// The constant of a row's key, which costs no memory in each row; any other key itself.
-QString sharedKey(const QString& key)
+// A registry row on its way from either reader into an entry's map.
+class RegistryRow
 {
-    for (const QString& known :
-         {Row::BILL_TYPE, Row::COUNT, Row::CURRENCY, Row::DENOMINATION, Row::REJECTED}) {
-        if (key == known)
-            return known;
+public:
+    // Where the value of a key belongs; null when it is not kept.
+    QVariant* place(const QString& key, const QVariant& likelyCurrency)
+    {
+        const std::size_t i = order().find(key, m_likely);
+        m_isEmpty = false;
+        if (i == DeviceId || i == ThreadId)
+            return nullptr;
+        if (i == Channel)
+            return &m_channel;
+        // A constant and a text that is shared cost no memory in each row.
+        const QString& kept = i == keys.size() ? key : *keys[i];
+        return &*m_values.insert(m_values.cend(), kept,
+                                 i == Currency ? likelyCurrency : QVariant());
     }
-    return key;
+
+    // Stores the row under its kind and channel.
+    void file(QVariantMap& registry) const
+    {
+        if (m_isEmpty)
+            return;
+        QVarLengthArray<QChar, 64> key;
+        append(key, m_values.value(*keys[BillType]));
+        key.append(u'_');
+        append(key, m_channel);
+        key.append(u'_');
+        append(key, m_values.value(*keys[Denomination]));
+        key.append(u'_');
+        append(key, currency());
+        registry.insert(QString(key.constData(), key.size()), m_values);
+    }
+
+    QVariant currency() const { return m_values.value(*keys[Currency]); }
+
+private:
+    using Row = DispenserRegistryItem;
+    enum Key : std::size_t { BillType, Channel, Currency, Denomination, DeviceId, ThreadId };
+    static constexpr std::array keys{&Row::BILL_TYPE,    &Row::CHANNEL,   &Row::CURRENCY,
+                                     &Row::DENOMINATION, &Row::DEVICE_ID, &Row::THREAD_ID,
+                                     &Row::COUNT,        &Row::REJECTED};
+
+    static const KeyOrder<keys.size()>& order()
+    {
+        static const KeyOrder<keys.size()> order(keys);
+        return order;
+    }
+
+    static void append(QVarLengthArray<QChar, 64>& key, const QVariant& part)
+    {
+        if (part.userType() != QMetaType::LongLong) {
+            const QString text = Variants::toString(part);
+            key.append(text.constData(), text.size());
+            return;
+        }
+        char digits[20];
+        const char* const end = std::to_chars(digits, digits + 20, part.toLongLong()).ptr;
+        for (const char* digit = digits; digit != end; ++digit)
+            key.append(QLatin1Char(*digit));
+    }
+
+    QVariantMap m_values;
+    QVariant m_channel;
+    std::size_t m_likely = 0;
+    bool m_isEmpty = true;
+};
+
+template <typename Reader>
+bool readRegistry(Reader& reader, AcceptorStateItem& device)
+{
+    QVariantMap registry;
+    QVariant currency; // mostly the same in every row
+    const auto readRow = [&] {
+        RegistryRow row;
+        const bool complete = reader.readObject([&](const QString& key) {
+            QVariant* const value = row.place(key, currency);
+            return value ? reader.readValue(*value) : reader.skipValue();
+        });
+        row.file(registry);
+        currency = row.currency();
+        return complete;
+    };
+    const auto readElement = [&] { return reader.isAtObject() ? readRow() : reader.skipValue(); };
+    const bool complete = reader.isAtArray() ? reader.readArray(readElement) : reader.skipValue();
+    device.setDispRegistry(registry);
+    return complete;
 }
 
-bool readRegistry(JsonReader& json, QVariantMap& registry)
+// A field of a device's map.
+struct DeviceField
 {
-    return json.readArray([&] {
-        if (!json.isAtObject())
-            return json.skipValue();
-        QVariantMap row;
-        QVariant channel;
-        bool hasKeys = false;
-        const bool complete = json.readObject([&](const QString& key) {
-            hasKeys = true;
-            if (key == Row::THREAD_ID || key == Row::DEVICE_ID)
-                return json.skipValue();
-            return json.readValue(key == Row::CHANNEL ? channel : row[sharedKey(key)]);
-        });
-        if (hasKeys)
-            fileRow(registry, row, channel);
+    const QString* key;
+    void (*set)(AcceptorStateItem& item, const QVariant& value); // null when it is not read
+};
+
+template <typename Setter>
+struct Argument;
+
+template <typename Value>
+struct Argument<void (AcceptorStateItem::*)(Value)>
+{
+    using Type = std::decay_t<Value>;
+};
+
+template <auto Setter>
+DeviceField deviceField(const QString& key)
+{
+    return {&key, [](AcceptorStateItem& item, const QVariant& value) {
+                (item.*Setter)(fromVariant<typename Argument<decltype(Setter)>::Type>(value));
+            }};
+}
+
+// Those that are not read keep the others in step with a map that has them all.
+const auto& deviceFields()
+{
+    using namespace deviceStateDescConst;
+    using Item = AcceptorStateItem;
+    static const std::array fields{
+        DeviceField{&CASH, nullptr},
+        DeviceField{&CURRENT_CHANNEL, nullptr},
+        DeviceField{&CURRENT_NOTE, nullptr},
+        deviceField<&Item::setDeviceId>(DEVICE_ID),
+        DeviceField{&DISPENSED_SUM, nullptr},
+        DeviceField{&DispenserRegistryModel::DISPENSER_REGISTRY, nullptr}, // see readDevice()
+        deviceField<&Item::setEnabled>(ENABLED),
+        deviceField<&Item::setErrorCritical>(ERROR_CRITICAL),
+        deviceField<&Item::setErrorText>(ERROR_TEXT),
+        deviceField<&Item::setHalt>(HALT),
+        deviceField<&Item::setIdString>(ID_STRING),
+        deviceField<&Item::setNotesInserted>(StatItem::NOTES_INSERTED),
+        deviceField<&Item::setNotesRejected>(StatItem::NOTES_REJECTED),
+        deviceField<&Item::setNotesReturned>(StatItem::NOTES_RETURNED),
+        DeviceField{&ONLINE, nullptr},
+        DeviceField{&SESSION_SUM, nullptr},
+        deviceField<&Item::setStackerFull>(STACKER_FULL),
+        deviceField<&Item::setStackerPresent>(STACKER_PRESENT),
+        deviceField<&Item::setState>(STATE),
+        deviceField<&Item::setStateText>(STATE_TEXT),
+        deviceField<&Item::setThreadId>(THREAD_ID),
+    };
+    return fields;
+}
+
+template <typename Reader>
+bool readDevice(Reader& reader, AcceptorStateItem& device)
+{
+    static const auto& fields = deviceFields();
+    static const KeyOrder order(keysOf(fields));
+    std::size_t likely = 0;
+    return reader.readObject([&](const QString& key) {
+        const std::size_t i = order.find(key, likely);
+        if (i == fields.size())
+            return reader.skipValue();
+        if (fields[i].key == &DispenserRegistryModel::DISPENSER_REGISTRY)
+            return readRegistry(reader, device);
+        if (!fields[i].set)
+            return reader.skipValue();
+        QVariant value;
+        const bool complete = reader.readValue(value);
+        fields[i].set(device, value);
         return complete;
     });
 }
 
-bool readDevice(JsonReader& json, AcceptorStateItem& device)
-{
-    return json.readObject([&](const QString& key) {
-        if (key == DispenserRegistryModel::DISPENSER_REGISTRY && json.isAtArray()) {
-            QVariantMap registry;
-            const bool complete = readRegistry(json, registry);
-            device.setDispRegistry(registry);
-            return complete;
-        }
-        for (const auto& field : deviceFields) {
-            if (key != field.key)
-                continue;
-            QVariant value;
-            const bool complete = json.readValue(value);
-            field.set(device, value);
-            return complete;
-        }
-        return json.skipValue();
-    });
-}
-
-// The devices of a published state; none for a text that is not JSON.
-QList<AcceptorStateItem> readDevices(const QString& text)
+// The devices of a published state; nothing for a text that breaks off.
+template <typename Reader>
+bool readDevices(Reader& reader, QList<AcceptorStateItem>& devices)
 {
     const AcceptorStateItem withDefaults{QVariantMap()};
-    QList<AcceptorStateItem> devices;
-    JsonReader json(text);
     const auto readElement = [&] {
-        AcceptorStateItem device = withDefaults;
+        if (reader.isAtObject()) {
+            devices.append(withDefaults);
+            return readDevice(reader, devices.last());
+        }
         QVariant other;
-        const bool complete = json.isAtObject() ? readDevice(json, device) : json.readValue(other);
-        if (!other.isValid() || !Variants::isNull(other))
-            devices.append(device);
+        const bool complete = reader.readValue(other);
+        if (!Variants::isNull(other))
+            devices.append(withDefaults);
         return complete;
     };
-    const auto readMember = [&](const QString& key) {
-        if (key != deviceStatesKey)
-            return json.skipValue();
+    return reader.readObject([&](const QString& key) {
+        if (key != AcceptorState::DEVICE_STATES)
+            return reader.skipValue();
         devices.clear(); // of doubled keys the last one counts
-        return json.isAtArray() ? json.readArray(readElement) : json.skipValue();
-    };
-    return json.readObject(readMember) && json.isAtEnd() ? devices : QList<AcceptorStateItem>();
-}
-
-QString statusPhrase(const QString& state)
-{
-    using namespace deviceStatesConst;
-    // The misspelt texts are what translations are looked up by.
-    const struct
-    {
-        const QString& state;
-        const char* phrase;
-    } phrases[] = {
-        {DS_IDLING, QT_TRANSLATE_NOOP("QObject", "wait money")},
-        {DS_JAMMED, QT_TRANSLATE_NOOP("QObject", "jamming")},
-        {DS_ACCEPTED, QT_TRANSLATE_NOOP("QObject", "money accepted")},
-        {DS_ACCEPTING, QT_TRANSLATE_NOOP("QObject", "money accepting")},
-        {DS_STACKING, QT_TRANSLATE_NOOP("QObject", "accepting money in stacker")},
-        {DS_STACKED, QT_TRANSLATE_NOOP("QObject", "money accepted in stacker")},
-        {DS_RETURNING, QT_TRANSLATE_NOOP("QObject", "disabled money acceptinng or summ overflow")},
-        {DS_RETURNED, QT_TRANSLATE_NOOP("QObject", "disabled money acceptinng or summ overflow")},
-        {DS_REJECTED, QT_TRANSLATE_NOOP("QObject", "money reject")},
-        {AcceptorState::ACCEPTOR_STATE_BUSY, QT_TRANSLATE_NOOP("QObject", "waiting")},
-    };
-    for (const auto& known : phrases) {
-        if (state == known.state)
-            return QObject::tr(known.phrase);
-    }
-    return QObject::tr("unknown state") + QLatin1String(":(") + state + QLatin1Char(')');
+        return reader.isAtArray() ? reader.readArray(readElement) : reader.skipValue();
+    });
 }
 
 QStringList deviceReport(const AcceptorStateItem& device, const QString& name)
@@ -224,7 +296,7 @@ QStringList deviceReport(const AcceptorStateItem& device, const QString& name)
         lines += QObject::tr("stacker not present");
     if (device.stackerFull())
         lines += QObject::tr("stacker is full");
-    lines += QObject::tr("Status: ") + statusPhrase(device.state());
+    lines += QObject::tr("Status: ") + AcceptorState::stateDescr(device.state());
     if (!device.stateText().isEmpty())
         lines += QObject::tr("status description:") + device.stateText();
     return lines;
@@ -237,11 +309,9 @@ AcceptorStateItem::AcceptorStateItem(QVariantMap map)
     , m_threadId(-1)
     , m_stackerPresent(true)
 {
-    for (const auto& field : deviceFields) {
-        const auto entry = map.constFind(field.key);
-        if (entry != map.constEnd())
-            field.set(*this, *entry);
-    }
+    const QVariant published(map);
+    VariantReader reader(published);
+    readDevice(reader, *this);
 }
 
 int AcceptorStateItem::deviceId() const
@@ -506,21 +576,56 @@ QString AcceptorState::systemStatusDescr(QMap<int, QString> names) const
     return lines.join(QLatin1Char('\n'));
 }
 
+QString AcceptorState::stateDescr(const QString& name)
+{
+    using namespace deviceStatesConst;
+    // The misspelt texts are what translations are looked up by.
+    const struct
+    {
+        const QString& state;
+        const char* phrase;
+    } phrases[] = {
+        {DS_IDLING, QT_TRANSLATE_NOOP("QObject", "wait money")},
+        {DS_JAMMED, QT_TRANSLATE_NOOP("QObject", "jamming")},
+        {DS_ACCEPTED, QT_TRANSLATE_NOOP("QObject", "money accepted")},
+        {DS_ACCEPTING, QT_TRANSLATE_NOOP("QObject", "money accepting")},
+        {DS_STACKING, QT_TRANSLATE_NOOP("QObject", "accepting money in stacker")},
+        {DS_STACKED, QT_TRANSLATE_NOOP("QObject", "money accepted in stacker")},
+        {DS_RETURNING, QT_TRANSLATE_NOOP("QObject", "disabled money acceptinng or summ overflow")},
+        {DS_RETURNED, QT_TRANSLATE_NOOP("QObject", "disabled money acceptinng or summ overflow")},
+        {DS_REJECTED, QT_TRANSLATE_NOOP("QObject", "money reject")},
+        {ACCEPTOR_STATE_BUSY, QT_TRANSLATE_NOOP("QObject", "waiting")},
+    };
+    for (const auto& known : phrases) {
+        if (name == known.state)
+            return QObject::tr(known.phrase);
+    }
+    return QObject::tr("unknown state") + QLatin1String(":(") + name + QLatin1Char(')');
+}
+
+QVariantMap AcceptorState::stateMap(const QVariantList& devices)
+{
+    return {{DEVICE_STATES, devices}};
+}
+
 void AcceptorState::loadFromStateMap(QVariantMap stateMap, AcceptorState& state)
 {
+    const QVariant published(stateMap);
+    VariantReader reader(published);
     QList<AcceptorStateItem> devices;
-    const QVariantList published = Variants::toList(stateMap.value(deviceStatesKey));
-    for (const QVariant& device : published) {
-        if (!Variants::isNull(device))
-            devices.append(AcceptorStateItem(Variants::toMap(device)));
-    }
+    readDevices(reader, devices);
     state.setDeviceStates(devices);
 }
 
 AcceptorState AcceptorState::loadFromClientState(quorbus::ClientState clientState,
                                                  AcceptorState& state)
 {
-    state.setDeviceStates(readDevices(clientState.state()));
+    const QString text = clientState.state();
+    JsonReader json(text);
+    QList<AcceptorStateItem> devices;
+    if (!readDevices(json, devices) || !json.isAtEnd())
+        devices.clear();
+    state.setDeviceStates(devices);
     state.setDt(clientState.dt());
     return state;
 }

@@ -100,6 +100,7 @@ class VELMOLIB_EXPORT AcceptorState
 {
 public:
     static const QString ACCEPTOR_STATE_BUSY; ///< "busy"
+    static const QString DEVICE_STATES; ///< "device_states": the devices of a service state map
 
     /// When the service published the state; invalid when not known.
     QDateTime dt() const;
@@ -140,6 +141,16 @@ public:
     /// The service report: a block of lines for each device, then the time stamp when it is valid.
     /// @param names display names by device identifier; a device without one is "Unknown"
     QString systemStatusDescr(QMap<int, QString> names) const;
+
+    /// What a state's name means, as the service report has it after "Status: ". A name that has
+    /// no phrase, the empty one too, is named as unknown: "unknown state:(error)".
+    /// @param name one of deviceStatesConst, compared with case
+    static QString stateDescr(const QString& name);
+
+    /// The service state map that a service publishes, {"device_states": [...]}.
+    /// @param devices for each device its DeviceState::toMap(), with the note counters that
+    /// StatItem::addToMap() sets, in the order in which clients shall see them
+    static QVariantMap stateMap(const QVariantList& devices);
 
     /// Replaces the devices of @p state by those of a service state map {"device_states": [...]};
     /// without that key there are none. The time stamp stays.

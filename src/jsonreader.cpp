@@ -44,8 +44,13 @@ bool JsonReader::readValue(QVariant& value)
         });
     }
     if (current() == u'"') {
-        value = QString();
-        return readString(*static_cast<QString*>(value.data()));
+        if (!readString(m_key))
+            return false;
+        const bool isHeld = value.userType() == QMetaType::QString
+            && *static_cast<const QString*>(value.constData()) == m_key;
+        if (!isHeld)
+            value = QString(m_key.constData(), m_key.size());
+        return true;
     }
     value = readWord();
     return value.isValid();

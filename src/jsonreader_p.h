@@ -45,7 +45,7 @@ public:
     }
 
     /// Reads any value as Qt's JSON classes convert it: integers as qlonglong, other numbers as
-    /// double, null as nullptr.
+    /// double, null as nullptr. A text that @p value already holds is kept and stays shared.
     bool readValue(QVariant& value);
 
     /// Reads any value and drops it.

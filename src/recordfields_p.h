@@ -85,6 +85,52 @@ RecordField<Record> recordField(const QString& key, FieldReading reading = Requi
             reading};
 }
 
+/// Finds keys by their index. They mostly come in ascending order: the one after the key that was
+/// found last is tried first.
+template <std::size_t Size>
+class KeyOrder
+{
+public:
+    explicit KeyOrder(const std::array<const QString*, Size>& keys)
+        : m_keys(keys)
+    {
+        for (std::size_t i = 0; i < Size; ++i)
+            m_ascending[i] = i;
+        std::sort(m_ascending.begin(), m_ascending.end(),
+                  [this](std::size_t a, std::size_t b) { return *m_keys[a] < *m_keys[b]; });
+    }
+
+    /// The indexes of the keys in the order of their texts.
+    const std::array<std::size_t, Size>& ascending() const { return m_ascending; }
+
+    /// The index of a key, Size without one. @p likely is the place in that order where it is
+    /// looked for first, and afterwards where the next key will be.
+    std::size_t find(const QString& key, std::size_t& likely) const
+    {
+        for (std::size_t tried = 0; tried < Size; ++tried) {
+            const std::size_t i = m_ascending[likely];
+            likely = (likely + 1) % Size;
+            if (*m_keys[i] == key)
+                return i;
+        }
+        return Size;
+    }
+
+private:
+    std::array<const QString*, Size> m_keys;
+    std::array<std::size_t, Size> m_ascending;
+};
+
+/// The keys of a table's fields.
+template <typename Field, std::size_t Size>
+std::array<const QString*, Size> keysOf(const std::array<Field, Size>& fields)
+{
+    std::array<const QString*, Size> keys;
+    std::transform(fields.begin(), fields.end(), keys.begin(),
+                   [](const Field& field) { return field.key; });
+    return keys;
+}
+
 /// The fields of a record with what the convention makes of them.
 template <typename Record, std::size_t Size>
 class RecordTable
@@ -92,18 +138,14 @@ class RecordTable
 public:
     explicit RecordTable(const std::array<RecordField<Record>, Size>& fields)
         : m_fields(fields)
+        , m_order(keysOf(fields))
     {
-        for (std::size_t i = 0; i < Size; ++i)
-            m_sorted[i] = i;
-        std::sort(m_sorted.begin(), m_sorted.end(), [this](std::size_t a, std::size_t b) {
-            return *m_fields[a].key < *m_fields[b].key;
-        });
     }
 
     QVariantMap toMap(const Record& record) const
     {
         QVariantMap map;
-        for (const std::size_t i : m_sorted) {
+        for (const std::size_t i : m_order.ascending()) {
             const RecordField<Record>& field = m_fields[i];
             if (!field.isWritten || field.isWritten(record))
                 map.insert(map.cend(), *field.key, field.get(record));
@@ -123,7 +165,7 @@ public:
     void write(JsonWriter& json, const Record& record) const
     {
         json.beginObject();
-        for (const std::size_t i : m_sorted) {
+        for (const std::size_t i : m_order.ascending()) {
             const RecordField<Record>& field = m_fields[i];
             if (field.isWritten && !field.isWritten(record))
                 continue;
@@ -139,9 +181,9 @@ public:
     {
         std::array<QVariant, Size> values;
         JsonReader json(text);
-        std::size_t likely = 0; // the keys mostly come in ascending order
+        std::size_t likely = 0;
         const auto readMember = [&](const QString& key) {
-            const std::size_t i = find(key, likely);
+            const std::size_t i = m_order.find(key, likely);
             return i == Size || m_fields[i].reading == UnreadField ? json.skipValue()
                                                                    : json.readValue(values[i]);
         };
@@ -172,21 +214,8 @@ private:
         return true;
     }
 
-    // The index of a key's field, Size without one. @p likely is where it is looked for first, and
-    // afterwards where the next key will be.
-    std::size_t find(const QString& key, std::size_t& likely) const
-    {
-        for (std::size_t tried = 0; tried < Size; ++tried) {
-            const std::size_t i = m_sorted[likely];
-            likely = (likely + 1) % Size;
-            if (*m_fields[i].key == key)
-                return i;
-        }
-        return Size;
-    }
-
     std::array<RecordField<Record>, Size> m_fields; // in reading order
-    std::array<std::size_t, Size> m_sorted; // indexes of the fields in the order of their keys
+    KeyOrder<Size> m_order;
 };
 
 /// The fields of a base and those that a derived record adds.
