@@ -4,6 +4,7 @@
 #include "logplayer.h"
 
 #include "acceptors.h"
+#include "devicename.h"
 #include "words.h"
 
 #include <QMap>
@@ -40,45 +41,10 @@ const auto& conditionTable()
     return table;
 }
 
-QString kindName(int kind)
-{
-    switch (kind) {
-    case Acceptors::NoteAcceptor:
-        return Diagnosis::tr("Bill validator");
-    case Acceptors::CoinAcceptor:
-        return Diagnosis::tr("Coin acceptor");
-    case Acceptors::CardReader:
-        return Diagnosis::tr("Card terminal");
-    case Acceptors::NoteDispenser:
-        return Diagnosis::tr("Note dispenser");
-    case Acceptors::NoteRecycler:
-        return Diagnosis::tr("Note recycler");
-    case Acceptors::CoinHopper:
-        return Diagnosis::tr("Coin hopper");
-    default:
-        return Diagnosis::tr("Device");
-    }
-}
-
-// The name that the settings give, or the kind, with the model.
-QString deviceName(quint32 id, const QString& givenName)
-{
-    const QList<SupportedDevice> models = Acceptors::supportedDevices();
-    for (const SupportedDevice& model : models) {
-        if (model.value(QStringLiteral("id")).toUInt() == id) {
-            const QString kind = kindName(model.value(QStringLiteral("type")).toInt());
-            return QStringLiteral("%1 (%2)").arg(
-                givenName.isEmpty() ? kind : givenName,
-                model.value(QStringLiteral("protocol")).toString());
-        }
-    }
-    return Diagnosis::tr("Device %1").arg(id);
-}
-
 } // namespace
 
 LogDevice::LogDevice(const FilterSet& filters, quint32 deviceId, quint32 threadId)
-    : m_name(deviceName(deviceId, filters.deviceNames().value(deviceId)))
+    : m_name(deviceName(int(deviceId), filters.deviceNames().value(deviceId)))
     , m_deviceId(deviceId)
     , m_threadId(threadId)
     , m_worker(std::make_unique<DeviceStateWorker>())

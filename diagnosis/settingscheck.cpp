@@ -231,7 +231,8 @@ private:
             text += Diagnosis::tr(": there is no built-in default, AcceptorSettings has \"%1\"")
                         .arg(setting.unsetValue());
         } else if (!used.isCertain() && isDefaultSound) {
-            text += Diagnosis::tr(": the built-in default is \"%1\", AcceptorSettings has \"%2\"")
+            text += Diagnosis::tr(": the built-in default is \"%1\", "
+                                  "AcceptorSettings has \"%2\"")
                         .arg(used.value.toString(), setting.unsetValue());
         }
         report(Finding::Error, -1, setting.path(), text);

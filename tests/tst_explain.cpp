@@ -6,6 +6,7 @@
 #include "arrayfile.h"
 #include "explanation.h"
 #include "fault.h"
+#include "serviceanswer.h"
 
 #include <QBuffer>
 #include <QJsonDocument>
@@ -388,6 +389,31 @@ private Q_SLOTS:
                  "velmo: %1: answers may differ from the service's"_s.arg(settings));
         QVERIFY(run.outLines().at(0).contains(
             R"("filters":[{"name":"AcceptFilter","params":{"acceptAll":0},"evidence":[])"_s));
+    }
+
+    void reasonsAreThereExactlyWhenNothingIsAccepted()
+    {
+        std::mt19937 random(5);
+        const auto chance = [&random](unsigned out) { return random() % out == 0; };
+        int allowed = 0;
+        for (int i = 0; i < 2000; ++i) {
+            QVariantList devices;
+            for (unsigned count = random() % 4; count > 0; --count) {
+                const int ids[] = {1, 6, 100, 200, 51};
+                devices += QVariantMap{{"device_id"_s, ids[random() % 5]},
+                                       {"enabled"_s, !chance(4)},
+                                       {"halt"_s, chance(8)},
+                                       {"error_critical"_s, chance(8)},
+                                       {"stacker_present"_s, !chance(8)},
+                                       {"stacker_full"_s, chance(8)},
+                                       {"state"_s, chance(6) ? "jammed"_s : "busy"_s}};
+            }
+            AcceptorState state;
+            AcceptorState::loadFromStateMap(AcceptorState::stateMap(devices), state);
+            QCOMPARE(whyNotAccepting(state).isEmpty(), state.isAcceptingAllowed());
+            allowed += state.isAcceptingAllowed() ? 1 : 0;
+        }
+        QVERIFY(allowed > 400 && allowed < 1600);
     }
 
 private:

@@ -65,6 +65,18 @@ QVariantMap reportedNames(const QVariant& example)
     return reported;
 }
 
+// What is reported of the state from which the example was made.
+QVariant serviceReport(const QVariant& /*example*/)
+{
+    return json(velmo({"report"_s, "-"_s, "--json"_s},
+                      R"({"time":"2026-11-24T10:05:12Z","device_states":[{"device_id":1,)"
+                      R"("thread_id":2,"enabled":true,"state":"idling","stacker_full":true,)"
+                      R"("notes_inserted":7,"notes_rejected":1,"dispenser_registry":[)"
+                      R"({"bill_type":1,"channel":2,"count":5,"currency":643,)"
+                      R"("denomination":100,"rejected":0}]}]})")
+                    .out);
+}
+
 // Reads an example with the class that reads its format and writes it again.
 const QMap<QString, std::function<QVariant(const QVariant& example)>> checks{
     {"note record"_s, written<NoteItem>},
@@ -107,6 +119,7 @@ const QMap<QString, std::function<QVariant(const QVariant& example)>> checks{
     {"field description"_s, written<FieldDescription>},
     {"filters file"_s, writtenFilters},
     {"names file"_s, reportedNames},
+    {"service report"_s, serviceReport},
 };
 
 QString page()

@@ -41,14 +41,43 @@ private Q_SLOTS:
         const QString names = writeFile(m_folder.filePath("names.json"_s), R"({"1":"BNV"})"_s);
         const VelmoRun run =
             velmo({"report"_s, "-"_s, "--names"_s, names, "--watch"_s}, published + "\n{}");
-        QCOMPARE(run.out,
-                 "\033[2J\033[HWait...\nAccepting money: not allowed\n\n"
-                 "DeviceId: 1,ThreadId: 2\nName: BNV\nActivity: enabled\n"
-                 "Critical error: no description\n"
-                 "Status: money accepting disabled or sum exceeded\n\n\n"
-                 "DeviceId: 100,ThreadId: -1\nName: Unknown\nActivity: disabled\n\n\n"_s);
+        QCOMPARE(
+            run.out,
+            "\033[2J\033[HWait...\nAccepting money: not allowed\n"
+            "  - Bill validator (CCNet): The device has a critical error: no description.\n"
+            "  - Bill validator (CCNet): The device is not ready for notes; its state: "
+            "money accepting disabled or sum exceeded.\n\n"
+            "DeviceId: 1,ThreadId: 2\nName: BNV\nActivity: enabled\n"
+            "Critical error: no description\n"
+            "Status: money accepting disabled or sum exceeded\n\n\n"
+            "DeviceId: 100,ThreadId: -1\nName: Coin acceptor (CCTalk)\nActivity: disabled\n\n\n"_s);
         QCOMPARE(run.err, "velmo: standard input:2: expected a list \"device_states\"\n"_s);
         QCOMPARE(run.exitCode, 2);
+    }
+
+    void manyStatesAreToldOneByOne()
+    {
+        const QByteArray times =
+            R"({"time":0,"device_states":[]})"
+            "\n"
+            R"({"device_states":[{"device_id":9999,"enabled":true,"state":"idling","stacker_full":true,)"
+            R"("dispenser_registry":[{"bill_type":1,"channel":2,"denomination":100,"currency":643}]}]})";
+        const QString file =
+            writeFile(m_folder.filePath("states.jsonl"_s), QString::fromUtf8(times));
+        const QString expected =
+            R"({"time":"1970-01-01T00:00:00.000Z","payment_text":"Wait...","accepting":false,)"
+            R"("reasons":["The service tells of no device."],"devices":[]})"
+            "\n"
+            R"({"time":null,"payment_text":"Error status unknown","accepting":true,"reasons":[],)"
+            R"("devices":[{"device":9999,"thread":-1,"name":"Device 9999","model":null,)"
+            R"("kind":"Device","enabled":true,"state":"idling","state_text":"waiting for money",)"
+            R"("wrong":["The stacker is full."],"notes_inserted":0,"notes_rejected":0,)"
+            R"("notes_returned":0,"registry":{"1_2_100_643":{"bill_type":1,"currency":643,)"
+            R"("denomination":100}}}]})"
+            "\n"_s;
+        QCOMPARE(velmo({"report"_s, file, "--json"_s}).out, expected);
+        const VelmoRun text = velmo({"report"_s, file});
+        QVERIFY(text.out.contains("01.01.1970 00.00.00\n-- line 2 --\nError status unknown\n"_s));
     }
 
     void textsAreTranslated()
@@ -107,6 +136,8 @@ private Q_SLOTS:
             state -             | {"state":"Busy"}           | standard input: "state": unknown state name "Busy"
             state -             | []                         | standard input:1: expected a JSON object
             report /dev/null    |                            | /dev/null:1: not JSON
+            report -            | {"device_states":[],"time":true} | standard input:1: expected an ISO 8601 time
+            report - --json --watch |                        | usage: velmo report
             report - --names -  | {"one":"x"}                | standard input: "one": expected a device number
             report              |                            | usage: velmo report
             filters x           |                            | unknown filter "x" (known: SessionSumFilter,

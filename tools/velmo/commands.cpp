@@ -45,10 +45,10 @@ const std::vector<Command>& commands()
          QT_TRANSLATE_NOOP("Velmo", "What a published service state means."),
          QT_TRANSLATE_NOOP(
              "Velmo",
-             "What the customer is told, whether money may be accepted, and the service "
-             "report, for a published service state {\"device_states\": [...]}. From "
-             "standard input (\"-\"), one state a line."),
-         {&options::names, &options::watch, &options::keepGoing},
+             "What the customer is told, whether money may be accepted and why not, and the "
+             "service report, for a published service state {\"device_states\": [...]}, with "
+             "\"time\" where known, or for many, one a line."),
+         {&options::names, &options::json, &options::watch, &options::keepGoing},
          reportCommand},
         {"state",
          "STATE.json",

@@ -84,18 +84,3 @@ int processLines(TextInput& file, bool keepGoing,
     printError(QStringLiteral("bad lines skipped: %1").arg(skipped));
     return exitBadInput;
 }
-
-int processJsonLines(TextInput& file, bool keepGoing,
-                     const std::function<QByteArray(const QJsonObject& line)>& toText)
-{
-    return processLines(file, keepGoing, [&](const QByteArray& text) {
-        const QJsonDocument document = file.parseJson(text, file.lineNumber());
-        try {
-            if (!document.isObject())
-                throw Fault{QStringLiteral("expected a JSON object")};
-            return toText(document.object());
-        } catch (const Fault& fault) {
-            throw file.faultAt(file.lineNumber(), fault.message);
-        }
-    });
-}

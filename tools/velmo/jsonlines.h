@@ -5,8 +5,6 @@
 
 #include "textinput.h"
 
-#include <QJsonObject>
-
 #include <functional>
 
 /// Hands every line of a file to @p toText and writes what that returns to standard output. Blank
@@ -18,7 +16,3 @@ int processLines(
     TextInput& file, bool keepGoing,
     const std::function<QByteArray(const QByteArray& line)>& toText,
     const std::function<void()>& skipLine = [] {});
-
-/// The same for lines of one JSON object each. A fault that @p toText throws gets file and line.
-int processJsonLines(TextInput& file, bool keepGoing,
-                     const std::function<QByteArray(const QJsonObject& line)>& toText);

@@ -6,6 +6,7 @@
 #include "acceptors.h"
 #include "acceptorsettings.h"
 #include "commands.h"
+#include "devicename.h"
 #include "droutemapitem.h"
 #include "filterchain.h"
 #include "filterset.h"
@@ -43,16 +44,6 @@ QJsonValue jsonOf(const ServiceSetting& setting, const QVariant& value)
                            : QJsonValue();
 }
 
-QString modelName(int model)
-{
-    const QList<SupportedDevice> catalogue = Acceptors::supportedDevices();
-    for (const SupportedDevice& row : catalogue) {
-        if (row.value(QStringLiteral("id")).toInt() == model)
-            return row.value(QStringLiteral("protocol")).toString();
-    }
-    return Velmo::tr("unknown model");
-}
-
 QString deviceHeading(const SettingsList& list, int device)
 {
     const auto value = [&](const QString& subgroup, const QString& key) {
@@ -63,9 +54,12 @@ QString deviceHeading(const SettingsList& list, int device)
             + QLatin1Char(':') + value(S::HARDWARE_SECTION, S::TCP_PORT)
                                                          : value(S::HARDWARE_SECTION, S::PORT_NAME);
     const int model = list.model(device);
-    QString heading = Velmo::tr("Device %1: %2 (%3) \"%4\", %5 %6")
-                          .arg(QString::number(device), modelName(model), QString::number(model),
-                               value(S::DEVICE_SECTION, S::DEVICE_NAME), type, address);
+    QString heading =
+        Velmo::tr("Device %1: %2 (%3) \"%4\", %5 %6")
+            .arg(QString::number(device),
+                 model == 0 || modelName(model).isEmpty() ? Velmo::tr("unknown model")
+                                                          : modelName(model),
+                 QString::number(model), value(S::DEVICE_SECTION, S::DEVICE_NAME), type, address);
     if (device < 0 || device >= list.deviceCount())
         heading += Velmo::tr(" - not below the device count");
     return heading;

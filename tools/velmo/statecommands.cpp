@@ -9,6 +9,7 @@
 #include "jsonlines.h"
 #include "options.h"
 #include "output.h"
+#include "serviceanswer.h"
 #include "sessionline.h"
 
 #include <QJsonDocument>
@@ -56,17 +57,34 @@ QMap<int, QString> readNames(const QString& fileName)
     return names;
 }
 
-QByteArray report(const QJsonObject& published, const QMap<int, QString>& names)
+QByteArray reportText(const AcceptorState& state, const QMap<int, QString>& names)
 {
-    if (!published.value(QStringLiteral("device_states")).isArray())
-        throw Fault{QStringLiteral("expected a list \"device_states\"")};
-    AcceptorState state;
-    AcceptorState::loadFromStateMap(published.toVariantMap(), state);
-    const QString allowed =
-        state.isAcceptingAllowed() ? QStringLiteral("allowed") : QStringLiteral("not allowed");
-    return QStringLiteral("%1\nAccepting money: %2\n\n%3\n")
-        .arg(state.paymentStateDescr(), allowed, state.systemStatusDescr(names))
-        .toUtf8();
+    const QStringList reasons = whyNotAccepting(state);
+    QString text = state.paymentStateDescr() + QLatin1Char('\n')
+        + (reasons.isEmpty() ? Velmo::tr("Accepting money: allowed")
+                             : Velmo::tr("Accepting money: not allowed"))
+        + QLatin1Char('\n');
+    for (const QString& reason : reasons)
+        text += QStringLiteral("  - %1\n").arg(reason);
+    return (text + QLatin1Char('\n') + state.systemStatusDescr(names) + QLatin1Char('\n')).toUtf8();
+}
+
+AcceptorState serviceStateOf(const QByteArray& text, const TextInput& file, qint64 line)
+{
+    try {
+        return readServiceState(QString::fromUtf8(text));
+    } catch (const Fault& fault) {
+        file.parseJson(text, line); // knows better what is wrong with the text
+        throw file.faultAt(line, fault.message);
+    }
+}
+
+// Whether the file has a state a line, and not one state over many lines.
+bool isStateALine(const QString& fileName)
+{
+    QByteArray first;
+    return fileName == QLatin1String("-")
+        || (openInput(fileName).readLine(first) && !QJsonDocument::fromJson(first).isNull());
 }
 
 DeviceState checkedState(const QByteArray& text)
@@ -92,20 +110,37 @@ DeviceState checkedState(const QByteArray& text)
 
 int reportCommand(const Arguments& arguments)
 {
-    QMap<int, QString> names;
+    QMap<int, QString> given;
     if (arguments.isSet(options::names))
-        names = readNames(arguments.value(options::names));
-    const QString fileName = arguments.operands().constFirst();
-    TextInput file = openInput(fileName);
-    const QByteArray before = arguments.isSet(options::watch) ? "\033[2J\033[H" : "";
-    const auto toText = [&](const QJsonObject& published) {
-        return before + report(published, names);
+        given = readNames(arguments.value(options::names));
+    const bool isJson = arguments.isSet(options::json);
+    const bool isWatched = arguments.isSet(options::watch);
+    if (isJson && isWatched)
+        throw arguments.usageFault();
+    const auto toText = [&](const AcceptorState& state) {
+        const QMap<int, QString> names = deviceNames(state, given);
+        return isJson ? JsonText::object(jsonMembers(state, names)) + '\n'
+                      : reportText(state, names);
     };
-    if (fileName == QLatin1String("-"))
-        return processJsonLines(file, arguments.isSet(options::keepGoing), toText);
-    const QJsonObject published = readObject(file);
-    print(QString::fromUtf8(inFile(file, [&] { return toText(published); })));
-    return exitSuccess;
+    const QString fileName = arguments.operands().constFirst();
+    const bool hasLines = isStateALine(fileName);
+    TextInput file = openInput(fileName);
+    if (!hasLines) {
+        print(QString::fromUtf8(toText(serviceStateOf(file.readAll(), file, 1))));
+        return exitSuccess;
+    }
+    bool isFirst = true;
+    const auto report = [&](const QByteArray& text) {
+        const AcceptorState state = serviceStateOf(text, file, file.lineNumber());
+        QString before;
+        if (isWatched)
+            before = QStringLiteral("\033[2J\033[H");
+        else if (!isJson && !isFirst)
+            before = Velmo::tr("-- line %1 --").arg(file.lineNumber()) + QLatin1Char('\n');
+        isFirst = false;
+        return before.toUtf8() + toText(state);
+    };
+    return processLines(file, arguments.isSet(options::keepGoing), report);
 }
 
 int stateCommand(const Arguments& arguments)

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+/// The name of a model's protocol in the catalogue, for example "CCNet"; null for a number that is
+/// no model.
+QString modelName(int model);
+
+/// What a model is, in the language that is shown, for example "Bill validator".
+QString kindName(int model);
+
+/// What people call a device, for example "Bill validator (CCNet)".
+/// @param givenName in place of the kind, unless it is empty
+QString deviceName(int model, const QString& givenName = {});
