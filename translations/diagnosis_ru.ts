@@ -543,5 +543,37 @@
         <source>%1: not a settings list: looks like %2</source>
         <translation>%1: не список настроек: похоже на %2</translation>
     </message>
+    <message>
+        <source>The device is disabled.</source>
+        <translation>Устройство выключено.</translation>
+    </message>
+    <message>
+        <source>The device is halted.</source>
+        <translation>Устройство остановлено.</translation>
+    </message>
+    <message>
+        <source>The stacker is missing.</source>
+        <translation>Стекера нет.</translation>
+    </message>
+    <message>
+        <source>The stacker is full.</source>
+        <translation>Стекер полон.</translation>
+    </message>
+    <message>
+        <source>The device has a critical error: %1.</source>
+        <translation>У устройства критическая ошибка: %1.</translation>
+    </message>
+    <message>
+        <source>The service tells of no device.</source>
+        <translation>Служба не сообщает ни об одном устройстве.</translation>
+    </message>
+    <message>
+        <source>Every device is disabled.</source>
+        <translation>Все устройства выключены.</translation>
+    </message>
+    <message>
+        <source>The device is not ready for notes; its state: %1.</source>
+        <translation>Устройство не готово к приёму купюр; его состояние: %1.</translation>
+    </message>
 </context>
 </TS>

@@ -68,10 +68,6 @@
         <translation>Что значит состояние службы.</translation>
     </message>
     <message>
-        <source>What the customer is told, whether money may be accepted, and the service report, for a published service state {&quot;device_states&quot;: [...]}. From standard input (&quot;-&quot;), one state a line.</source>
-        <translation>Что видит клиент, принимаются ли деньги, и отчёт для обслуживания по состоянию службы {&quot;device_states&quot;: [...]}. Со стандартного ввода (&quot;-&quot;) по состоянию на строке.</translation>
-    </message>
-    <message>
         <source>Checks a device state and rewrites it.</source>
         <translation>Проверяет состояние устройства и переписывает его.</translation>
     </message>
@@ -490,6 +486,22 @@
     <message>
         <source>&quot;%1&quot;: expected the index of a device</source>
         <translation>&quot;%1&quot;: ожидается индекс устройства</translation>
+    </message>
+    <message>
+        <source>What the customer is told, whether money may be accepted and why not, and the service report, for a published service state {&quot;device_states&quot;: [...]}, with &quot;time&quot; where known, or for many, one a line.</source>
+        <translation>Что видит клиент, принимаются ли деньги и почему нет, и отчёт для обслуживания по состоянию службы {&quot;device_states&quot;: [...]}, с &quot;time&quot;, где оно известно, или по многим, по одному на строке.</translation>
+    </message>
+    <message>
+        <source>Accepting money: allowed</source>
+        <translation>Приём денег: разрешён</translation>
+    </message>
+    <message>
+        <source>Accepting money: not allowed</source>
+        <translation>Приём денег: не разрешён</translation>
+    </message>
+    <message>
+        <source>-- line %1 --</source>
+        <translation>-- строка %1 --</translation>
     </message>
 </context>
 </TS>
