@@ -1,10 +1,12 @@
 #pragma once
 
-#include "explanation.h"
+#include "comparison.h"
 #include "jsontext.h"
 
 /// [{"what": ..., "line": ..., "text": ...}, ...]
 JsonText jsonOf(const QVector<MachineCondition>& conditions);
+
+JsonText jsonOf(const Tally& tally);
 
 /// {"kind": "note", ...}
 /// @param log the name of its log
@@ -12,3 +14,7 @@ JsonText jsonOf(const QString& log, const NoteAnswer& answer);
 
 /// {"kind": "summary", ...}
 JsonText jsonOf(const Summary& summary);
+
+/// {"kind": "difference", ...}
+/// @param log the name of its log
+JsonText jsonOf(const QString& log, const Difference& difference);

@@ -6,6 +6,34 @@
 #include "options.h"
 #include "output.h"
 #include "settingscheck.h"
+#include "table.h"
+
+namespace {
+
+FiltersInput read(const ArrayFile& file, ListKind kind)
+{
+    FilterSet filters(file, kind);
+    const QStringList findings = kind == ListKind::Settings ? checkSettings(file) : QStringList();
+    for (const QString& finding : findings)
+        printError(finding);
+    if (!findings.isEmpty())
+        printError(Velmo::tr("%1: answers may differ from the service's").arg(file.name()));
+    return {std::move(filters), file.name(), findings};
+}
+
+} // namespace
+
+QString FiltersInput::rulesText(const QString& heading) const
+{
+    QString text = heading + QLatin1Char('\n');
+    const QStringList rules = filters.rules();
+    for (const QString& rule : rules)
+        text += wrapped(QStringLiteral("  - ") + rule, 4, outputWidth());
+    if (rules.isEmpty())
+        text +=
+            QStringLiteral("  - ") + Velmo::tr("None: every note is accepted.") + QLatin1Char('\n');
+    return text + QLatin1Char('\n');
+}
 
 FiltersInput readFilters(const Arguments& arguments, const QStringList& logs)
 {
@@ -18,11 +46,12 @@ FiltersInput readFilters(const Arguments& arguments, const QStringList& logs)
 
     TextInput text = openInput(fileName);
     const ArrayFile file(text, ofSettings ? Velmo::tr("settings") : Velmo::tr("filters"));
-    FilterSet filters(file, ofSettings ? ListKind::Settings : ListKind::Filters);
-    const QStringList findings = ofSettings ? checkSettings(file) : QStringList();
-    for (const QString& finding : findings)
-        printError(finding);
-    if (!findings.isEmpty())
-        printError(Velmo::tr("%1: answers may differ from the service's").arg(file.name()));
-    return {std::move(filters), file.name()};
+    return read(file, ofSettings ? ListKind::Settings : ListKind::Filters);
+}
+
+FiltersInput readFilters(const QString& fileName)
+{
+    TextInput text = openInput(fileName);
+    const ArrayFile file(text, Velmo::tr("settings or filters"));
+    return read(file, kindOf(file) == ListKind::Settings ? ListKind::Settings : ListKind::Filters);
 }
