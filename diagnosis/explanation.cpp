@@ -37,6 +37,11 @@ const OutcomeWords& wordsOf(Outcome outcome)
     return table[int(outcome)];
 }
 
+bool isCoin(const NoteAnswer& answer)
+{
+    return answer.device >= firstCoinDevice && answer.device <= lastCoinDevice;
+}
+
 bool isOffer(const DeviceState& event)
 {
     return event.state == STATE_ACCEPTING && event.currentNote > 0;
@@ -49,20 +54,37 @@ QString outcomeKey(Outcome outcome)
     return QLatin1String(wordsOf(outcome).key);
 }
 
-QString NoteAnswer::headline() const
+QString NoteAnswer::place() const
 {
     QStringList place{Diagnosis::tr("Session %1").arg(session), Diagnosis::tr("line %1").arg(line)};
     if (time.isKnown())
         place += time.clock();
     place += deviceName;
-    const bool isCoin = device >= firstCoinDevice && device <= lastCoinDevice;
+    return place.join(QStringLiteral(", "));
+}
+
+QString NoteAnswer::what() const
+{
+    return (isCoin(*this) ? Diagnosis::tr("coin of %1") : Diagnosis::tr("note of %1")).arg(note);
+}
+
+QString NoteAnswer::headline() const
+{
     const OutcomeWords& words = wordsOf(outcome);
-    QString what = Diagnosis::tr(isCoin ? words.ofCoin : words.ofNote).arg(note);
+    QString what = Diagnosis::tr(isCoin(*this) ? words.ofCoin : words.ofNote).arg(note);
     if (!wasOffered()) {
-        what = isCoin ? Diagnosis::tr("coin of unknown value rejected.")
-                      : Diagnosis::tr("note of unknown value rejected.");
+        what = isCoin(*this) ? Diagnosis::tr("coin of unknown value rejected.")
+                             : Diagnosis::tr("note of unknown value rejected.");
     }
-    return QStringLiteral("%1: %2").arg(place.join(QStringLiteral(", ")), what);
+    return QStringLiteral("%1: %2").arg(place(), what);
+}
+
+QStringList NoteAnswer::doubts() const
+{
+    QStringList sentences;
+    for (const QString& doubt : uncertain)
+        sentences += Diagnosis::tr("Uncertain: %1.").arg(doubt);
+    return sentences;
 }
 
 QStringList NoteAnswer::details() const
@@ -76,9 +98,7 @@ QStringList NoteAnswer::details() const
         sentences += condition.text;
     if (machine.isEmpty() && (outcome == Outcome::Rejected || outcome == Outcome::Returned))
         sentences += Diagnosis::tr("By the device itself; no filter objected.");
-    for (const QString& doubt : uncertain)
-        sentences += Diagnosis::tr("Uncertain: %1.").arg(doubt);
-    return sentences;
+    return sentences + doubts();
 }
 
 QString NoteAnswer::text() const
@@ -90,6 +110,12 @@ void Tally::add(int note)
 {
     ++count;
     sum += note;
+}
+
+void Tally::add(const Tally& other)
+{
+    count += other.count;
+    sum += other.sum;
 }
 
 void Summary::add(const NoteAnswer& answer)

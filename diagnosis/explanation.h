@@ -47,8 +47,17 @@ struct NoteAnswer
 
     bool wasOffered() const { return note > 0; }
 
+    /// "Session 1, line 8, 10:05:12, Bill validator (CCNet)"
+    QString place() const;
+
+    /// "note of 1000" or "coin of 10"
+    QString what() const;
+
     /// "Session 1, line 8, 10:05:12, Bill validator (CCNet): note of 1000 refused."
     QString headline() const;
+
+    /// What makes it uncertain, a sentence each.
+    QStringList doubts() const;
 
     /// The reasons and doubts, a sentence or two each.
     QStringList details() const;
@@ -64,6 +73,7 @@ struct Tally
     qint64 sum = 0;
 
     void add(int note);
+    void add(const Tally& other);
 };
 
 /// The answers of a log together.

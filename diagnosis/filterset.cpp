@@ -144,6 +144,14 @@ void FilterSet::addSettings(const ArrayFile& file)
     }
 }
 
+void FilterSet::addDeviceNames(const FilterSet& other)
+{
+    for (auto name = other.m_deviceNames.begin(); name != other.m_deviceNames.end(); ++name) {
+        if (!m_deviceNames.contains(name.key()))
+            m_deviceNames.insert(name.key(), name.value());
+    }
+}
+
 QList<AbstractFilter*> FilterSet::addTo(FilterChain& chain) const
 {
     QList<AbstractFilter*> made;

@@ -48,6 +48,9 @@ public:
     /// The names that the settings give to devices, by device identifier.
     QMap<quint32, QString> deviceNames() const { return m_deviceNames; }
 
+    /// Names devices as other settings do, where these have no name for them.
+    void addDeviceNames(const FilterSet& other);
+
 private:
     void addFilters(const ArrayFile& file);
     void addSettings(const ArrayFile& file);

@@ -575,5 +575,21 @@
         <source>The device is not ready for notes; its state: %1.</source>
         <translation>Устройство не готово к приёму купюр; его состояние: %1.</translation>
     </message>
+    <message>
+        <source>%1: %2 refused by A, accepted by B. A: %3</source>
+        <translation>%1: %2 не принята по A, принята по B. A: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 accepted by A, refused by B. B: %3</source>
+        <translation>%1: %2 принята по A, не принята по B. B: %3</translation>
+    </message>
+    <message>
+        <source>coin of %1</source>
+        <translation>монета %1</translation>
+    </message>
+    <message>
+        <source>note of %1</source>
+        <translation>купюра %1</translation>
+    </message>
 </context>
 </TS>

@@ -1,4 +1,21 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Velmo</name>
+    <message numerus="yes">
+        <source>%n notes (%1)</source>
+        <translation>
+            <numerusform>%n note (%1)</numerusform>
+            <numerusform>%n notes (%1)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>In these %n sessions, A refused %1, B %2; they differ on %3.</source>
+        <translation>
+            <numerusform>In this %n session, A refused %1, B %2; they differ on %3.</numerusform>
+            <numerusform>In these %n sessions, A refused %1, B %2; they differ on %3.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -503,5 +503,41 @@
         <source>-- line %1 --</source>
         <translation>-- строка %1 --</translation>
     </message>
+    <message>
+        <source>What other filters would have decided.</source>
+        <translation>Что решили бы другие фильтры.</translation>
+    </message>
+    <message>
+        <source>Tells every note of the logs that A accepts and B refuses, or the reverse, why, and what each refused in all. A and B are filters or settings, told apart by what they hold. Both judge what happened: what would have followed another verdict, a log does not say. The exit code is 1 when they differ.</source>
+        <translation>Говорит о каждой купюре журналов, которую A принимает, а B нет, или наоборот, почему, и сколько не принял каждый. A и B - фильтры или настройки, что из них, видно по содержанию. Оба судят о том, что было: что последовало бы за другим решением, в журнале не сказано. Код завершения 1, когда они расходятся.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n notes (%1)</source>
+        <translation>
+            <numerusform>%n купюру (%1)</numerusform>
+            <numerusform>%n купюры (%1)</numerusform>
+            <numerusform>%n купюр (%1)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>In these %n sessions, A refused %1, B %2; they differ on %3.</source>
+        <translation>
+            <numerusform>В этом %n сеансе A не приняли %1, B - %2; они расходятся на %3.</numerusform>
+            <numerusform>В этих %n сеансах A не приняли %1, B - %2; они расходятся на %3.</numerusform>
+            <numerusform>В этих %n сеансах A не приняли %1, B - %2; они расходятся на %3.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>standard input can be read only once</source>
+        <translation>стандартный ввод можно читать только один раз</translation>
+    </message>
+    <message>
+        <source>bad lines skipped: %1</source>
+        <translation>негодных строк пропущено: %1</translation>
+    </message>
+    <message>
+        <source>settings or filters</source>
+        <translation>настройки или фильтры</translation>
+    </message>
 </context>
 </TS>

@@ -5,12 +5,27 @@
 
 namespace {
 
+JsonText jsonOf(const QVector<Objection>& objections)
+{
+    return JsonText::list(objections, [](const Objection& objection) {
+        return JsonText::object({{"name", objection.filter},
+                                 {"params", JsonText::of(objection.params)},
+                                 {"evidence", JsonText::list(objection.evidence)},
+                                 {"text", objection.text}});
+    });
+}
+
+JsonText jsonOf(const LogTime& time)
+{
+    return time.isKnown() ? JsonText(time.iso()) : JsonText::null();
+}
+
+} // namespace
+
 JsonText jsonOf(const Tally& tally)
 {
     return JsonText::object({{"count", tally.count}, {"sum", tally.sum}});
 }
-
-} // namespace
 
 JsonText jsonOf(const QVector<MachineCondition>& conditions)
 {
@@ -22,12 +37,6 @@ JsonText jsonOf(const QVector<MachineCondition>& conditions)
 
 JsonText jsonOf(const QString& log, const NoteAnswer& answer)
 {
-    const auto filter = [](const Objection& objection) {
-        return JsonText::object({{"name", objection.filter},
-                                 {"params", JsonText::of(objection.params)},
-                                 {"evidence", JsonText::list(objection.evidence)},
-                                 {"text", objection.text}});
-    };
     return JsonText::object(
         {{"kind", QStringLiteral("note")},
          {"log", log},
@@ -35,14 +44,36 @@ JsonText jsonOf(const QString& log, const NoteAnswer& answer)
          {"device", qint64(answer.device)},
          {"thread", qint64(answer.thread)},
          {"line", answer.line},
-         {"time", answer.time.isKnown() ? JsonText(answer.time.iso()) : JsonText::null()},
+         {"time", jsonOf(answer.time)},
          {"note", answer.wasOffered() ? JsonText(answer.note) : JsonText::null()},
          {"outcome", outcomeKey(answer.outcome)},
          {"taken", answer.taken},
-         {"filters", JsonText::list(answer.objections, filter)},
+         {"filters", jsonOf(answer.objections)},
          {"machine", jsonOf(answer.machine)},
          {"uncertain", JsonText::list(answer.uncertain)},
          {"text", answer.text()}});
+}
+
+JsonText jsonOf(const QString& log, const Difference& difference)
+{
+    const NoteAnswer& note = difference.note;
+    const auto verdict = [](bool refused) {
+        return refused ? QStringLiteral("refuse") : QStringLiteral("accept");
+    };
+    return JsonText::object({{"kind", QStringLiteral("difference")},
+                             {"log", log},
+                             {"session", note.session},
+                             {"device", qint64(note.device)},
+                             {"thread", qint64(note.thread)},
+                             {"line", note.line},
+                             {"time", jsonOf(note.time)},
+                             {"note", note.note},
+                             {"a", verdict(difference.refusedByA)},
+                             {"b", verdict(!difference.refusedByA)},
+                             {"taken", note.taken},
+                             {"filters", jsonOf(note.objections)},
+                             {"uncertain", JsonText::list(note.uncertain)},
+                             {"text", difference.text()}});
 }
 
 JsonText jsonOf(const Summary& summary)

@@ -3,11 +3,13 @@
 
 #pragma once
 
-#include "explanation.h"
+#include "comparison.h"
 #include "jsontext.h"
 
 /// [{"what": ..., "line": ..., "text": ...}, ...]
 JsonText jsonOf(const QVector<MachineCondition>& conditions);
+
+JsonText jsonOf(const Tally& tally);
 
 /// {"kind": "note", ...}
 /// @param log the name of its log
@@ -15,3 +17,7 @@ JsonText jsonOf(const QString& log, const NoteAnswer& answer);
 
 /// {"kind": "summary", ...}
 JsonText jsonOf(const Summary& summary);
+
+/// {"kind": "difference", ...}
+/// @param log the name of its log
+JsonText jsonOf(const QString& log, const Difference& difference);

@@ -27,6 +27,19 @@ const std::vector<Command>& commands()
           &options::refusals, &options::summary, &options::exitCode, &options::json,
           &options::keepGoing},
          explainCommand},
+        {"compare",
+         "A.json B.json LOG.jsonl...",
+         3,
+         anyNumber,
+         QT_TRANSLATE_NOOP("Velmo", "What other filters would have decided."),
+         QT_TRANSLATE_NOOP(
+             "Velmo",
+             "Tells every note of the logs that A accepts and B refuses, or the reverse, why, and "
+             "what each refused in all. A and B are filters or settings, told apart by what they "
+             "hold. Both judge what happened: what would have followed another verdict, a log does "
+             "not say. The exit code is 1 when they differ."),
+         {&options::json, &options::keepGoing},
+         compareCommand},
         {"replay",
          "LOG.jsonl (--filters FILTERS.json | --settings SETTINGS.json)",
          1,

@@ -84,18 +84,6 @@ QString summaryText(const Summary& summary)
                       rows);
 }
 
-QString rulesText(const FiltersInput& input)
-{
-    QString text = Velmo::tr("Filters in force (%1):").arg(input.fileName) + QLatin1Char('\n');
-    const QStringList rules = input.filters.rules();
-    for (const QString& rule : rules)
-        text += wrapped(QStringLiteral("  - ") + rule, 4, outputWidth());
-    if (rules.isEmpty())
-        text +=
-            QStringLiteral("  - ") + Velmo::tr("None: every note is accepted.") + QLatin1Char('\n');
-    return text + QLatin1Char('\n');
-}
-
 } // namespace
 
 int explainCommand(const Arguments& arguments)
@@ -107,7 +95,7 @@ int explainCommand(const Arguments& arguments)
                             arguments.isSet(options::refusals), arguments.isSet(options::summary)};
     const bool json = arguments.isSet(options::json);
     if (!json)
-        print(rulesText(input));
+        print(input.rulesText(Velmo::tr("Filters in force (%1):").arg(input.fileName)));
 
     Summary summary;
     int exitCode = exitSuccess;

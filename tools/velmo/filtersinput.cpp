@@ -10,6 +10,38 @@
 #include "output.h"
 #include "settingscheck.h"
 #include "settingsinput.h"
+#include "table.h"
+
+namespace {
+
+FiltersInput read(const ArrayFile& file, ListKind kind)
+{
+    FilterSet filters(file, kind);
+    QStringList findings;
+    if (kind == ListKind::Settings) {
+        for (const SettingsFinding& finding : checkSettings(file))
+            findings += finding.line(file);
+    }
+    for (const QString& finding : std::as_const(findings))
+        printError(finding);
+    if (!findings.isEmpty())
+        printError(Velmo::tr("%1: answers may differ from the service's").arg(file.name()));
+    return {std::move(filters), file.name(), findings};
+}
+
+} // namespace
+
+QString FiltersInput::rulesText(const QString& heading) const
+{
+    QString text = heading + QLatin1Char('\n');
+    const QStringList rules = filters.rules();
+    for (const QString& rule : rules)
+        text += wrapped(QStringLiteral("  - ") + rule, 4, outputWidth());
+    if (rules.isEmpty())
+        text +=
+            QStringLiteral("  - ") + Velmo::tr("None: every note is accepted.") + QLatin1Char('\n');
+    return text + QLatin1Char('\n');
+}
 
 FiltersInput readFilters(const Arguments& arguments, const QStringList& logs)
 {
@@ -19,18 +51,15 @@ FiltersInput readFilters(const Arguments& arguments, const QStringList& logs)
     const QString fileName = arguments.value(ofSettings ? options::settings : options::filters);
     if (fileName == QLatin1String("-") && logs.contains(fileName))
         throw Fault{Velmo::tr("log and filters cannot both come from standard input")};
-
-    if (ofSettings) {
-        const ArrayFile file = readSettings(fileName);
-        FilterSet filters(file, ListKind::Settings);
-        const QList<SettingsFinding> findings = checkSettings(file);
-        for (const SettingsFinding& finding : findings)
-            printError(finding.line(file));
-        if (!findings.isEmpty())
-            printError(Velmo::tr("%1: answers may differ from the service's").arg(file.name()));
-        return {std::move(filters), file.name()};
-    }
+    if (ofSettings)
+        return read(readSettings(fileName), ListKind::Settings);
     TextInput text = openInput(fileName);
-    const ArrayFile file(text, Velmo::tr("filters"));
-    return {FilterSet(file, ListKind::Filters), file.name()};
+    return read(ArrayFile(text, Velmo::tr("filters")), ListKind::Filters);
+}
+
+FiltersInput readFilters(const QString& fileName)
+{
+    TextInput text = openInput(fileName);
+    const ArrayFile file(text, Velmo::tr("settings or filters"));
+    return read(file, kindOf(file) == ListKind::Settings ? ListKind::Settings : ListKind::Filters);
 }

@@ -12,9 +12,16 @@ struct FiltersInput
 {
     FilterSet filters;
     QString fileName;
+    QStringList findings; ///< what the service would read differently in the settings
+
+    /// The rules in words, a line each, under a heading.
+    QString rulesText(const QString& heading) const;
 };
 
 /// Reads --filters or --settings, one of which there must be, and says on standard error what the
 /// service would read differently in the settings. Throws Fault for bad ones.
 /// @param logs operands, of which none may then be standard input if the filters are
 FiltersInput readFilters(const Arguments& arguments, const QStringList& logs);
+
+/// The same of one file that holds either, told apart by its content; an empty list has no filters.
+FiltersInput readFilters(const QString& fileName);
