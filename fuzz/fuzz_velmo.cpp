@@ -9,6 +9,7 @@
 #include "replay.h"
 #include "settingscheck.h"
 #include "settingsedit.h"
+#include "settingslist.h"
 
 #include <QBuffer>
 
@@ -96,12 +97,13 @@ void checkSettingsFile(const ArrayFile& file)
 {
     try {
         checkSettings(file);
-        const QJsonArray edited = editSettings(file.elements(), {});
-        CHECK(edited == file.elements());
-        const Assignment sum{QStringLiteral("acceptor_common"), QStringLiteral("maxSumm"),
-                             QStringLiteral("12345")};
-        AcceptorSettings().setList(editSettings(file.elements(), {sum}).toVariantList());
+        SettingsEdit edit(file);
+        CHECK(edit.file().text() == file.text());
+        edit.set({{QStringLiteral("acceptor_common/maxSumm"), QStringLiteral("12345")}});
+        AcceptorSettings().setList(edit.file().elements().toVariantList());
         CHECK(AcceptorSettings::maxSumm() == 12345);
+        const auto devices = SettingsList(file.elements()).devices();
+        CHECK(SettingsList(edit.file().elements()).devices().keys() == devices.keys());
     } catch (const Fault& fault) {
         CHECK(!fault.message.isEmpty());
     }
