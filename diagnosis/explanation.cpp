@@ -135,6 +135,21 @@ void Summary::add(const NoteAnswer& answer)
     }
 }
 
+QList<Summary::Row> Summary::rows() const
+{
+    QList<Row> rows{{Diagnosis::tr("Offered"), offered},
+                    {Diagnosis::tr("Taken"), of(Outcome::Taken)},
+                    {Diagnosis::tr("Refused by the filters"), of(Outcome::Refused)}};
+    for (auto filter = refusedBy.begin(); filter != refusedBy.end(); ++filter)
+        rows += {filter.key(), {filter.value(), 0}, false, true};
+    if (takenAlthoughRefused.count > 0)
+        rows += {Diagnosis::tr("taken although refused"), takenAlthoughRefused, true, true};
+    return rows
+        + QList<Row>{{Diagnosis::tr("Rejected by the device"), of(Outcome::Rejected)},
+                     {Diagnosis::tr("Returned"), of(Outcome::Returned)},
+                     {Diagnosis::tr("Unknown"), of(Outcome::Unknown)}};
+}
+
 LogExplainer::LogExplainer(const FilterSet& filters, Receiver receiver)
     : m_player(filters)
     , m_receiver(std::move(receiver))
@@ -157,6 +172,16 @@ void LogExplainer::finish()
     for (const auto& device : m_player.devices())
         close(*device);
     giveAway();
+}
+
+int LogExplainer::firstOpenSession() const
+{
+    int first = m_player.sessions();
+    for (const auto& device : m_player.devices())
+        first = qMin(first, device->session());
+    for (const Note& note : m_notes)
+        first = qMin(first, note.answer.session);
+    return first;
 }
 
 void LogExplainer::takeEvent(const LogDevice& device, const SessionLine& line, qint64 lineNumber)

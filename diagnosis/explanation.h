@@ -79,6 +79,14 @@ struct Tally
 /// The answers of a log together.
 struct Summary
 {
+    struct Row
+    {
+        QString what;
+        Tally tally;
+        bool hasSum = true;
+        bool isPart = false; ///< of the row before it that is none
+    };
+
     int sessions = 0;
     Tally offered;
     std::array<Tally, outcomeCount> outcomes; ///< by Outcome
@@ -86,6 +94,10 @@ struct Summary
     QMap<QString, qint64> refusedBy; ///< notes that a filter of that name refused
 
     void add(const NoteAnswer& answer);
+
+    /// What people read.
+    QList<Row> rows() const;
+
     const Tally& of(Outcome outcome) const { return outcomes.at(size_t(outcome)); }
 };
 
@@ -111,6 +123,12 @@ public:
     void finish();
 
     int sessions() const { return m_player.sessions(); }
+
+    /// The lowest number of a session that a device is in, or of which an answer is not given away
+    /// yet; 0 before a device reported.
+    int firstOpenSession() const;
+
+    const LogPlayer& player() const { return m_player; }
 
 private:
     struct Note

@@ -172,6 +172,19 @@ QStringList FilterSet::rules() const
     return sentences;
 }
 
+std::optional<int> FilterSet::sumLimit() const
+{
+    FilterChain chain;
+    std::optional<int> lowest;
+    const QList<AbstractFilter*> made = addTo(chain);
+    for (const AbstractFilter* const filter : made) {
+        const QVariant limit = filter->property("sessionSum");
+        if (limit.isValid())
+            lowest = qMin(lowest.value_or(INT_MAX), limit.toInt());
+    }
+    return lowest;
+}
+
 QString filterName(const AbstractFilter& filter)
 {
     return QLatin1String(filter.metaObject()->className());

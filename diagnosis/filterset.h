@@ -10,6 +10,7 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <optional>
 #include <utility>
 
 class AbstractFilter;
@@ -44,6 +45,9 @@ public:
 
     /// What each filter does, in a sentence.
     QStringList rules() const;
+
+    /// The lowest limit of a session's sum; none without one.
+    std::optional<int> sumLimit() const;
 
     /// The names that the settings give to devices, by device identifier.
     QMap<quint32, QString> deviceNames() const { return m_deviceNames; }

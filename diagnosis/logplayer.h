@@ -105,6 +105,9 @@ public:
     /// The steps of one line, in the order in which the devices came; valid until the next call.
     const std::vector<LogStep>& take(const SessionLine& line, qint64 lineNumber);
 
+    /// Those of the line that was taken last.
+    const std::vector<LogStep>& steps() const { return m_steps; }
+
     /// Tells that a line could not be read.
     void skipLine() { ++m_skippedLines; }
 

@@ -76,3 +76,13 @@ QString LogTime::clock() const
     const QString time = text.mid(timeOfDay, 8);
     return text.endsWith(QLatin1Char('Z')) ? time + QLatin1String(" UTC") : time;
 }
+
+std::optional<qint64> LogTime::wallClock() const
+{
+    if (m_hasMilliseconds)
+        return m_milliseconds;
+    const QDateTime shown = QDateTime::fromString(m_text, Qt::ISODateWithMs);
+    if (!shown.isValid())
+        return {};
+    return QDateTime(shown.date(), shown.time(), Qt::UTC).toMSecsSinceEpoch();
+}

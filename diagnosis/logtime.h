@@ -6,6 +6,8 @@
 #include <QString>
 #include <QVariant>
 
+#include <optional>
+
 /// When a line of a log was written: an ISO 8601 text as it stands, or milliseconds since 1970, or
 /// not known.
 class LogTime
@@ -24,6 +26,10 @@ public:
     /// The time of day on the clock that the log was written by, as 10:05:12; that of UTC has
     /// "UTC" behind it. Empty when not known.
     QString clock() const;
+
+    /// The same clock with its date, in milliseconds since 1970 as if it showed UTC; none when not
+    /// known.
+    std::optional<qint64> wallClock() const;
 
 private:
     QString m_text;

@@ -3,19 +3,21 @@
 # SPDX-License-Identifier: MIT
 
 # Installs what is missing and shows what scripts/test.sh does not: lint, all tests under the address,
-# undefined-behaviour and thread sanitizers, ABI, documentation, packages that are the same to the byte
-# wherever they are built, and a few seconds of each fuzzer.
+# undefined-behaviour and thread sanitizers, the page of explained logs in a browser, ABI, documentation,
+# packages that are the same to the byte wherever they are built, and a few seconds of each fuzzer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
 
-require_packages "${build_packages[@]}" "${install_packages[@]}" clang libclang-rt-14-dev
+require_packages "${build_packages[@]}" "${install_packages[@]}" clang libclang-rt-14-dev \
+    chromium chromium-driver python3
 scripts/lint.sh
 for preset in asan tsan; do
     cmake --preset "$preset"
     cmake --build --preset "$preset"
     ctest --preset "$preset"
 done
+tests/check_page.py build/asan/bin/velmo samples
 scripts/abi.sh
 scripts/docs.sh
 

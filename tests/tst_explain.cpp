@@ -24,6 +24,12 @@ std::unique_ptr<QIODevice> bufferOf(const QByteArray& bytes)
     return buffer;
 }
 
+QString readFile(const QString& name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 FilterSet filterSet(const QString& json)
 {
     TextInput text(bufferOf(json.toUtf8()), "filters"_s);
@@ -389,6 +395,64 @@ private Q_SLOTS:
                  "velmo: %1: answers may differ from the service's"_s.arg(settings));
         QVERIFY(run.outLines().at(0).contains(
             R"("filters":[{"name":"AcceptFilter","params":{"acceptAll":0},"evidence":[])"_s));
+    }
+
+    // Markup in every text that a log, the settings and a file name can hold.
+    void pageShowsTextsAsTexts()
+    {
+        const QString markup = "</svg><script>x</script><img src='a' onerror=\"b\">"_s;
+        QVariantList settings;
+        for (const QJsonValue value :
+             QJsonDocument::fromJson(readFile(sample("settings.json"_s)).toUtf8()).array()) {
+            QVariantMap element = value.toObject().toVariantMap();
+            if (element["key"_s] == "device_name"_s)
+                element["value"_s] = markup;
+            settings += element;
+        }
+        const auto json = [](const QVariant& value) {
+            return QString::fromUtf8(
+                QJsonDocument::fromVariant(value).toJson(QJsonDocument::Compact));
+        };
+        const QString list = writeFile(m_folder.filePath("<script>.json"_s), json(settings));
+        QVariantMap accepting{{"device_id"_s, 1},
+                              {"thread_id"_s, 1},
+                              {"state"_s, "accepting"_s},
+                              {"current_note"_s, 1000},
+                              {"error_critical"_s, true}};
+        for (const QString& key : {"error_text"_s, "state_text"_s, "id_string"_s})
+            accepting.insert(key, markup);
+        QString lines = json(QVariantMap{{"device_id"_s, 1}, {"session"_s, "start"_s}}) + "\n"_s;
+        for (int i = 0; i < 40; ++i) {
+            lines += json(accepting) + "\n"_s
+                + json(QVariantMap{{"device_id"_s, 1},
+                                   {"state"_s, i % 3 ? "rejected"_s : "stacked"_s},
+                                   {"session_sum"_s, i * 500}})
+                + "\n"_s;
+        }
+        const QString log = writeFile(m_folder.filePath("<img src=a>.jsonl"_s), lines);
+        const QString page = m_folder.filePath("page.html"_s);
+        QCOMPARE(velmo({"explain"_s, log, "--settings"_s, list, "--html"_s, page}).exitCode, 0);
+
+        const QString html = readFile(page);
+        QVERIFY(html.contains("content=\"default-src 'none'; style-src 'sha256-"_s));
+        QVERIFY(!html.contains(QRegularExpression("<(script|img|b)\\b"_s)));
+        QVERIFY(html.contains(
+            "&lt;script&gt;x&lt;/script&gt;&lt;img src='a' onerror=&quot;b&quot;&gt;"_s));
+        // Each link leads somewhere, and each sentence to its mark.
+        QSet<QString> ids;
+        QStringList links;
+        const QRegularExpression attribute(" (id|href)=\"(#?[^\"]*)\""_s);
+        for (auto found = attribute.globalMatch(html); found.hasNext();) {
+            const QRegularExpressionMatch match = found.next();
+            if (match.captured(1) == "id"_s)
+                ids += match.captured(2);
+            else
+                links += match.captured(2).mid(1);
+        }
+        for (const QString& link : std::as_const(links))
+            QVERIFY2(ids.contains(link), qPrintable(link));
+        QCOMPARE(html.count("<li class=\"answer"_s), 40);
+        QVERIFY(links.size() > 80);
     }
 
     void reasonsAreThereExactlyWhenNothingIsAccepted()

@@ -52,5 +52,19 @@
             <numerusform>no JSON array of whole routes; %n can be read</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n lines could not be read and were skipped</source>
+        <translation>
+            <numerusform>%n line could not be read and was skipped</numerusform>
+            <numerusform>%n lines could not be read and were skipped</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sessions</source>
+        <translation>
+            <numerusform>%n session</numerusform>
+            <numerusform>%n sessions</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

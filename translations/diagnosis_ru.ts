@@ -591,5 +591,283 @@
         <source>note of %1</source>
         <translation>купюра %1</translation>
     </message>
+    <message>
+        <source>Offered</source>
+        <translation>Предложены</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Приняты</translation>
+    </message>
+    <message>
+        <source>Refused by the filters</source>
+        <translation>Не приняты фильтрами</translation>
+    </message>
+    <message>
+        <source>taken although refused</source>
+        <translation>приняты вопреки фильтрам</translation>
+    </message>
+    <message>
+        <source>Rejected by the device</source>
+        <translation>Отклонены устройством</translation>
+    </message>
+    <message>
+        <source>Returned</source>
+        <translation>Возвращены</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Неизвестно</translation>
+    </message>
+    <message>
+        <source>Show:</source>
+        <translation>Показать:</translation>
+    </message>
+    <message>
+        <source>%n refused</source>
+        <translation>не принято: %n</translation>
+    </message>
+    <message>
+        <source>%n taken</source>
+        <translation>принято: %n</translation>
+    </message>
+    <message>
+        <source>%n rejected</source>
+        <translation>отклонено: %n</translation>
+    </message>
+    <message>
+        <source>%n returned</source>
+        <translation>возвращено: %n</translation>
+    </message>
+    <message>
+        <source>%n unknown</source>
+        <translation>неизвестно: %n</translation>
+    </message>
+    <message>
+        <source>refused by the filters</source>
+        <translation>не принята фильтрами</translation>
+    </message>
+    <message>
+        <source>taken</source>
+        <translation>принята</translation>
+    </message>
+    <message>
+        <source>rejected by the device</source>
+        <translation>отклонена устройством</translation>
+    </message>
+    <message>
+        <source>returned</source>
+        <translation>возвращена</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>неизвестно</translation>
+    </message>
+    <message>
+        <source>Where much happens at once, the pictures are stretched. A mark leads to its sentence, a sentence to its mark and to what it speaks of.</source>
+        <translation>Где сразу происходит много, рисунок растянут. Знак ведёт к своему предложению, предложение - к своему знаку и к тому, о чём в нём говорится.</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <comment>language code</comment>
+        <extracomment>The language of these words, for the attribute lang of HTML.</extracomment>
+        <translation>ru</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines could not be read and were skipped</source>
+        <translation>
+            <numerusform>не удалось прочесть %n строку, она пропущена</numerusform>
+            <numerusform>не удалось прочесть %n строки, они пропущены</numerusform>
+            <numerusform>не удалось прочесть %n строк, они пропущены</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>lines %1 to %2</source>
+        <translation>строки с %1 по %2</translation>
+    </message>
+    <message>
+        <source>Picture, %1</source>
+        <translation>Рисунок, %1</translation>
+    </message>
+    <message>
+        <source>No note to tell of.</source>
+        <translation>Ни об одной купюре сказать нечего.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sessions</source>
+        <translation>
+            <numerusform>%n сеанс</numerusform>
+            <numerusform>%n сеанса</numerusform>
+            <numerusform>%n сеансов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Купюры</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Число</translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation>Сумма</translation>
+    </message>
+    <message>
+        <source>The answers may be wrong</source>
+        <translation>Ответы могут быть неверны</translation>
+    </message>
+    <message>
+        <source>What became of each note, and why</source>
+        <translation>Что стало с каждой купюрой и почему</translation>
+    </message>
+    <message>
+        <source>None: every note is accepted.</source>
+        <translation>Нет: принимается любая купюра.</translation>
+    </message>
+    <message>
+        <source>Filters in force</source>
+        <translation>Действующие фильтры</translation>
+    </message>
+    <message>
+        <source>idling</source>
+        <translation>ожидание</translation>
+    </message>
+    <message>
+        <source>accepting</source>
+        <translation>приём</translation>
+    </message>
+    <message>
+        <source>accepted</source>
+        <translation>принята</translation>
+    </message>
+    <message>
+        <source>rejected</source>
+        <translation>отклонена</translation>
+    </message>
+    <message>
+        <source>stacking</source>
+        <translation>укладка</translation>
+    </message>
+    <message>
+        <source>stacked</source>
+        <translation>уложена</translation>
+    </message>
+    <message>
+        <source>returning</source>
+        <translation>возврат</translation>
+    </message>
+    <message>
+        <source>jammed</source>
+        <translation>замятие</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>занято</translation>
+    </message>
+    <message>
+        <source>updating</source>
+        <translation>обновление</translation>
+    </message>
+    <message>
+        <source>dispensing</source>
+        <translation>выдача</translation>
+    </message>
+    <message>
+        <source>dispensed</source>
+        <translation>выдано</translation>
+    </message>
+    <message>
+        <source>floating</source>
+        <translation>размен</translation>
+    </message>
+    <message>
+        <source>floated</source>
+        <translation>разменяно</translation>
+    </message>
+    <message>
+        <source>emptying</source>
+        <translation>выгрузка</translation>
+    </message>
+    <message>
+        <source>emptied</source>
+        <translation>выгружено</translation>
+    </message>
+    <message>
+        <source>unknown state</source>
+        <translation>неизвестное состояние</translation>
+    </message>
+    <message>
+        <source>accepting a note</source>
+        <translation>принимает купюру</translation>
+    </message>
+    <message>
+        <source>keeping it</source>
+        <translation>оставляет её</translation>
+    </message>
+    <message>
+        <source>giving it back</source>
+        <translation>отдаёт её</translation>
+    </message>
+    <message>
+        <source>paying out</source>
+        <translation>выдаёт</translation>
+    </message>
+    <message>
+        <source>jam, error or what else was the matter</source>
+        <translation>замятие, ошибка или что ещё было не так</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>выключено</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>не на связи</translation>
+    </message>
+    <message>
+        <source>halted</source>
+        <translation>остановлено</translation>
+    </message>
+    <message>
+        <source>critical error</source>
+        <translation>крит. ошибка</translation>
+    </message>
+    <message>
+        <source>stacker missing</source>
+        <translation>нет стекера</translation>
+    </message>
+    <message>
+        <source>stacker full</source>
+        <translation>стекер полон</translation>
+    </message>
+    <message>
+        <source>Session %1 from line %2 to line %3</source>
+        <translation>Сеанс %1, строки с %2 по %3</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>время</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>строка</translation>
+    </message>
+    <message>
+        <source>notes</source>
+        <translation>купюры</translation>
+    </message>
+    <message>
+        <source>state</source>
+        <translation>состояние</translation>
+    </message>
+    <message>
+        <source>session sum</source>
+        <translation>сумма сеанса</translation>
+    </message>
+    <message>
+        <source>limit %1</source>
+        <translation>предел %1</translation>
+    </message>
 </context>
 </TS>

@@ -100,34 +100,6 @@
         <translation>%1: ожидается число</translation>
     </message>
     <message>
-        <source>Offered</source>
-        <translation>Предложены</translation>
-    </message>
-    <message>
-        <source>Taken</source>
-        <translation>Приняты</translation>
-    </message>
-    <message>
-        <source>Refused by the filters</source>
-        <translation>Не приняты фильтрами</translation>
-    </message>
-    <message>
-        <source>taken although refused</source>
-        <translation>приняты вопреки фильтрам</translation>
-    </message>
-    <message>
-        <source>Rejected by the device</source>
-        <translation>Отклонены устройством</translation>
-    </message>
-    <message>
-        <source>Returned</source>
-        <translation>Возвращены</translation>
-    </message>
-    <message>
-        <source>Unknown</source>
-        <translation>Неизвестно</translation>
-    </message>
-    <message>
         <source>Sessions: %1</source>
         <translation>Сеансов: %1</translation>
     </message>
@@ -538,6 +510,14 @@
     <message>
         <source>settings or filters</source>
         <translation>настройки или фильтры</translation>
+    </message>
+    <message>
+        <source>--json and --html do not go together</source>
+        <translation>--json и --html вместе не работают</translation>
+    </message>
+    <message>
+        <source>Write a page with pictures to PAGE.html in place of text.</source>
+        <translation>Записать страницу с рисунками в PAGE.html вместо текста.</translation>
     </message>
 </context>
 </TS>

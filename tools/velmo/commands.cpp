@@ -24,7 +24,7 @@ const std::vector<Command>& commands()
              "reported, or a published state {\"device_states\": [...]}, with \"time\" and "
              "\"session\": \"start\" where known."),
          {&options::filters, &options::settings, &options::session, &options::device,
-          &options::refusals, &options::summary, &options::exitCode, &options::json,
+          &options::refusals, &options::summary, &options::exitCode, &options::json, &options::html,
           &options::keepGoing},
          explainCommand},
         {"compare",

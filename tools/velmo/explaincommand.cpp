@@ -3,6 +3,7 @@
 
 #include "answerjson.h"
 #include "commands.h"
+#include "explanationpage.h"
 #include "filtersinput.h"
 #include "inputfile.h"
 #include "jsonlines.h"
@@ -10,7 +11,11 @@
 #include "output.h"
 #include "table.h"
 
+#include <QSaveFile>
+#include <QTemporaryFile>
+
 #include <optional>
+#include <unistd.h>
 
 namespace {
 
@@ -22,10 +27,9 @@ struct Question
     bool refusalsOnly;
     bool summaryOnly;
 
-    bool isAbout(const NoteAnswer& answer) const
+    bool isAbout(int sessionNumber, quint32 deviceId) const
     {
-        return (!session || answer.session == *session)
-            && (!device || answer.device == quint32(*device));
+        return (!session || sessionNumber == *session) && (!device || deviceId == quint32(*device));
     }
 
     bool shows(const NoteAnswer& answer) const
@@ -63,26 +67,78 @@ QByteArray textLine(const NoteAnswer& answer)
 QString summaryText(const Summary& summary)
 {
     QList<QStringList> rows;
-    const auto add = [&rows](const QString& what, const Tally& tally) {
-        rows += QStringList{what, QString::number(tally.count), QString::number(tally.sum)};
-    };
-    add(Velmo::tr("Offered"), summary.offered);
-    add(Velmo::tr("Taken"), summary.of(Outcome::Taken));
-    add(Velmo::tr("Refused by the filters"), summary.of(Outcome::Refused));
-    for (auto filter = summary.refusedBy.begin(); filter != summary.refusedBy.end(); ++filter)
-        rows +=
-            QStringList{QStringLiteral("  ") + filter.key(), QString::number(filter.value()), {}};
-    if (summary.takenAlthoughRefused.count > 0)
-        add(QStringLiteral("  ") + Velmo::tr("taken although refused"),
-            summary.takenAlthoughRefused);
-    add(Velmo::tr("Rejected by the device"), summary.of(Outcome::Rejected));
-    add(Velmo::tr("Returned"), summary.of(Outcome::Returned));
-    add(Velmo::tr("Unknown"), summary.of(Outcome::Unknown));
+    const QList<Summary::Row> all = summary.rows();
+    for (const Summary::Row& row : all)
+        rows += QStringList{(row.isPart ? QStringLiteral("  ") : QString()) + row.what,
+                            QString::number(row.tally.count),
+                            row.hasSum ? QString::number(row.tally.sum) : QString()};
     return Velmo::tr("Sessions: %1").arg(summary.sessions) + QLatin1Char('\n')
         + formatTable({Velmo::tr("Notes"), QLatin1Char('>') + Velmo::tr("Number"),
                        QLatin1Char('>') + Velmo::tr("Sum")},
                       rows);
 }
+
+// The page that --html asks for. Its file is there when all is written, or not at all.
+class PageFile
+{
+public:
+    PageFile(const QString& fileName, const FiltersInput& input, const Question& question)
+        : m_question(question)
+        , m_toOutput(fileName == QLatin1String("-"))
+        , m_file(fileName)
+        , m_page({input.fileName, input.filters.rules(), input.findings, input.filters.sumLimit()},
+                 m_sections)
+    {
+        if (!m_sections.open())
+            throw faultOf(m_sections);
+        if (m_toOutput ? !m_output.open(STDOUT_FILENO, QIODevice::WriteOnly)
+                       : !m_file.open(QIODevice::WriteOnly))
+            throw faultOf(device());
+    }
+
+    ExplanationPage& page() { return m_page; }
+
+    // Shows what a line led to.
+    void follow(const LogExplainer& explainer, const LogTime& time, qint64 line)
+    {
+        bool anyStarts = false;
+        for (const LogStep& step : explainer.player().steps()) {
+            anyStarts = anyStarts || step.startsSession;
+            if ((step.sent || step.startsSession) && !m_question.summaryOnly
+                && m_question.isAbout(step.device->session(), step.device->deviceId()))
+                m_page.add(*step.device, time, line);
+        }
+        if (anyStarts)
+            m_page.finishSessions(explainer.firstOpenSession(), m_question.refusalsOnly);
+    }
+
+    void endLog(const LogExplainer& explainer)
+    {
+        m_page.endLog(explainer.player().skippedLines(), m_question.refusalsOnly);
+    }
+
+    void finish(const Summary& summary)
+    {
+        m_page.write(device(), summary);
+        if (!(m_toOutput ? m_output.flush() : m_file.commit()))
+            throw faultOf(device());
+    }
+
+private:
+    QFileDevice& device() { return m_toOutput ? static_cast<QFileDevice&>(m_output) : m_file; }
+
+    static Fault faultOf(const QFileDevice& file)
+    {
+        return {QStringLiteral("%1: %2").arg(file.fileName(), file.errorString())};
+    }
+
+    const Question m_question;
+    const bool m_toOutput;
+    QTemporaryFile m_sections;
+    QSaveFile m_file;
+    QFile m_output;
+    ExplanationPage m_page;
+};
 
 } // namespace
 
@@ -94,7 +150,14 @@ int explainCommand(const Arguments& arguments)
                             numberOf(arguments, options::device),
                             arguments.isSet(options::refusals), arguments.isSet(options::summary)};
     const bool json = arguments.isSet(options::json);
-    if (!json)
+    const bool html = arguments.isSet(options::html);
+    if (json && html)
+        throw Fault{Velmo::tr("--json and --html do not go together")};
+    const bool asText = !json && !html;
+    std::optional<PageFile> page;
+    if (html)
+        page.emplace(arguments.value(options::html), input, question);
+    if (asText)
         print(input.rulesText(Velmo::tr("Filters in force (%1):").arg(input.fileName)));
 
     Summary summary;
@@ -102,30 +165,44 @@ int explainCommand(const Arguments& arguments)
     for (const QString& log : logs) {
         QByteArray text; // of the answers that a line led to
         LogExplainer explainer(input.filters, [&](const NoteAnswer& answer) {
-            if (!question.isAbout(answer))
+            if (!question.isAbout(answer.session, answer.device))
                 return;
             summary.add(answer);
-            if (question.shows(answer))
+            if (!question.shows(answer))
+                return;
+            if (page)
+                page->page().add(answer);
+            else
                 text += json ? jsonOf(log, answer) + '\n' : textLine(answer);
         });
         TextInput file = openInput(log);
-        if (!json && !question.summaryOnly && logs.size() > 1)
+        if (asText && !question.summaryOnly && logs.size() > 1)
             print(file.name() + QStringLiteral(":\n"));
+        if (page)
+            page->page().beginLog(file.name());
         const int result = processLines(
             file, arguments.isSet(options::keepGoing),
-            [&](const QByteArray& line) {
-                explainer.take(SessionLine::read(file, line), file.lineNumber());
+            [&](const QByteArray& bytes) {
+                const SessionLine line = SessionLine::read(file, bytes);
+                explainer.take(line, file.lineNumber());
+                if (page)
+                    page->follow(explainer, line.time(), file.lineNumber());
                 return std::exchange(text, {});
             },
             [&] { explainer.skipLine(); });
         explainer.finish();
         summary.sessions += explainer.sessions();
-        if (!json && !question.summaryOnly)
+        if (page)
+            page->endLog(explainer);
+        if (asText && !question.summaryOnly)
             text += '\n';
         print(QString::fromUtf8(text));
         exitCode = qMax(exitCode, result);
     }
-    print(json ? QString::fromUtf8(jsonOf(summary)) + QLatin1Char('\n') : summaryText(summary));
+    if (page)
+        page->finish(summary);
+    else
+        print(json ? QString::fromUtf8(jsonOf(summary)) + QLatin1Char('\n') : summaryText(summary));
     const bool isRefusal = summary.of(Outcome::Refused).count > 0;
     if (exitCode == exitSuccess && isRefusal && arguments.isSet(options::exitCode))
         return exitFindings;

@@ -40,6 +40,9 @@ constexpr Option summary{"summary", nullptr, nullptr,
 constexpr Option exitCode{
     "exit-code", nullptr, nullptr,
     QT_TRANSLATE_NOOP("Velmo", "Make the exit code 1 when the filters refused something.")};
+constexpr Option html{
+    "html", nullptr, "PAGE.html",
+    QT_TRANSLATE_NOOP("Velmo", "Write a page with pictures to PAGE.html in place of text.")};
 constexpr Option names{
     "names", nullptr, "NAMES.json",
     QT_TRANSLATE_NOOP("Velmo", R"(Display names by device identifier: {"1": "Validator"}.)")};
