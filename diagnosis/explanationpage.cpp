@@ -106,10 +106,11 @@ QString tallies(const std::vector<NoteAnswer>::const_iterator& begin,
     for (int i = 0; i < outcomeCount; ++i) {
         const auto count = std::count_if(
             begin, end, [i](const NoteAnswer& note) { return int(note.outcome) == i; });
-        if (count > 0)
+        if (count > 0) {
             text += QStringLiteral("<span>%1%2</span>\n")
                         .arg(SessionPicture::glyph(Outcome(i)),
                              htmlText(Diagnosis::tr(words[i], nullptr, int(count))));
+        }
     }
     return text;
 }
@@ -249,11 +250,12 @@ void ExplanationPage::writeSession(const SessionRecord& session)
 QString ExplanationPage::totals(const Summary& summary) const
 {
     QString rows;
-    for (const Summary::Row& row : summary.rows())
+    for (const Summary::Row& row : summary.rows()) {
         rows += QStringLiteral("<tr%1><th scope=\"row\">%2</th><td>%3</td><td>%4</td></tr>\n")
                     .arg(row.isPart ? QStringLiteral(" class=\"part\"") : QString(),
                          htmlText(row.what), QString::number(row.tally.count),
                          row.hasSum ? QString::number(row.tally.sum) : QString());
+    }
     return QStringLiteral(
                "<section class=\"card\">\n%1<table>\n<thead><tr><th "
                "scope=\"col\">%2</th><th scope=\"col\">%3</th><th "

@@ -232,9 +232,9 @@ void SessionPicture::place(size_t first, size_t end)
         std::lower_bound(m_firstAnswer, m_session.answers.end(), m_lastLine + 1, isBefore);
 
     const auto timeOf = [&](size_t i) { return m_hasTimes ? *moments.at(i).time.wallClock() : 0; };
-    const double count = double(end - first);
+    const auto count = double(end - first);
     const double whole = plotRight - plotLeft;
-    const double total = double(timeOf(end - 1) - timeOf(first));
+    const auto total = double(timeOf(end - 1) - timeOf(first));
     const double own = total > 0 ? qMin(30.0, 0.6 * whole / count) : whole / count;
     const double perUnit = total > 0 ? (whole - own * count) / total : 0;
     m_x.assign(1, plotLeft);

@@ -68,10 +68,11 @@ QString summaryText(const Summary& summary)
 {
     QList<QStringList> rows;
     const QList<Summary::Row> all = summary.rows();
-    for (const Summary::Row& row : all)
+    for (const Summary::Row& row : all) {
         rows += QStringList{(row.isPart ? QStringLiteral("  ") : QString()) + row.what,
                             QString::number(row.tally.count),
                             row.hasSum ? QString::number(row.tally.sum) : QString()};
+    }
     return Velmo::tr("Sessions: %1").arg(summary.sessions) + QLatin1Char('\n')
         + formatTable({Velmo::tr("Notes"), QLatin1Char('>') + Velmo::tr("Number"),
                        QLatin1Char('>') + Velmo::tr("Sum")},
