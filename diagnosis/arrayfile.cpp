@@ -3,6 +3,8 @@
 
 #include "arrayfile.h"
 
+#include "words.h"
+
 #include <QJsonObject>
 
 #include <algorithm>
@@ -60,7 +62,7 @@ ArrayFile::ArrayFile(TextInput& file, const QString& contents)
 {
     const QByteArray text = file.readAll();
     if (!file.parseJson(text, 1).isArray())
-        throw file.faultAt(1, QStringLiteral("expected a list of %1").arg(contents));
+        throw file.faultAt(1, Diagnosis::tr("expected a list of %1").arg(contents));
     setText(text);
 }
 

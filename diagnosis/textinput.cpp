@@ -124,7 +124,7 @@ QJsonDocument TextInput::parseJson(const QByteArray& text, qint64 firstLine) con
         return document;
     const QByteArray before = text.left(error.offset);
     throw faultAt(firstLine + before.count('\n'),
-                  QStringLiteral("not JSON: %1 (column %2)")
+                  Diagnosis::tr("not JSON: %1 (column %2)")
                       .arg(error.errorString())
                       .arg(before.size() - before.lastIndexOf('\n')));
 }

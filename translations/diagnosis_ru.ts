@@ -869,5 +869,13 @@
         <source>limit %1</source>
         <translation>предел %1</translation>
     </message>
+    <message>
+        <source>expected a list of %1</source>
+        <translation>ожидается список (%1)</translation>
+    </message>
+    <message>
+        <source>not JSON: %1 (column %2)</source>
+        <translation>не JSON: %1 (позиция %2)</translation>
+    </message>
 </context>
 </TS>

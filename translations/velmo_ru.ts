@@ -519,5 +519,89 @@
         <source>Write a page with pictures to PAGE.html in place of text.</source>
         <translation>Записать страницу с рисунками в PAGE.html вместо текста.</translation>
     </message>
+    <message>
+        <source>note acceptor</source>
+        <translation>купюроприёмник</translation>
+    </message>
+    <message>
+        <source>coin acceptor</source>
+        <translation>монетоприёмник</translation>
+    </message>
+    <message>
+        <source>card reader</source>
+        <translation>карточный терминал</translation>
+    </message>
+    <message>
+        <source>dispenser</source>
+        <translation>диспенсер</translation>
+    </message>
+    <message>
+        <source>note recycler</source>
+        <translation>рециркулятор купюр</translation>
+    </message>
+    <message>
+        <source>coin hopper</source>
+        <translation>монетный хоппер</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>да</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Параметр</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Тип</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Образец</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Значение</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Модель</translation>
+    </message>
+    <message>
+        <source>Pays out</source>
+        <translation>Выдаёт</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Класс</translation>
+    </message>
+    <message>
+        <source>unknown filter &quot;%1&quot; (known: %2)</source>
+        <translation>неизвестный фильтр &quot;%1&quot; (известны: %2)</translation>
+    </message>
+    <message>
+        <source>standard output: %1</source>
+        <translation>стандартный вывод: %1</translation>
+    </message>
+    <message>
+        <source>expected a JSON object</source>
+        <translation>ожидается объект JSON</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot;: expected a device number and a name</source>
+        <translation>%1: &quot;%2&quot;: ожидается номер устройства и имя</translation>
+    </message>
+    <message>
+        <source>key &quot;%1&quot; is missing</source>
+        <translation>нет ключа &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>unknown key &quot;%1&quot;</source>
+        <translation>неизвестный ключ &quot;%1&quot;</translation>
+    </message>
 </context>
 </TS>

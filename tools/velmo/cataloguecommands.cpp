@@ -25,18 +25,18 @@ QString kindName(Acceptors::AcceptorType kind)
 {
     switch (kind) {
     case Acceptors::NoteAcceptor:
-        return QStringLiteral("note acceptor");
+        return Velmo::tr("note acceptor");
     case Acceptors::CoinAcceptor:
-        return QStringLiteral("coin acceptor");
+        return Velmo::tr("coin acceptor");
     case Acceptors::CardReader:
-        return QStringLiteral("card reader");
+        return Velmo::tr("card reader");
     case Acceptors::NoteDispenser:
     case Acceptors::OtherDispenser:
-        return QStringLiteral("dispenser");
+        return Velmo::tr("dispenser");
     case Acceptors::NoteRecycler:
-        return QStringLiteral("note recycler");
+        return Velmo::tr("note recycler");
     case Acceptors::CoinHopper:
-        return QStringLiteral("coin hopper");
+        return Velmo::tr("coin hopper");
     }
     return QString::number(kind);
 }
@@ -46,7 +46,7 @@ QStringList deviceRow(const SupportedDevice& device)
     const auto id = static_cast<Acceptors::Supported>(device.value(QStringLiteral("id")).toInt());
     const bool paysOut = Acceptors::canDispense(id);
     return {QString::number(id), Acceptors::devName(id), kindName(Acceptors::devType(id)),
-            paysOut ? QStringLiteral("yes") : QStringLiteral("no"),
+            paysOut ? Velmo::tr("yes") : Velmo::tr("no"),
             device.value(QStringLiteral("class")).toString()};
 }
 
@@ -80,8 +80,8 @@ QString filterText(const QString& name)
             QStringList{QStringLiteral("  ") + field.name, field.type, field.regexp, field.desc};
     }
     return name + QLatin1Char('\n') + wrapped(QStringLiteral("  ") + filterPurpose(name), 2)
-        + formatTable({QStringLiteral("  Parameter"), QStringLiteral("Type"),
-                       QStringLiteral("Pattern"), QStringLiteral("Meaning")},
+        + formatTable({QStringLiteral("  ") + Velmo::tr("Parameter"), Velmo::tr("Type"),
+                       Velmo::tr("Pattern"), Velmo::tr("Meaning")},
                       rows);
 }
 
@@ -97,8 +97,8 @@ int devicesCommand(const Arguments& arguments)
     const QList<SupportedDevice> devices = Acceptors::supportedDevices();
     for (const SupportedDevice& device : devices)
         rows += deviceRow(device);
-    print(formatTable({QStringLiteral(">Id"), QStringLiteral("Model"), QStringLiteral("Kind"),
-                       QStringLiteral("Pays out"), QStringLiteral("Class")},
+    print(formatTable({QStringLiteral(">Id"), Velmo::tr("Model"), Velmo::tr("Kind"),
+                       Velmo::tr("Pays out"), Velmo::tr("Class")},
                       rows));
     return exitSuccess;
 }
@@ -108,7 +108,7 @@ int filtersCommand(const Arguments& arguments)
     QStringList names = arguments.operands();
     const QStringList known = FilterFactory::getFilters();
     if (!names.isEmpty() && !known.contains(names.constFirst())) {
-        throw Fault{QStringLiteral("unknown filter \"%1\" (known: %2)")
+        throw Fault{Velmo::tr("unknown filter \"%1\" (known: %2)")
                         .arg(names.constFirst(), known.join(QStringLiteral(", ")))};
     }
     if (names.isEmpty())

@@ -81,6 +81,6 @@ int processLines(TextInput& file, bool keepGoing,
     progress.erase();
     if (skipped == 0)
         return exitSuccess;
-    printError(QStringLiteral("bad lines skipped: %1").arg(skipped));
+    printError(Velmo::tr("bad lines skipped: %1").arg(skipped));
     return exitBadInput;
 }

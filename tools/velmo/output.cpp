@@ -4,6 +4,7 @@
 #include "output.h"
 
 #include "fault.h"
+#include "words.h"
 
 #include <cstdio>
 #include <sys/ioctl.h>
@@ -13,7 +14,7 @@ namespace {
 
 Fault outputFault(const QFile& file)
 {
-    return {QStringLiteral("standard output: %1").arg(file.errorString())};
+    return {Velmo::tr("standard output: %1").arg(file.errorString())};
 }
 
 } // namespace

@@ -33,7 +33,7 @@ QJsonObject readObject(TextInput& file, QByteArray* text = nullptr)
     const QByteArray read = file.readAll();
     const QJsonDocument document = file.parseJson(read, 1);
     if (!document.isObject())
-        throw file.faultAt(1, QStringLiteral("expected a JSON object"));
+        throw file.faultAt(1, Velmo::tr("expected a JSON object"));
     if (text)
         *text = read;
     return document.object();
@@ -49,7 +49,7 @@ QMap<int, QString> readNames(const QString& fileName)
         bool isNumber = false;
         const int id = entry.key().toInt(&isNumber);
         if (!isNumber || !entry.value().isString()) {
-            throw Fault{QStringLiteral("%1: \"%2\": expected a device number and a name")
+            throw Fault{Velmo::tr("%1: \"%2\": expected a device number and a name")
                             .arg(file.name(), entry.key())};
         }
         names.insert(id, entry.value().toString());
@@ -95,12 +95,12 @@ DeviceState checkedState(const QByteArray& text)
     const QVariantMap every = DeviceState().toMap();
     for (auto key = every.keyBegin(); key != every.keyEnd(); ++key) {
         if (line.isPublished() || !report.has(DeviceReport::bit(*key)))
-            throw Fault{QStringLiteral("key \"%1\" is missing").arg(*key)};
+            throw Fault{Velmo::tr("key \"%1\" is missing").arg(*key)};
     }
     if (line.startsSession())
-        throw Fault{QStringLiteral("unknown key \"session\"")};
+        throw Fault{Velmo::tr("unknown key \"%1\"").arg(QLatin1String("session"))};
     if (line.time().isKnown())
-        throw Fault{QStringLiteral("unknown key \"time\"")};
+        throw Fault{Velmo::tr("unknown key \"%1\"").arg(QLatin1String("time"))};
     DeviceState state;
     report.applyTo(state);
     return state;
