@@ -332,13 +332,17 @@ private Q_SLOTS:
         QCOMPARE(explain({"--exit-code"_s}).exitCode, 1);
         QCOMPARE(explain({"--exit-code"_s, "--session"_s, "2"_s}).exitCode, 0);
         QCOMPARE(explain({"--json"_s, "--refusals"_s}).outLines().size(), 2);
-        QCOMPARE(explain({"--json"_s, "--device"_s, "2"_s}).outLines().size(), 1);
         const VelmoRun summary = explain({"--json"_s, "--summary"_s, log});
         QCOMPARE(
             summary.out,
             R"({"kind":"summary","sessions":4,"offered":{"count":12,"sum":11000},"taken":{"count":2,"sum":1000},"refused":{"count":2,"sum":2000,"by":{"AttemptsFilter":2},"taken":{"count":0,"sum":0}},"rejected":{"count":4,"sum":4000},"returned":{"count":0,"sum":0},"unknown":{"count":4,"sum":4000}})"_s
                 + "\n"_s);
         QCOMPARE(explain({"--session"_s, "x"_s}).err, "velmo: --session: expected a number\n"_s);
+        const VelmoRun nothing = explain({"--json"_s, "--device"_s, "2"_s});
+        QCOMPARE(nothing.exitCode, 2);
+        QCOMPARE(nothing.out, QString());
+        QCOMPARE(nothing.err,
+                 "velmo: the logs have nothing of the session or device that is asked for\n"_s);
         const VelmoRun text = explain({});
         QVERIFY(text.out.startsWith("Filters in force (%1):\n"_s.arg(sample("filters.json"_s))));
         QVERIFY(!text.out.contains(QLatin1Char('\033')));

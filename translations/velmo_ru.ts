@@ -603,5 +603,9 @@
         <source>unknown key &quot;%1&quot;</source>
         <translation>неизвестный ключ &quot;%1&quot;</translation>
     </message>
+    <message>
+        <source>the logs have nothing of the session or device that is asked for</source>
+        <translation>в журналах нет ничего о сеансе или устройстве, о которых спрашивают</translation>
+    </message>
 </context>
 </TS>

@@ -14,6 +14,7 @@
 #include <QSaveFile>
 #include <QTemporaryFile>
 
+#include <algorithm>
 #include <optional>
 #include <unistd.h>
 
@@ -30,6 +31,14 @@ struct Question
     bool isAbout(int sessionNumber, quint32 deviceId) const
     {
         return (!session || sessionNumber == *session) && (!device || deviceId == quint32(*device));
+    }
+
+    template <typename Steps>
+    bool isAboutAny(const Steps& steps) const
+    {
+        return std::any_of(steps.begin(), steps.end(), [this](const LogStep& step) {
+            return isAbout(step.device->session(), step.device->deviceId());
+        });
     }
 
     bool shows(const NoteAnswer& answer) const
@@ -162,6 +171,7 @@ int explainCommand(const Arguments& arguments)
         print(input.rulesText(Velmo::tr("Filters in force (%1):").arg(input.fileName)));
 
     Summary summary;
+    bool isAnswered = !question.session && !question.device;
     int exitCode = exitSuccess;
     for (const QString& log : logs) {
         QByteArray text; // of the answers that a line led to
@@ -186,6 +196,8 @@ int explainCommand(const Arguments& arguments)
             [&](const QByteArray& bytes) {
                 const SessionLine line = SessionLine::read(file, bytes);
                 explainer.take(line, file.lineNumber());
+                if (!isAnswered)
+                    isAnswered = question.isAboutAny(explainer.player().steps());
                 if (page)
                     page->follow(explainer, line.time(), file.lineNumber());
                 return std::exchange(text, {});
@@ -200,6 +212,8 @@ int explainCommand(const Arguments& arguments)
         print(QString::fromUtf8(text));
         exitCode = qMax(exitCode, result);
     }
+    if (!isAnswered)
+        throw Fault{Velmo::tr("the logs have nothing of the session or device that is asked for")};
     if (page)
         page->finish(summary);
     else
