@@ -39,9 +39,14 @@ QString modelName(int model)
     return modelOf(model).protocol;
 }
 
+int modelKind(int model)
+{
+    return modelOf(model).kind;
+}
+
 QString kindName(int model)
 {
-    switch (modelOf(model).kind) {
+    switch (modelKind(model)) {
     case Acceptors::NoteAcceptor:
         return Diagnosis::tr("Bill validator");
     case Acceptors::CoinAcceptor:

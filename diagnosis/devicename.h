@@ -9,6 +9,9 @@
 /// no model.
 QString modelName(int model);
 
+/// Its Acceptors::AcceptorType; -1 for a number that is no model.
+int modelKind(int model);
+
 /// What a model is, in the language that is shown, for example "Bill validator".
 QString kindName(int model);
 

@@ -8,27 +8,51 @@
 
 #include <QMap>
 #include <QStringList>
+#include <QVariant>
 
 #include <vector>
 
 // What a published service state means, for people and for programs. Texts are in the language that
 // is shown.
 
+/// A published service state: what the library keeps of it, and what is told besides.
+struct PublishedState
+{
+    /// What the entry of a device does not keep.
+    struct Details
+    {
+        bool isOffline = false; ///< it says of itself that it is not connected
+        qint32 sessionSum = 0; ///< taken in the current session
+        qint32 currentNote = 0; ///< face value of the note or coin in hand
+    };
+
+    AcceptorState service;
+    std::vector<Details> details; ///< of each device of the service, in their order
+
+    /// The note filters that refuse what a device has in hand, where the service tells it:
+    /// {"device_id": ..., "thread_id": ..., "name": ..., "params": {...}}.
+    QVariantList refusals;
+
+    /// Taken by all devices in the current session.
+    qint64 sessionSum() const;
+};
+
 /// Why no money may be accepted, one sentence for each reason; empty exactly when
 /// AcceptorState::isAcceptingAllowed().
 QStringList whyNotAccepting(const AcceptorState& state);
 
 /// What keeps a device from taking money, whether or not that stops the others: it is disabled,
-/// halted, in a critical error, without its stacker or with a full one. A sentence for each.
-QStringList deviceFaults(const AcceptorStateItem& device);
+/// offline, halted, in a critical error, without its stacker or with a full one. A sentence for
+/// each.
+QStringList deviceFaults(const AcceptorStateItem& device, bool isOffline);
 
 /// The display name of each device of the state: the given one, else deviceName() of its model.
 QMap<int, QString> deviceNames(const AcceptorState& state, const QMap<int, QString>& given);
 
 /// Reads {"device_states": [...]}, with "time" where it is known. Throws Fault for anything else.
 /// @param json a JSON object
-AcceptorState readServiceState(const QString& json);
+PublishedState readServiceState(const QString& json);
 
 /// "time" to "devices" of the state in JSON; docs/formats.md describes them.
-std::vector<JsonText::Member> jsonMembers(const AcceptorState& state,
+std::vector<JsonText::Member> jsonMembers(const PublishedState& state,
                                           const QMap<int, QString>& names);

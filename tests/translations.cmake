@@ -5,12 +5,24 @@
 # WORK_DIR it takes the texts into the files that are translated.
 
 # The library's English mends misspelt texts, which are part of its interface; other English only
-# has plurals.
-foreach(row velmolib:src: diagnosis:diagnosis:-pluralonly velmo:tools/velmo:-pluralonly)
+# has plurals. The example's screen needs none.
+foreach(row velmolib:src: diagnosis:diagnosis:-pluralonly velmo:tools/velmo:-pluralonly
+        kiosk:examples/kiosk/screen:)
     foreach(locale en_US ru_RU)
         string(REGEX MATCH "^.." language ${locale})
         string(REGEX MATCH "(.*):(.*):(.*)" row ${row})
-        set(committed ${SOURCE_DIR}/translations/${CMAKE_MATCH_1}_${language}.ts)
+        set(folder translations)
+        if(CMAKE_MATCH_1 STREQUAL kiosk)
+            set(folder ${CMAKE_MATCH_2})
+            if(language STREQUAL en)
+                continue()
+            endif()
+        endif()
+        set(sources .)
+        if(CMAKE_MATCH_1 STREQUAL diagnosis)
+            list(APPEND sources ../quick) # speaks with the same words
+        endif()
+        set(committed ${SOURCE_DIR}/${folder}/${CMAKE_MATCH_1}_${language}.ts)
         set(updated ${committed})
         if(WORK_DIR)
             set(updated ${WORK_DIR}/${CMAKE_MATCH_1}_${language}.ts)
@@ -21,7 +33,7 @@ foreach(row velmolib:src: diagnosis:diagnosis:-pluralonly velmo:tools/velmo:-plu
             set(which ${CMAKE_MATCH_3})
         endif()
         execute_process(COMMAND ${LUPDATE} -silent -locations none -no-obsolete -source-language en
-            -target-language ${locale} ${which} . -ts ${updated}
+            -target-language ${locale} ${which} ${sources} -ts ${updated}
             WORKING_DIRECTORY ${SOURCE_DIR}/${CMAKE_MATCH_2} COMMAND_ERROR_IS_FATAL ANY)
         file(READ ${updated} text)
         file(READ ${committed} committed_text)

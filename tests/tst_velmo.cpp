@@ -60,7 +60,7 @@ private Q_SLOTS:
         const QByteArray times =
             R"({"time":0,"device_states":[]})"
             "\n"
-            R"({"device_states":[{"device_id":9999,"enabled":true,"state":"idling","stacker_full":true,)"
+            R"({"device_states":[{"device_id":9999,"enabled":true,"state":"idling","stacker_full":true,"online":false,)"
             R"("dispenser_registry":[{"bill_type":1,"channel":2,"denomination":100,"currency":643}]}]})";
         const QString file =
             writeFile(m_folder.filePath("states.jsonl"_s), QString::fromUtf8(times));
@@ -71,7 +71,7 @@ private Q_SLOTS:
             R"({"time":null,"payment_text":"Error status unknown","accepting":true,"reasons":[],)"
             R"("devices":[{"device":9999,"thread":-1,"name":"Device 9999","model":null,)"
             R"("kind":"Device","enabled":true,"state":"idling","state_text":"waiting for money",)"
-            R"("wrong":["The stacker is full."],"notes_inserted":0,"notes_rejected":0,)"
+            R"("wrong":["The stacker is full.","The device is offline."],"notes_inserted":0,"notes_rejected":0,)"
             R"("notes_returned":0,"registry":{"1_2_100_643":{"bill_type":1,"currency":643,)"
             R"("denomination":100}}}]})"
             "\n"_s;

@@ -877,5 +877,129 @@
         <source>not JSON: %1 (column %2)</source>
         <translation>не JSON: %1 (позиция %2)</translation>
     </message>
+    <message>
+        <source>Pay by card</source>
+        <translation>Оплатите картой</translation>
+    </message>
+    <message>
+        <source>Out of service</source>
+        <translation>Не работает</translation>
+    </message>
+    <message>
+        <source>Checking a note of %1...</source>
+        <translation>Проверяется купюра %1...</translation>
+    </message>
+    <message>
+        <source>Checking a coin of %1...</source>
+        <translation>Проверяется монета %1...</translation>
+    </message>
+    <message>
+        <source>A note of %1 was accepted.</source>
+        <translation>Купюра %1 принята.</translation>
+    </message>
+    <message>
+        <source>A coin of %1 was accepted.</source>
+        <translation>Монета %1 принята.</translation>
+    </message>
+    <message>
+        <source>Your note was not recognised. Please try another one.</source>
+        <translation>Купюра не распознана. Попробуйте другую.</translation>
+    </message>
+    <message>
+        <source>Your coin was not recognised. Please try another one.</source>
+        <translation>Монета не распознана. Попробуйте другую.</translation>
+    </message>
+    <message>
+        <source>Your note of %1 was returned. Please take it.</source>
+        <translation>Ваша купюра %1 возвращена. Заберите её.</translation>
+    </message>
+    <message>
+        <source>Your coin of %1 was returned. Please take it.</source>
+        <translation>Ваша монета %1 возвращена. Заберите её.</translation>
+    </message>
+    <message>
+        <source>Notes are not accepted at the moment. It comes back to you.</source>
+        <translation>Купюры сейчас не принимаются. Купюра вернётся к вам.</translation>
+    </message>
+    <message>
+        <source>Coins are not accepted at the moment. It comes back to you.</source>
+        <translation>Монеты сейчас не принимаются. Монета вернётся к вам.</translation>
+    </message>
+    <message>
+        <source>After several rejections no note of %1 is accepted. It comes back to you; please try another value.</source>
+        <translation>После нескольких отказов купюры %1 не принимаются. Купюра вернётся к вам; попробуйте другой номинал.</translation>
+    </message>
+    <message>
+        <source>After several rejections no coin of %1 is accepted. It comes back to you; please try another value.</source>
+        <translation>После нескольких отказов монеты %1 не принимаются. Монета вернётся к вам; попробуйте другой номинал.</translation>
+    </message>
+    <message>
+        <source>No more notes of %1 are accepted in this payment. It comes back to you.</source>
+        <translation>Купюры %1 в этом платеже больше не принимаются. Купюра вернётся к вам.</translation>
+    </message>
+    <message>
+        <source>No more coins of %1 are accepted in this payment. It comes back to you.</source>
+        <translation>Монеты %1 в этом платеже больше не принимаются. Монета вернётся к вам.</translation>
+    </message>
+    <message>
+        <source>This note would pass the limit of %2. It comes back to you.</source>
+        <translation>С этой купюрой сумма превысит предел %2. Купюра вернётся к вам.</translation>
+    </message>
+    <message>
+        <source>This coin would pass the limit of %2. It comes back to you.</source>
+        <translation>С этой монетой сумма превысит предел %2. Монета вернётся к вам.</translation>
+    </message>
+    <message>
+        <source>This note cannot be accepted. It comes back to you.</source>
+        <translation>Эту купюру принять нельзя. Она вернётся к вам.</translation>
+    </message>
+    <message>
+        <source>This coin cannot be accepted. It comes back to you.</source>
+        <translation>Эту монету принять нельзя. Она вернётся к вам.</translation>
+    </message>
+    <message>
+        <source>The device is offline.</source>
+        <translation>Устройство не на связи.</translation>
+    </message>
+    <message>
+        <source>Accepting</source>
+        <translation>Приём</translation>
+    </message>
+    <message>
+        <source>Stacker</source>
+        <translation>Стекер</translation>
+    </message>
+    <message>
+        <source>Stacker full</source>
+        <translation>Стекер полон</translation>
+    </message>
+    <message>
+        <source>Critical error</source>
+        <translation>Критическая ошибка</translation>
+    </message>
+    <message>
+        <source>Halted</source>
+        <translation>Остановлено</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Не на связи</translation>
+    </message>
+    <message>
+        <source>The service does not answer.</source>
+        <translation>Сервис не отвечает.</translation>
+    </message>
+    <message>
+        <source>The service&apos;s state cannot be read: %1.</source>
+        <translation>Состояние сервиса прочесть нельзя: %1.</translation>
+    </message>
+    <message>
+        <source>The device failed with your note of %1 in it. Please call the staff.</source>
+        <translation>Устройство отказало, купюра %1 осталась в нём. Позовите сотрудника.</translation>
+    </message>
+    <message>
+        <source>The device failed with your coin of %1 in it. Please call the staff.</source>
+        <translation>Устройство отказало, монета %1 осталась в нём. Позовите сотрудника.</translation>
+    </message>
 </context>
 </TS>

@@ -69,7 +69,7 @@ QByteArray reportText(const AcceptorState& state, const QMap<int, QString>& name
     return (text + QLatin1Char('\n') + state.systemStatusDescr(names) + QLatin1Char('\n')).toUtf8();
 }
 
-AcceptorState serviceStateOf(const QByteArray& text, const TextInput& file, qint64 line)
+PublishedState serviceStateOf(const QByteArray& text, const TextInput& file, qint64 line)
 {
     try {
         return readServiceState(QString::fromUtf8(text));
@@ -117,10 +117,10 @@ int reportCommand(const Arguments& arguments)
     const bool isWatched = arguments.isSet(options::watch);
     if (isJson && isWatched)
         throw arguments.usageFault();
-    const auto toText = [&](const AcceptorState& state) {
-        const QMap<int, QString> names = deviceNames(state, given);
+    const auto toText = [&](const PublishedState& state) {
+        const QMap<int, QString> names = deviceNames(state.service, given);
         return isJson ? JsonText::object(jsonMembers(state, names)) + '\n'
-                      : reportText(state, names);
+                      : reportText(state.service, names);
     };
     const QString fileName = arguments.operands().constFirst();
     const bool hasLines = isStateALine(fileName);
@@ -131,7 +131,7 @@ int reportCommand(const Arguments& arguments)
     }
     bool isFirst = true;
     const auto report = [&](const QByteArray& text) {
-        const AcceptorState state = serviceStateOf(text, file, file.lineNumber());
+        const PublishedState state = serviceStateOf(text, file, file.lineNumber());
         QString before;
         if (isWatched)
             before = QStringLiteral("\033[2J\033[H");

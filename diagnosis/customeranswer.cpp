@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "customeranswer.h"
+
+#include "acceptors.h"
+#include "devicename.h"
+#include "devicestatesconst.h"
+#include "words.h"
+
+Money moneyOf(int model)
+{
+    const int kind = modelKind(model);
+    if (kind == Acceptors::NoteDispenser || kind == Acceptors::OtherDispenser)
+        return Money::None;
+    if (model >= 1 && model <= 99)
+        return Money::Note;
+    if (model >= 100 && model <= 199)
+        return Money::Coin;
+    return kind == Acceptors::CardReader ? Money::Card : Money::None;
+}
+
+bool isWorking(const AcceptorStateItem& device, bool isOffline)
+{
+    return device.enabled() && !isOffline && !device.halt() && !device.errorCritical()
+        && device.stackerPresent() && !device.stackerFull()
+        && device.state() != deviceStatesConst::DS_JAMMED
+        && device.state() != deviceStatesConst::DS_ERROR;
+}
+
+bool takesMoney(const AcceptorStateItem& device, bool isOffline)
+{
+    const Money money = moneyOf(device.deviceId());
+    return money != Money::None && isWorking(device, isOffline)
+        && (money == Money::Card || device.state() == deviceStatesConst::DS_IDLING);
+}
+
+CustomerAnswer::CustomerAnswer(const PublishedState& state)
+{
+    QList<AcceptorStateItem> cash;
+    bool hasTerminal = false;
+    bool isBusy = false;
+    auto details = state.details.begin();
+    const QList<AcceptorStateItem> devices = state.service.deviceStates();
+    for (const AcceptorStateItem& device : devices) {
+        const bool isOffline = (details++)->isOffline;
+        const Money money = moneyOf(device.deviceId());
+        if (money == Money::None || !isWorking(device, isOffline))
+            continue;
+        if (money == Money::Card)
+            hasTerminal = true;
+        else
+            cash += device;
+        isBusy = isBusy || !takesMoney(device, isOffline);
+        note = note || money == Money::Note;
+        coin = coin || money == Money::Coin;
+    }
+    inService = hasTerminal || !cash.isEmpty();
+    note = note && !isBusy;
+    coin = coin && !isBusy;
+    card = hasTerminal && !isBusy;
+    AcceptorState working;
+    working.setDeviceStates(cash);
+    if (!cash.isEmpty())
+        text = working.paymentStateDescr();
+    else
+        text = hasTerminal ? Diagnosis::tr("Pay by card") : outOfServiceText();
+}
+
+QString outOfServiceText()
+{
+    return Diagnosis::tr("Out of service");
+}

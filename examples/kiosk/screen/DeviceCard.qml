@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+
+// A device for the engineer. Its properties are the roles of ServiceState.devices.
+Rectangle {
+    id: card
+
+    property var entry
+
+    radius: Theme.gap / 2
+    color: Theme.panel
+    border.color: entry.wrong.length > 0 ? Theme.bad : Theme.edge
+    border.width: entry.wrong.length > 0 ? 3 : 1
+
+    Flickable {
+        anchors.fill: parent
+        anchors.margins: Theme.gap
+        contentHeight: content.implicitHeight
+        clip: true
+        ScrollBar.vertical: ScrollBar {}
+
+        Column {
+            id: content
+            width: card.width - 2 * Theme.gap
+            spacing: Theme.gap / 2
+
+            Text {
+                width: content.width
+                text: card.entry.name
+                font.pixelSize: Theme.medium
+                font.bold: true
+                wrapMode: Text.Wrap
+                color: Theme.ink
+            }
+            Text {
+                width: content.width
+                // A device that was given no name is called after its kind and model.
+                text: [card.entry.name.includes(card.entry.modelName) ? "" : card.entry.kind,
+                       card.entry.name.includes(card.entry.modelName) ? "" : card.entry.modelName,
+                       qsTr("device %1, thread %2").arg(card.entry.deviceId).arg(card.entry.threadId),
+                       card.entry.idText].filter(part => part !== "").join(" · ")
+                textFormat: Text.PlainText
+                font.pixelSize: Theme.small
+                wrapMode: Text.Wrap
+                color: Theme.quiet
+            }
+            Text {
+                width: content.width
+                text: card.entry.enabled
+                      ? card.entry.statusText + (card.entry.description === "" ? "" : ": " + card.entry.description)
+                      : qsTr("switched off")
+                textFormat: Text.PlainText
+                font.pixelSize: Theme.small
+                wrapMode: Text.Wrap
+                color: Theme.ink
+            }
+            Flow {
+                width: content.width
+                spacing: Theme.gap * 0.6
+                Repeater {
+                    model: card.entry.lamps
+                    Lamp {
+                        label: modelData.label
+                        lit: modelData.lit
+                        alarm: modelData.alarm
+                    }
+                }
+            }
+            Repeater {
+                model: card.entry.wrong
+                Text {
+                    width: content.width
+                    text: modelData
+                    textFormat: Text.PlainText
+                    font.pixelSize: Theme.small
+                    wrapMode: Text.Wrap
+                    color: Theme.bad
+                }
+            }
+            Text {
+                width: content.width
+                text: qsTr("Inserted %1, rejected %2, returned %3").arg(card.entry.notesInserted)
+                      .arg(card.entry.notesRejected).arg(card.entry.notesReturned)
+                font.pixelSize: Theme.small
+                wrapMode: Text.Wrap
+                color: Theme.quiet
+            }
+            Repeater {
+                model: card.entry.registry
+                Text {
+                    width: content.width
+                    text: (model.isCoin ? qsTr("Hopper %1: %2 coins of %3 %4, %5 rejected")
+                                        : qsTr("Cassette %1: %2 notes of %3 %4, %5 rejected"))
+                          .arg(model.channel).arg(model.stock).arg(model.denomination)
+                          .arg(model.currency).arg(model.rejects)
+                    textFormat: Text.PlainText
+                    font.pixelSize: Theme.small
+                    wrapMode: Text.Wrap
+                    color: Theme.ink
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "language.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <cstdio>
+
+Language::Language(const QString& language, QObject* parent)
+    : QObject(parent)
+    , m_current(language)
+{
+    load();
+}
+
+void Language::setCurrent(const QString& language)
+{
+    if (language == m_current)
+        return;
+    m_current = language;
+    load();
+    Q_EMIT currentChanged();
+}
+
+// The translations of the library, of its module and of the screen itself, which stand beside the
+// program in the build folder and when installed.
+void Language::load()
+{
+    m_translators.clear();
+    const QString folder =
+        QCoreApplication::applicationDirPath() + QStringLiteral("/../" TRANSLATIONS);
+    QStringList components{QStringLiteral("velmolib"), QStringLiteral("diagnosis")};
+    if (m_current != QLatin1String("en")) // which the screen's sources are in
+        components += QStringLiteral("kiosk");
+    for (const QString& component : std::as_const(components)) {
+        const QString name = component + QLatin1Char('_') + m_current;
+        auto translator = std::make_unique<QTranslator>();
+        if (!translator->load(name, folder))
+            fprintf(stderr, "kioskscreen: no %s.qm in %s\n", qPrintable(name), qPrintable(folder));
+        else if (QCoreApplication::installTranslator(translator.get()))
+            m_translators.push_back(std::move(translator));
+    }
+}

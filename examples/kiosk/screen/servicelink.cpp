@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "servicelink.h"
+
+#include "../acceptorbus.h"
+
+#include <QDBusConnection>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
+
+ServiceLink::ServiceLink(QObject* parent)
+    : QObject(parent)
+{
+}
+
+void ServiceLink::follow()
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    auto* const watcher = new QDBusServiceWatcher(acceptorBus::SERVICE, bus,
+                                                  QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &ServiceLink::askForState);
+    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, &ServiceLink::loseService);
+    // Whoever loses the bus loses the service, and no watcher says so.
+    bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
+                SLOT(loseService()));
+    // The signal first, then the state so far: nothing is missed in between.
+    bus.connect(acceptorBus::SERVICE, acceptorBus::PATH, acceptorBus::INTERFACE,
+                QStringLiteral("stateChanged"), this, SLOT(takeState(QString, QString)));
+    askForState();
+}
+
+void ServiceLink::askForState()
+{
+    const QDBusMessage question =
+        QDBusMessage::createMethodCall(acceptorBus::SERVICE, acceptorBus::PATH,
+                                       acceptorBus::INTERFACE, QStringLiteral("currentState"));
+    auto* const call =
+        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
+    m_awaited = call;
+    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
+        call->deleteLater();
+        // An answer may be delivered after a signal that was sent later: the signal stands.
+        if (call != m_awaited)
+            return;
+        const QDBusPendingReply<QString, QString> reply = *call;
+        if (reply.isError())
+            loseService();
+        else
+            takeState(reply.argumentAt<0>(), reply.argumentAt<1>());
+    });
+}
+
+void ServiceLink::takeState(const QString& text, const QString& timestamp)
+{
+    m_awaited = nullptr;
+    Q_EMIT stateReceived(text, QDateTime::fromString(timestamp, Qt::ISODateWithMs).toLocalTime());
+    setAvailable(true);
+}
+
+void ServiceLink::loseService()
+{
+    m_awaited = nullptr;
+    setAvailable(false);
+}
+
+void ServiceLink::setAvailable(bool available)
+{
+    if (available == m_available)
+        return;
+    m_available = available;
+    Q_EMIT availableChanged();
+}

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <velmolib/devicestateworker.h>
+#include <velmolib/filterchain.h>
+#include <velmolib/statitem.h>
+
+#include <QJsonArray>
+#include <QVariant>
+#include <QVector>
+
+/// A device that reports what its session file says: one JSON object a line with the fields that
+/// it reports, under the keys of the device state map; {"session":"start"} begins a payment
+/// session. It stands where a real service has the handler of a real device.
+class SimulatedDevice
+{
+public:
+    /// @param filters descriptions of the note filters: {"name": ..., "params": {...}}
+    /// Throws std::runtime_error when the file cannot be read or has a bad line, and for an
+    /// unknown filter.
+    SimulatedDevice(const QString& sessionFile, const QJsonArray& filters);
+
+    /// Reports the next line; false when there is none left.
+    bool step();
+
+    /// What it reported last, with its numbers of device and thread: a line of a session log.
+    QVariantMap lastReport();
+
+    /// Begins its session file again.
+    void rewind() { m_nextLine = 0; }
+
+    /// Whether it has reported anything.
+    bool isKnown() const { return m_isKnown; }
+
+    /// The device as the service publishes it: its state with the note counters.
+    QVariantMap toMap();
+
+    /// Each filter that refuses the note in hand, as it is described in a filters file, with the
+    /// device's numbers; empty while it has none.
+    QVariantList refusals();
+
+private:
+    void readSession(const QString& fileName);
+    void countNote(const DeviceState& sent);
+
+    QVector<QVariantMap> m_session;
+    int m_nextLine = 0;
+    DeviceStateWorker m_worker;
+    FilterChain m_filters;
+    QList<QPair<AbstractFilter*, QVariantMap>> m_described; // owned by the chain
+    bool m_isKnown = false;
+    StatItem m_counters;
+    State m_counted = STATE_BUSY;
+};

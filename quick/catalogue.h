@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "rowmodel.h"
+
+/// The catalogue of device models, in its order. Roles: model (the number by which settings and
+/// states name it), protocol, kind (for people, in the language of the moment when it was made),
+/// className, type (Acceptors::AcceptorType) and canDispense.
+class Catalogue : public RowModel
+{
+    Q_OBJECT
+    QML_ELEMENT
+
+public:
+    explicit Catalogue(QObject* parent = nullptr);
+
+    /// What people call a device of the model, for example "Bill validator (CCNet)".
+    Q_INVOKABLE QString deviceName(int model) const;
+};

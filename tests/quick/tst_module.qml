@@ -1,0 +1,232 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+import QtQuick 2.15
+import QtTest 1.15
+import Velmolib 5.0
+
+TestCase {
+    id: test
+    name: "Module"
+
+    property int changes: 0 // of anything that the state says
+    property var rows: [] // what happened to the rows of the devices
+
+    Component {
+        id: stateComponent
+        ServiceState {
+            onPaymentTextChanged: test.changes++
+            onCustomerTextChanged: test.changes++
+            onAcceptingAllowedChanged: test.changes++
+            onReasonsChanged: test.changes++
+            onNoteAcceptedChanged: test.changes++
+            onCoinAcceptedChanged: test.changes++
+            onCardAcceptedChanged: test.changes++
+            onInServiceChanged: test.changes++
+            onSessionSumChanged: test.changes++
+            onLastNoteTextChanged: test.changes++
+            onReportChanged: test.changes++
+            onFaultChanged: test.changes++
+        }
+    }
+
+    function device(id, thread, more) {
+        return Object.assign({device_id: id, thread_id: thread, enabled: true, state: "idling"}, more);
+    }
+
+    function text(devices, more) {
+        return JSON.stringify(Object.assign({device_states: devices}, more));
+    }
+
+    function make(devices, more) {
+        return createTemporaryObject(stateComponent, test, {text: text(devices, more)});
+    }
+
+    function test_onlyWhatChangedSaysSo() {
+        const state = make([device(1, 1), device(100, 2)]);
+        changes = 0;
+        state.text = text([device(1, 1), device(100, 2)]) + " ";
+        compare(changes, 0);
+        state.text = text([device(1, 1), device(100, 2, {session_sum: 10})]);
+        compare(changes, 1);
+        compare(state.sessionSum, 10);
+    }
+
+    function test_customerIsInvitedToWhatWorks_data() {
+        const full = {stacker_full: true};
+        return [
+            {tag: "all", devices: [device(1, 1), device(100, 2), device(200, 3, {state: "busy"})],
+             text: "Input money or coin", accepted: "note coin card"},
+            {tag: "full stacker", devices: [device(1, 1, full), device(100, 2)],
+             text: "Input coin", accepted: "coin"},
+            {tag: "offline", devices: [device(1, 1, {online: false}), device(100, 2)],
+             text: "Input coin", accepted: "coin"},
+            {tag: "jam", devices: [device(1, 1, {state: "jammed"}), device(200, 2, {state: "busy"})],
+             text: "Pay by card", accepted: "card"},
+            {tag: "note in hand", devices: [device(1, 1, {state: "accepting"}), device(100, 2), device(201, 3)],
+             text: "Wait...", accepted: ""},
+            {tag: "dispenser only", devices: [device(51, 1)], text: "Out of service", accepted: ""},
+            {tag: "halted", devices: [device(7, 1, {halt: true})], text: "Out of service", accepted: ""},
+            {tag: "disabled", devices: [device(7, 1, {enabled: false})], text: "Out of service", accepted: ""},
+            {tag: "nothing", devices: [], text: "Out of service", accepted: ""}
+        ];
+    }
+
+    function test_customerIsInvitedToWhatWorks(row) {
+        const state = make(row.devices);
+        compare(state.customerText, row.text);
+        const accepted = ["note", "coin", "card"].filter(kind => state[kind + "Accepted"]);
+        compare(accepted.join(" "), row.accepted);
+        compare(state.inService, row.text !== "Out of service");
+    }
+
+    // Steps of a device: state, note in hand, refusing filter.
+    function test_lastNoteIsTold_data() {
+        const sum = {name: "SessionSumFilter", params: {sessionSum: 3000}};
+        const count = {name: "DenomCountFilter", params: {denom: 500, count: 2}};
+        const attempts = {name: "AttemptsFilter", params: {denom: 500, attempts: 2}};
+        return [
+            {tag: "taken", model: 1, steps: [["accepting", 500], ["stacking", 500], ["stacked", 500]],
+             text: "A note of 500 was accepted.", outcome: ServiceState.NoteTaken},
+            {tag: "coin", model: 100, steps: [["accepting", 10], ["accepted", 10], ["idling", 0]],
+             text: "A coin of 10 was accepted.", outcome: ServiceState.NoteTaken},
+            {tag: "in hand", model: 1, steps: [["accepting", 500], ["accepted", 500]],
+             text: "Checking a note of 500...", outcome: ServiceState.NoteChecked},
+            {tag: "over the limit", model: 1,
+             steps: [["accepting", 500, sum], ["returning", 500, sum], ["returned", 500], ["idling", 0]],
+             text: "This note would pass the limit of 3000. It comes back to you.",
+             outcome: ServiceState.NoteRefused},
+            {tag: "too many", model: 1, steps: [["accepting", 500, count]],
+             text: "No more notes of 500 are accepted in this payment. It comes back to you.",
+             outcome: ServiceState.NoteRefused},
+            {tag: "rejections", model: 1, steps: [["accepting", 500, attempts]],
+             text: "After several rejections no note of 500 is accepted. It comes back to you; please try another value.",
+             outcome: ServiceState.NoteRefused},
+            {tag: "filter of the service's own", model: 1, steps: [["accepting", 500, {name: "Own"}]],
+             text: "This note cannot be accepted. It comes back to you.", outcome: ServiceState.NoteRefused},
+            {tag: "not recognised", model: 1, steps: [["rejected", 0]],
+             text: "Your note was not recognised. Please try another one.", outcome: ServiceState.NoteRejected},
+            {tag: "returned", model: 1, steps: [["accepting", 500], ["returning", 500], ["returned", 0]],
+             text: "Your note of 500 was returned. Please take it.", outcome: ServiceState.NoteReturned},
+            {tag: "jam", model: 1, steps: [["accepting", 500], ["stacking", 500], ["jammed", 500]],
+             text: "The device failed with your note of 500 in it. Please call the staff.",
+             outcome: ServiceState.NoteStuck},
+            {tag: "lost sight of", model: 1, steps: [["accepting", 500], ["idling", 0]],
+             text: "", outcome: ServiceState.NoNote}
+        ];
+    }
+
+    function test_lastNoteIsTold(row) {
+        const state = make([device(row.model, 1, {session_sum: 40}), device(1, 9)]);
+        for (const [name, note, filter] of row.steps) {
+            const refusals = filter ? [Object.assign({device_id: row.model, thread_id: 1}, filter)] : [];
+            state.text = text([device(row.model, 1, {state: name, current_note: note, session_sum: 40}),
+                               device(1, 9)], {refusals: refusals});
+        }
+        compare(state.lastNoteText, row.text);
+        compare(state.lastNoteOutcome, row.outcome);
+        state.text = text([device(row.model, 1, {session_sum: 0}), device(1, 9)]); // another session
+        compare(state.lastNoteText, "");
+    }
+
+    function test_noteThatWasInHandAtFirstIsNotTold() {
+        const state = make([device(1, 1, {state: "rejected"})]);
+        compare(state.lastNoteText, "");
+        compare(make([device(1, 1, {state: "accepting", current_note: 100})]).lastNoteText, "");
+    }
+
+    function test_sumsStayWhenTheServiceIsLost() {
+        const state = make([device(1, 1, {session_sum: 1500}), device(100, 1, {session_sum: 10})]);
+        state.available = false;
+        compare([state.paymentText, state.acceptingAllowed, state.noteAccepted, state.sessionSum].join(),
+                "Out of service,false,false,1510");
+        compare(state.reasons, ["The service does not answer."]);
+        compare(state.devices.get(0).accepting, false);
+        state.available = true;
+        compare(state.paymentText, "Input money or coin");
+        state.text = "{";
+        compare([state.paymentText, state.devices.count, state.sessionSum].join(), "Wait...,0,1510");
+        compare(state.fault, "expected a JSON object");
+        compare(state.reasons, ["The service's state cannot be read: expected a JSON object."]);
+    }
+
+    function spyOn(model) {
+        rows = [];
+        model.rowsInserted.connect((parent, first, last) => rows.push("insert " + first + "-" + last));
+        model.rowsRemoved.connect((parent, first, last) => rows.push("remove " + first + "-" + last));
+        model.rowsMoved.connect((parent, first, last, to, row) => rows.push("move " + first + " to " + row));
+        model.dataChanged.connect(first => rows.push("change " + first.row));
+        model.modelReset.connect(() => rows.push("reset"));
+    }
+
+    function test_rowsChangeOneByOne_data() {
+        const [a, b, c, d] = [device(1, 1), device(2, 1), device(100, 2), device(1, 1, {id_string: "X"})];
+        return [
+            {tag: "same", after: [a, b, c], rows: []},
+            {tag: "insert", after: [a, d, b, c], rows: ["insert 1-1"]},
+            {tag: "remove", after: [a, c], rows: ["remove 1-1"]},
+            {tag: "move", after: [c, a, b], rows: ["move 2 to 0"]},
+            {tag: "change", after: [d, b, c], rows: ["change 0"]},
+            {tag: "all", after: [], rows: ["remove 2-2", "remove 1-1", "remove 0-0"]}
+        ];
+    }
+
+    function test_rowsChangeOneByOne(row) {
+        const state = make([device(1, 1), device(2, 1), device(100, 2)]);
+        spyOn(state.devices);
+        state.text = text(row.after);
+        compare(rows, row.rows);
+    }
+
+    function test_lampsAreThoseOfTheKind() {
+        const lamps = make([device(1, 1), device(100, 1), device(200, 1), device(51, 1)]).devices;
+        const names = row => lamps.get(row).lamps.map(lamp => lamp.name).join(" ");
+        compare(names(0), "accepting stacker stackerFull error halted offline");
+        compare(names(1), "accepting error halted offline");
+        compare(names(2), names(1));
+        compare(names(3), "error halted offline");
+    }
+
+    function test_registryIsAModelOfItsOwn() {
+        const row = {bill_type: 0, channel: 1, denomination: 100, currency: "RUB", count: 24, rejected: 2};
+        const state = make([device(7, 1, {dispenser_registry: [row]})]);
+        const registry = state.devices.get(0).registry;
+        const cassette = registry.get(0);
+        compare([cassette.channel, cassette.isCoin, cassette.denomination, cassette.currency, cassette.stock,
+                 cassette.rejects].join(), "1,false,100,RUB,24,2");
+        spyOn(registry);
+        state.text = text([device(7, 1, {dispenser_registry: [Object.assign(row, {count: 23})]})]);
+        compare(rows, ["change 0"]);
+        compare(state.devices.get(0).registry, registry);
+        compare(registry.get(0).stock, 23);
+    }
+
+    Catalogue {
+        id: catalogue
+    }
+
+    SettingDescriptions {
+        id: settings
+    }
+
+    function test_configurationScreensAskTheModule() {
+        compare(catalogue.count, 13);
+        compare(catalogue.deviceName(7), "Note recycler (JCM iPRO ID003)");
+        compare(catalogue.get(0).modelName, "Ardac Elite ID 003");
+        compare(catalogue.get(99), {});
+        const services = settings.count;
+        verify(services > 0);
+        settings.device = 2;
+        settings.model = 1;
+        const groups = [];
+        for (let row = 0; row < settings.count; ++row)
+            groups.push(settings.get(row).group);
+        verify(groups.every(group => group.startsWith("device2/")), groups);
+        verify(groups.includes("device2/ccnet"));
+        settings.model = 200;
+        verify(settings.count > 0 && settings.count !== groups.length);
+        compare(settings.accepts("device2/ccnet", "response_time", "x"), false);
+        compare(settings.accepts("device2/ccnet", "response_time", "20"), true);
+        compare(settings.readAs("device2/ccnet", "response_time", "x"), "0");
+    }
+}

@@ -1,0 +1,289 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "acceptorbus.h"
+#include "screen/language.h"
+#include "screen/servicelink.h"
+#include "testtable.h"
+
+#include <QtDBus>
+#include <QtQml>
+#include <QtQuick>
+
+namespace {
+
+QDBusMessage callService(const QString& method)
+{
+    return QDBusConnection::sessionBus().call(QDBusMessage::createMethodCall(
+        acceptorBus::SERVICE, acceptorBus::PATH, acceptorBus::INTERFACE, method));
+}
+
+// The program's window, as its main() makes it.
+class Kiosk
+{
+public:
+    explicit Kiosk(Language& language, const QVariantMap& properties = {})
+    {
+        qmlRegisterSingletonInstance("Kiosk", 1, 0, "Language", &language);
+        qmlRegisterSingletonInstance("Kiosk", 1, 0, "ServiceLink", &m_link);
+        QObject::connect(&language, &Language::currentChanged, &m_engine, &QQmlEngine::retranslate);
+        QObject::connect(&m_engine, &QQmlEngine::warnings, [this](const QList<QQmlError>& errors) {
+            for (const QQmlError& error : errors)
+                m_warnings += error.toString();
+        });
+        m_engine.addImportPath(QStringLiteral(MODULES));
+        m_engine.setInitialProperties(properties);
+        m_engine.load(QUrl("qrc:/screen/Main.qml"_s));
+    }
+
+    QQuickWindow* window() const
+    {
+        return qobject_cast<QQuickWindow*>(m_engine.rootObjects().value(0));
+    }
+    ServiceLink& link() { return m_link; }
+    QStringList warnings() const { return m_warnings; }
+
+    QQuickItem* item(const QString& name) const { return window()->findChild<QQuickItem*>(name); }
+
+    QString text(const QString& name) const
+    {
+        const QQuickItem* const found = item(name);
+        return found && found->isVisible() && found->parentItem()->opacity() > 0
+            ? found->property("text").toString()
+            : QString();
+    }
+
+    QObject* state() const
+    {
+        return item("customerScreen"_s)->property("service").value<QObject*>();
+    }
+
+    // What the customer sees: what to do, the pictures of what is accepted, the sum, and what
+    // became of the last note.
+    QString customer() const
+    {
+        QString pictures;
+        for (const QString& kind : {"note"_s, "coin"_s, "card"_s})
+            pictures += item(kind + "Picture"_s)->isVisible() ? kind + " "_s : QString();
+        return QStringList{text("headline"_s), pictures.trimmed(), text("sum"_s),
+                           text("outOfService"_s) + text("lastNote"_s)}
+            .join(" | "_s);
+    }
+
+    // The devices as the engineer sees them: status, the lamps that are lit, what is wrong,
+    // counters.
+    QString devices() const
+    {
+        auto* const model = state()->property("devices").value<QAbstractItemModel*>();
+        const QHash<int, QByteArray> roles = model->roleNames();
+        QStringList texts;
+        for (int row = 0; row < model->rowCount(); ++row) {
+            const auto value = [&](const char* role) {
+                return model->index(row, 0).data(roles.key(role));
+            };
+            QStringList lit;
+            for (const QVariant& lamp : value("lamps").toList()) {
+                if (lamp.toMap()["lit"_s].toBool())
+                    lit += lamp.toMap()["name"_s].toString();
+            }
+            texts += "%1 (%2) %3/%4/%5"_s.arg(
+                value("statusText").toString(), lit.join(","_s), value("notesInserted").toString(),
+                value("notesRejected").toString(), value("notesReturned").toString());
+        }
+        return texts.join("; "_s);
+    }
+
+private:
+    ServiceLink m_link;
+    QStringList m_warnings;
+    QQmlApplicationEngine m_engine;
+};
+
+qint64 residentPages()
+{
+    QFile file("/proc/self/statm"_s);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').at(1).toLongLong() : 0;
+}
+
+} // namespace
+
+class tst_Kiosk : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        m_service.terminate();
+        QVERIFY(m_service.state() == QProcess::NotRunning || m_service.waitForFinished());
+    }
+
+    // The expected lines, one for each step; the folder and names of the devices' sessions.
+    void screenFollowsTheService_data()
+    {
+        addRows(R"(
+            fished-note     | samples             | fished-note
+            jam             | samples             | jam
+            note-count      | samples             | note-count
+            plain-payment   | samples             | plain-payment
+            recycler-payout | samples             | recycler-payout
+            session-sum     | samples             | session-sum
+            show            | examples/kiosk/show | validator recycler coins terminal)"_s);
+    }
+
+    void screenFollowsTheService()
+    {
+        const auto [name, folder, sessions] = cells<3>();
+        QFile file(EXPECTED "/%1.expected"_s.arg(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        startService(folder, sessions);
+        Kiosk kiosk(m_language, {{"price"_s, 2510}});
+        for (QDBusReply<bool> more = callService("step"_s); more; more = callService("step"_s)) {
+            QString expected;
+            for (int line = 0; line < 3; ++line)
+                expected += QString::fromUtf8(file.readLine());
+            const auto shown = [&] {
+                return kiosk.customer().trimmed() + "\n"_s + kiosk.devices() + "\n"_s
+                    + kiosk.state()->property("reasons").toStringList().join(" "_s) + "\n"_s;
+            };
+            QTRY_COMPARE(shown(), expected);
+        }
+        QVERIFY(file.atEnd());
+        QCOMPARE(kiosk.warnings(), QStringList());
+        checkLog();
+    }
+
+    void sumOutlivesTheService()
+    {
+        Kiosk kiosk(m_language);
+        const QString lost = "Out of service |  | Paid: %1 | %2"_s;
+        QCOMPARE(kiosk.customer(), lost.arg("0"_s, "Please use another kiosk."_s));
+        for (int run = 0; run < 2; ++run) {
+            startService("samples"_s, "plain-payment"_s);
+            QTRY_VERIFY(kiosk.state()->property("available").toBool());
+            for (int step = 0; step < 6; ++step)
+                callService("step"_s);
+            QTRY_COMPARE(kiosk.text("sum"_s), "Paid: 100"_s);
+            m_service.kill(); // in the middle of the payment
+            QTRY_COMPARE(
+                kiosk.customer(),
+                lost.arg("100"_s, "What you have paid is recorded. Please call the staff."_s));
+            QCOMPARE(kiosk.state()->property("reasons").toStringList(),
+                     QStringList("The service does not answer."_s));
+            cleanup();
+        }
+    }
+
+    void languageChangesAllTexts()
+    {
+        startService("samples"_s, "plain-payment"_s);
+        callService("step"_s);
+        Kiosk kiosk(m_language);
+        QTRY_COMPARE(kiosk.text("headline"_s), "Input money"_s);
+        kiosk.window()->setProperty("serviceShown", true);
+        QTRY_VERIFY(kiosk.item("reportKey"_s));
+        QMetaObject::invokeMethod(kiosk.item("languageKey"_s), "clicked");
+        QCOMPARE(m_language.current(), "ru"_s);
+        QTRY_COMPARE(kiosk.item("headline"_s)->property("text").toString(), "Внесите купюры"_s);
+        QCOMPARE(kiosk.item("sum"_s)->property("text").toString(), "Внесено: 0"_s);
+        QCOMPARE(kiosk.devices(), "ожидание денег (accepting,stacker) 0/0/0"_s);
+        const QRegularExpression latin("[A-Za-z]{2}"_s); // the language key alone has some
+        for (QQuickItem* item : kiosk.window()->findChildren<QQuickItem*>()) {
+            QString text = item->property("text").toString();
+            if (item->objectName() != "languageKey"_s && text != "English"_s)
+                QVERIFY2(!text.remove("CCNet"_s).remove("CCNET-0418"_s).contains(latin),
+                         qPrintable(text));
+        }
+        m_language.setCurrent("en"_s);
+        QTRY_COMPARE(kiosk.item("headline"_s)->property("text").toString(), "Input money"_s);
+    }
+
+    void floodLeavesTheScreenInTime()
+    {
+        Kiosk kiosk(m_language);
+        const auto send = [&](int number) {
+            QJsonArray devices;
+            for (int device = 0; device < 3; ++device) {
+                devices += QJsonObject{{"device_id"_s, device + 1},
+                                       {"thread_id"_s, 1},
+                                       {"enabled"_s, true},
+                                       {"state"_s, number % 2 ? "idling"_s : "accepting"_s},
+                                       {"session_sum"_s, number},
+                                       {"current_note"_s, number % 2 ? 0 : 100}};
+            }
+            const QJsonObject state{{"device_states"_s, devices}};
+            Q_EMIT kiosk.link().stateReceived(
+                QString::fromUtf8(QJsonDocument(state).toJson(QJsonDocument::Compact)),
+                QDateTime::currentDateTime());
+            QCoreApplication::processEvents();
+        };
+        for (int i = 0; i < 1000; ++i)
+            send(i);
+        const qint64 before = residentPages();
+        QElapsedTimer time;
+        time.start();
+        for (int i = 0; i < FLOOD; ++i)
+            send(i);
+        QVERIFY2(time.elapsed() < FLOOD, qPrintable(QString::number(time.elapsed())));
+        QCOMPARE(kiosk.state()->property("sessionSum").toInt(), 3 * (FLOOD - 1));
+        QVERIFY2(residentPages() - before < 4096,
+                 qPrintable(QString::number(residentPages() - before)));
+    }
+
+    void manyDevicesAreShown()
+    {
+        Kiosk kiosk(m_language);
+        kiosk.window()->setProperty("serviceShown", true);
+        QJsonArray devices;
+        for (int device = 0; device < 200; ++device)
+            devices += QJsonObject{{"device_id"_s, 1 + device % 7}, {"thread_id"_s, device}};
+        QElapsedTimer time;
+        time.start();
+        for (int state = 0; state < 20; ++state) {
+            QJsonObject first = devices.first().toObject();
+            first["notes_inserted"_s] = state;
+            devices.removeFirst();
+            devices += first;
+            const QJsonObject published{{"device_states"_s, devices}};
+            Q_EMIT kiosk.link().stateReceived(QString::fromUtf8(QJsonDocument(published).toJson()),
+                                              QDateTime());
+            QCoreApplication::processEvents();
+        }
+        QCOMPARE(kiosk.item("devices"_s)->property("count").toInt(), 200);
+        QVERIFY2(time.elapsed() < 10000, qPrintable(QString::number(time.elapsed())));
+        QCOMPARE(kiosk.warnings(), QStringList());
+    }
+
+private:
+    void startService(const QString& folder, const QString& sessions)
+    {
+        QStringList arguments{"--step"_s,    "0"_s,
+                              "--filters"_s, "samples/filters.json"_s,
+                              "--record"_s,  m_folder.filePath("log.jsonl"_s)};
+        for (const QString& session : sessions.split(QLatin1Char(' ')))
+            arguments += folder + "/"_s + session + ".jsonl"_s;
+        m_service.setWorkingDirectory(QStringLiteral(SOURCES));
+        m_service.start(QStringLiteral(ACCEPTORSERVICE), arguments);
+        const QDBusConnectionInterface* const bus = QDBusConnection::sessionBus().interface();
+        QTRY_VERIFY(bus->isServiceRegistered(acceptorBus::SERVICE));
+    }
+
+    // The service records what its devices report.
+    void checkLog()
+    {
+        QFile log(m_folder.filePath("log.jsonl"_s));
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        const QJsonObject first = QJsonDocument::fromJson(log.readLine()).object();
+        QCOMPARE(first["session"_s], QJsonValue("start"_s));
+        QVERIFY(first["device_id"_s].toInt() > 0 && first["thread_id"_s].toInt() > 0);
+        QVERIFY(QDateTime::fromString(first["time"_s].toString(), Qt::ISODate).isValid());
+        QVERIFY(log.readAll().endsWith("}\n"));
+    }
+
+    QProcess m_service;
+    QTemporaryDir m_folder;
+    Language m_language{"en"_s};
+};
+
+QTEST_MAIN(tst_Kiosk)
+#include "tst_kiosk.moc"
