@@ -37,6 +37,13 @@ set(pairs library:${library_package} development:lib${velmolib_name}-dev)
 if(VELMOLIB_BUILD_TOOLS)
     list(APPEND pairs tool:velmo)
 endif()
+set(quick_package qml-module-velmolib)
+if(VELMOLIB_QT_MAJOR EQUAL 6)
+    set(quick_package qml6-module-velmolib)
+endif()
+if(VELMOLIB_BUILD_QUICK)
+    list(APPEND pairs quick:${quick_package})
+endif()
 foreach(pair IN LISTS pairs)
     string(REGEX MATCH "(.*):(.*)" pair ${pair})
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/copyright
@@ -81,5 +88,13 @@ set(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS "${library_package} (= ${PROJECT_VERSION})
 set(CPACK_DEBIAN_TOOL_DESCRIPTION "questions about the cash devices of a kiosk, answered
  Replays sessions, explains refused notes and service states, shows,
  changes and checks the service's settings.")
+
+set(CPACK_DEBIAN_QUICK_PACKAGE_NAME ${quick_package})
+set(CPACK_DEBIAN_QUICK_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_QUICK_PACKAGE_DEPENDS "${library_package} (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_QUICK_DESCRIPTION "QML module for screens of a kiosk's cash devices (Qt ${VELMOLIB_QT_MAJOR})
+ What the acceptor service publishes, as properties and models for
+ payment and service screens, the device catalogue and the settings
+ for configuration screens.")
 
 include(CPack)

@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 
 # Installs what is missing, looks for files that do not say their licence, and looks at the sources of
-# the library and the programs with clang-tidy. --deep looks longer: with clang's static analyzer too,
+# the library and the programs with clang-tidy and qmllint. --deep looks longer: with clang's static analyzer too,
 # and with clazy. .clang-tidy says what is left out and why; .reuse/dep5 names the files that cannot say
 # their licence themselves.
 set -euo pipefail
@@ -12,12 +12,13 @@ cd "$(dirname "$0")/.."
 
 require_packages "${build_packages[@]}" clang clang-tidy clazy reuse
 reuse lint
+git ls-files '*.qml' | xargs /usr/lib/qt5/bin/qmllint
 cmake --preset tidy
 checks=-clang-analyzer-*
 [ "${1:-}" != --deep ] || checks=
-run-clang-tidy -quiet -p build/tidy -checks="$checks" "$PWD/(src|platform|diagnosis|tools|examples)/"
+run-clang-tidy -quiet -p build/tidy -checks="$checks" "$PWD/(src|platform|diagnosis|tools|quick|examples)/"
 if [ "${1:-}" = --deep ]; then
-    git ls-files 'src/*.cpp' 'platform/*.cpp' 'diagnosis/*.cpp' 'tools/*.cpp' \
+    git ls-files 'src/*.cpp' 'platform/*.cpp' 'diagnosis/*.cpp' 'tools/*.cpp' 'quick/*.cpp' \
         | xargs -n 8 -P "$(nproc)" clazy-standalone -p build/tidy -checks=level1 2>&1 \
         | tee build/tidy/clazy.log
     ! grep -q 'Wclazy' build/tidy/clazy.log

@@ -16,7 +16,8 @@ fail()
 }
 
 lintian --fail-on error --suppress-tags bad-distribution-in-changes-file "$2"/*.deb
-for package in libvelmolib5 libvelmolib-dev libvelmolib-qt6-5 libvelmolib-qt6-dev velmo; do
+for package in libvelmolib5 libvelmolib-dev libvelmolib-qt6-5 libvelmolib-qt6-dev velmo \
+        qml-module-velmolib qml6-module-velmolib; do
     deb=$(ls "$2/${package}_"*.deb)
     dpkg-deb --field "$deb" Package Version Depends
     dpkg-deb --fsys-tarfile "$deb" | tar -t | grep -v '/$' >> "$root/files"

@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 
 # Uses an installed copy the way a newcomer would: builds the examples with CMake, with pkg-config
-# and with qmake, outside the source tree, and runs them and velmo.
+# and with qmake, outside the source tree, and runs them, velmo and a program of the QML module.
 # The copy is moved first: it must work wherever it lies.
 # Usage: installed.sh SOURCE_DIR PREFIX [QT_MAJOR]   (default: 5)
 set -euo pipefail
@@ -60,4 +60,29 @@ grep -qx 'Внесите купюры' shown || fail "velmo shows: $(cat shown)"
     || fail "$("$velmo" --version)"
 bash -n "$prefix"/share/bash-completion/completions/velmo
 gzip -dc "$prefix"/share/man/man1/velmo.1.gz | grep -q '^\.TH VELMO 1' || fail "no manual page"
+cat > tst_module.qml << 'QML'
+import QtTest 1.15
+import Velmolib 5.0
+
+TestCase {
+    name: "Installed"
+
+    ServiceState {
+        id: service
+        text: '{"device_states": [{"device_id": 1, "enabled": true, "state": "idling"}]}'
+    }
+    Catalogue {
+        id: catalogue
+    }
+
+    function test_moduleAnswers() {
+        compare([service.paymentText, service.devices.get(0).modelName, catalogue.count].join(),
+                "Input money,CCNet,13");
+    }
+}
+QML
+[ "${3:-5}" -eq 5 ] || sed -i 's/ 1\.15$//; s/ 5\.0$//' tst_module.qml # Qt 6 takes the newest
+modules=$(dirname "$(dirname "$(find "$prefix" -path "*/qt${3:-5}/*" -name libvelmolibplugin.so)")")
+QT_QPA_PLATFORM=offscreen /usr/lib/qt"${3:-5}"/bin/qmltestrunner -import "$modules" \
+    -input tst_module.qml > shown 2>&1 || fail "the QML module: $(cat shown)"
 echo "The installed copy works."

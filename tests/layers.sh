@@ -7,7 +7,7 @@
 # Usage: layers.sh SOURCE_DIR
 set -euo pipefail
 cd "$1"
-floors=(platform src diagnosis tools examples bench fuzz tests)
+floors=(platform src diagnosis tools quick examples bench fuzz tests)
 
 # Prints the faults of the tree in the current folder.
 faults()
@@ -62,7 +62,8 @@ faults()
                 sources[ARGV[i]] = 1
                 name = ARGV[i]
                 sub(/.*\//, "", name)
-                named[name] = ARGV[i]
+                if (!(name in named)) # the lowest floor comes first
+                    named[name] = ARGV[i]
             }
         }
         END {

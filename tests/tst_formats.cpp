@@ -8,6 +8,7 @@
 #include "droutemapitem.h"
 #include "filterchain.h"
 #include "filterset.h"
+#include "serviceanswer.h"
 #include "statitem.h"
 #include "velmorun.h"
 
@@ -115,6 +116,11 @@ const QMap<QString, std::function<QVariant(const QVariant& example)>> checks{
          map.insert(written<DispenserRegistryModel>(device));
          map.insert(written<StatItem>(device));
          return QVariantMap{{"device_states"_s, QVariantList{map}}};
+     }},
+    {"refusals"_s,
+     [](auto& v) {
+         return QVariantMap{{"device_states"_s, QVariantList()},
+                            {"refusals"_s, readServiceState(text(v)).refusals}};
      }},
     {"field description"_s, written<FieldDescription>},
     {"filters file"_s, writtenFilters},

@@ -63,6 +63,7 @@ Rectangle {
                 Repeater {
                     model: card.entry.lamps
                     Lamp {
+                        required property var modelData
                         label: modelData.label
                         lit: modelData.lit
                         alarm: modelData.alarm
@@ -72,6 +73,7 @@ Rectangle {
             Repeater {
                 model: card.entry.wrong
                 Text {
+                    required property string modelData
                     width: content.width
                     text: modelData
                     textFormat: Text.PlainText
@@ -91,11 +93,16 @@ Rectangle {
             Repeater {
                 model: card.entry.registry
                 Text {
+                    required property bool isCoin
+                    required property int channel
+                    required property int stock
+                    required property int denomination
+                    required property string currency
+                    required property int rejects
                     width: content.width
-                    text: (model.isCoin ? qsTr("Hopper %1: %2 coins of %3 %4, %5 rejected")
-                                        : qsTr("Cassette %1: %2 notes of %3 %4, %5 rejected"))
-                          .arg(model.channel).arg(model.stock).arg(model.denomination)
-                          .arg(model.currency).arg(model.rejects)
+                    text: (isCoin ? qsTr("Hopper %1: %2 coins of %3 %4, %5 rejected")
+                                  : qsTr("Cassette %1: %2 notes of %3 %4, %5 rejected"))
+                          .arg(channel).arg(stock).arg(denomination).arg(currency).arg(rejects)
                     textFormat: Text.PlainText
                     font.pixelSize: Theme.small
                     wrapMode: Text.Wrap

@@ -39,6 +39,7 @@ Column {
             Repeater {
                 model: 2
                 Rectangle {
+                    required property int index
                     x: index === 0 ? 14 * Theme.unit : box.width - width - 14 * Theme.unit
                     anchors.verticalCenter: parent.verticalCenter
                     width: 10 * Theme.unit

@@ -90,7 +90,7 @@ Rectangle {
             visible: text !== ""
             // A validator that idles takes notes, although it is not ready for another command.
             text: screen.service.noteAccepted || screen.service.coinAccepted ? ""
-                  : screen.service.reasons.join("\n")
+                  : Array.from(screen.service.reasons).join("\n")
             textFormat: Text.PlainText
             font.pixelSize: Theme.small
             wrapMode: Text.Wrap
@@ -110,12 +110,14 @@ Rectangle {
             cellHeight: 560 * Theme.unit
             model: screen.service.devices
             delegate: Item {
+                id: cell
+                required property var model
                 width: grid.cellWidth
                 height: grid.cellHeight
                 DeviceCard {
                     anchors.fill: parent
                     anchors.margins: Theme.gap / 2
-                    entry: model
+                    entry: cell.model
                 }
             }
             add: Transition {

@@ -11,8 +11,8 @@
 #include <QJsonObject>
 #include <QQmlApplicationEngine>
 #include <QScreen>
-#include <QWindow>
 #include <QtQml>
+#include <QWindow>
 
 #include <cstdio>
 

@@ -9,8 +9,8 @@
 
 class QDBusPendingCallWatcher;
 
-/// The acceptor service on the session bus, as a source for ServiceState: it follows the service and
-/// comes back when the service does.
+/// The acceptor service on the session bus, as a source for ServiceState: it follows the service
+/// and comes back when the service does.
 class ServiceLink : public QObject
 {
     Q_OBJECT

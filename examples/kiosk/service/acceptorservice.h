@@ -14,9 +14,9 @@
 #include <vector>
 
 /// The acceptor service's object on the bus. It publishes the service state, a JSON text:
-/// {"device_states": [device maps], "refusals": [...]}, where a refusal is a filter that refuses what a
-/// device has in hand: {"device_id", "thread_id", "name", "params"}. Whoever reads it ignores keys
-/// that he does not know.
+/// {"device_states": [device maps], "refusals": [...]}, where a refusal is a filter that refuses
+/// what a device has in hand: {"device_id", "thread_id", "name", "params"}. Whoever reads it
+/// ignores keys that he does not know.
 class AcceptorService : public QObject
 {
     Q_OBJECT
