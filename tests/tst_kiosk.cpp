@@ -217,14 +217,14 @@ private Q_SLOTS:
                 QDateTime::currentDateTime());
             QCoreApplication::processEvents();
         };
-        for (int i = 0; i < 1000; ++i)
+        for (int i = 0; i < FLOOD / 10; ++i)
             send(i);
         const qint64 before = residentPages();
         QElapsedTimer time;
         time.start();
         for (int i = 0; i < FLOOD; ++i)
             send(i);
-        QVERIFY2(time.elapsed() < FLOOD, qPrintable(QString::number(time.elapsed())));
+        QVERIFY2(time.elapsed() < FLOOD * PATIENCE, qPrintable(QString::number(time.elapsed())));
         QCOMPARE(kiosk.state()->property("sessionSum").toInt(), 3 * (FLOOD - 1));
         QVERIFY2(residentPages() - before < 4096,
                  qPrintable(QString::number(residentPages() - before)));
@@ -250,7 +250,7 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
         }
         QCOMPARE(kiosk.item("devices"_s)->property("count").toInt(), 200);
-        QVERIFY2(time.elapsed() < 10000, qPrintable(QString::number(time.elapsed())));
+        QVERIFY2(time.elapsed() < 10000 * PATIENCE, qPrintable(QString::number(time.elapsed())));
         QCOMPARE(kiosk.warnings(), QStringList());
     }
 

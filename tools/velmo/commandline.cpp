@@ -6,13 +6,13 @@
 #include "options.h"
 #include "output.h"
 #include "table.h"
+#include "translations.h"
 
 #include <palx/appversionmanager.h>
 
 #include <QCommandLineParser>
 #include <QDir>
 #include <QLocale>
-#include <QTranslator>
 
 #include <algorithm>
 #include <iterator>
@@ -119,29 +119,6 @@ Fault unknownOption(const QString& name, const std::vector<const Option*>& known
 QString translationsFolder()
 {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../" TRANSLATIONS);
-}
-
-// Empty: the system's language, or English where there is no translation for it. English is loaded
-// too: it has the plurals, and mends what is misspelt in the library.
-void loadTranslations(const QString& language)
-{
-    QStringList components = palx::AppVersionManager::localisations();
-    components << QStringLiteral("diagnosis") << QStringLiteral("velmo");
-    components.removeDuplicates();
-    const QString folder = translationsFolder();
-    bool anyLoaded = false;
-    for (const QString& component : std::as_const(components)) {
-        auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
-        const QString prefix = component + QLatin1Char('_');
-        const bool isLoaded = language.isEmpty()
-            ? translator->load(QLocale::system(), prefix, QString(), folder)
-                || translator->load(prefix + QLatin1String("en"), folder)
-            : translator->load(prefix + language, folder);
-        if (isLoaded)
-            anyLoaded = QCoreApplication::installTranslator(translator.release()) || anyLoaded;
-    }
-    if (!anyLoaded && !language.isEmpty())
-        throw Fault{Velmo::tr("no translations for language \"%1\"").arg(language)};
 }
 
 int printVersion()
@@ -253,7 +230,8 @@ int runCommand(const QStringList& arguments)
         return parser.isSet(QLatin1String(option.name));
     };
 
-    loadTranslations(parser.value(QLatin1String(options::language.name)));
+    loadTranslations(translationsFolder(), {QStringLiteral("velmo")},
+                     parser.value(QLatin1String(options::language.name)));
     const QStringList words = parser.positionalArguments();
     const Command* const command = findCommand(words);
     const QStringList unknown = parser.unknownOptionNames();

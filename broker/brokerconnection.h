@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "brokeroptions.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+#include <chrono>
+#include <functional>
+#include <utility>
+#include <vector>
+
+struct mosquitto;
+
+/// A connection to a broker, MQTT 5, that comes back by itself: the pauses between attempts grow
+/// from one second to thirty. It runs on the caller's thread, in work(), and belongs to it.
+class BrokerConnection
+{
+public:
+    using Receiver = std::function<void(const QString& topic, const QByteArray& payload)>;
+
+    /// @param session the name that the broker knows the session by; empty for one that ends with
+    /// the connection
+    /// @param expiry for how many seconds the broker keeps a named session without a connection
+    /// @param receive is given each message that arrives. Throws Fault when libmosquitto is missing
+    /// or an option cannot be used.
+    BrokerConnection(const BrokerOptions& options, const QString& session, quint32 expiry,
+                     Receiver receive);
+    ~BrokerConnection();
+    BrokerConnection(const BrokerConnection&) = delete;
+    BrokerConnection& operator=(const BrokerConnection&) = delete;
+
+    /// Subscribes now, or once it is connected, and again after every loss of the session.
+    /// @param qos 0, or 1 for messages that are given again until they are acknowledged
+    void subscribe(const QString& filter, int qos);
+    void unsubscribe(const QString& filter);
+
+    /// Publishes with QoS 1, retained; kept and repeated until the broker has it.
+    void publish(const QString& topic, const QByteArray& payload);
+
+    bool isConnected() const { return m_isConnected; }
+
+    /// How many published messages the broker has not acknowledged.
+    int unacknowledged() const { return m_unacknowledged; }
+
+    /// Whether the broker has answered every subscription.
+    bool isSubscribed() const { return m_isConnected && m_unanswered == 0; }
+
+    /// Connects when it is time to, reads what has arrived, and keeps the connection alive. What is
+    /// to be sent, the acknowledgements of the messages read included, waits for write().
+    /// @param most about how many messages to read
+    void read(int most);
+
+    /// Sends what waits.
+    void write();
+
+    /// Waits until one of the connections has something to read, or has room for what it wants to
+    /// write. One that is not connected is not waited for.
+    static void wait(const std::vector<BrokerConnection*>& connections,
+                     std::chrono::milliseconds timeout);
+
+    /// Ends the connection in order, with what waits.
+    /// @param endSession whether the broker shall forget a named session
+    void disconnect(bool endSession);
+
+private:
+    void connect();
+    void lose(const QString& why);
+    void takeConnect(int reason);
+    void takeAnswer();
+
+    const BrokerOptions m_options;
+    const quint32 m_expiry;
+    const Receiver m_receive;
+    mosquitto* m_client;
+    bool m_isOpen = false; // the socket, perhaps before the broker has answered
+    bool m_isConnected = false;
+    bool m_isEnding = false;
+    int m_unacknowledged = 0;
+    int m_unanswered = 0; // subscriptions and the ends of some
+    bool m_isReady = false; // connected and subscribed, and told so
+    quint64 m_events = 0; // so many things arrived
+    std::chrono::seconds m_pause{0};
+    std::chrono::steady_clock::time_point m_nextAttempt;
+    QVector<std::pair<QString, int>> m_subscriptions;
+};

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// Installs the translations of a program: those of the library, of what is diagnosed, and its own.
+/// English is loaded too: it has the plurals, and mends what is misspelt in the library. Throws
+/// Fault for a language that is asked for and that there is nothing of.
+/// @param folder where the .qm files are
+/// @param own the names of the program's own, without language; perhaps none
+/// @param language empty for the system's, or English where there is no translation for it
+void loadTranslations(const QString& folder, const QStringList& own, const QString& language);

@@ -1,0 +1,341 @@
+#!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+"""Runs velmo-fleet with a broker of its own on loopback, and kills what can be killed.
+
+Usage: check_fleet.py BIN [--measure]    (BIN has velmo and velmo-fleet; needs mosquitto, paho-mqtt)
+--measure prints how many states a second one and two workers take, their latency and their memory.
+"""
+
+import json
+import os
+import random
+import signal
+import socket
+import subprocess
+import sys
+import tempfile
+import time
+import urllib.request
+
+import paho.mqtt.client as mqtt
+
+STATES = ["idling", "busy", "accepting", "stacked", "rejected", "jammed"]
+
+
+def free_port():
+    with socket.socket() as probe:
+        probe.bind(("127.0.0.1", 0))
+        return probe.getsockname()[1]
+
+
+def wait_until(what, done, seconds=60):
+    end = time.monotonic() + seconds
+    while not done():
+        if time.monotonic() > end:
+            raise SystemExit(f"check_fleet.py: after {seconds} s still not: {what}")
+        time.sleep(0.05)
+
+
+class Broker:
+    def __init__(self, folder):
+        self.port = free_port()
+        self.config = os.path.join(folder, "mosquitto.conf")
+        with open(self.config, "w") as config:
+            config.write(f"listener {self.port} 127.0.0.1\nallow_anonymous true\nuser root\n"
+                         f"persistence true\npersistence_location {folder}/\n"
+                         "max_inflight_messages 1000\nmax_queued_messages 0\n")
+        self.log = open(os.path.join(folder, "mosquitto.log"), "a")
+        self.start()
+
+    def start(self):
+        self.process = subprocess.Popen(["mosquitto", "-c", self.config], stdout=self.log,
+                                        stderr=self.log)
+        wait_until("the broker answers", self.answers, 20)
+
+    def answers(self):
+        with socket.socket() as probe:
+            return probe.connect_ex(("127.0.0.1", self.port)) == 0
+
+    def stop(self):
+        self.process.terminate()
+        self.process.wait()
+
+
+class Worker:
+    started = []
+
+    def __init__(self, fleet, name, *options):
+        self.metrics = free_port()
+        self.log = os.path.join(fleet.folder, name + ".log")
+        self.command = [os.path.join(fleet.bin, "velmo-fleet"), "--broker",
+                        f"127.0.0.1:{fleet.broker.port}", "--name", name, "--lang", "en",
+                        "--metrics", f"127.0.0.1:{self.metrics}", *options]
+        self.start()
+
+    def start(self, *more):
+        self.ready = self.connections() + 2
+        self.process = subprocess.Popen(self.command + list(more), stderr=open(self.log, "a"))
+        Worker.started.append(self.process)
+
+    def is_ready(self):
+        try:
+            self.counts()
+            return self.connections() >= self.ready
+        except OSError:
+            return False
+
+    def connections(self):
+        return open(self.log).read().count("Connected") if os.path.exists(self.log) else 0
+
+    def counts(self):
+        with urllib.request.urlopen(f"http://127.0.0.1:{self.metrics}/metrics", timeout=5) as page:
+            lines = page.read().decode().splitlines()
+        return {line.rsplit(" ", 1)[0]: float(line.rsplit(" ", 1)[1]) for line in lines
+                if not line.startswith("#")}
+
+    def count(self, kind):
+        return self.counts()[f'velmo_fleet_messages_total{{kind="{kind}"}}']
+
+    def kill(self):
+        self.process.kill()
+        self.process.wait()
+
+    def stop(self):
+        self.process.terminate()
+        if self.process.wait(20) != 0:
+            raise SystemExit(f"check_fleet.py: {self.command[4]} ended with {self.process.returncode}")
+
+
+class Fleet:
+    """A broker, a client of it, and what the summaries are to be."""
+
+    def __init__(self, folder, bin_folder):
+        self.folder = folder
+        self.bin = bin_folder
+        self.random = random.Random(4)
+        self.broker = Broker(folder)
+        self.newest = {}  # the text of the newest state of each kiosk
+        self.summaries = {}
+        self.clock = 1790000000000
+        self.client = mqtt.Client("check", clean_session=False)
+        self.client.max_inflight_messages_set(500)
+        self.client.max_queued_messages_set(0)
+        self.client.reconnect_delay_set(1, 1)
+        self.client.on_message = self.take
+        self.client.on_connect = lambda client, *_: client.subscribe("kiosks/+/summary", 1)
+        self.client.connect("127.0.0.1", self.broker.port)
+        self.client.loop_start()
+
+    def take(self, _client, _data, message):
+        self.summaries[message.topic.split("/")[1]] = message.payload
+
+    def state(self, kiosk):
+        self.clock += 1
+        devices = [{"device_id": model, "thread_id": thread, "enabled": self.random.random() < 0.9,
+                    "state": self.random.choice(STATES), "online": self.random.random() < 0.95,
+                    "stacker_full": self.random.random() < 0.1,
+                    "error_critical": self.random.random() < 0.1, "error_text": "motor \u2713",
+                    "session_sum": self.random.randrange(5000),
+                    "notes_inserted": self.random.randrange(100)}
+                   for thread, model in enumerate([1, 7, 100])]
+        return json.dumps({"time": self.clock, "device_states": devices})
+
+    def publish(self, kiosk):
+        self.newest[kiosk] = self.state(kiosk)
+        return self.client.publish(f"kiosks/{kiosk}/state", self.newest[kiosk], 1)
+
+    def publish_many(self, count, kiosks):
+        """Publishes so many states of so many kiosks, and gives a turn after each."""
+        for number in range(count):
+            last = self.publish(f"k{number % kiosks}")
+            if number % 200 == 0:
+                time.sleep(0.01)
+                yield number
+        last.wait_for_publish(60)
+
+    def expected(self):
+        """What velmo report says of the newest states, as their summaries have it."""
+        kiosks = list(self.newest)
+        report = subprocess.run([os.path.join(self.bin, "velmo"), "report", "-", "--json", "--lang",
+                                 "en"], input="\n".join(self.newest[kiosk] for kiosk in kiosks),
+                                capture_output=True, text=True, check=True).stdout.splitlines()
+        return {kiosk: f'{{"kiosk":"{kiosk}",{line[1:]}'.encode()
+                for kiosk, line in zip(kiosks, report, strict=True)}
+
+    def check(self, what):
+        expected = self.expected()
+        wait_until(f"{what}: every summary is that of the newest state",
+                   lambda: self.summaries == expected)
+        # What is retained, not only what passed by.
+        retained = {}
+        client = mqtt.Client("retained" + str(time.monotonic()))
+        client.on_message = lambda _c, _d, message: retained.update(
+            {message.topic.split("/")[1]: message.payload})
+        client.connect("127.0.0.1", self.broker.port)
+        client.subscribe("kiosks/+/summary", 1)
+        client.loop_start()
+        wait_until(f"{what}: the retained summaries are the same", lambda: retained == expected)
+        client.loop_stop()
+        print(f"{what}: {len(expected)} summaries as they should be", flush=True)
+
+    def stop(self):
+        for process in Worker.started:
+            process.kill()
+            process.wait()
+        self.client.loop_stop()
+        self.broker.stop()
+
+
+def check_deaths(fleet):
+    workers = [Worker(fleet, name) for name in ("w1", "w2")]
+    for worker in workers:
+        wait_until("the workers are there", worker.is_ready)
+    for number in fleet.publish_many(20000, 1000):
+        if number == 8000:
+            workers[0].kill()
+        if number == 12000:
+            workers[0].start()
+    fleet.check("a worker killed and started again")
+    for number in fleet.publish_many(20000, 1000):
+        if number == 8000:
+            fleet.broker.stop()
+            fleet.broker.start()
+    fleet.check("the broker restarted")
+    return workers
+
+
+def check_garbage(fleet, workers):
+    def faults():
+        return sum(worker.count("fault") for worker in workers)
+
+    before = faults()
+    garbage = [b"", b"null", b"{", b"\xff\xfe{}", b'{"device_states": 1}', b"x" * (1 << 20),
+               b'{"time": true, "device_states": []}', b'{"device_states": [' + b"[" * 5000]
+    for payload in garbage:
+        fleet.client.publish("kiosks/k1/state", payload, 1)
+    fleet.client.publish("kiosks/k1/state/more", b"{}", 1)
+    fleet.client.publish("kiosks/k1", b"{}", 1)
+    for _ in range(3):  # the same state again
+        fleet.client.publish("kiosks/k2/state", fleet.newest["k2"], 1)
+    wait_until("the garbage is counted", lambda: faults() == before + len(garbage))
+    fleet.publish("k3")
+    fleet.check("garbage")
+    log = "".join(open(worker.log).read() for worker in workers)
+    for words in ("kiosks/k1/state: expected a JSON object", "kiosks/k1/state: expected UTF-8"):
+        if words not in log:
+            raise SystemExit(f"check_fleet.py: the log does not say \"{words}\"")
+
+
+def check_silence(fleet, workers):
+    fleet.client.publish("kiosks/k5/will", b"gone", 1)
+    reason = '"reasons":["The kiosk is offline."]'.encode()
+    wait_until("a will is told of", lambda: reason in fleet.summaries["k5"])
+    fleet.publish("k5")
+    fleet.check("a kiosk came back")
+    for worker in workers:
+        worker.stop()
+    watcher = Worker(fleet, "w1", "--silent", "1")
+    reason = b'"reasons":["The kiosk has been silent for more than 1 s."]'
+    wait_until("silence is told of",
+               lambda: all(reason in summary for summary in fleet.summaries.values()))
+    wait_until("silence is counted", lambda: watcher.counts()[
+        'velmo_fleet_kiosks{condition="silent"}'] == len(fleet.newest))
+    watcher.stop()
+
+
+def check_retiring(fleet):
+    """What waits for a member that retires is done, and its session is gone then."""
+    for number in fleet.publish_many(2000, 1000):
+        pass
+    workers = [Worker(fleet, name, "--retire") for name in ("w1", "w2")]
+    for worker in workers:
+        if worker.process.wait(60) != 0:
+            raise SystemExit("check_fleet.py: a member did not retire")
+    fleet.check("retired")
+    for kiosk in ("k1", "k2", "k3", "k4"):
+        fleet.client.publish(f"kiosks/{kiosk}/state", fleet.state(kiosk), 1).wait_for_publish(20)
+    worker = Worker(fleet, "w1")
+    wait_until("the worker is there", worker.is_ready)
+    fleet.publish("k1")
+    wait_until("a state came", lambda: worker.count("state") > 0)
+    time.sleep(0.3)
+    if worker.count("state") != 1:
+        raise SystemExit("check_fleet.py: the session of a retired member was kept")
+    worker.stop()
+
+
+def resident(worker):
+    with open(f"/proc/{worker.process.pid}/status") as status:
+        return next(int(line.split()[1]) for line in status if line.startswith("VmRSS")) // 1024
+
+
+def drain(fleet, names, count, kiosks):
+    """Lets states wait for the workers, then times how long these take."""
+    workers = [Worker(fleet, name) for name in names]
+    for worker in workers:
+        wait_until("the workers are there", worker.is_ready)
+        worker.stop()
+    for _ in fleet.publish_many(count, kiosks):
+        pass
+    for worker in workers:
+        worker.start()
+    start = time.monotonic()
+    done = lambda: sum(worker.count("state") for worker in workers)  # noqa: E731
+    wait_until("the workers begin", lambda: all(worker.is_ready() for worker in workers))
+    first, begin = done(), time.monotonic()
+    wait_until("all states are taken", lambda: done() >= count, 120)
+    rate = (count - first) / (time.monotonic() - begin)
+    fleet.check(f"{len(names)} workers")
+    memory = [resident(worker) for worker in workers]
+    print(f"{len(names)} workers: {rate:.0f} states/s, {count} in {time.monotonic() - start:.1f} s, "
+          f"{kiosks} kiosks, {memory} MiB", flush=True)
+    for worker in workers:
+        worker.stop()
+    return rate
+
+
+def latency(fleet, rate, seconds):
+    """The age of the states when their summaries arrive, at so many states a second."""
+    worker = Worker(fleet, "one")
+    wait_until("the worker is there", worker.is_ready)
+    ages = []
+    sent = {}
+    fleet.client.on_message = lambda _c, _d, message: ages.append(
+        time.monotonic() - sent.pop(message.topic.split("/")[1], time.monotonic()))
+    begin = time.monotonic()
+    for number in range(int(rate * seconds)):
+        kiosk = f"k{number % 10000}"
+        sent[kiosk] = time.monotonic()
+        fleet.client.publish(f"kiosks/{kiosk}/state", fleet.state(kiosk), 1)
+        ahead = begin + number / rate - time.monotonic()
+        if ahead > 0.005:
+            time.sleep(ahead)
+    time.sleep(1)
+    ages.sort()
+    print(f"{rate} states/s: latency median {1000 * ages[len(ages) // 2]:.1f} ms, "
+          f"99 % {1000 * ages[len(ages) * 99 // 100]:.1f} ms", flush=True)
+    worker.stop()
+
+
+def main():
+    fleet = None
+    with tempfile.TemporaryDirectory() as folder:
+        try:
+            fleet = Fleet(folder, sys.argv[1])
+            if "--measure" in sys.argv:
+                drain(fleet, ["one"], 60000, 10000)
+                drain(fleet, ["one", "two"], 60000, 10000)
+                latency(fleet, 2500, 10)
+            else:
+                workers = check_deaths(fleet)
+                check_garbage(fleet, workers)
+                check_silence(fleet, workers)
+                check_retiring(fleet)
+        finally:
+            if fleet:
+                fleet.stop()
+
+
+if __name__ == "__main__":
+    main()
