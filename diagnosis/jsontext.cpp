@@ -5,11 +5,30 @@
 
 #include "jsonwriter_p.h"
 
+#include <algorithm>
+
 JsonText::JsonText(const QString& text)
 {
-    JsonWriter json;
-    json.write(text);
-    append(json.text().toUtf8());
+    appendTo(*this, text);
+}
+
+void JsonText::appendTo(QByteArray& json, const QString& text)
+{
+    const bool isPlain = std::all_of(text.begin(), text.end(), [](QChar c) {
+        return c >= u' ' && c <= u'~' && c != u'"' && c != u'\\';
+    });
+    if (isPlain) {
+        json += '"';
+        const auto end = json.size();
+        json.resize(int(end + text.size()) + 1);
+        std::transform(text.begin(), text.end(), json.begin() + end,
+                       [](QChar c) { return c.toLatin1(); });
+        json.back() = '"';
+        return;
+    }
+    JsonWriter writer;
+    writer.write(text);
+    json += writer.text().toUtf8();
 }
 
 JsonText JsonText::null()

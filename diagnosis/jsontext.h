@@ -38,6 +38,9 @@ public:
 
     static JsonText null();
 
+    /// Appends a text as JSON.
+    static void appendTo(QByteArray& json, const QString& text);
+
     static JsonText object(const std::vector<Member>& members);
 
     /// @param toText gives the text of one element

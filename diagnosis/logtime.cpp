@@ -70,6 +70,12 @@ QString LogTime::iso() const
     return QDateTime::fromMSecsSinceEpoch(m_milliseconds, Qt::UTC).toString(Qt::ISODateWithMs);
 }
 
+QDateTime LogTime::toDateTime() const
+{
+    return m_hasMilliseconds ? QDateTime::fromMSecsSinceEpoch(m_milliseconds, Qt::UTC)
+                             : QDateTime::fromString(m_text, Qt::ISODateWithMs);
+}
+
 QString LogTime::clock() const
 {
     const QString text = iso();

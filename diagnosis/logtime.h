@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 #include <QVariant>
 
@@ -22,6 +23,9 @@ public:
 
     /// The text as it stands, or the milliseconds in UTC; empty when not known.
     QString iso() const;
+
+    /// The moment, in the zone or with the offset that the text has.
+    QDateTime toDateTime() const;
 
     /// The time of day on the clock that the log was written by, as 10:05:12; that of UTC has
     /// "UTC" behind it. Empty when not known.

@@ -13,7 +13,10 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <numeric>
+#include <utility>
 
 namespace {
 
@@ -37,23 +40,54 @@ bool isValidator(const AcceptorStateItem& device)
     return device.deviceId() >= 1 && device.deviceId() <= 99;
 }
 
-JsonText jsonOf(const AcceptorStateItem& device, bool isOffline, const QString& name)
+// Beyond so many different ones, texts that come from outside are not remembered.
+constexpr int mostRemembered = 1000;
+
+void append(QByteArray& json, qint64 number)
 {
-    const QString model = modelName(device.deviceId());
-    return JsonText::object(
-        {{"device", device.deviceId()},
-         {"thread", device.threadId()},
-         {"name", name},
-         {"model", model.isEmpty() ? JsonText::null() : JsonText(model)},
-         {"kind", kindName(device.deviceId())},
-         {"enabled", device.enabled()},
-         {"state", device.state()},
-         {"state_text", AcceptorState::stateDescr(device.state())},
-         {"wrong", JsonText::list(deviceFaults(device, isOffline))},
-         {"notes_inserted", device.notesInserted()},
-         {"notes_rejected", device.notesRejected()},
-         {"notes_returned", device.notesReturned()},
-         {"registry", JsonText::of(QJsonObject::fromVariantMap(device.dispRegistry()))}});
+    std::array<char, 20> digits{};
+    const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    json.append(digits.data(), int(end - digits.data()));
+}
+
+void append(QByteArray& json, const QStringList& texts)
+{
+    json += '[';
+    bool isFirst = true;
+    for (const QString& text : texts) {
+        if (!std::exchange(isFirst, false))
+            json += ',';
+        JsonText::appendTo(json, text);
+    }
+    json += ']';
+}
+
+// As Qt::ISODateWithMs has it, in a tenth of the time.
+void append(QByteArray& json, const QDateTime& time)
+{
+    if (!time.isValid()) {
+        json += "null";
+        return;
+    }
+    const QDate date = time.date();
+    if (time.timeSpec() != Qt::UTC || date.year() < 1000 || date.year() > 9999) {
+        JsonText::appendTo(json, time.toString(Qt::ISODateWithMs));
+        return;
+    }
+    const QTime clock = time.time();
+    char text[] = "\"yyyy-mm-ddThh:mm:ss.zzzZ\"";
+    const auto put = [&text](int at, int digits, int number) {
+        for (int place = at + digits - 1; place >= at; --place, number /= 10)
+            text[place] = char('0' + number % 10);
+    };
+    put(1, 4, date.year());
+    put(6, 2, date.month());
+    put(9, 2, date.day());
+    put(12, 2, clock.hour());
+    put(15, 2, clock.minute());
+    put(18, 2, clock.second());
+    put(21, 3, clock.msec());
+    json += text;
 }
 
 // Reads what the entries of the devices do not keep; there is an entry for all but null.
@@ -168,26 +202,87 @@ PublishedState readServiceState(const QString& json)
         throw Fault{Diagnosis::tr("expected a JSON object")};
     if (!hasDevices)
         throw Fault{Diagnosis::tr("expected a list \"device_states\"")};
-    QDateTime published;
-    if (time.isValid())
-        published = QDateTime::fromString(LogTime(time).iso(), Qt::ISODateWithMs);
+    const QDateTime published = time.isValid() ? LogTime(time).toDateTime() : QDateTime();
     AcceptorState::loadFromClientState(quorbus::ClientState(json, published), state.service);
     return state;
 }
 
-std::vector<JsonText::Member> jsonMembers(const PublishedState& state,
-                                          const QMap<int, QString>& names)
+StateWriter::StateWriter(const QMap<int, QString>& names)
+    : m_names(names)
+{
+}
+
+QByteArray StateWriter::members(const PublishedState& state)
 {
     const AcceptorState& service = state.service;
-    const QDateTime time = service.dt();
+    QByteArray json;
+    json.reserve(1000);
+    json += "\"time\":";
+    ::append(json, service.dt());
+    json += ",\"payment_text\":";
+    JsonText::appendTo(json, service.paymentStateDescr());
+    json += service.isAcceptingAllowed() ? ",\"accepting\":true" : ",\"accepting\":false";
+    json += ",\"reasons\":";
+    ::append(json, whyNotAccepting(service));
+    json += ",\"devices\":";
+    char before = '[';
     auto details = state.details.begin();
-    const auto device = [&](const AcceptorStateItem& item) {
-        return jsonOf(item, (details++)->isOffline, names.value(item.deviceId()));
-    };
-    return {
-        {"time", time.isValid() ? JsonText(time.toString(Qt::ISODateWithMs)) : JsonText::null()},
-        {"payment_text", service.paymentStateDescr()},
-        {"accepting", service.isAcceptingAllowed()},
-        {"reasons", JsonText::list(whyNotAccepting(service))},
-        {"devices", JsonText::list(service.deviceStates(), device)}};
+    const QList<AcceptorStateItem> devices = service.deviceStates();
+    for (const AcceptorStateItem& device : devices) {
+        json += std::exchange(before, ',');
+        append(json, device, (details++)->isOffline);
+    }
+    json += devices.isEmpty() ? "[]" : "]";
+    return json;
+}
+
+void StateWriter::append(QByteArray& json, const AcceptorStateItem& device, bool isOffline)
+{
+    json += "{\"device\":";
+    ::append(json, device.deviceId());
+    json += ",\"thread\":";
+    ::append(json, device.threadId());
+    json += model(device.deviceId());
+    json += device.enabled() ? ",\"enabled\":true" : ",\"enabled\":false";
+    json += state(device.state());
+    json += ",\"wrong\":";
+    ::append(json, deviceFaults(device, isOffline));
+    json += ",\"notes_inserted\":";
+    ::append(json, device.notesInserted());
+    json += ",\"notes_rejected\":";
+    ::append(json, device.notesRejected());
+    json += ",\"notes_returned\":";
+    ::append(json, device.notesReturned());
+    json += ",\"registry\":";
+    const QVariantMap registry = device.dispRegistry();
+    json += registry.isEmpty() ? QByteArrayLiteral("{}")
+                               : JsonText::of(QJsonObject::fromVariantMap(registry));
+    json += '}';
+}
+
+const QByteArray& StateWriter::model(int number)
+{
+    if (m_models.size() > mostRemembered)
+        m_models.clear();
+    QByteArray& known = m_models[number];
+    if (known.isNull()) {
+        const QString model = modelName(number);
+        const auto name = m_names.constFind(number);
+        known = ",\"name\":" + JsonText(name == m_names.constEnd() ? deviceName(number) : *name)
+            + ",\"model\":" + (model.isEmpty() ? JsonText::null() : JsonText(model))
+            + ",\"kind\":" + JsonText(kindName(number));
+    }
+    return known;
+}
+
+const QByteArray& StateWriter::state(const QString& name)
+{
+    if (m_states.size() > mostRemembered)
+        m_states.clear();
+    QByteArray& known = m_states[name];
+    if (known.isNull()) {
+        known = ",\"state\":" + JsonText(name)
+            + ",\"state_text\":" + JsonText(AcceptorState::stateDescr(name));
+    }
+    return known;
 }

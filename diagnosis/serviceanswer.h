@@ -6,6 +6,7 @@
 #include "acceptorstate.h"
 #include "jsontext.h"
 
+#include <QHash>
 #include <QMap>
 #include <QStringList>
 #include <QVariant>
@@ -53,6 +54,23 @@ QMap<int, QString> deviceNames(const AcceptorState& state, const QMap<int, QStri
 /// @param json a JSON object
 PublishedState readServiceState(const QString& json);
 
-/// "time" to "devices" of the state in JSON; docs/formats.md describes them.
-std::vector<JsonText::Member> jsonMembers(const PublishedState& state,
-                                          const QMap<int, QString>& names);
+/// Writes states as JSON; docs/formats.md describes it. It remembers words: the language must stay
+/// as long as it is used.
+class StateWriter
+{
+public:
+    /// @param names display names by device identifier, as deviceNames() takes them
+    explicit StateWriter(const QMap<int, QString>& names = {});
+
+    /// "time" to "devices" of the state, members of an object without its braces.
+    QByteArray members(const PublishedState& state);
+
+private:
+    void append(QByteArray& json, const AcceptorStateItem& device, bool isOffline);
+    const QByteArray& model(int number);
+    const QByteArray& state(const QString& name);
+
+    const QMap<int, QString> m_names;
+    QHash<int, QByteArray> m_models; // what is said of each
+    QHash<QString, QByteArray> m_states; // the same, of a state's name
+};

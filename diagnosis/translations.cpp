@@ -32,4 +32,5 @@ void loadTranslations(const QString& folder, const QStringList& own, const QStri
     }
     if (!anyLoaded && !language.isEmpty())
         throw Fault{Diagnosis::tr("no translations for language \"%1\"").arg(language)};
+    Diagnosis::keepLanguage();
 }

@@ -8,7 +8,8 @@
 
 /// Installs the translations of a program: those of the library, of what is diagnosed, and its own.
 /// English is loaded too: it has the plurals, and mends what is misspelt in the library. Throws
-/// Fault for a language that is asked for and that there is nothing of.
+/// Fault for a language that is asked for and that there is nothing of. The language stays from
+/// then on.
 /// @param folder where the .qm files are
 /// @param own the names of the program's own, without language; perhaps none
 /// @param language empty for the system's, or English where there is no translation for it

@@ -3,10 +3,16 @@
 
 #pragma once
 
-#include <QCoreApplication>
+#include <QString>
 
 /// The words of what is diagnosed, in the language that is shown: Diagnosis::tr("...").
 class Diagnosis
 {
-    Q_DECLARE_TR_FUNCTIONS(Diagnosis)
+public:
+    /// @param text a literal, or one of a constant table: remembered texts go by its address
+    static QString tr(const char* text, const char* disambiguation = nullptr, int n = -1);
+
+    /// Tells that the language stays as it is, for the rest of the program: texts without a number
+    /// are looked up once then.
+    static void keepLanguage();
 };

@@ -25,13 +25,11 @@ const QString devicesKey = QStringLiteral("devices");
 
 } // namespace
 
-KioskSummary::KioskSummary(const QString& kiosk, const PublishedState& state)
+KioskSummary::KioskSummary(const QString& kiosk, const PublishedState& state, StateWriter& writer)
     : time(timeOf(state.service.dt()))
     , isAccepting(state.service.isAcceptingAllowed())
 {
-    std::vector<JsonText::Member> members = jsonMembers(state, deviceNames(state.service, {}));
-    members.insert(members.begin(), {"kiosk", kiosk});
-    text = JsonText::object(members);
+    text = "{\"kiosk\":" + JsonText(kiosk) + ',' + writer.members(state) + '}';
     const QList<AcceptorStateItem> devices = state.service.deviceStates();
     for (const AcceptorStateItem& device : devices) {
         inserted += device.notesInserted();

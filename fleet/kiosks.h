@@ -19,7 +19,7 @@ class Metrics;
 struct KioskSummary
 {
     /// That of a state.
-    KioskSummary(const QString& kiosk, const PublishedState& state);
+    KioskSummary(const QString& kiosk, const PublishedState& state, StateWriter& writer);
 
     /// That of a kiosk of which nothing is heard: what its last summary says of its devices, not
     /// accepting, for the reason that is given.

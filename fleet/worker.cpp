@@ -125,7 +125,7 @@ void Worker::takeState(const QString& topic, const QByteArray& text)
     try {
         if (kiosk.isEmpty())
             throw Fault{Diagnosis::tr("the topic is of no kiosk")};
-        const KioskSummary summary(kiosk, readServiceState(decoded(text)));
+        const KioskSummary summary(kiosk, readServiceState(decoded(text)), m_writer);
         m_metrics.states.Increment();
         if (m_kiosks.take(kiosk, summary))
             publish(kiosk, summary);
@@ -145,7 +145,8 @@ void Worker::takeWill(const QString& kiosk)
 void Worker::tellSilent(const QString& kiosk, const QString& reason)
 {
     const Kiosks::Kiosk* const known = m_kiosks.find(kiosk);
-    const KioskSummary last = known ? known->newest : KioskSummary(kiosk, PublishedState());
+    const KioskSummary last =
+        known ? known->newest : KioskSummary(kiosk, PublishedState(), m_writer);
     const KioskSummary summary = KioskSummary::silent(last, kiosk, reason);
     if (m_kiosks.take(kiosk, summary))
         publish(kiosk, summary);

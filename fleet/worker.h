@@ -53,6 +53,7 @@ private:
     const WorkerOptions m_options;
     Metrics& m_metrics;
     Kiosks m_kiosks;
+    StateWriter m_writer;
     BrokerConnection m_summaries; // out to the broker, and those of the others in
     BrokerConnection m_states; // in; acknowledged by its write()
     Kiosks::Clock::time_point m_lastState = Kiosks::Clock::now();

@@ -16,9 +16,9 @@ git ls-files '*.qml' | xargs /usr/lib/qt5/bin/qmllint
 cmake --preset tidy
 checks=-clang-analyzer-*
 [ "${1:-}" != --deep ] || checks=
-run-clang-tidy -quiet -p build/tidy -checks="$checks" "$PWD/(src|platform|diagnosis|tools|quick|examples)/"
+run-clang-tidy -quiet -p build/tidy -checks="$checks" "$PWD/(src|platform|diagnosis|tools|quick|broker|fleet|examples)/"
 if [ "${1:-}" = --deep ]; then
-    git ls-files 'src/*.cpp' 'platform/*.cpp' 'diagnosis/*.cpp' 'tools/*.cpp' 'quick/*.cpp' \
+    git ls-files 'src/*.cpp' 'platform/*.cpp' 'diagnosis/*.cpp' 'tools/*.cpp' 'quick/*.cpp' 'broker/*.cpp' 'fleet/*.cpp' \
         | xargs -n 8 -P "$(nproc)" clazy-standalone -p build/tidy -checks=level1 2>&1 \
         | tee build/tidy/clazy.log
     ! grep -q 'Wclazy' build/tidy/clazy.log

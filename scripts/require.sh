@@ -20,6 +20,7 @@ require_packages()
 
 build_packages=(cmake g++ ninja-build qtbase5-dev libqt5serialport5-dev qttools5-dev
     qttools5-dev-tools zlib1g-dev dbus fonts-dejavu-core
+    libmosquitto-dev prometheus-cpp-dev
     qtdeclarative5-dev qtdeclarative5-dev-tools qml-module-qtquick2 qml-module-qtquick-controls2
     qml-module-qtquick-layouts qml-module-qtquick-window2 qml-module-qttest)
 qt6_packages=(qt6-base-dev qt6-base-dev-tools qt6-serialport-dev qt6-l10n-tools qt6-tools-dev

@@ -3,14 +3,15 @@
 # SPDX-License-Identifier: MIT
 
 # Installs what is missing and shows what scripts/test.sh does not: lint, all tests under the address,
-# undefined-behaviour and thread sanitizers, the page of explained logs in a browser, ABI, documentation,
+# undefined-behaviour and thread sanitizers, the page of explained logs in a browser, a fleet at a broker
+# whose members and broker die, ABI, documentation,
 # packages that are the same to the byte wherever they are built, and a few seconds of each fuzzer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
 
 require_packages "${build_packages[@]}" "${install_packages[@]}" clang libclang-rt-14-dev \
-    chromium chromium-driver python3
+    chromium chromium-driver python3 mosquitto python3-paho-mqtt
 scripts/lint.sh
 for preset in asan tsan; do
     cmake --preset "$preset"
@@ -18,6 +19,7 @@ for preset in asan tsan; do
     ctest --preset "$preset"
 done
 tests/check_page.py build/asan/bin/velmo samples
+tests/check_fleet.py build/asan/bin
 scripts/abi.sh
 scripts/docs.sh
 

@@ -20,7 +20,7 @@ foreach(row velmolib:src: diagnosis:diagnosis:-pluralonly velmo:tools/velmo:-plu
         endif()
         set(sources .)
         if(CMAKE_MATCH_1 STREQUAL diagnosis)
-            list(APPEND sources ../quick) # speaks with the same words
+            list(APPEND sources ../broker ../fleet ../quick) # speak with the same words
         endif()
         set(committed ${SOURCE_DIR}/${folder}/${CMAKE_MATCH_1}_${language}.ts)
         set(updated ${committed})

@@ -1001,5 +1001,93 @@
         <source>The device failed with your coin of %1 in it. Please call the staff.</source>
         <translation>Устройство отказало, монета %1 осталась в нём. Позовите сотрудника.</translation>
     </message>
+    <message>
+        <source>no translations for language &quot;%1&quot;</source>
+        <translation>нет переводов для языка «%1»</translation>
+    </message>
+    <message>
+        <source>session &quot;%1&quot;: cannot be used</source>
+        <translation>сеанс «%1»: использовать нельзя</translation>
+    </message>
+    <message>
+        <source>The broker refuses a subscription.</source>
+        <translation>Брокер отказал в подписке.</translation>
+    </message>
+    <message>
+        <source>Connected to %1:%2.</source>
+        <translation>Соединение с %1:%2 установлено.</translation>
+    </message>
+    <message>
+        <source>No connection to %1:%2 (%3); next attempt in %4 s.</source>
+        <translation>Нет соединения с %1:%2 (%3); следующая попытка через %4 с.</translation>
+    </message>
+    <message>
+        <source>broker &quot;%1&quot;: expected HOST or HOST:PORT</source>
+        <translation>брокер «%1»: ожидается HOST или HOST:PORT</translation>
+    </message>
+    <message>
+        <source>%1:1: expected USER:PASSWORD</source>
+        <translation>%1:1: ожидается USER:PASSWORD</translation>
+    </message>
+    <message>
+        <source>a client certificate and its key go together</source>
+        <translation>сертификат клиента и его ключ задаются вместе</translation>
+    </message>
+    <message>
+        <source>a client certificate needs the certificates to trust</source>
+        <translation>к сертификату клиента нужны сертификаты, которым доверять</translation>
+    </message>
+    <message>
+        <source>a broker needs libmosquitto: %1</source>
+        <translation>для брокера нужна libmosquitto: %1</translation>
+    </message>
+    <message>
+        <source>expected a kiosk&apos;s summary</source>
+        <translation>ожидается сводка терминала</translation>
+    </message>
+    <message>
+        <source>--%1: expected a number</source>
+        <translation>--%1: ожидается число</translation>
+    </message>
+    <message>
+        <source>--name and --group: expected a name without &quot;/&quot;</source>
+        <translation>--name и --group: ожидается имя без «/»</translation>
+    </message>
+    <message>
+        <source>unknown argument &quot;%1&quot;</source>
+        <translation>неизвестный аргумент «%1»</translation>
+    </message>
+    <message>
+        <source>metrics at &quot;%1&quot;: %2</source>
+        <translation>метрики по адресу «%1»: %2</translation>
+    </message>
+    <message>
+        <source>topic &quot;%1&quot;: expected one level that is + or %2</source>
+        <translation>тема «%1»: ожидается один уровень + или %2</translation>
+    </message>
+    <message>
+        <source>expected UTF-8</source>
+        <translation>ожидается UTF-8</translation>
+    </message>
+    <message>
+        <source>The kiosk has been silent for more than %1 s.</source>
+        <translation>Терминал молчит больше %1 с.</translation>
+    </message>
+    <message numerus="yes">
+        <source>the broker did not take %n summaries; their states are kept for the next start</source>
+        <translation>
+            <numerusform>брокер не принял %n сводку; её состояние сохранено до следующего запуска</numerusform>
+            <numerusform>брокер не принял %n сводки; их состояния сохранены до следующего запуска</numerusform>
+            <numerusform>брокер не принял %n сводок; их состояния сохранены до следующего запуска</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the topic is of no kiosk</source>
+        <translation>тема не относится ни к одному терминалу</translation>
+    </message>
+    <message>
+        <source>The kiosk is offline.</source>
+        <translation>Терминал не на связи.</translation>
+    </message>
 </context>
 </TS>

@@ -36,10 +36,6 @@
         <translation>неизвестный параметр %1 (самый похожий: %2)</translation>
     </message>
     <message>
-        <source>no translations for language &quot;%1&quot;</source>
-        <translation>нет перевода на язык &quot;%1&quot;</translation>
-    </message>
-    <message>
         <source>velmo %1 (library built %2)</source>
         <translation>velmo %1 (библиотека собрана %2)</translation>
     </message>

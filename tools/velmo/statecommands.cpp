@@ -117,10 +117,10 @@ int reportCommand(const Arguments& arguments)
     const bool isWatched = arguments.isSet(options::watch);
     if (isJson && isWatched)
         throw arguments.usageFault();
+    StateWriter writer(given);
     const auto toText = [&](const PublishedState& state) {
-        const QMap<int, QString> names = deviceNames(state.service, given);
-        return isJson ? JsonText::object(jsonMembers(state, names)) + '\n'
-                      : reportText(state.service, names);
+        return isJson ? '{' + writer.members(state) + "}\n"
+                      : reportText(state.service, deviceNames(state.service, given));
     };
     const QString fileName = arguments.operands().constFirst();
     const bool hasLines = isStateALine(fileName);
