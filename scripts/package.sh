@@ -5,6 +5,7 @@
 # Installs what is missing, builds the Debian packages in build/package, unpacks them into an empty
 # root and uses them from there. The packages of one commit are the same to the byte wherever and
 # whenever they are built.
+# Usage: package.sh [PRESET...]   (those alone, which are built and not used)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
@@ -22,10 +23,12 @@ flags()
 }
 # Nothing of an earlier build: Ninja does not notice another SOURCE_DATE_EPOCH.
 rm -rf build/package build/package-qt6
-for preset in package package-qt6; do
+presets=("$@")
+[ $# -gt 0 ] || presets=(package package-qt6)
+for preset in "${presets[@]}"; do
     CXXFLAGS="$(flags CXXFLAGS) $(flags CPPFLAGS)" LDFLAGS=$(flags LDFLAGS) cmake --preset $preset
     cmake --build --preset $preset
     (cd build/$preset && cpack -B "$OLDPWD/build/package")
 done
-tests/check_packages.sh . build/package
+[ $# -gt 0 ] || tests/check_packages.sh . build/package
 ls -l build/package/*.deb

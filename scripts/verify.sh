@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: 2026 velmolib maintainers
 # SPDX-License-Identifier: MIT
 
-# Installs what is missing and shows what scripts/test.sh does not: lint, all tests under the address,
-# undefined-behaviour and thread sanitizers, the page of explained logs in a browser, a fleet at a broker
-# whose members and broker die, ABI, documentation,
+# Installs what is missing and shows what scripts/test.sh does not: lint, all tests under the address and
+# undefined-behaviour sanitizers, those of the library and the tool under the thread sanitizer, the page
+# of explained logs in a browser, a fleet at a broker whose members and broker die, ABI, documentation,
 # packages that are the same to the byte wherever they are built, and a few seconds of each fuzzer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -30,9 +30,9 @@ again=$(mktemp -d)
 trap 'rm -rf "$again"' EXIT
 changed=$(git stash create) # nothing when all is committed
 git archive "${changed:-HEAD}" | tar -x -C "$again"
-(umask 077 && TZ=Asia/Tokyo "$again"/scripts/package.sh)
-for deb in build/package/*.deb; do
-    cmp "$deb" "$again/$deb"
+(umask 077 && TZ=Asia/Tokyo "$again"/scripts/package.sh package) # Qt 6 is built the same way
+for deb in "$again"/build/package/*.deb; do
+    cmp "$deb" "build/package/${deb##*/}"
 done
 
 scripts/fuzz.sh 3

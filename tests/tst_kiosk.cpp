@@ -10,6 +10,8 @@
 #include <QtQml>
 #include <QtQuick>
 
+#include <ctime>
+
 namespace {
 
 QDBusMessage callService(const QString& method)
@@ -220,11 +222,11 @@ private Q_SLOTS:
         for (int i = 0; i < FLOOD / 10; ++i)
             send(i);
         const qint64 before = residentPages();
-        QElapsedTimer time;
-        time.start();
+        const std::clock_t start = std::clock(); // whatever else the machine does
         for (int i = 0; i < FLOOD; ++i)
             send(i);
-        QVERIFY2(time.elapsed() < FLOOD * PATIENCE, qPrintable(QString::number(time.elapsed())));
+        const qint64 milliseconds = 1000 * qint64(std::clock() - start) / CLOCKS_PER_SEC;
+        QVERIFY2(milliseconds < FLOOD * PATIENCE, qPrintable(QString::number(milliseconds)));
         QCOMPARE(kiosk.state()->property("sessionSum").toInt(), 3 * (FLOOD - 1));
         QVERIFY2(residentPages() - before < 4096,
                  qPrintable(QString::number(residentPages() - before)));
