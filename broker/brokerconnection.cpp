@@ -21,6 +21,11 @@ constexpr int inFlight =
     1000; // messages without an acknowledgement, where the broker allows so many
 constexpr std::chrono::seconds longestPause{30};
 
+void warn(const QString& text)
+{
+    qCWarning(brokerLog, "%s", qUtf8Printable(text));
+}
+
 BrokerConnection* connectionOf(void* object)
 {
     return static_cast<BrokerConnection*>(object);
@@ -111,8 +116,7 @@ BrokerConnection::BrokerConnection(const BrokerOptions& options, const QString& 
         m_client, [](mosquitto*, void* self, int /*message*/, int /*count*/, const int* granted) {
             ++connectionOf(self)->m_events;
             if (granted[0] >= 128) {
-                qCWarning(brokerLog).noquote()
-                    << Diagnosis::tr("The broker refuses a subscription.");
+                warn(Diagnosis::tr("The broker refuses a subscription."));
             }
             connectionOf(self)->takeAnswer();
         });
@@ -163,8 +167,9 @@ void BrokerConnection::takeConnect(int reason)
 void BrokerConnection::takeAnswer()
 {
     if (--m_unanswered == 0 && !m_isReady) {
-        qCInfo(brokerLog).noquote()
-            << Diagnosis::tr("Connected to %1:%2.").arg(m_options.host).arg(m_options.port);
+        qCInfo(brokerLog, "%s",
+               qUtf8Printable(
+                   Diagnosis::tr("Connected to %1:%2.").arg(m_options.host).arg(m_options.port)));
         m_isReady = true;
     }
 }
@@ -178,12 +183,11 @@ void BrokerConnection::lose(const QString& why)
         return;
     const auto pause = std::chrono::duration_cast<std::chrono::seconds>(
         m_nextAttempt - std::chrono::steady_clock::now() + std::chrono::milliseconds(999));
-    qCWarning(brokerLog).noquote()
-        << Diagnosis::tr("No connection to %1:%2 (%3); next attempt in %4 s.")
-               .arg(m_options.host)
-               .arg(m_options.port)
-               .arg(why)
-               .arg(std::max<qint64>(0, pause.count()));
+    warn(Diagnosis::tr("No connection to %1:%2 (%3); next attempt in %4 s.")
+             .arg(m_options.host)
+             .arg(m_options.port)
+             .arg(why)
+             .arg(std::max<qint64>(0, pause.count())));
 }
 
 void BrokerConnection::subscribe(const QString& filter, int qos)

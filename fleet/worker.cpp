@@ -85,10 +85,11 @@ void Worker::finishSummaries(const std::atomic<bool>& isStopped)
     const auto latest = Kiosks::Clock::now() + seconds(5);
     m_summaries.write();
     while (m_summaries.unacknowledged() > 0) {
-        if (isStopped && Kiosks::Clock::now() > latest)
+        if (isStopped && Kiosks::Clock::now() > latest) {
             throw Fault{Diagnosis::tr("the broker did not take %n summaries; their states are kept "
                                       "for the next start",
                                       nullptr, m_summaries.unacknowledged())};
+        }
         BrokerConnection::wait({&m_summaries}, milliseconds(200));
         m_summaries.read(batch);
         m_summaries.write();
@@ -133,7 +134,7 @@ void Worker::takeState(const QString& topic, const QByteArray& text)
             m_metrics.outdated.Increment();
     } catch (const Fault& fault) {
         m_metrics.faults.Increment();
-        qCWarning(fleetLog).noquote() << QStringLiteral("%1: %2").arg(topic, fault.message);
+        qCWarning(fleetLog, "%s: %s", qUtf8Printable(topic), qUtf8Printable(fault.message));
     }
 }
 
@@ -170,7 +171,7 @@ void Worker::takeSummary(const QString& topic, const QByteArray& text)
         }
     } catch (const Fault& fault) {
         m_metrics.faults.Increment();
-        qCWarning(fleetLog).noquote() << QStringLiteral("%1: %2").arg(topic, fault.message);
+        qCWarning(fleetLog, "%s: %s", qUtf8Printable(topic), qUtf8Printable(fault.message));
     }
 }
 

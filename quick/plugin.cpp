@@ -1,24 +1,14 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
-#include <QQmlEngineExtensionPlugin>
+#include "plugin.h"
 
 // Made by qmltyperegistrar; whoever loads the plugin wants the types.
 void qml_register_types_Velmolib();
 
-/// The QML module Velmolib.
-class VelmolibPlugin : public QQmlEngineExtensionPlugin
+VelmolibPlugin::VelmolibPlugin(QObject* parent)
+    : QQmlEngineExtensionPlugin(parent)
 {
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID QQmlEngineExtensionInterface_iid)
-
-public:
-    explicit VelmolibPlugin(QObject* parent = nullptr)
-        : QQmlEngineExtensionPlugin(parent)
-    {
-        volatile auto registration = &qml_register_types_Velmolib;
-        Q_UNUSED(registration)
-    }
-};
-
-#include "plugin.moc"
+    volatile auto registration = &qml_register_types_Velmolib;
+    Q_UNUSED(registration)
+}
