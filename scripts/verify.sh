@@ -19,7 +19,9 @@ for preset in asan tsan; do
     ctest --preset "$preset"
 done
 tests/check_page.py build/asan/bin/velmo samples
-tests/check_fleet.py build/asan/bin
+cmake --preset release
+cmake --build --preset release --target velmo velmo-fleet velmolib_translations
+tests/check_fleet.py build/release/bin
 scripts/abi.sh
 scripts/docs.sh
 
