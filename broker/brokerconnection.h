@@ -17,7 +17,8 @@
 struct mosquitto;
 
 /// A connection to a broker, MQTT 5, that comes back by itself: the pauses between attempts grow
-/// from one second to thirty. It runs on the caller's thread, in work(), and belongs to it.
+/// from one second to thirty. It runs on the caller's thread, in read() and write(), and belongs to
+/// it.
 class BrokerConnection
 {
 public:
@@ -34,7 +35,7 @@ public:
     BrokerConnection(const BrokerConnection&) = delete;
     BrokerConnection& operator=(const BrokerConnection&) = delete;
 
-    /// Subscribes now, or once it is connected, and again after every loss of the session.
+    /// Subscribes now, or once it is connected, and again after every loss of the connection.
     /// @param qos 0, or 1 for messages that are given again until they are acknowledged
     void subscribe(const QString& filter, int qos);
     void unsubscribe(const QString& filter);

@@ -8,6 +8,17 @@
 #include "devicestatesconst.h"
 #include "words.h"
 
+namespace {
+
+// Whether a device that works and takes money does so at this moment.
+bool isOpen(const AcceptorStateItem& device)
+{
+    return moneyOf(device.deviceId()) == Money::Card
+        || device.state() == deviceStatesConst::DS_IDLING;
+}
+
+} // namespace
+
 Money moneyOf(int model)
 {
     const int kind = modelKind(model);
@@ -22,17 +33,15 @@ Money moneyOf(int model)
 
 bool isWorking(const AcceptorStateItem& device, bool isOffline)
 {
-    return device.enabled() && !isOffline && !device.halt() && !device.errorCritical()
-        && device.stackerPresent() && !device.stackerFull()
-        && device.state() != deviceStatesConst::DS_JAMMED
-        && device.state() != deviceStatesConst::DS_ERROR;
+    return device.state() != deviceStatesConst::DS_JAMMED
+        && device.state() != deviceStatesConst::DS_ERROR
+        && deviceFaults(device, isOffline).isEmpty();
 }
 
 bool takesMoney(const AcceptorStateItem& device, bool isOffline)
 {
-    const Money money = moneyOf(device.deviceId());
-    return money != Money::None && isWorking(device, isOffline)
-        && (money == Money::Card || device.state() == deviceStatesConst::DS_IDLING);
+    return moneyOf(device.deviceId()) != Money::None && isWorking(device, isOffline)
+        && isOpen(device);
 }
 
 CustomerAnswer::CustomerAnswer(const PublishedState& state)
@@ -51,7 +60,7 @@ CustomerAnswer::CustomerAnswer(const PublishedState& state)
             hasTerminal = true;
         else
             cash += device;
-        isBusy = isBusy || !takesMoney(device, isOffline);
+        isBusy = isBusy || !isOpen(device);
         note = note || money == Money::Note;
         coin = coin || money == Money::Coin;
     }

@@ -6,6 +6,8 @@
 #include "jsonwriter_p.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 
 JsonText::JsonText(const QString& text)
 {
@@ -29,6 +31,13 @@ void JsonText::appendTo(QByteArray& json, const QString& text)
     JsonWriter writer;
     writer.write(text);
     json += writer.text().toUtf8();
+}
+
+void JsonText::appendTo(QByteArray& json, qint64 number)
+{
+    std::array<char, 20> digits{};
+    const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    json.append(digits.data(), int(end - digits.data()));
 }
 
 JsonText JsonText::null()

@@ -27,7 +27,7 @@ public:
         if constexpr (std::is_same_v<Number, bool>)
             append(number ? "true" : "false");
         else
-            setNum(qint64(number));
+            appendTo(*this, qint64(number));
     }
 
     static JsonText of(const QJsonValue& value)
@@ -38,8 +38,9 @@ public:
 
     static JsonText null();
 
-    /// Appends a text as JSON.
+    /// Appends a text or a number as JSON.
     static void appendTo(QByteArray& json, const QString& text);
+    static void appendTo(QByteArray& json, qint64 number);
 
     static JsonText object(const std::vector<Member>& members);
 
@@ -47,10 +48,14 @@ public:
     template <typename List, typename ToText>
     static JsonText list(const List& elements, ToText toText)
     {
-        QByteArray text;
-        for (const auto& element : elements)
-            text += (text.isEmpty() ? "" : ",") + toText(element);
-        return JsonText('[' + text + ']');
+        QByteArray text("[");
+        for (const auto& element : elements) {
+            if (text.size() > 1)
+                text += ',';
+            text += toText(element);
+        }
+        text += ']';
+        return JsonText(text);
     }
 
     template <typename List>

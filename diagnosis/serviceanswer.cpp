@@ -13,8 +13,6 @@
 #include <QJsonObject>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <numeric>
 #include <utility>
 
@@ -42,25 +40,6 @@ bool isValidator(const AcceptorStateItem& device)
 
 // Beyond so many different ones, texts that come from outside are not remembered.
 constexpr int mostRemembered = 1000;
-
-void append(QByteArray& json, qint64 number)
-{
-    std::array<char, 20> digits{};
-    const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    json.append(digits.data(), int(end - digits.data()));
-}
-
-void append(QByteArray& json, const QStringList& texts)
-{
-    json += '[';
-    bool isFirst = true;
-    for (const QString& text : texts) {
-        if (!std::exchange(isFirst, false))
-            json += ',';
-        JsonText::appendTo(json, text);
-    }
-    json += ']';
-}
 
 // As Qt::ISODateWithMs has it, in a tenth of the time.
 void append(QByteArray& json, const QDateTime& time)
@@ -223,7 +202,7 @@ QByteArray StateWriter::members(const PublishedState& state)
     JsonText::appendTo(json, service.paymentStateDescr());
     json += service.isAcceptingAllowed() ? ",\"accepting\":true" : ",\"accepting\":false";
     json += ",\"reasons\":";
-    ::append(json, whyNotAccepting(service));
+    json += JsonText::list(whyNotAccepting(service));
     json += ",\"devices\":";
     char before = '[';
     auto details = state.details.begin();
@@ -239,20 +218,20 @@ QByteArray StateWriter::members(const PublishedState& state)
 void StateWriter::append(QByteArray& json, const AcceptorStateItem& device, bool isOffline)
 {
     json += "{\"device\":";
-    ::append(json, device.deviceId());
+    JsonText::appendTo(json, qint64(device.deviceId()));
     json += ",\"thread\":";
-    ::append(json, device.threadId());
+    JsonText::appendTo(json, qint64(device.threadId()));
     json += model(device.deviceId());
     json += device.enabled() ? ",\"enabled\":true" : ",\"enabled\":false";
     json += state(device.state());
     json += ",\"wrong\":";
-    ::append(json, deviceFaults(device, isOffline));
+    json += JsonText::list(deviceFaults(device, isOffline));
     json += ",\"notes_inserted\":";
-    ::append(json, device.notesInserted());
+    JsonText::appendTo(json, qint64(device.notesInserted()));
     json += ",\"notes_rejected\":";
-    ::append(json, device.notesRejected());
+    JsonText::appendTo(json, qint64(device.notesRejected()));
     json += ",\"notes_returned\":";
-    ::append(json, device.notesReturned());
+    JsonText::appendTo(json, qint64(device.notesReturned()));
     json += ",\"registry\":";
     const QVariantMap registry = device.dispRegistry();
     json += registry.isEmpty() ? QByteArrayLiteral("{}")

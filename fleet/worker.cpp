@@ -103,12 +103,11 @@ bool Worker::hasRetired()
         m_lastState = Kiosks::Clock::now();
         return false;
     }
-    static bool isUnsubscribed = false;
-    if (!isUnsubscribed) {
+    if (!m_isUnsubscribed) {
         m_states.unsubscribe(shared(m_options, m_options.states));
         m_states.unsubscribe(shared(m_options, m_options.wills));
         m_states.write();
-        isUnsubscribed = true;
+        m_isUnsubscribed = true;
     }
     return m_states.isSubscribed() && Kiosks::Clock::now() - m_lastState > retiringPause;
 }
@@ -119,7 +118,7 @@ void Worker::takeState(const QString& topic, const QByteArray& text)
     const QString gone = m_options.wills.kioskOf(topic);
     if (!gone.isEmpty()) {
         if (!text.isEmpty()) // which ends a retained one
-            takeWill(gone);
+            tellSilent(gone, Diagnosis::tr("The kiosk is offline."));
         return;
     }
     const QString kiosk = m_options.states.kioskOf(topic);
@@ -136,11 +135,6 @@ void Worker::takeState(const QString& topic, const QByteArray& text)
         m_metrics.faults.Increment();
         qCWarning(fleetLog, "%s: %s", qUtf8Printable(topic), qUtf8Printable(fault.message));
     }
-}
-
-void Worker::takeWill(const QString& kiosk)
-{
-    tellSilent(kiosk, Diagnosis::tr("The kiosk is offline."));
 }
 
 void Worker::tellSilent(const QString& kiosk, const QString& reason)

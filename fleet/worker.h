@@ -43,7 +43,6 @@ public:
 
 private:
     void takeState(const QString& topic, const QByteArray& text);
-    void takeWill(const QString& kiosk);
     void takeSummary(const QString& topic, const QByteArray& text);
     void tellSilent(const QString& kiosk, const QString& reason);
     void publish(const QString& kiosk, const KioskSummary& summary);
@@ -57,4 +56,5 @@ private:
     BrokerConnection m_summaries; // out to the broker, and those of the others in
     BrokerConnection m_states; // in; acknowledged by its write()
     Kiosks::Clock::time_point m_lastState = Kiosks::Clock::now();
+    bool m_isUnsubscribed = false; // of one that retires
 };

@@ -139,11 +139,12 @@ QMap<int, QString> ServiceState::displayNames() const
 void ServiceState::show()
 {
     const CustomerAnswer customer(m_state);
+    const QMap<int, QString> names = displayNames();
     Shown shown;
     shown.sessionSum = m_sessionSum;
     shown.lastNoteText = m_lastNote.text();
     shown.lastNoteOutcome = NoteOutcome(m_lastNote.outcome());
-    shown.report = m_state.service.systemStatusDescr(displayNames());
+    shown.report = m_state.service.systemStatusDescr(names);
     shown.fault = m_fault;
     if (!m_available) {
         shown.paymentText = shown.customerText = outOfServiceText();
@@ -160,7 +161,7 @@ void ServiceState::show()
         shown.cardAccepted = customer.card;
         shown.inService = customer.inService;
     }
-    showDevices();
+    showDevices(names);
 
     const Shown before = std::exchange(m_shown, shown);
     const auto tell = [&](auto field, void (ServiceState::*changed)()) {
@@ -182,9 +183,8 @@ void ServiceState::show()
     tell(&Shown::fault, &ServiceState::faultChanged);
 }
 
-void ServiceState::showDevices()
+void ServiceState::showDevices(const QMap<int, QString>& names)
 {
-    const QMap<int, QString> names = displayNames();
     QVector<RowModel::Row> rows;
     QHash<QString, int> seen;
     QHash<QString, RowModel*> gone = m_registries;

@@ -164,7 +164,7 @@ private:
 
     void read();
     void show();
-    void showDevices();
+    void showDevices(const QMap<int, QString>& names);
     QVariant registryOf(const QString& key, const AcceptorStateItem& device);
     QMap<int, QString> displayNames() const;
 

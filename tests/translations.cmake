@@ -4,37 +4,36 @@
 # Checks that the translations cover the texts of the source tree, no more and no less. Without a
 # WORK_DIR it takes the texts into the files that are translated.
 
-# The library's English mends misspelt texts, which are part of its interface; other English only
-# has plurals. The example's screen needs none.
-foreach(row velmolib:src: diagnosis:diagnosis:-pluralonly velmo:tools/velmo:-pluralonly
-        kiosk:examples/kiosk/screen:)
+# A catalogue, the folder that it stands in, those whose texts it has, and what its English has: the
+# library's mends misspelt texts, which are part of its interface; other English only has plurals, and
+# the example's screen needs none.
+foreach(row velmolib:translations:src:all
+        diagnosis:translations:diagnosis,broker,fleet,quick:plurals
+        velmo:translations:tools/velmo:plurals
+        kiosk:examples/kiosk/screen:examples/kiosk/screen:none)
+    string(REGEX MATCH "(.*):(.*):(.*):(.*)" row ${row})
+    set(name ${CMAKE_MATCH_1})
+    set(folder ${CMAKE_MATCH_2})
+    string(REPLACE "," ";" sources ${CMAKE_MATCH_3})
+    set(english ${CMAKE_MATCH_4})
     foreach(locale en_US ru_RU)
         string(REGEX MATCH "^.." language ${locale})
-        string(REGEX MATCH "(.*):(.*):(.*)" row ${row})
-        set(folder translations)
-        if(CMAKE_MATCH_1 STREQUAL kiosk)
-            set(folder ${CMAKE_MATCH_2})
-            if(language STREQUAL en)
-                continue()
-            endif()
+        if(language STREQUAL en AND english STREQUAL none)
+            continue()
         endif()
-        set(sources .)
-        if(CMAKE_MATCH_1 STREQUAL diagnosis)
-            list(APPEND sources ../broker ../fleet ../quick) # speak with the same words
-        endif()
-        set(committed ${SOURCE_DIR}/${folder}/${CMAKE_MATCH_1}_${language}.ts)
+        set(committed ${SOURCE_DIR}/${folder}/${name}_${language}.ts)
         set(updated ${committed})
         if(WORK_DIR)
-            set(updated ${WORK_DIR}/${CMAKE_MATCH_1}_${language}.ts)
+            set(updated ${WORK_DIR}/${name}_${language}.ts)
             file(COPY_FILE ${committed} ${updated})
         endif()
         set(which)
-        if(language STREQUAL en)
-            set(which ${CMAKE_MATCH_3})
+        if(language STREQUAL en AND english STREQUAL plurals)
+            set(which -pluralonly)
         endif()
         execute_process(COMMAND ${LUPDATE} -silent -locations none -no-obsolete -source-language en
             -target-language ${locale} ${which} ${sources} -ts ${updated}
-            WORKING_DIRECTORY ${SOURCE_DIR}/${CMAKE_MATCH_2} COMMAND_ERROR_IS_FATAL ANY)
+            WORKING_DIRECTORY ${SOURCE_DIR} COMMAND_ERROR_IS_FATAL ANY)
         file(READ ${updated} text)
         file(READ ${committed} committed_text)
         if(WORK_DIR AND (NOT text STREQUAL committed_text OR text MATCHES "unfinished|vanished"))
