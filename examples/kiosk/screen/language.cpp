@@ -4,8 +4,10 @@
 #include "language.h"
 
 #include <QCoreApplication>
+#include <QStandardPaths>
 #include <QStringList>
 
+#include <algorithm>
 #include <cstdio>
 
 Language::Language(const QString& language, QObject* parent)
@@ -24,21 +26,28 @@ void Language::setCurrent(const QString& language)
     Q_EMIT currentChanged();
 }
 
-// The translations of the library, of its module and of the screen itself, which stand beside the
-// program in the build folder and when installed.
+// The translations of the library, of its module and of the screen itself: from beside the program,
+// and those of an installed velmolib from where the system keeps shared data.
 void Language::load()
 {
     m_translators.clear();
-    const QString folder =
-        QCoreApplication::applicationDirPath() + QStringLiteral("/../" TRANSLATIONS);
+    const QStringList folders =
+        QStringList{QCoreApplication::applicationDirPath() + QStringLiteral("/../share/")
+                    + QStringLiteral(TRANSLATIONS)}
+        + QStandardPaths::locateAll(QStandardPaths::GenericDataLocation,
+                                    QStringLiteral(TRANSLATIONS), QStandardPaths::LocateDirectory);
     QStringList components{QStringLiteral("velmolib"), QStringLiteral("diagnosis")};
     if (m_current != QLatin1String("en")) // which the screen's sources are in
         components += QStringLiteral("kiosk");
     for (const QString& component : std::as_const(components)) {
         const QString name = component + QLatin1Char('_') + m_current;
         auto translator = std::make_unique<QTranslator>();
-        if (!translator->load(name, folder))
-            fprintf(stderr, "kioskscreen: no %s.qm in %s\n", qPrintable(name), qPrintable(folder));
+        const bool isLoaded =
+            std::any_of(folders.begin(), folders.end(),
+                        [&](const QString& folder) { return translator->load(name, folder); });
+        if (!isLoaded)
+            fprintf(stderr, "kioskscreen: no %s.qm in %s\n", qPrintable(name),
+                    qPrintable(folders.join(QStringLiteral(", "))));
         else if (QCoreApplication::installTranslator(translator.get()))
             m_translators.push_back(std::move(translator));
     }
