@@ -45,10 +45,11 @@ void Language::load()
         const bool isLoaded =
             std::any_of(folders.begin(), folders.end(),
                         [&](const QString& folder) { return translator->load(name, folder); });
-        if (!isLoaded)
+        if (!isLoaded) {
             fprintf(stderr, "kioskscreen: no %s.qm in %s\n", qPrintable(name),
                     qPrintable(folders.join(QStringLiteral(", "))));
-        else if (QCoreApplication::installTranslator(translator.get()))
+        } else if (QCoreApplication::installTranslator(translator.get())) {
             m_translators.push_back(std::move(translator));
+        }
     }
 }
