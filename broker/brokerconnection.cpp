@@ -106,7 +106,8 @@ BrokerConnection::BrokerConnection(const BrokerOptions& options, const QString& 
             ++connectionOf(self)->m_events;
             connectionOf(self)->m_receive(
                 QString::fromUtf8(message->topic),
-                QByteArray(static_cast<const char*>(message->payload), message->payloadlen));
+                QByteArray(static_cast<const char*>(message->payload), message->payloadlen),
+                message->retain);
         });
     library.publish_callback_set(m_client, [](mosquitto*, void* self, int /*message*/) {
         ++connectionOf(self)->m_events;
@@ -116,7 +117,8 @@ BrokerConnection::BrokerConnection(const BrokerOptions& options, const QString& 
         m_client, [](mosquitto*, void* self, int /*message*/, int /*count*/, const int* granted) {
             ++connectionOf(self)->m_events;
             if (granted[0] >= 128) {
-                warn(Diagnosis::tr("The broker refuses a subscription."));
+                connectionOf(self)->m_fault = Diagnosis::tr("The broker refuses a subscription.");
+                warn(connectionOf(self)->m_fault);
             }
             connectionOf(self)->takeAnswer();
         });
@@ -155,6 +157,7 @@ void BrokerConnection::takeConnect(int reason)
         return;
     }
     m_isConnected = true;
+    m_fault.clear();
     m_pause = std::chrono::seconds(0);
     m_unanswered = 1; // this one
     // A broker that kept the session has the subscriptions; to repeat them brings what is retained.
@@ -183,10 +186,12 @@ void BrokerConnection::lose(const QString& why)
         return;
     const auto pause = std::chrono::duration_cast<std::chrono::seconds>(
         m_nextAttempt - std::chrono::steady_clock::now() + std::chrono::milliseconds(999));
-    warn(Diagnosis::tr("No connection to %1:%2 (%3); next attempt in %4 s.")
-             .arg(m_options.host)
-             .arg(m_options.port)
-             .arg(why)
+    m_fault = Diagnosis::tr("No connection to %1:%2 (%3)")
+                  .arg(m_options.host)
+                  .arg(m_options.port)
+                  .arg(why);
+    warn(Diagnosis::tr("%1; next attempt in %2 s.")
+             .arg(m_fault)
              .arg(std::max<qint64>(0, pause.count())));
 }
 

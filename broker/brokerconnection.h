@@ -22,7 +22,9 @@ struct mosquitto;
 class BrokerConnection
 {
 public:
-    using Receiver = std::function<void(const QString& topic, const QByteArray& payload)>;
+    /// @param isRetained whether the broker had kept it from before the subscription
+    using Receiver =
+        std::function<void(const QString& topic, const QByteArray& payload, bool isRetained)>;
 
     /// @param session the name that the broker knows the session by; empty for one that ends with
     /// the connection
@@ -44,6 +46,10 @@ public:
     void publish(const QString& topic, const QByteArray& payload);
 
     bool isConnected() const { return m_isConnected; }
+
+    /// Why there is no connection or subscription, in words; empty when there is one, or has not
+    /// been one yet.
+    const QString& fault() const { return m_fault; }
 
     /// How many published messages the broker has not acknowledged.
     int unacknowledged() const { return m_unacknowledged; }
@@ -78,6 +84,7 @@ private:
     const quint32 m_expiry;
     const Receiver m_receive;
     mosquitto* m_client;
+    QString m_fault;
     bool m_isOpen = false; // the socket, perhaps before the broker has answered
     bool m_isConnected = false;
     bool m_isEnding = false;

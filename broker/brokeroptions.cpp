@@ -9,6 +9,22 @@
 #include <QFile>
 #include <QRegularExpression>
 
+void BrokerOptions::take(const QString& broker, const QString& passwordFile, const QString& tlsCa,
+                         const QString& tlsCert, const QString& tlsKey)
+{
+    if (!broker.isEmpty())
+        setAddress(broker);
+    if (!passwordFile.isEmpty())
+        readPassword(passwordFile);
+    caFile = tlsCa;
+    certificateFile = tlsCert;
+    keyFile = tlsKey;
+    if (certificateFile.isEmpty() != keyFile.isEmpty())
+        throw Fault{Diagnosis::tr("a client certificate and its key go together")};
+    if (!certificateFile.isEmpty() && caFile.isEmpty())
+        throw Fault{Diagnosis::tr("a client certificate needs the certificates to trust")};
+}
+
 void BrokerOptions::setAddress(const QString& address)
 {
     static const QRegularExpression pattern(
@@ -32,12 +48,4 @@ void BrokerOptions::readPassword(const QString& fileName)
         throw Fault{Diagnosis::tr("%1:1: expected USER:PASSWORD").arg(fileName)};
     user = line.left(colon);
     password = line.mid(colon + 1);
-}
-
-void BrokerOptions::check() const
-{
-    if (certificateFile.isEmpty() != keyFile.isEmpty())
-        throw Fault{Diagnosis::tr("a client certificate and its key go together")};
-    if (!certificateFile.isEmpty() && caFile.isEmpty())
-        throw Fault{Diagnosis::tr("a client certificate needs the certificates to trust")};
 }

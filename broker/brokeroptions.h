@@ -16,14 +16,16 @@ struct BrokerOptions
     QString certificateFile; ///< the client's own, PEM; empty without one
     QString keyFile;
 
-    /// Takes "HOST" or "HOST:PORT", IPv6 addresses in brackets. Throws Fault for anything else.
+    /// Takes what a program's options of these names say; empty for one that is not given.
+    /// @param broker "HOST" or "HOST:PORT", IPv6 addresses in brackets
+    /// @param passwordFile has "USER:PASSWORD" on its first line
+    ///
+    /// Throws Fault for an address that is none, for a file without a password, and for a
+    /// certificate that lacks its counterpart.
+    void take(const QString& broker, const QString& passwordFile, const QString& tlsCa,
+              const QString& tlsCert, const QString& tlsKey);
+
+private:
     void setAddress(const QString& address);
-
-    /// Takes the user and the password from a file with "USER:PASSWORD" on its first line. Throws
-    /// Fault, which names the file, when it has none.
     void readPassword(const QString& fileName);
-
-    /// Whether client certificate, key and trusted certificates are given as they must be. Throws
-    /// Fault for what lacks its counterpart.
-    void check() const;
 };

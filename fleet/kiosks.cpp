@@ -3,76 +3,7 @@
 
 #include "kiosks.h"
 
-#include "customeranswer.h"
-#include "fault.h"
 #include "metrics.h"
-#include "words.h"
-
-#include <QDateTime>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
-namespace {
-
-qint64 timeOf(const QDateTime& time)
-{
-    return time.isValid() ? time.toMSecsSinceEpoch() : KioskSummary::noTime;
-}
-
-const QString silentKey = QStringLiteral("silent");
-const QString devicesKey = QStringLiteral("devices");
-
-} // namespace
-
-KioskSummary::KioskSummary(const QString& kiosk, const PublishedState& state, StateWriter& writer)
-    : time(timeOf(state.service.dt()))
-    , isAccepting(state.service.isAcceptingAllowed())
-{
-    text = "{\"kiosk\":" + JsonText(kiosk) + ',' + writer.members(state) + '}';
-    const QList<AcceptorStateItem> devices = state.service.deviceStates();
-    for (const AcceptorStateItem& device : devices) {
-        inserted += device.notesInserted();
-        rejected += device.notesRejected();
-        returned += device.notesReturned();
-    }
-}
-
-KioskSummary KioskSummary::silent(const KioskSummary& last, const QString& kiosk,
-                                  const QString& reason)
-{
-    const QJsonObject before = QJsonDocument::fromJson(last.text).object();
-    KioskSummary summary = last;
-    summary.isSilent = true;
-    summary.isAccepting = false;
-    summary.text = JsonText::object({{"kiosk", kiosk},
-                                     {"time", JsonText::of(before.value(QLatin1String("time")))},
-                                     {"payment_text", outOfServiceText()},
-                                     {"accepting", false},
-                                     {"reasons", JsonText::list(QStringList{reason})},
-                                     {"devices", JsonText::of(before.value(devicesKey))},
-                                     {"silent", true}});
-    return summary;
-}
-
-KioskSummary::KioskSummary(const QByteArray& json)
-    : text(json)
-{
-    const QJsonDocument document = QJsonDocument::fromJson(json);
-    const QJsonObject object = document.object();
-    if (!object.contains(QLatin1String("kiosk")) || !object.value(devicesKey).isArray())
-        throw Fault{Diagnosis::tr("expected a kiosk's summary")};
-    time = timeOf(
-        QDateTime::fromString(object.value(QLatin1String("time")).toString(), Qt::ISODateWithMs));
-    isSilent = object.value(silentKey).toBool();
-    isAccepting = object.value(QLatin1String("accepting")).toBool();
-    const QJsonArray devices = object.value(devicesKey).toArray();
-    for (const QJsonValue& device : devices) {
-        inserted += device[QLatin1String("notes_inserted")].toInt();
-        rejected += device[QLatin1String("notes_rejected")].toInt();
-        returned += device[QLatin1String("notes_returned")].toInt();
-    }
-}
 
 Kiosks::Kiosks(Metrics& metrics)
     : m_metrics(metrics)
@@ -92,7 +23,7 @@ bool Kiosks::take(const QString& kiosk, const KioskSummary& summary)
         return false;
     count(known->newest, -1);
     count(summary, 1);
-    if (!summary.isSilent)
+    if (summary.condition != KioskSummary::Silent)
         known->heardOf = Clock::now();
     known->newest = summary;
     return true;
@@ -101,8 +32,17 @@ bool Kiosks::take(const QString& kiosk, const KioskSummary& summary)
 void Kiosks::hear(const QString& kiosk)
 {
     const auto known = m_kiosks.find(kiosk);
-    if (known != m_kiosks.end() && !known->newest.isSilent)
+    if (known != m_kiosks.end() && known->newest.condition != KioskSummary::Silent)
         known->heardOf = Clock::now();
+}
+
+void Kiosks::forget(const QString& kiosk)
+{
+    const auto known = m_kiosks.find(kiosk);
+    if (known == m_kiosks.end())
+        return;
+    count(known->newest, -1);
+    m_kiosks.erase(known);
 }
 
 const Kiosks::Kiosk* Kiosks::find(const QString& kiosk) const
@@ -116,7 +56,7 @@ std::vector<QString> Kiosks::silentFor(std::chrono::seconds time) const
     const Clock::time_point latest = Clock::now() - time;
     std::vector<QString> silent;
     for (auto kiosk = m_kiosks.begin(); kiosk != m_kiosks.end(); ++kiosk) {
-        if (!kiosk->newest.isSilent && kiosk->heardOf < latest)
+        if (kiosk->newest.condition != KioskSummary::Silent && kiosk->heardOf < latest)
             silent.push_back(kiosk.key());
     }
     return silent;
@@ -124,10 +64,7 @@ std::vector<QString> Kiosks::silentFor(std::chrono::seconds time) const
 
 void Kiosks::count(const KioskSummary& summary, int sign)
 {
-    prometheus::Gauge& condition = summary.isSilent ? m_metrics.silent
-        : summary.isAccepting                       ? m_metrics.accepting
-                                                    : m_metrics.notAccepting;
-    condition.Increment(sign);
+    m_metrics.kiosks(summary.condition).Increment(sign);
     m_metrics.inserted.Increment(double(sign * summary.inserted));
     m_metrics.rejected.Increment(double(sign * summary.rejected));
     m_metrics.returned.Increment(double(sign * summary.returned));

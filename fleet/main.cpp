@@ -16,7 +16,7 @@
 
 namespace {
 
-std::atomic<bool> isStopped{false};
+std::atomic<bool> stopAsked{false};
 
 struct Options
 {
@@ -92,13 +92,9 @@ WorkerOptions workerOptions(const QCommandLineParser& parser, const Options& opt
                          KioskTopic(parser.value(options.wills)),
                          std::chrono::seconds(numberOf(parser, options.silent)),
                          parser.isSet(options.retire)};
-    worker.broker.setAddress(parser.value(options.broker));
-    worker.broker.caFile = parser.value(options.ca);
-    worker.broker.certificateFile = parser.value(options.certificate);
-    worker.broker.keyFile = parser.value(options.key);
-    worker.broker.check();
-    if (parser.isSet(options.password))
-        worker.broker.readPassword(parser.value(options.password));
+    worker.broker.take(parser.value(options.broker), parser.value(options.password),
+                       parser.value(options.ca), parser.value(options.certificate),
+                       parser.value(options.key));
     if (worker.name.isEmpty() || worker.group.isEmpty() || worker.group.contains(QLatin1Char('/')))
         throw Fault{Diagnosis::tr("--name and --group: expected a name without \"/\"")};
     return worker;
@@ -110,7 +106,7 @@ void run(const QCommandLineParser& parser, const Options& options)
                      {}, parser.value(options.language));
     Metrics metrics(parser.value(options.metrics));
     Worker worker(workerOptions(parser, options), metrics);
-    worker.run(isStopped);
+    worker.run(stopAsked);
 }
 
 } // namespace
@@ -131,7 +127,7 @@ int main(int argc, char* argv[])
                        options.password, options.ca, options.certificate, options.key,
                        options.language, options.retire});
     parser.process(application);
-    const auto stop = [](int) { isStopped = true; };
+    const auto stop = [](int) { stopAsked = true; };
     std::signal(SIGTERM, stop);
     std::signal(SIGINT, stop);
     try {

@@ -33,9 +33,6 @@ Metrics::Metrics(const QString& address)
     , outdated(m_messages.Add({{"kind", "outdated"}}))
     , summaries(m_messages.Add({{"kind", "summary"}}))
     , corrections(m_messages.Add({{"kind", "correction"}}))
-    , accepting(m_kiosks.Add({{"condition", "accepting"}}))
-    , notAccepting(m_kiosks.Add({{"condition", "not_accepting"}}))
-    , silent(m_kiosks.Add({{"condition", "silent"}}))
     , inserted(m_notes.Add({{"outcome", "inserted"}}))
     , rejected(m_notes.Add({{"outcome", "rejected"}}))
     , returned(m_notes.Add({{"outcome", "returned"}}))
@@ -47,6 +44,9 @@ Metrics::Metrics(const QString& address)
                        prometheus::Histogram::BucketBoundaries{0.001, 0.005, 0.01, 0.05, 0.1, 0.5,
                                                                1, 5, 30, 120}))
 {
+    for (int i = 0; i <= KioskSummary::Fine; ++i)
+        m_conditions[i] =
+            &m_kiosks.Add({{"condition", KioskSummary::name(KioskSummary::Condition(i))}});
     if (address.isEmpty())
         return;
     try {

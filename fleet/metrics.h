@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "kiosksummary.h"
+
 #include <prometheus/counter.h>
 #include <prometheus/gauge.h>
 #include <prometheus/histogram.h>
@@ -26,6 +28,12 @@ public:
     explicit Metrics(const QString& address);
     ~Metrics();
 
+    /// How many kiosks are in that condition.
+    prometheus::Gauge& kiosks(KioskSummary::Condition condition)
+    {
+        return *m_conditions[condition];
+    }
+
 private:
     std::shared_ptr<prometheus::Registry> m_registry;
     std::unique_ptr<prometheus::Exposer> m_exposer;
@@ -33,6 +41,7 @@ private:
     prometheus::Family<prometheus::Counter>& m_messages;
     prometheus::Family<prometheus::Gauge>& m_kiosks;
     prometheus::Family<prometheus::Gauge>& m_notes;
+    prometheus::Gauge* m_conditions[KioskSummary::Fine + 1];
 
 public:
     prometheus::Counter& states; ///< taken
@@ -40,9 +49,6 @@ public:
     prometheus::Counter& outdated; ///< states older than one that was known
     prometheus::Counter& summaries; ///< published
     prometheus::Counter& corrections; ///< published again over an older one
-    prometheus::Gauge& accepting; ///< kiosks by condition
-    prometheus::Gauge& notAccepting;
-    prometheus::Gauge& silent;
     prometheus::Gauge& inserted; ///< notes by what became of them
     prometheus::Gauge& rejected;
     prometheus::Gauge& returned;

@@ -41,9 +41,10 @@ Worker::Worker(const WorkerOptions& options, Metrics& metrics)
     , m_kiosks(metrics)
     , m_summaries(
           options.broker, QString(), 0,
-          [this](const QString& topic, const QByteArray& text) { takeSummary(topic, text); })
-    , m_states(options.broker, options.name, options.expiry,
-               [this](const QString& topic, const QByteArray& text) { takeState(topic, text); })
+          [this](const QString& topic, const QByteArray& text, bool) { takeSummary(topic, text); })
+    , m_states(
+          options.broker, options.name, options.expiry,
+          [this](const QString& topic, const QByteArray& text, bool) { takeState(topic, text); })
 {
     m_summaries.subscribe(options.summaries.filter(), 0);
     if (!options.isRetiring) {
@@ -150,8 +151,12 @@ void Worker::tellSilent(const QString& kiosk, const QString& reason)
 void Worker::takeSummary(const QString& topic, const QByteArray& text)
 {
     const QString kiosk = m_options.summaries.kioskOf(topic);
-    if (kiosk.isEmpty() || text.isEmpty())
+    if (kiosk.isEmpty())
         return;
+    if (text.isEmpty()) { // whoever runs the fleet took it out
+        m_kiosks.forget(kiosk);
+        return;
+    }
     const Kiosks::Kiosk* const known = m_kiosks.find(kiosk);
     if (known && known->newest.text == text) { // its own, come back
         m_kiosks.hear(kiosk);
@@ -173,7 +178,7 @@ void Worker::publish(const QString& kiosk, const KioskSummary& summary)
 {
     m_summaries.publish(m_options.summaries.of(kiosk), summary.text);
     m_metrics.summaries.Increment();
-    if (summary.time != KioskSummary::noTime && !summary.isSilent) {
+    if (summary.time != KioskSummary::noTime && summary.condition != KioskSummary::Silent) {
         m_metrics.latency.Observe(double(QDateTime::currentMSecsSinceEpoch() - summary.time)
                                   / 1000);
     }

@@ -5,8 +5,8 @@
 
 #include "brokerconnection.h"
 #include "kiosks.h"
+#include "kiosktopic.h"
 #include "metrics.h"
-#include "topic.h"
 
 #include <QString>
 

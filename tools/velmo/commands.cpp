@@ -63,6 +63,19 @@ const std::vector<Command>& commands()
              "\"time\" where known, or for many, one a line."),
          {&options::names, &options::json, &options::watch, &options::keepGoing},
          reportCommand},
+        {"fleet",
+         "",
+         0,
+         0,
+         QT_TRANSLATE_NOOP("Velmo", "The kiosks that need somebody, and why."),
+         QT_TRANSLATE_NOOP(
+             "Velmo",
+             "Shows the kiosks of which nothing is heard, those where no device could take money, "
+             "and those where some device does not work, worst first, of the summaries that "
+             "velmo-fleet keeps at an MQTT broker."),
+         {&options::broker, &options::summaries, &options::watch, &options::json, &options::wait,
+          &options::passwordFile, &options::tlsCa, &options::tlsCert, &options::tlsKey},
+         fleetCommand},
         {"state",
          "STATE.json",
          1,

@@ -11,6 +11,7 @@ int explainCommand(const Arguments& arguments);
 int compareCommand(const Arguments& arguments);
 int replayCommand(const Arguments& arguments);
 int reportCommand(const Arguments& arguments);
+int fleetCommand(const Arguments& arguments);
 int stateCommand(const Arguments& arguments);
 int showSettingsCommand(const Arguments& arguments);
 int getSettingCommand(const Arguments& arguments);

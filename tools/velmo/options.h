@@ -46,8 +46,26 @@ constexpr Option html{
 constexpr Option names{
     "names", nullptr, "NAMES.json",
     QT_TRANSLATE_NOOP("Velmo", R"(Display names by device identifier: {"1": "Validator"}.)")};
-constexpr Option watch{"watch", nullptr, nullptr,
-                       QT_TRANSLATE_NOOP("Velmo", "Clear the terminal before every state.")};
+constexpr Option watch{
+    "watch", nullptr, nullptr,
+    QT_TRANSLATE_NOOP("Velmo", "Show what is new as it comes, on a cleared terminal.")};
+constexpr Option broker{"broker", nullptr, "HOST:PORT",
+                        QT_TRANSLATE_NOOP("Velmo", "The broker; localhost:1883 without it.")};
+constexpr Option summaries{
+    "summaries", nullptr, "TOPIC",
+    QT_TRANSLATE_NOOP("Velmo", "Where the summaries are; kiosks/+/summary without it.")};
+constexpr Option wait{
+    "wait", nullptr, "SECONDS",
+    QT_TRANSLATE_NOOP("Velmo",
+                      "How long no further summary comes before all are taken to have "
+                      "come; 1 without it.")};
+constexpr Option passwordFile{"password-file", nullptr, "FILE",
+                              QT_TRANSLATE_NOOP("Velmo", "A file with USER:PASSWORD.")};
+constexpr Option tlsCa{"tls-ca", nullptr, "PEM",
+                       QT_TRANSLATE_NOOP("Velmo", "Connect by TLS and trust these certificates.")};
+constexpr Option tlsCert{"tls-cert", nullptr, "PEM",
+                         QT_TRANSLATE_NOOP("Velmo", "The client's own certificate.")};
+constexpr Option tlsKey{"tls-key", nullptr, "PEM", QT_TRANSLATE_NOOP("Velmo", "Its key.")};
 constexpr Option map{"map", nullptr, nullptr,
                      QT_TRANSLATE_NOOP("Velmo", "Write the state as an indented map.")};
 constexpr Option formatted{"formatted", nullptr, nullptr,

@@ -48,6 +48,24 @@ int outputWidth()
     return terminal.ws_col;
 }
 
+int outputHeight()
+{
+    winsize terminal{};
+    return ioctl(STDOUT_FILENO, TIOCGWINSZ, &terminal) == 0 ? terminal.ws_row : 0;
+}
+
+QString printable(const QString& text)
+{
+    QString shown;
+    for (const QChar c : text) {
+        // C0 and C1, which terminals take for commands
+        const bool isControl = c.unicode() < ' ' || (c.unicode() >= 0x7f && c.unicode() < 0xa0);
+        shown += isControl ? QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'))
+                           : QString(c);
+    }
+    return shown;
+}
+
 bool isOutputColored()
 {
     return isatty(STDOUT_FILENO) && qEnvironmentVariableIsEmpty("NO_COLOR");
@@ -62,11 +80,5 @@ void print(const QString& text)
 
 void printError(const QString& message)
 {
-    QString line = QStringLiteral("velmo: ");
-    for (const QChar c : message) {
-        const bool printable = c.unicode() >= ' ' && c.unicode() != 0x7f;
-        line += printable ? QString(c)
-                          : QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
-    }
-    fprintf(stderr, "%s\n", qUtf8Printable(line));
+    fprintf(stderr, "velmo: %s\n", qUtf8Printable(printable(message)));
 }

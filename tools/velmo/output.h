@@ -23,11 +23,17 @@ private:
 /// COLUMNS; 0 for any number where people do not read it as it comes.
 int outputWidth();
 
+/// The lines that the terminal of standard output has; 0 where it is none.
+int outputHeight();
+
+/// A text as it may be shown on a terminal: control characters as \uXXXX.
+QString printable(const QString& text);
+
 /// Whether standard output may be coloured: on a terminal unless NO_COLOR is set.
 bool isOutputColored();
 
 /// Writes a whole text to standard output.
 void print(const QString& text);
 
-/// Writes "velmo: <message>" to standard error as one line, control characters as \uXXXX.
+/// Writes "velmo: <message>" to standard error as one printable() line.
 void printError(const QString& message);

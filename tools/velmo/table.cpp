@@ -7,13 +7,19 @@
 
 namespace {
 
-// Cuts a text into lines that are as long as there is room, but not too short to be read.
+// Cuts a text into lines that are as long as there is room, but not too short to be read; at a
+// space where there is one.
 QString folded(const QString& text, int indent, int width)
 {
     const int room = qMax(width - indent, 20);
     QStringList lines;
-    for (int begin = 0; begin == 0 || begin < text.size(); begin += room)
-        lines += text.mid(begin, room);
+    QString rest = text;
+    while (rest.size() > room) {
+        const auto space = rest.lastIndexOf(QLatin1Char(' '), room);
+        lines += rest.left(space > 0 ? space : room);
+        rest = rest.mid(space > 0 ? space + 1 : room);
+    }
+    lines += rest;
     return lines.join(QLatin1Char('\n') + QString(indent, QLatin1Char(' ')));
 }
 

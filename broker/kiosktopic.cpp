@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
-#include "topic.h"
+#include "kiosktopic.h"
 
 #include "fault.h"
 #include "words.h"

@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "kiosksummary.h"
+
+#include "customeranswer.h"
+#include "devicename.h"
+#include "fault.h"
+#include "jsonreader_p.h"
+#include "words.h"
+
+#include <QDateTime>
+#include <QJsonValue>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr const char* conditions[] = {"silent", "out_of_order", "faulty", "fine"};
+
+qint64 timeOf(const QDateTime& time)
+{
+    return time.isValid() ? time.toMSecsSinceEpoch() : KioskSummary::noTime;
+}
+
+// What keeps each device from working, and whether any is left that takes money.
+struct Faults
+{
+    explicit Faults(const PublishedState& state)
+    {
+        const QList<AcceptorStateItem> devices = state.service.deviceStates();
+        auto details = state.details.begin();
+        for (const AcceptorStateItem& device : devices) {
+            const bool isOffline = (details++)->isOffline;
+            if (isWorking(device, isOffline)) {
+                anyTakesMoney = anyTakesMoney || moneyOf(device.deviceId()) != Money::None;
+                continue;
+            }
+            QStringList found = deviceFaults(device, isOffline);
+            if (found.isEmpty()) {
+                found += Diagnosis::tr("The device does not work; its state: %1.")
+                             .arg(AcceptorState::stateDescr(device.state()));
+            }
+            for (const QString& fault : std::as_const(found))
+                texts += QStringLiteral("%1: %2").arg(deviceName(device.deviceId()), fault);
+        }
+        if (devices.isEmpty())
+            texts += Diagnosis::tr("The service tells of no device.");
+    }
+
+    QStringList texts;
+    bool anyTakesMoney = false;
+};
+
+QByteArray ending(KioskSummary::Condition condition, const QStringList& faults)
+{
+    return QByteArrayLiteral(",\"condition\":\"") + KioskSummary::name(condition)
+        + "\",\"faults\":" + JsonText::list(faults) + '}';
+}
+
+// Reads the members of a summary; false for a text that is no JSON object.
+template <typename Read>
+bool readMembers(const QByteArray& text, Read readMember)
+{
+    const QString json = QString::fromUtf8(text);
+    JsonReader reader(json);
+    return reader.readObject([&](const QString& key) { return readMember(reader, key); })
+        && reader.isAtEnd();
+}
+
+} // namespace
+
+const char* KioskSummary::name(Condition condition)
+{
+    return conditions[condition];
+}
+
+KioskSummary::KioskSummary(const QString& kiosk, const PublishedState& state, StateWriter& writer)
+    : time(timeOf(state.service.dt()))
+{
+    const Faults faults(state);
+    if (!faults.texts.isEmpty())
+        condition = faults.anyTakesMoney ? Faulty : OutOfOrder;
+    text = "{\"kiosk\":" + JsonText(kiosk) + ',' + writer.members(state)
+        + ending(condition, faults.texts);
+    const QList<AcceptorStateItem> devices = state.service.deviceStates();
+    for (const AcceptorStateItem& device : devices) {
+        inserted += device.notesInserted();
+        rejected += device.notesRejected();
+        returned += device.notesReturned();
+    }
+}
+
+KioskSummary KioskSummary::silent(const KioskSummary& last, const QString& kiosk,
+                                  const QString& reason)
+{
+    QVariant time;
+    QVariant devices;
+    readMembers(last.text, [&](JsonReader& reader, const QString& key) {
+        if (key == QLatin1String("time"))
+            return reader.readValue(time);
+        return key == QLatin1String("devices") ? reader.readValue(devices) : reader.skipValue();
+    });
+    KioskSummary summary = last;
+    summary.condition = Silent;
+    summary.text = "{\"kiosk\":" + JsonText(kiosk) + ",\"time\":"
+        + JsonText::of(QJsonValue::fromVariant(time)) + ",\"payment_text\":"
+        + JsonText(outOfServiceText()) + ",\"accepting\":false,\"reasons\":"
+        + JsonText::list(QStringList{reason}) + ",\"devices\":"
+        + JsonText::of(QJsonValue::fromVariant(devices)) + ending(Silent, {reason});
+    return summary;
+}
+
+KioskSummary::KioskSummary(const QByteArray& json)
+    : text(json)
+{
+    bool hasDevices = false;
+    QVariant value;
+    QString conditionName;
+    const auto readDevice = [&](JsonReader& reader) {
+        return reader.readObject([&](const QString& key) {
+            qint64* const count = key == QLatin1String("notes_inserted") ? &inserted
+                : key == QLatin1String("notes_rejected")                 ? &rejected
+                : key == QLatin1String("notes_returned")                 ? &returned
+                                                                         : nullptr;
+            if (!count)
+                return reader.skipValue();
+            const bool isSound = reader.readValue(value);
+            *count += value.toInt();
+            return isSound;
+        });
+    };
+    const bool isSound = readMembers(json, [&](JsonReader& reader, const QString& key) {
+        if (key == QLatin1String("devices")) {
+            hasDevices = true;
+            return reader.readArray([&] { return readDevice(reader); });
+        }
+        if (key == QLatin1String("time")) {
+            const bool isTime = reader.readValue(value);
+            time = timeOf(QDateTime::fromString(value.toString(), Qt::ISODateWithMs));
+            return isTime;
+        }
+        if (key != QLatin1String("condition"))
+            return reader.skipValue();
+        const bool isText = reader.readValue(value);
+        conditionName = value.toString();
+        return isText;
+    });
+    const auto known = std::find_if(
+        std::begin(conditions), std::end(conditions),
+        [&](const char* name) { return conditionName == QLatin1String(name); });
+    if (!isSound || !hasDevices || known == std::end(conditions))
+        throw Fault{Diagnosis::tr("expected a kiosk's summary")};
+    condition = Condition(known - std::begin(conditions));
+}
+
+QStringList KioskSummary::faults() const
+{
+    QVariant faults;
+    readMembers(text, [&](JsonReader& reader, const QString& key) {
+        return key == QLatin1String("faults") ? reader.readValue(faults) : reader.skipValue();
+    });
+    return faults.toStringList();
+}

@@ -1,0 +1,259 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "commands.h"
+
+#include "brokerconnection.h"
+#include "jsontext.h"
+#include "kiosksummary.h"
+#include "kiosktopic.h"
+#include "options.h"
+#include "output.h"
+#include "table.h"
+
+#include <QDateTime>
+#include <QLoggingCategory>
+#include <QMap>
+
+#include <algorithm>
+#include <vector>
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+using Clock = std::chrono::steady_clock;
+
+namespace {
+
+constexpr int batch = 1000; // messages between two looks at the clock
+constexpr seconds longestConnecting{10};
+
+// One that is not to be read is the worst: nothing is known of the kiosk.
+constexpr int unknown = -1;
+
+const char* const conditionTexts[] = {
+    QT_TRANSLATE_NOOP("Velmo", "silent"), QT_TRANSLATE_NOOP("Velmo", "out of order"),
+    QT_TRANSLATE_NOOP("Velmo", "faulty"), QT_TRANSLATE_NOOP("Velmo", "fine")};
+
+struct Kiosk
+{
+    QString name;
+    int condition = unknown;
+    qint64 time = KioskSummary::noTime;
+    QStringList faults;
+
+    const char* conditionName() const
+    {
+        return condition == unknown ? "unknown"
+                                    : KioskSummary::name(KioskSummary::Condition(condition));
+    }
+
+    QString conditionText() const
+    {
+        return condition == unknown ? Velmo::tr("unknown") : Velmo::tr(conditionTexts[condition]);
+    }
+
+    QDateTime dateTime() const
+    {
+        return time == KioskSummary::noTime ? QDateTime() : QDateTime::fromMSecsSinceEpoch(time);
+    }
+};
+
+// The kiosks whose summaries have arrived.
+class Fleet
+{
+public:
+    void take(const QString& name, const QByteArray& text)
+    {
+        if (text.isEmpty()) { // the kiosk was taken out of the fleet
+            m_kiosks.remove(name);
+            return;
+        }
+        Kiosk kiosk;
+        kiosk.name = name;
+        try {
+            const KioskSummary summary(text);
+            kiosk.condition = summary.condition;
+            kiosk.time = summary.time;
+            kiosk.faults = summary.faults();
+        } catch (const Fault& fault) {
+            kiosk.faults += fault.message;
+        }
+        m_kiosks.insert(name, kiosk);
+    }
+
+    bool isEmpty() const { return m_kiosks.isEmpty(); }
+    int size() const { return m_kiosks.size(); }
+
+    int count(int condition) const
+    {
+        return int(std::count_if(
+            m_kiosks.begin(), m_kiosks.end(),
+            [condition](const Kiosk& kiosk) { return kiosk.condition == condition; }));
+    }
+
+    // Those that need somebody, worst first.
+    std::vector<Kiosk> toSeeTo() const
+    {
+        std::vector<Kiosk> found;
+        std::copy_if(m_kiosks.begin(), m_kiosks.end(), std::back_inserter(found),
+                     [](const Kiosk& kiosk) { return kiosk.condition != KioskSummary::Fine; });
+        std::stable_sort(found.begin(), found.end(), [](const Kiosk& left, const Kiosk& right) {
+            return left.condition < right.condition;
+        });
+        return found;
+    }
+
+private:
+    QMap<QString, Kiosk> m_kiosks;
+};
+
+QString totals(const Fleet& fleet)
+{
+    QStringList parts;
+    const auto add = [&](int condition, const QString& text) {
+        const int count = fleet.count(condition);
+        if (count > 0 || condition == KioskSummary::Fine)
+            parts += QStringLiteral("%1 %2").arg(count).arg(text);
+    };
+    add(unknown, Velmo::tr("unknown"));
+    for (int i = KioskSummary::Silent; i <= KioskSummary::Fine; ++i)
+        add(i, Velmo::tr(conditionTexts[i]));
+    return Velmo::tr("%n kiosks: %1", nullptr, fleet.size()).arg(parts.join(QStringLiteral(", ")))
+        + QLatin1Char('\n');
+}
+
+// A line for each fault. Texts come from outside: nothing in them reaches the terminal as a command.
+QString table(const std::vector<Kiosk>& kiosks, int width)
+{
+    QList<QStringList> rows;
+    for (const Kiosk& kiosk : kiosks) {
+        QStringList row{printable(kiosk.name), kiosk.conditionText(),
+                        kiosk.dateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"))};
+        for (const QString& fault : kiosk.faults) {
+            rows += row + QStringList{printable(fault)};
+            row = QStringList{QString(), QString(), QString()};
+        }
+    }
+    if (rows.isEmpty())
+        return {};
+    return formatTable({Velmo::tr("Kiosk"), Velmo::tr("Condition"), Velmo::tr("Last state"),
+                        Velmo::tr("What is wrong")},
+                       rows, width)
+        + QLatin1Char('\n');
+}
+
+QByteArray json(const Fleet& fleet)
+{
+    QByteArray lines;
+    for (const Kiosk& kiosk : fleet.toSeeTo()) {
+        const QString time = kiosk.dateTime().toUTC().toString(Qt::ISODateWithMs);
+        lines += JsonText::object({{"kind", QStringLiteral("kiosk")},
+                                   {"kiosk", kiosk.name},
+                                   {"condition", QString(QLatin1String(kiosk.conditionName()))},
+                                   {"time", time.isEmpty() ? JsonText::null() : JsonText(time)},
+                                   {"faults", JsonText::list(kiosk.faults)}})
+            + '\n';
+    }
+    return lines
+        + JsonText::object({{"kind", QStringLiteral("summary")},
+                            {"kiosks", fleet.size()},
+                            {"unknown", fleet.count(unknown)},
+                            {"silent", fleet.count(KioskSummary::Silent)},
+                            {"out_of_order", fleet.count(KioskSummary::OutOfOrder)},
+                            {"faulty", fleet.count(KioskSummary::Faulty)},
+                            {"fine", fleet.count(KioskSummary::Fine)}})
+        + '\n';
+}
+
+// As much of the table as the terminal has room for, and what is known of its truth.
+QString screen(const Fleet& fleet, const BrokerConnection& broker)
+{
+    QStringList lines = table(fleet.toSeeTo(), outputWidth()).split(QLatin1Char('\n'));
+    const int room = outputHeight() - 4;
+    if (room > 0 && lines.size() > room) {
+        lines = lines.mid(0, room);
+        lines += QStringLiteral("...");
+    }
+    QString state = QDateTime::currentDateTime().toString(QStringLiteral("hh:mm:ss  "));
+    state += broker.fault().isEmpty() ? totals(fleet)
+                                      : broker.fault() + QStringLiteral(". ")
+            + Velmo::tr("The table is from before.") + QLatin1Char('\n');
+    return QStringLiteral("\033[2J\033[H") + lines.join(QLatin1Char('\n')) + QLatin1Char('\n')
+        + state;
+}
+
+seconds waiting(const Arguments& arguments)
+{
+    if (!arguments.isSet(options::wait))
+        return seconds(1);
+    bool isNumber = false;
+    const uint number = arguments.value(options::wait).toUInt(&isNumber);
+    if (!isNumber || number < 1 || number > 3600)
+        throw Fault{Velmo::tr("--%1: expected a number from 1 to 3600")
+                        .arg(QLatin1String(options::wait.name))};
+    return seconds(number);
+}
+
+} // namespace
+
+int fleetCommand(const Arguments& arguments)
+{
+    const bool isJson = arguments.isSet(options::json);
+    const bool isWatched = arguments.isSet(options::watch);
+    if (isJson && isWatched)
+        throw arguments.usageFault();
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\nvelmo.broker=false"));
+    const seconds pause = waiting(arguments);
+    BrokerOptions where;
+    where.take(arguments.value(options::broker), arguments.value(options::passwordFile),
+               arguments.value(options::tlsCa), arguments.value(options::tlsCert),
+               arguments.value(options::tlsKey));
+    const KioskTopic summaries(arguments.isSet(options::summaries)
+                                   ? arguments.value(options::summaries)
+                                   : QStringLiteral("kiosks/%1/summary"));
+
+    Fleet fleet;
+    auto lastKept = Clock::now(); // of the summaries that the broker had kept
+    BrokerConnection broker(
+        where, {}, 0, [&](const QString& topic, const QByteArray& text, bool isRetained) {
+            const QString kiosk = summaries.kioskOf(topic);
+            if (!kiosk.isEmpty())
+                fleet.take(kiosk, text);
+            if (isRetained)
+                lastKept = Clock::now();
+        });
+    broker.subscribe(summaries.filter(), 1);
+    const auto work = [&] {
+        BrokerConnection::wait({&broker}, milliseconds(200));
+        broker.read(batch);
+        broker.write();
+    };
+
+    const auto begin = Clock::now();
+    while (!broker.isSubscribed()) {
+        work();
+        if (!broker.fault().isEmpty() && !isWatched)
+            throw Fault{broker.fault()};
+        if (Clock::now() - begin > longestConnecting && !isWatched)
+            throw Fault{Velmo::tr("the broker does not answer")};
+        if (isWatched && !broker.fault().isEmpty())
+            print(screen(fleet, broker));
+    }
+    lastKept = Clock::now();
+    auto drawn = Clock::time_point();
+    while (isWatched || Clock::now() - lastKept < pause) {
+        work();
+        if (isWatched && Clock::now() - drawn >= seconds(1)) {
+            drawn = Clock::now();
+            print(screen(fleet, broker));
+        }
+        if (!isWatched && !broker.fault().isEmpty())
+            throw Fault{broker.fault()};
+    }
+    broker.disconnect(true);
+    if (fleet.isEmpty())
+        throw Fault{Velmo::tr("no kiosk has a summary at \"%1\"").arg(summaries.filter())};
+    print(isJson ? QString::fromUtf8(json(fleet))
+                 : table(fleet.toSeeTo(), outputWidth()) + totals(fleet));
+    return fleet.count(unknown) > 0 ? exitBadInput : exitSuccess;
+}
