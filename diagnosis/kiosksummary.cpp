@@ -55,8 +55,8 @@ struct Faults
 
 QByteArray ending(KioskSummary::Condition condition, const QStringList& faults)
 {
-    return QByteArrayLiteral(",\"condition\":\"") + KioskSummary::name(condition)
-        + "\",\"faults\":" + JsonText::list(faults) + '}';
+    return QByteArrayLiteral(",\"condition\":\"") + KioskSummary::name(condition) + R"(","faults":)"
+        + JsonText::list(faults) + '}';
 }
 
 // Reads the members of a summary; false for a text that is no JSON object.
@@ -104,9 +104,9 @@ KioskSummary KioskSummary::silent(const KioskSummary& last, const QString& kiosk
     });
     KioskSummary summary = last;
     summary.condition = Silent;
-    summary.text = "{\"kiosk\":" + JsonText(kiosk) + ",\"time\":"
-        + JsonText::of(QJsonValue::fromVariant(time)) + ",\"payment_text\":"
-        + JsonText(outOfServiceText()) + ",\"accepting\":false,\"reasons\":"
+    summary.text = "{\"kiosk\":" + JsonText(kiosk)
+        + ",\"time\":" + JsonText::of(QJsonValue::fromVariant(time))
+        + ",\"payment_text\":" + JsonText(outOfServiceText()) + R"(,"accepting":false,"reasons":)"
         + JsonText::list(QStringList{reason}) + ",\"devices\":"
         + JsonText::of(QJsonValue::fromVariant(devices)) + ending(Silent, {reason});
     return summary;
@@ -147,9 +147,9 @@ KioskSummary::KioskSummary(const QByteArray& json)
         conditionName = value.toString();
         return isText;
     });
-    const auto known = std::find_if(
-        std::begin(conditions), std::end(conditions),
-        [&](const char* name) { return conditionName == QLatin1String(name); });
+    const auto known =
+        std::find_if(std::begin(conditions), std::end(conditions),
+                     [&](const char* name) { return conditionName == QLatin1String(name); });
     if (!isSound || !hasDevices || known == std::end(conditions))
         throw Fault{Diagnosis::tr("expected a kiosk's summary")};
     condition = Condition(known - std::begin(conditions));

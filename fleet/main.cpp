@@ -18,58 +18,56 @@ namespace {
 
 std::atomic<bool> stopAsked{false};
 
+constexpr char languageName[] = "lang";
+
+QCommandLineOption option(const char* name, const QString& help, const char* value = nullptr,
+                          const QString& usual = {})
+{
+    return {QLatin1String(name), help, QLatin1String(value), usual};
+}
+
+// Their words are in the language that is shown when they are made.
 struct Options
 {
-    QCommandLineOption broker{QStringLiteral("broker"),
-                              QStringLiteral("The broker: HOST or HOST:PORT."),
-                              QStringLiteral("ADDRESS"), QStringLiteral("localhost:1883")};
-    QCommandLineOption states{QStringLiteral("states"),
-                              QStringLiteral("Where kiosks publish their states."),
-                              QStringLiteral("TOPIC"), QStringLiteral("kiosks/+/state")};
-    QCommandLineOption summaries{QStringLiteral("summaries"),
-                                 QStringLiteral("Where their summaries are published."),
-                                 QStringLiteral("TOPIC"), QStringLiteral("kiosks/%1/summary")};
-    QCommandLineOption wills{
-        QStringLiteral("wills"),
-        QStringLiteral("Where a message, its will, says that a kiosk is gone."),
-        QStringLiteral("TOPIC"), QStringLiteral("kiosks/+/will")};
-    QCommandLineOption group{QStringLiteral("group"),
-                             QStringLiteral("The workers that share the states."),
-                             QStringLiteral("NAME"), QStringLiteral("velmo")};
-    QCommandLineOption name{
-        QStringLiteral("name"),
-        QStringLiteral("What its session at the broker goes by; each worker has "
-                       "its own, the same at each start."),
-        QStringLiteral("NAME"), QSysInfo::machineHostName()};
-    QCommandLineOption expire{QStringLiteral("expire"),
-                              QStringLiteral("How long the broker keeps states for it while it is "
-                                             "away."),
-                              QStringLiteral("SECONDS"), QStringLiteral("86400")};
-    QCommandLineOption silent{QStringLiteral("silent"),
-                              QStringLiteral("After how long a kiosk is told of as silent; 0 for "
-                                             "never."),
-                              QStringLiteral("SECONDS"), QStringLiteral("120")};
-    QCommandLineOption metrics{QStringLiteral("metrics"),
-                               QStringLiteral("Where Prometheus fetches the metrics."),
-                               QStringLiteral("ADDRESS")};
-    QCommandLineOption password{QStringLiteral("password-file"),
-                                QStringLiteral("A file with USER:PASSWORD."),
-                                QStringLiteral("FILE")};
-    QCommandLineOption ca{QStringLiteral("tls-ca"),
-                          QStringLiteral("Connect by TLS and trust these certificates."),
-                          QStringLiteral("PEM")};
-    QCommandLineOption certificate{QStringLiteral("tls-cert"),
-                                   QStringLiteral("The client's own certificate."),
-                                   QStringLiteral("PEM")};
-    QCommandLineOption key{QStringLiteral("tls-key"), QStringLiteral("Its key."),
-                           QStringLiteral("PEM")};
-    QCommandLineOption language{QStringLiteral("lang"),
-                                QStringLiteral("The language of the summaries, as \"ru\", in place "
-                                               "of the system's."),
-                                QStringLiteral("LANG")};
-    QCommandLineOption retire{QStringLiteral("retire"),
-                              QStringLiteral("Take what waits for the session, then end it: for a "
-                                             "worker that is not to come back.")};
+    QCommandLineOption broker = option("broker", Diagnosis::tr("The broker: HOST or HOST:PORT."),
+                                       "ADDRESS", QStringLiteral("localhost:1883"));
+    QCommandLineOption states =
+        option("states", Diagnosis::tr("Where kiosks publish their states."), "TOPIC",
+               QStringLiteral("kiosks/+/state"));
+    QCommandLineOption summaries =
+        option("summaries", Diagnosis::tr("Where their summaries are published."), "TOPIC",
+               QStringLiteral("kiosks/%1/summary"));
+    QCommandLineOption wills =
+        option("wills", Diagnosis::tr("Where a message, its will, says that a kiosk is gone."),
+               "TOPIC", QStringLiteral("kiosks/+/will"));
+    QCommandLineOption group = option("group", Diagnosis::tr("The workers that share the states."),
+                                      "NAME", QStringLiteral("velmo"));
+    QCommandLineOption name = option("name",
+                                     Diagnosis::tr("What its session at the broker goes by; each "
+                                                   "worker has its own, the same at each start."),
+                                     "NAME", QSysInfo::machineHostName());
+    QCommandLineOption expire =
+        option("expire", Diagnosis::tr("How long the broker keeps states for it while it is away."),
+               "SECONDS", QStringLiteral("86400"));
+    QCommandLineOption silent =
+        option("silent", Diagnosis::tr("After how long a kiosk is told of as silent; 0 for never."),
+               "SECONDS", QStringLiteral("120"));
+    QCommandLineOption metrics =
+        option("metrics", Diagnosis::tr("Where Prometheus fetches the metrics."), "ADDRESS");
+    QCommandLineOption password =
+        option("password-file", Diagnosis::tr("A file with USER:PASSWORD."), "FILE");
+    QCommandLineOption ca =
+        option("tls-ca", Diagnosis::tr("Connect by TLS and trust these certificates."), "PEM");
+    QCommandLineOption certificate =
+        option("tls-cert", Diagnosis::tr("The client's own certificate."), "PEM");
+    QCommandLineOption key = option("tls-key", Diagnosis::tr("Its key."), "PEM");
+    QCommandLineOption language =
+        option(languageName,
+               Diagnosis::tr("The language of the summaries, as \"ru\", in place of the system's."),
+               "LANG");
+    QCommandLineOption retire = option("retire",
+                                       Diagnosis::tr("Take what waits for the session, then end "
+                                                     "it: for a worker that is not to come back."));
 };
 
 quint32 numberOf(const QCommandLineParser& parser, const QCommandLineOption& option)
@@ -100,10 +98,33 @@ WorkerOptions workerOptions(const QCommandLineParser& parser, const Options& opt
     return worker;
 }
 
-void run(const QCommandLineParser& parser, const Options& options)
+// Before the options are made, which are in that language.
+void loadLanguage()
 {
+    QCommandLineParser parser;
+    parser.addOption(option(languageName, {}, "LANG"));
+    parser.parse(QCoreApplication::arguments());
     loadTranslations(QCoreApplication::applicationDirPath() + QStringLiteral("/../" TRANSLATIONS),
-                     {}, parser.value(options.language));
+                     {}, parser.value(QLatin1String(languageName)));
+}
+
+void run()
+{
+    loadLanguage();
+    const Options options;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        Diagnosis::tr("Makes summaries of what kiosks publish at an MQTT broker."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions({options.broker, options.states, options.summaries, options.wills,
+                       options.group, options.name, options.expire, options.silent, options.metrics,
+                       options.password, options.ca, options.certificate, options.key,
+                       options.language, options.retire});
+    parser.process(QCoreApplication::arguments());
+    if (!parser.positionalArguments().isEmpty())
+        throw Fault{Diagnosis::tr("unknown argument \"%1\"")
+                        .arg(parser.positionalArguments().constFirst())};
     Metrics metrics(parser.value(options.metrics));
     Worker worker(workerOptions(parser, options), metrics);
     worker.run(stopAsked);
@@ -116,25 +137,11 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationVersion(QStringLiteral(VERSION));
     qSetMessagePattern(QStringLiteral("velmo-fleet: %{message}"));
-    const Options options;
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Makes summaries of what kiosks publish at an MQTT broker."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addOptions({options.broker, options.states, options.summaries, options.wills,
-                       options.group, options.name, options.expire, options.silent, options.metrics,
-                       options.password, options.ca, options.certificate, options.key,
-                       options.language, options.retire});
-    parser.process(application);
     const auto stop = [](int) { stopAsked = true; };
     std::signal(SIGTERM, stop);
     std::signal(SIGINT, stop);
     try {
-        if (!parser.positionalArguments().isEmpty())
-            throw Fault{Diagnosis::tr("unknown argument \"%1\"")
-                            .arg(parser.positionalArguments().constFirst())};
-        run(parser, options);
+        run();
         return 0;
     } catch (const Fault& fault) {
         fprintf(stderr, "velmo-fleet: %s\n", qPrintable(fault.message));

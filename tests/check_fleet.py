@@ -133,7 +133,11 @@ class Fleet:
         self.client.loop_start()
 
     def take(self, _client, _data, message):
-        self.summaries[message.topic.split("/")[1]] = message.payload
+        kiosk = message.topic.split("/")[1]
+        if message.payload:
+            self.summaries[kiosk] = message.payload
+        else:
+            self.summaries.pop(kiosk, None)
 
     def state(self, kiosk):
         self.clock += 1
@@ -246,7 +250,36 @@ def check_silence(fleet, workers):
                lambda: all(reason in summary for summary in fleet.summaries.values()))
     wait_until("silence is counted", lambda: watcher.counts()[
         'velmo_fleet_kiosks{condition="silent"}'] == len(fleet.newest))
+    check_table(fleet)
+    fleet.client.publish("kiosks/k9/summary", b"", 1, retain=True)  # k9 is scrapped
+    wait_until("a scrapped kiosk is forgotten", lambda: watcher.counts()[
+        'velmo_fleet_kiosks{condition="silent"}'] == len(fleet.newest) - 1)
     watcher.stop()
+    fleet.newest.pop("k9")
+
+
+def table(fleet, *options):
+    return subprocess.run([os.path.join(fleet.bin, "velmo"), "fleet", "--broker",
+                           f"127.0.0.1:{fleet.broker.port}", "--lang", "en", *options],
+                          capture_output=True, text=True)
+
+
+def check_table(fleet):
+    """What people are shown of a fleet of which nothing is heard, and of what cannot be read."""
+    fleet.client.publish("kiosks/odd/summary", b"\x1b[31m", 1, retain=True).wait_for_publish(20)
+    shown = table(fleet, "--json")
+    lines = [json.loads(line) for line in shown.stdout.splitlines()]
+    silent = [line["kiosk"] for line in lines if line.get("condition") == "silent"]
+    if shown.returncode != 2 or lines[0]["kiosk"] != "odd" or silent != sorted(fleet.newest) \
+            or lines[-1]["silent"] != len(silent) or lines[-1]["unknown"] != 1:
+        raise SystemExit(f"check_fleet.py: velmo fleet shows {lines[0]} ... {lines[-1]}")
+    fleet.client.publish("kiosks/odd/summary", b"", 1, retain=True).wait_for_publish(20)
+    text = table(fleet)
+    if text.returncode != 0 or f"{len(silent)} silent, 0 fine" not in text.stdout:
+        raise SystemExit(f"check_fleet.py: velmo fleet shows {text.stdout[-200:]}")
+    for options in (["--broker", "127.0.0.1:1"], ["--summaries", "other/+/summary"]):
+        if table(fleet, *options).returncode != 2:
+            raise SystemExit(f"check_fleet.py: velmo fleet is content with {options}")
 
 
 def check_retiring(fleet):

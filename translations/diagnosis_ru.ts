@@ -1018,10 +1018,6 @@
         <translation>Соединение с %1:%2 установлено.</translation>
     </message>
     <message>
-        <source>No connection to %1:%2 (%3); next attempt in %4 s.</source>
-        <translation>Нет соединения с %1:%2 (%3); следующая попытка через %4 с.</translation>
-    </message>
-    <message>
         <source>broker &quot;%1&quot;: expected HOST or HOST:PORT</source>
         <translation>брокер «%1»: ожидается HOST или HOST:PORT</translation>
     </message>
@@ -1088,6 +1084,82 @@
     <message>
         <source>The kiosk is offline.</source>
         <translation>Терминал не на связи.</translation>
+    </message>
+    <message>
+        <source>The device does not work; its state: %1.</source>
+        <translation>Устройство не работает; его состояние: %1.</translation>
+    </message>
+    <message>
+        <source>No connection to %1:%2 (%3)</source>
+        <translation>Нет соединения с %1:%2 (%3)</translation>
+    </message>
+    <message>
+        <source>%1; next attempt in %2 s.</source>
+        <translation>%1; следующая попытка через %2 с.</translation>
+    </message>
+    <message>
+        <source>The broker: HOST or HOST:PORT.</source>
+        <translation>Брокер: HOST или HOST:PORT.</translation>
+    </message>
+    <message>
+        <source>Where kiosks publish their states.</source>
+        <translation>Где терминалы публикуют свои состояния.</translation>
+    </message>
+    <message>
+        <source>Where their summaries are published.</source>
+        <translation>Где публикуются сводки о них.</translation>
+    </message>
+    <message>
+        <source>Where a message, its will, says that a kiosk is gone.</source>
+        <translation>Где сообщение-завещание говорит, что терминал пропал.</translation>
+    </message>
+    <message>
+        <source>The workers that share the states.</source>
+        <translation>Обработчики, которые делят между собой состояния.</translation>
+    </message>
+    <message>
+        <source>What its session at the broker goes by; each worker has its own, the same at each start.</source>
+        <translation>Имя сеанса у брокера; у каждого обработчика своё, одно и то же при каждом запуске.</translation>
+    </message>
+    <message>
+        <source>How long the broker keeps states for it while it is away.</source>
+        <translation>Как долго брокер хранит для него состояния, пока его нет.</translation>
+    </message>
+    <message>
+        <source>After how long a kiosk is told of as silent; 0 for never.</source>
+        <translation>Через сколько терминал считается молчащим; 0 — никогда.</translation>
+    </message>
+    <message>
+        <source>Where Prometheus fetches the metrics.</source>
+        <translation>Где Prometheus забирает показатели.</translation>
+    </message>
+    <message>
+        <source>A file with USER:PASSWORD.</source>
+        <translation>Файл с USER:PASSWORD.</translation>
+    </message>
+    <message>
+        <source>Connect by TLS and trust these certificates.</source>
+        <translation>Соединяться по TLS и доверять этим сертификатам.</translation>
+    </message>
+    <message>
+        <source>The client&apos;s own certificate.</source>
+        <translation>Собственный сертификат клиента.</translation>
+    </message>
+    <message>
+        <source>Its key.</source>
+        <translation>Его ключ.</translation>
+    </message>
+    <message>
+        <source>The language of the summaries, as &quot;ru&quot;, in place of the system&apos;s.</source>
+        <translation>Язык сводок, например «ru», вместо системного.</translation>
+    </message>
+    <message>
+        <source>Take what waits for the session, then end it: for a worker that is not to come back.</source>
+        <translation>Взять то, что ждёт в сеансе, и завершить его: для обработчика, который больше не вернётся.</translation>
+    </message>
+    <message>
+        <source>Makes summaries of what kiosks publish at an MQTT broker.</source>
+        <translation>Составляет сводки о том, что терминалы публикуют у брокера MQTT.</translation>
     </message>
 </context>
 </TS>

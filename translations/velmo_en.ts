@@ -17,5 +17,12 @@
             <numerusform>In these %n sessions, A refused %1, B %2; they differ on %3.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n kiosks: %1</source>
+        <translation>
+            <numerusform>%n kiosk: %1</numerusform>
+            <numerusform>%n kiosks: %1</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

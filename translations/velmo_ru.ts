@@ -184,10 +184,6 @@
         <translation>Имена для показа по номерам устройств: {&quot;1&quot;: &quot;Купюроприёмник&quot;}.</translation>
     </message>
     <message>
-        <source>Clear the terminal before every state.</source>
-        <translation>Очищать экран перед каждым состоянием.</translation>
-    </message>
-    <message>
         <source>Write the state as an indented map.</source>
         <translation>Писать состояние картой с отступами.</translation>
     </message>
@@ -602,6 +598,106 @@
     <message>
         <source>the logs have nothing of the session or device that is asked for</source>
         <translation>в журналах нет ничего о сеансе или устройстве, о которых спрашивают</translation>
+    </message>
+    <message>
+        <source>The kiosks that need somebody, and why.</source>
+        <translation>Терминалы, к которым нужно прийти, и почему.</translation>
+    </message>
+    <message>
+        <source>Shows the kiosks of which nothing is heard, those where no device could take money, and those where some device does not work, worst first, of the summaries that velmo-fleet keeps at an MQTT broker.</source>
+        <translation>Показывает терминалы, от которых нет вестей, те, где ни одно устройство не могло бы принять деньги, и те, где какое-либо устройство не работает, начиная с худших, по сводкам, которые velmo-fleet хранит у брокера MQTT.</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>молчит</translation>
+    </message>
+    <message>
+        <source>out of order</source>
+        <translation>не работает</translation>
+    </message>
+    <message>
+        <source>faulty</source>
+        <translation>неисправность</translation>
+    </message>
+    <message>
+        <source>fine</source>
+        <translation>исправен</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>неизвестно</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n kiosks: %1</source>
+        <translation>
+            <numerusform>%n терминал: %1</numerusform>
+            <numerusform>%n терминала: %1</numerusform>
+            <numerusform>%n терминалов: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kiosk</source>
+        <translation>Терминал</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>Last state</source>
+        <translation>Последние данные</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Что не так</translation>
+    </message>
+    <message>
+        <source>The table is from before.</source>
+        <translation>Таблица составлена раньше.</translation>
+    </message>
+    <message>
+        <source>--%1: expected a number from 1 to 3600</source>
+        <translation>--%1: ожидается число от 1 до 3600</translation>
+    </message>
+    <message>
+        <source>the broker does not answer</source>
+        <translation>брокер не отвечает</translation>
+    </message>
+    <message>
+        <source>no kiosk has a summary at &quot;%1&quot;</source>
+        <translation>ни у одного терминала нет сводки в «%1»</translation>
+    </message>
+    <message>
+        <source>Show what is new as it comes, on a cleared terminal.</source>
+        <translation>Показывать новое по мере поступления, очищая экран.</translation>
+    </message>
+    <message>
+        <source>The broker; localhost:1883 without it.</source>
+        <translation>Брокер; если не задан, localhost:1883.</translation>
+    </message>
+    <message>
+        <source>Where the summaries are; kiosks/+/summary without it.</source>
+        <translation>Где лежат сводки; если не задано, kiosks/+/summary.</translation>
+    </message>
+    <message>
+        <source>How long no further summary comes before all are taken to have come; 1 without it.</source>
+        <translation>Сколько времени без новой сводки, чтобы считать, что пришли все; если не задано, 1.</translation>
+    </message>
+    <message>
+        <source>A file with USER:PASSWORD.</source>
+        <translation>Файл с USER:PASSWORD.</translation>
+    </message>
+    <message>
+        <source>Connect by TLS and trust these certificates.</source>
+        <translation>Соединяться по TLS и доверять этим сертификатам.</translation>
+    </message>
+    <message>
+        <source>The client&apos;s own certificate.</source>
+        <translation>Собственный сертификат клиента.</translation>
+    </message>
+    <message>
+        <source>Its key.</source>
+        <translation>Его ключ.</translation>
     </message>
 </context>
 </TS>

@@ -82,13 +82,13 @@ public:
     }
 
     bool isEmpty() const { return m_kiosks.isEmpty(); }
-    int size() const { return m_kiosks.size(); }
+    int size() const { return int(m_kiosks.size()); }
 
     int count(int condition) const
     {
-        return int(std::count_if(
-            m_kiosks.begin(), m_kiosks.end(),
-            [condition](const Kiosk& kiosk) { return kiosk.condition == condition; }));
+        return int(std::count_if(m_kiosks.begin(), m_kiosks.end(), [condition](const Kiosk& kiosk) {
+            return kiosk.condition == condition;
+        }));
     }
 
     // Those that need somebody, worst first.
@@ -122,7 +122,8 @@ QString totals(const Fleet& fleet)
         + QLatin1Char('\n');
 }
 
-// A line for each fault. Texts come from outside: nothing in them reaches the terminal as a command.
+// A line for each fault. Texts come from outside: nothing in them reaches the terminal as a
+// command.
 QString table(const std::vector<Kiosk>& kiosks, int width)
 {
     QList<QStringList> rows;
@@ -214,14 +215,14 @@ int fleetCommand(const Arguments& arguments)
 
     Fleet fleet;
     auto lastKept = Clock::now(); // of the summaries that the broker had kept
-    BrokerConnection broker(
-        where, {}, 0, [&](const QString& topic, const QByteArray& text, bool isRetained) {
-            const QString kiosk = summaries.kioskOf(topic);
-            if (!kiosk.isEmpty())
-                fleet.take(kiosk, text);
-            if (isRetained)
-                lastKept = Clock::now();
-        });
+    BrokerConnection broker(where, {}, 0,
+                            [&](const QString& topic, const QByteArray& text, bool isRetained) {
+                                const QString kiosk = summaries.kioskOf(topic);
+                                if (!kiosk.isEmpty())
+                                    fleet.take(kiosk, text);
+                                if (isRetained)
+                                    lastKept = Clock::now();
+                            });
     broker.subscribe(summaries.filter(), 1);
     const auto work = [&] {
         BrokerConnection::wait({&broker}, milliseconds(200));
