@@ -37,6 +37,9 @@ set(pairs library:${library_package} development:lib${velmolib_name}-dev)
 if(VELMOLIB_BUILD_TOOLS)
     list(APPEND pairs tool:velmo)
 endif()
+if(VELMOLIB_BUILD_FLEET)
+    list(APPEND pairs fleet:velmo-fleet)
+endif()
 set(quick_package qml-module-velmolib)
 if(VELMOLIB_QT_MAJOR EQUAL 6)
     set(quick_package qml6-module-velmolib)
@@ -96,5 +99,18 @@ set(CPACK_DEBIAN_QUICK_DESCRIPTION "QML module for screens of a kiosk's cash dev
  What the acceptor service publishes, as properties and models for
  payment and service screens, the device catalogue and the settings
  for configuration screens.")
+
+# Both programs load libmosquitto when they need it, which the packaging does not see.
+set(mosquitto_package libmosquitto1)
+set(CPACK_DEBIAN_TOOL_PACKAGE_SUGGESTS ${mosquitto_package})
+set(CPACK_DEBIAN_FLEET_PACKAGE_NAME velmo-fleet)
+set(CPACK_DEBIAN_FLEET_PACKAGE_SECTION net)
+set(CPACK_DEBIAN_FLEET_PACKAGE_DEPENDS
+    "${library_package} (= ${PROJECT_VERSION}), velmo (= ${PROJECT_VERSION}), ${mosquitto_package} (>= 2.0)")
+set(CPACK_DEBIAN_FLEET_PACKAGE_SUGGESTS "mosquitto, prometheus")
+set(CPACK_DEBIAN_FLEET_DESCRIPTION "summaries of what a fleet of kiosks publishes at an MQTT broker
+ Subscribes to the service states of kiosks and publishes for each kiosk
+ whether it takes money, what is wrong with it and whether it is silent,
+ and metrics for Prometheus.")
 
 include(CPack)

@@ -16,7 +16,7 @@ fail()
 }
 
 lintian --fail-on error --suppress-tags bad-distribution-in-changes-file "$2"/*.deb
-for package in libvelmolib5 libvelmolib-dev libvelmolib-qt6-5 libvelmolib-qt6-dev velmo \
+for package in libvelmolib5 libvelmolib-dev libvelmolib-qt6-5 libvelmolib-qt6-dev velmo velmo-fleet \
         qml-module-velmolib qml6-module-velmolib; do
     deb=$(ls "$2/${package}_"*.deb)
     dpkg-deb --field "$deb" Package Version Depends
@@ -40,6 +40,8 @@ hardening-check --nocfprotection --nofortify "$root"/usr/lib/*/libvelmolib*.so.5
 for library in "$root"/usr/lib/*/libvelmolib*.so.5.*; do
     grep -qazx src/acceptors.cpp "$library" || fail "log lines do not name their file as in the tree"
 done
+"$root"/usr/bin/velmo-fleet --version
+systemd-analyze security --offline=true --threshold=20 --root="$root" velmo-fleet.service > /dev/null
 for qt_major in 5 6; do
     "$(dirname "$0")/installed.sh" "$1" "$root/usr" $qt_major
 done

@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 velmolib maintainers
+# SPDX-License-Identifier: MIT
+
+# Installs what is missing, builds the release preset and shows a fleet: a broker on loopback, two
+# workers, 1,000 simulated kiosks with faults, and the table of those that need somebody, until ctrl-C.
+# Usage: fleet.sh [KIOSKS]
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/require.sh
+
+require_packages "${build_packages[@]}" mosquitto python3 python3-paho-mqtt
+cmake --preset release
+cmake --build --preset release --target velmo velmo-fleet velmolib_translations
+bin=$PWD/build/release/bin
+folder=$(mktemp -d)
+port=$(/usr/bin/python3 -c 'import socket; s = socket.socket(); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])')
+broker=127.0.0.1:$port
+
+started=()
+end()
+{
+    trap '' INT TERM
+    [ ${#started[@]} -eq 0 ] || kill "${started[@]}" 2>/dev/null || true
+    wait
+    rm -rf "$folder"
+}
+trap end EXIT
+trap 'exit 0' INT TERM
+
+# In the background, out of the reach of ctrl-C: what is started ends in order, the broker last.
+start()
+{
+    setsid "$@" > "$folder/log.${#started[@]}" 2>&1 &
+    started=($! "${started[@]}")
+}
+
+cat > "$folder/mosquitto.conf" <<END
+listener $port 127.0.0.1
+allow_anonymous true
+max_inflight_messages 1000
+max_queued_messages 0
+END
+start mosquitto -c "$folder/mosquitto.conf"
+until (exec 3<> "/dev/tcp/127.0.0.1/$port") 2>/dev/null; do
+    kill -0 "${started[0]}" || { cat "$folder"/log.*; exit 1; }
+    sleep 0.1
+done
+start "$bin/velmo-fleet" --broker "$broker" --name worker1 --silent 30
+start "$bin/velmo-fleet" --broker "$broker" --name worker2 --silent 30
+until [ "$(cat "$folder"/log.* | grep -c Connected)" -ge 4 ]; do # each with two connections
+    kill -0 "${started[0]}" "${started[1]}" || { cat "$folder"/log.*; exit 1; }
+    sleep 0.1
+done
+start /usr/bin/python3 examples/fleet/simulator.py "$broker" "${1:-1000}" samples/*.jsonl
+"$bin/velmo" fleet --broker "$broker" --watch
