@@ -243,7 +243,7 @@ void BrokerConnection::read(int most)
         before = m_events;
         result = library.loop_read(m_client, 1);
     }
-    if (result != MOSQ_ERR_SUCCESS)
+    if (result != MOSQ_ERR_SUCCESS && m_isOpen) // else the broker has said why
         lose(QString::fromLocal8Bit(library.strerror(result)));
 }
 

@@ -9,6 +9,17 @@
 #include <QFile>
 #include <QRegularExpression>
 
+namespace {
+
+// Throws Fault, which names the file, when it cannot be read.
+void open(QFile& file)
+{
+    if (!file.open(QIODevice::ReadOnly))
+        throw Fault{QStringLiteral("%1: %2").arg(file.fileName(), file.errorString())};
+}
+
+} // namespace
+
 void BrokerOptions::take(const QString& broker, const QString& passwordFile, const QString& tlsCa,
                          const QString& tlsCert, const QString& tlsKey)
 {
@@ -19,6 +30,11 @@ void BrokerOptions::take(const QString& broker, const QString& passwordFile, con
     caFile = tlsCa;
     certificateFile = tlsCert;
     keyFile = tlsKey;
+    for (const QString& name : {tlsCa, tlsCert, tlsKey}) {
+        QFile file(name);
+        if (!name.isEmpty())
+            open(file);
+    }
     if (certificateFile.isEmpty() != keyFile.isEmpty())
         throw Fault{Diagnosis::tr("a client certificate and its key go together")};
     if (!certificateFile.isEmpty() && caFile.isEmpty())
@@ -40,8 +56,7 @@ void BrokerOptions::setAddress(const QString& address)
 void BrokerOptions::readPassword(const QString& fileName)
 {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        throw Fault{QStringLiteral("%1: %2").arg(fileName, file.errorString())};
+    open(file);
     const QString line = QString::fromUtf8(file.readLine()).trimmed();
     const auto colon = line.indexOf(QLatin1Char(':'));
     if (colon < 1)
