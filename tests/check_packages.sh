@@ -40,7 +40,7 @@ hardening-check --nocfprotection --nofortify "$root"/usr/lib/*/libvelmolib*.so.5
 for library in "$root"/usr/lib/*/libvelmolib*.so.5.*; do
     grep -qazx src/acceptors.cpp "$library" || fail "log lines do not name their file as in the tree"
 done
-"$root"/usr/bin/velmo-fleet --version
+LD_LIBRARY_PATH=$(echo "$root"/usr/lib/*-linux-gnu) "$root"/usr/bin/velmo-fleet --version
 systemd-analyze security --offline=true --threshold=20 --root="$root" velmo-fleet.service > /dev/null
 for qt_major in 5 6; do
     "$(dirname "$0")/installed.sh" "$1" "$root/usr" $qt_major
