@@ -20,8 +20,8 @@ struct BrokerOptions
     /// @param broker "HOST" or "HOST:PORT", IPv6 addresses in brackets
     /// @param passwordFile has "USER:PASSWORD" on its first line
     ///
-    /// Throws Fault for an address that is none, for a file without a password, and for a
-    /// certificate that lacks its counterpart.
+    /// Throws Fault for an address that is none, for a file that cannot be read or has no
+    /// password, and for a certificate that lacks its counterpart.
     void take(const QString& broker, const QString& passwordFile, const QString& tlsCa,
               const QString& tlsCert, const QString& tlsKey);
 

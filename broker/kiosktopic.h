@@ -5,6 +5,9 @@
 
 #include <QString>
 
+/// Where summaries are published unless told otherwise.
+constexpr char usualSummaries[] = "kiosks/%1/summary";
+
 /// The topics of all kiosks: one level of the topic is the kiosk's name.
 class KioskTopic
 {

@@ -31,11 +31,21 @@ Money moneyOf(int model)
     return kind == Acceptors::CardReader ? Money::Card : Money::None;
 }
 
+QStringList whyNotWorking(const AcceptorStateItem& device, bool isOffline)
+{
+    QStringList reasons = deviceFaults(device, isOffline);
+    const bool isStuck = device.state() == deviceStatesConst::DS_JAMMED
+        || device.state() == deviceStatesConst::DS_ERROR;
+    if (reasons.isEmpty() && isStuck) {
+        reasons += Diagnosis::tr("The device does not work; its state: %1.")
+                       .arg(AcceptorState::stateDescr(device.state()));
+    }
+    return reasons;
+}
+
 bool isWorking(const AcceptorStateItem& device, bool isOffline)
 {
-    return device.state() != deviceStatesConst::DS_JAMMED
-        && device.state() != deviceStatesConst::DS_ERROR
-        && deviceFaults(device, isOffline).isEmpty();
+    return whyNotWorking(device, isOffline).isEmpty();
 }
 
 bool takesMoney(const AcceptorStateItem& device, bool isOffline)

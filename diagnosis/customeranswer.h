@@ -13,8 +13,11 @@ enum class Money { None, Note, Coin, Card };
 
 Money moneyOf(int model);
 
-/// Whether a device that is told of so could take money at all: it is enabled, free of faults and
-/// neither jammed nor in error.
+/// Why a device that is told of so could not take money at all, a sentence for each reason: its
+/// deviceFaults(), or that it is jammed or in error.
+QStringList whyNotWorking(const AcceptorStateItem& device, bool isOffline);
+
+/// Whether there is no such reason.
 bool isWorking(const AcceptorStateItem& device, bool isOffline);
 
 /// Whether it takes money at this moment. A device for notes or coins idles then; a terminal takes

@@ -24,34 +24,20 @@ qint64 timeOf(const QDateTime& time)
     return time.isValid() ? time.toMSecsSinceEpoch() : KioskSummary::noTime;
 }
 
-// What keeps each device from working, and whether any is left that takes money.
-struct Faults
+QStringList faultsOf(const PublishedState& state)
 {
-    explicit Faults(const PublishedState& state)
-    {
-        const QList<AcceptorStateItem> devices = state.service.deviceStates();
-        auto details = state.details.begin();
-        for (const AcceptorStateItem& device : devices) {
-            const bool isOffline = (details++)->isOffline;
-            if (isWorking(device, isOffline)) {
-                anyTakesMoney = anyTakesMoney || moneyOf(device.deviceId()) != Money::None;
-                continue;
-            }
-            QStringList found = deviceFaults(device, isOffline);
-            if (found.isEmpty()) {
-                found += Diagnosis::tr("The device does not work; its state: %1.")
-                             .arg(AcceptorState::stateDescr(device.state()));
-            }
-            for (const QString& fault : std::as_const(found))
-                texts += QStringLiteral("%1: %2").arg(deviceName(device.deviceId()), fault);
-        }
-        if (devices.isEmpty())
-            texts += Diagnosis::tr("The service tells of no device.");
+    QStringList faults;
+    const QList<AcceptorStateItem> devices = state.service.deviceStates();
+    auto details = state.details.begin();
+    for (const AcceptorStateItem& device : devices) {
+        const QStringList reasons = whyNotWorking(device, (details++)->isOffline);
+        for (const QString& reason : reasons)
+            faults += QStringLiteral("%1: %2").arg(deviceName(device.deviceId()), reason);
     }
-
-    QStringList texts;
-    bool anyTakesMoney = false;
-};
+    if (devices.isEmpty())
+        faults += Diagnosis::tr("The service tells of no device.");
+    return faults;
+}
 
 QByteArray ending(KioskSummary::Condition condition, const QStringList& faults)
 {
@@ -78,12 +64,12 @@ const char* KioskSummary::name(Condition condition)
 
 KioskSummary::KioskSummary(const QString& kiosk, const PublishedState& state, StateWriter& writer)
     : time(timeOf(state.service.dt()))
+    , faults(faultsOf(state))
 {
-    const Faults faults(state);
-    if (!faults.texts.isEmpty())
-        condition = faults.anyTakesMoney ? Faulty : OutOfOrder;
-    text = "{\"kiosk\":" + JsonText(kiosk) + ',' + writer.members(state)
-        + ending(condition, faults.texts);
+    if (!faults.isEmpty())
+        condition = CustomerAnswer(state).inService ? Faulty : OutOfOrder;
+    text =
+        "{\"kiosk\":" + JsonText(kiosk) + ',' + writer.members(state) + ending(condition, faults);
     const QList<AcceptorStateItem> devices = state.service.deviceStates();
     for (const AcceptorStateItem& device : devices) {
         inserted += device.notesInserted();
@@ -104,11 +90,12 @@ KioskSummary KioskSummary::silent(const KioskSummary& last, const QString& kiosk
     });
     KioskSummary summary = last;
     summary.condition = Silent;
+    summary.faults = QStringList{reason};
     summary.text = "{\"kiosk\":" + JsonText(kiosk)
         + ",\"time\":" + JsonText::of(QJsonValue::fromVariant(time))
         + ",\"payment_text\":" + JsonText(outOfServiceText()) + R"(,"accepting":false,"reasons":)"
-        + JsonText::list(QStringList{reason}) + ",\"devices\":"
-        + JsonText::of(QJsonValue::fromVariant(devices)) + ending(Silent, {reason});
+        + JsonText::list(summary.faults) + ",\"devices\":"
+        + JsonText::of(QJsonValue::fromVariant(devices)) + ending(Silent, summary.faults);
     return summary;
 }
 
@@ -141,11 +128,15 @@ KioskSummary::KioskSummary(const QByteArray& json)
             time = timeOf(QDateTime::fromString(value.toString(), Qt::ISODateWithMs));
             return isTime;
         }
-        if (key != QLatin1String("condition"))
+        const bool isCondition = key == QLatin1String("condition");
+        if (!isCondition && key != QLatin1String("faults"))
             return reader.skipValue();
-        const bool isText = reader.readValue(value);
-        conditionName = value.toString();
-        return isText;
+        const bool isRead = reader.readValue(value);
+        if (isCondition)
+            conditionName = value.toString();
+        else
+            faults = value.toStringList();
+        return isRead;
     });
     const auto known =
         std::find_if(std::begin(conditions), std::end(conditions),
@@ -153,13 +144,4 @@ KioskSummary::KioskSummary(const QByteArray& json)
     if (!isSound || !hasDevices || known == std::end(conditions))
         throw Fault{Diagnosis::tr("expected a kiosk's summary")};
     condition = Condition(known - std::begin(conditions));
-}
-
-QStringList KioskSummary::faults() const
-{
-    QVariant faults;
-    readMembers(text, [&](JsonReader& reader, const QString& key) {
-        return key == QLatin1String("faults") ? reader.readValue(faults) : reader.skipValue();
-    });
-    return faults.toStringList();
 }

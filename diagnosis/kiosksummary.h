@@ -37,14 +37,12 @@ struct KioskSummary
     /// Of a condition, as the text has it.
     static const char* name(Condition condition);
 
-    /// What is wrong with the kiosk, a sentence for each fault; empty when it is fine.
-    QStringList faults() const;
-
     static constexpr qint64 noTime = std::numeric_limits<qint64>::min();
 
     QByteArray text; ///< JSON
     qint64 time = noTime; ///< the state's own, in milliseconds since 1970
     Condition condition = Fine;
+    QStringList faults; ///< a sentence for each; empty when it is fine
     qint64 inserted = 0; ///< notes and coins that its devices counted
     qint64 rejected = 0;
     qint64 returned = 0;

@@ -36,7 +36,7 @@ struct Options
                QStringLiteral("kiosks/+/state"));
     QCommandLineOption summaries =
         option("summaries", Diagnosis::tr("Where their summaries are published."), "TOPIC",
-               QStringLiteral("kiosks/%1/summary"));
+               QLatin1String(usualSummaries));
     QCommandLineOption wills =
         option("wills", Diagnosis::tr("Where a message, its will, says that a kiosk is gone."),
                "TOPIC", QStringLiteral("kiosks/+/will"));

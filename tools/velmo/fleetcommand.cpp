@@ -12,7 +12,6 @@
 #include "table.h"
 
 #include <QDateTime>
-#include <QLoggingCategory>
 #include <QMap>
 
 #include <algorithm>
@@ -74,7 +73,7 @@ public:
             const KioskSummary summary(text);
             kiosk.condition = summary.condition;
             kiosk.time = summary.time;
-            kiosk.faults = summary.faults();
+            kiosk.faults = summary.faults;
         } catch (const Fault& fault) {
             kiosk.faults += fault.message;
         }
@@ -169,8 +168,12 @@ QByteArray json(const Fleet& fleet)
 // As much of the table as the terminal has room for, and what is known of its truth.
 QString screen(const Fleet& fleet, const BrokerConnection& broker)
 {
-    QStringList lines = table(fleet.toSeeTo(), outputWidth()).split(QLatin1Char('\n'));
-    const int room = outputHeight() - 4;
+    const int height = outputHeight();
+    std::vector<Kiosk> kiosks = fleet.toSeeTo();
+    if (height > 0 && kiosks.size() > size_t(height)) // each takes a line or more
+        kiosks.resize(size_t(height));
+    QStringList lines = table(kiosks, outputWidth()).split(QLatin1Char('\n'));
+    const int room = height - 4;
     if (room > 0 && lines.size() > room) {
         lines = lines.mid(0, room);
         lines += QStringLiteral("...");
@@ -203,7 +206,6 @@ int fleetCommand(const Arguments& arguments)
     const bool isWatched = arguments.isSet(options::watch);
     if (isJson && isWatched)
         throw arguments.usageFault();
-    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\nvelmo.broker=false"));
     const seconds pause = waiting(arguments);
     BrokerOptions where;
     where.take(arguments.value(options::broker), arguments.value(options::passwordFile),
@@ -211,7 +213,7 @@ int fleetCommand(const Arguments& arguments)
                arguments.value(options::tlsKey));
     const KioskTopic summaries(arguments.isSet(options::summaries)
                                    ? arguments.value(options::summaries)
-                                   : QStringLiteral("kiosks/%1/summary"));
+                                   : QLatin1String(usualSummaries));
 
     Fleet fleet;
     auto lastKept = Clock::now(); // of the summaries that the broker had kept
@@ -224,33 +226,30 @@ int fleetCommand(const Arguments& arguments)
                                     lastKept = Clock::now();
                             });
     broker.subscribe(summaries.filter(), 1);
+    auto drawn = Clock::time_point();
     const auto work = [&] {
         BrokerConnection::wait({&broker}, milliseconds(200));
         broker.read(batch);
         broker.write();
+        const bool isLost = !broker.fault().isEmpty();
+        if (isLost && !isWatched)
+            throw Fault{broker.fault()};
+        const bool isKnown = isLost || broker.isSubscribed();
+        if (isWatched && isKnown && Clock::now() - drawn >= seconds(1)) {
+            drawn = Clock::now();
+            print(screen(fleet, broker));
+        }
     };
 
     const auto begin = Clock::now();
     while (!broker.isSubscribed()) {
         work();
-        if (!broker.fault().isEmpty() && !isWatched)
-            throw Fault{broker.fault()};
         if (Clock::now() - begin > longestConnecting && !isWatched)
             throw Fault{Velmo::tr("the broker does not answer")};
-        if (isWatched && !broker.fault().isEmpty())
-            print(screen(fleet, broker));
     }
     lastKept = Clock::now();
-    auto drawn = Clock::time_point();
-    while (isWatched || Clock::now() - lastKept < pause) {
+    while (isWatched || Clock::now() - lastKept < pause)
         work();
-        if (isWatched && Clock::now() - drawn >= seconds(1)) {
-            drawn = Clock::now();
-            print(screen(fleet, broker));
-        }
-        if (!isWatched && !broker.fault().isEmpty())
-            throw Fault{broker.fault()};
-    }
     broker.disconnect(true);
     if (fleet.isEmpty())
         throw Fault{Velmo::tr("no kiosk has a summary at \"%1\"").arg(summaries.filter())};
