@@ -162,8 +162,8 @@ void BrokerConnection::takeConnect(int reason)
     m_unanswered = 1; // this one
     // A broker that kept the session has the subscriptions; to repeat them brings what is retained.
     const auto subscriptions = std::exchange(m_subscriptions, {});
-    for (const auto& [filter, qos] : subscriptions)
-        subscribe(filter, qos);
+    for (const Subscription& subscription : subscriptions)
+        subscribe(subscription);
     takeAnswer();
 }
 
@@ -197,19 +197,31 @@ void BrokerConnection::lose(const QString& why)
 
 void BrokerConnection::subscribe(const QString& filter, int qos)
 {
-    m_subscriptions.append({filter, qos});
+    subscribe({filter, qos, 0});
+}
+
+void BrokerConnection::subscribeToOthers(const QString& filter)
+{
+    subscribe({filter, 0, MQTT_SUB_OPT_NO_LOCAL});
+}
+
+void BrokerConnection::subscribe(const Subscription& subscription)
+{
+    m_subscriptions.push_back(subscription);
     if (!m_isConnected)
         return;
     ++m_unanswered;
-    require(Mosquitto::library().subscribe(m_client, nullptr, filter.toUtf8().constData(), qos),
-            filter);
+    require(Mosquitto::library().subscribe_v5(m_client, nullptr,
+                                              subscription.filter.toUtf8().constData(),
+                                              subscription.qos, subscription.options, nullptr),
+            subscription.filter);
 }
 
 void BrokerConnection::unsubscribe(const QString& filter)
 {
     m_subscriptions.erase(
         std::remove_if(m_subscriptions.begin(), m_subscriptions.end(),
-                       [&](const auto& subscription) { return subscription.first == filter; }),
+                       [&](const Subscription& known) { return known.filter == filter; }),
         m_subscriptions.end());
     if (!m_isConnected)
         return;

@@ -7,11 +7,9 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QVector>
 
 #include <chrono>
 #include <functional>
-#include <utility>
 #include <vector>
 
 struct mosquitto;
@@ -40,6 +38,10 @@ public:
     /// Subscribes now, or once it is connected, and again after every loss of the connection.
     /// @param qos 0, or 1 for messages that are given again until they are acknowledged
     void subscribe(const QString& filter, int qos);
+
+    /// The same, with QoS 0, for what others publish: what this connection publishes itself does not
+    /// come back.
+    void subscribeToOthers(const QString& filter);
     void unsubscribe(const QString& filter);
 
     /// Publishes with QoS 1, retained; kept and repeated until the broker has it.
@@ -75,7 +77,15 @@ public:
     void disconnect(bool endSession);
 
 private:
+    struct Subscription
+    {
+        QString filter;
+        int qos;
+        int options; // as MQTT 5 has them
+    };
+
     void connect();
+    void subscribe(const Subscription& subscription);
     void lose(const QString& why);
     void takeConnect(int reason);
     void takeAnswer();
@@ -94,5 +104,5 @@ private:
     quint64 m_events = 0; // so many things arrived
     std::chrono::seconds m_pause{0};
     std::chrono::steady_clock::time_point m_nextAttempt;
-    QVector<std::pair<QString, int>> m_subscriptions;
+    std::vector<Subscription> m_subscriptions;
 };

@@ -51,7 +51,7 @@ public:
         find("mosquitto_unsubscribe_callback_set");
     decltype(mosquitto_connect_bind_v5)* const connect_bind_v5 = find("mosquitto_connect_bind_v5");
     decltype(mosquitto_disconnect_v5)* const disconnect_v5 = find("mosquitto_disconnect_v5");
-    decltype(mosquitto_subscribe)* const subscribe = find("mosquitto_subscribe");
+    decltype(mosquitto_subscribe_v5)* const subscribe_v5 = find("mosquitto_subscribe_v5");
     decltype(mosquitto_unsubscribe)* const unsubscribe = find("mosquitto_unsubscribe");
     decltype(mosquitto_publish)* const publish = find("mosquitto_publish");
     decltype(mosquitto_socket)* const socket = find("mosquitto_socket");

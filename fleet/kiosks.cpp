@@ -29,13 +29,6 @@ bool Kiosks::take(const QString& kiosk, const KioskSummary& summary)
     return true;
 }
 
-void Kiosks::hear(const QString& kiosk)
-{
-    const auto known = m_kiosks.find(kiosk);
-    if (known != m_kiosks.end() && known->newest.condition != KioskSummary::Silent)
-        known->heardOf = Clock::now();
-}
-
 void Kiosks::forget(const QString& kiosk)
 {
     const auto known = m_kiosks.find(kiosk);

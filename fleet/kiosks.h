@@ -31,9 +31,6 @@ public:
     /// @return whether it was taken
     bool take(const QString& kiosk, const KioskSummary& summary);
 
-    /// Tells that something was heard of the kiosk: its summary once more.
-    void hear(const QString& kiosk);
-
     /// The kiosk is no longer one of the fleet.
     void forget(const QString& kiosk);
 

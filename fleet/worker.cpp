@@ -46,7 +46,7 @@ Worker::Worker(const WorkerOptions& options, Metrics& metrics)
           options.broker, options.name, options.expiry,
           [this](const QString& topic, const QByteArray& text, bool) { takeState(topic, text); })
 {
-    m_summaries.subscribe(options.summaries.filter(), 0);
+    m_summaries.subscribeToOthers(options.summaries.filter());
     if (!options.isRetiring) {
         m_states.subscribe(shared(options, options.states), 1);
         m_states.subscribe(shared(options, options.wills), 1);
@@ -157,16 +157,11 @@ void Worker::takeSummary(const QString& topic, const QByteArray& text)
         m_kiosks.forget(kiosk);
         return;
     }
-    const Kiosks::Kiosk* const known = m_kiosks.find(kiosk);
-    if (known && known->newest.text == text) { // its own, come back
-        m_kiosks.hear(kiosk);
-        return;
-    }
     try {
         const KioskSummary summary(text);
         if (!m_kiosks.take(kiosk, summary)) {
             m_metrics.corrections.Increment();
-            publish(kiosk, known->newest);
+            publish(kiosk, m_kiosks.find(kiosk)->newest);
         }
     } catch (const Fault& fault) {
         m_metrics.faults.Increment();

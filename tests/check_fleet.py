@@ -308,6 +308,12 @@ def resident(worker):
         return next(int(line.split()[1]) for line in status if line.startswith("VmRSS")) // 1024
 
 
+def processor_time(worker):
+    with open(f"/proc/{worker.process.pid}/stat") as stat:
+        fields = stat.read().rsplit(")", 1)[1].split()
+    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
 def drain(fleet, names, count, kiosks):
     """Lets states wait for the workers, then times how long these take."""
     workers = [Worker(fleet, name) for name in names]
@@ -316,6 +322,8 @@ def drain(fleet, names, count, kiosks):
         worker.stop()
     for _ in fleet.publish_many(count, kiosks):
         pass
+    # The broker and the workers alone: nobody else wants the summaries meanwhile.
+    fleet.client.unsubscribe("kiosks/+/summary")
     for worker in workers:
         worker.start()
     start = time.monotonic()
@@ -324,10 +332,13 @@ def drain(fleet, names, count, kiosks):
     first, begin = done(), time.monotonic()
     wait_until("all states are taken", lambda: done() >= count, 120)
     rate = (count - first) / (time.monotonic() - begin)
+    used = [processor_time(worker) * 1e6 / count for worker in workers]
+    fleet.client.subscribe("kiosks/+/summary", 1)
     fleet.check(f"{len(names)} workers")
     memory = [resident(worker) for worker in workers]
     print(f"{len(names)} workers: {rate:.0f} states/s, {count} in {time.monotonic() - start:.1f} s, "
-          f"{kiosks} kiosks, {memory} MiB", flush=True)
+          f"{kiosks} kiosks, {memory} MiB, {[round(each, 1) for each in used]} us of a processor for "
+          "each of all states", flush=True)
     for worker in workers:
         worker.stop()
     return rate
