@@ -39,8 +39,8 @@ public:
     /// @param qos 0, or 1 for messages that are given again until they are acknowledged
     void subscribe(const QString& filter, int qos);
 
-    /// The same, with QoS 0, for what others publish: what this connection publishes itself does not
-    /// come back.
+    /// The same, with QoS 0, for what others publish: what this connection publishes itself does
+    /// not come back.
     void subscribeToOthers(const QString& filter);
     void unsubscribe(const QString& filter);
 

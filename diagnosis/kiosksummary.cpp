@@ -51,7 +51,7 @@ bool readMembers(const QByteArray& text, Read readMember)
 {
     const QString json = QString::fromUtf8(text);
     JsonReader reader(json);
-    return reader.readObject([&](const QString& key) { return readMember(reader, key); })
+    return reader.readObject([&](QStringView key) { return readMember(reader, key); })
         && reader.isAtEnd();
 }
 
@@ -83,7 +83,7 @@ KioskSummary KioskSummary::silent(const KioskSummary& last, const QString& kiosk
 {
     QVariant time;
     QVariant devices;
-    readMembers(last.text, [&](JsonReader& reader, const QString& key) {
+    readMembers(last.text, [&](JsonReader& reader, QStringView key) {
         if (key == QLatin1String("time"))
             return reader.readValue(time);
         return key == QLatin1String("devices") ? reader.readValue(devices) : reader.skipValue();
@@ -106,7 +106,7 @@ KioskSummary::KioskSummary(const QByteArray& json)
     QVariant value;
     QString conditionName;
     const auto readDevice = [&](JsonReader& reader) {
-        return reader.readObject([&](const QString& key) {
+        return reader.readObject([&](QStringView key) {
             qint64* const count = key == QLatin1String("notes_inserted") ? &inserted
                 : key == QLatin1String("notes_rejected")                 ? &rejected
                 : key == QLatin1String("notes_returned")                 ? &returned
@@ -118,7 +118,7 @@ KioskSummary::KioskSummary(const QByteArray& json)
             return isSound;
         });
     };
-    const bool isSound = readMembers(json, [&](JsonReader& reader, const QString& key) {
+    const bool isSound = readMembers(json, [&](JsonReader& reader, QStringView key) {
         if (key == QLatin1String("devices")) {
             hasDevices = true;
             return reader.readArray([&] { return readDevice(reader); });

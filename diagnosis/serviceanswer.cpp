@@ -83,14 +83,18 @@ bool readDetails(JsonReader& reader, std::vector<PublishedState::Details>& detai
             return isSound;
         }
         PublishedState::Details& device = details.emplace_back();
-        return reader.readObject([&](const QString& key) {
-            if (key != ONLINE && key != SESSION_SUM && key != CURRENT_NOTE)
+        return reader.readObject([&](QStringView key) {
+            const bool isOnline = key == ONLINE;
+            int* const number = key == SESSION_SUM ? &device.sessionSum
+                : key == CURRENT_NOTE              ? &device.currentNote
+                                                   : nullptr;
+            if (!isOnline && !number)
                 return reader.skipValue();
             const bool isSound = reader.readValue(value);
-            if (key == ONLINE)
+            if (isOnline)
                 device.isOffline = !value.toBool();
             else
-                (key == SESSION_SUM ? device.sessionSum : device.currentNote) = value.toInt();
+                *number = value.toInt();
             return isSound;
         });
     });
@@ -163,7 +167,7 @@ PublishedState readServiceState(const QString& json)
     bool hasDevices = false;
     QVariant time;
     const bool isObject = reader.isAtObject();
-    const bool isWhole = reader.readObject([&](const QString& key) {
+    const bool isWhole = reader.readObject([&](QStringView key) {
         if (key == AcceptorState::DEVICE_STATES) {
             hasDevices = reader.isAtArray();
             return hasDevices ? readDetails(reader, state.details) : reader.skipValue();

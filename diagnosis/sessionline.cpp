@@ -3,13 +3,13 @@
 
 #include "sessionline.h"
 
+#include "acceptorstate.h"
 #include "dispenserregistrymodel.h"
-#include "jsonreader_p.h"
+#include "recordfields_p.h"
 #include "statitem.h"
 #include "textinput.h"
 #include "words.h"
 
-#include <QHash>
 #include <QJsonObject>
 
 #include <array>
@@ -18,43 +18,64 @@
 
 namespace {
 
-Fault unknownKey(const QString& key)
+Fault unknownKey(QStringView key)
 {
     return {Diagnosis::tr("unknown key \"%1\"").arg(key)};
 }
 
-void read(const QVariant& value, bool& field)
+// How the value of a field is read: false for a text that is no JSON; throws Fault for a value that
+// the field cannot hold.
+
+bool read(JsonReader& json, bool& field)
 {
-    if (value.userType() != QMetaType::Bool)
+    if (json.readPlain(field))
+        return true;
+    if (json.skipValue())
         throw Fault{Diagnosis::tr("expected true or false")};
-    field = value.toBool();
+    return false;
 }
 
-void read(const QVariant& value, QString& field)
+bool read(JsonReader& json, QString& field)
 {
+    QVariant value;
+    if (json.readPlain(field))
+        return true;
+    if (!json.readValue(value))
+        return false;
     if (value.userType() != QMetaType::QString)
         throw Fault{Diagnosis::tr("expected a text")};
     field = value.toString();
+    return true;
 }
 
 template <typename Number>
-void read(const QVariant& value, Number& field)
+bool read(JsonReader& json, Number& field)
 {
     constexpr Number min = std::numeric_limits<Number>::min();
     constexpr Number max = std::numeric_limits<Number>::max();
-    const bool isNumber =
-        value.userType() == QMetaType::LongLong || value.userType() == QMetaType::Double;
-    const double number = isNumber ? value.toDouble() : std::numeric_limits<double>::quiet_NaN();
+    QVariant value;
+    qint64 plain = 0;
+    const bool isPlain = json.readPlain(plain);
+    if (!isPlain && !json.readValue(value))
+        return false;
+    const double number = isPlain               ? double(plain)
+        : value.userType() == QMetaType::Double ? value.toDouble()
+                                                : std::numeric_limits<double>::quiet_NaN();
     if (!(number >= min && number <= max) || std::trunc(number) != number)
         throw Fault{Diagnosis::tr("expected a whole number from %1 to %2").arg(min).arg(max)};
     field = static_cast<Number>(number);
+    return true;
 }
 
-void read(const QVariant& value, State& field)
+bool read(JsonReader& json, State& field)
 {
+    QVariant value;
+    if (!json.readValue(value))
+        return false;
     if (value.userType() != QMetaType::QString
         || !DeviceState::stateFromString(value.toString(), field))
         throw Fault{Diagnosis::tr("unknown state name \"%1\"").arg(value.toString())};
+    return true;
 }
 
 DispenserRegistryItem registryRow(const QVariantMap& map)
@@ -75,8 +96,11 @@ DispenserRegistryItem registryRow(const QVariantMap& map)
     return row;
 }
 
-void read(const QVariant& value, QList<DispenserRegistryItem>& field)
+bool read(JsonReader& json, QList<DispenserRegistryItem>& field)
 {
+    QVariant value;
+    if (!json.readValue(value))
+        return false;
     if (value.userType() != QMetaType::QVariantList)
         throw Fault{Diagnosis::tr("expected a list of registry rows")};
     field.clear();
@@ -89,19 +113,20 @@ void read(const QVariant& value, QList<DispenserRegistryItem>& field)
                 Diagnosis::tr("row %1: %2").arg(QString::number(field.size() + 1), fault.message)};
         }
     }
+    return true;
 }
 
 struct Field
 {
-    const QString& key;
-    void (*read)(DeviceState& state, const QVariant& value);
+    const QString* key;
+    bool (*read)(JsonReader& json, DeviceState& state);
     void (*copy)(DeviceState& to, const DeviceState& from);
 };
 
 template <auto Member>
 Field field(const QString& key)
 {
-    return {key, [](DeviceState& state, const QVariant& value) { read(value, state.*Member); },
+    return {&key, [](JsonReader& json, DeviceState& state) { return read(json, state.*Member); },
             [](DeviceState& to, const DeviceState& from) { to.*Member = from.*Member; }};
 }
 
@@ -132,46 +157,37 @@ const auto& fields()
     return table;
 }
 
-// Its place in the table of fields; -1 for a key that is none.
-int fieldIndex(const QString& key)
+// The keys of a line: those of the fields have the places of these.
+enum Key : size_t { DeviceStates = 18, Session, Time, Inserted, Rejected, Returned, Unknown };
+
+const auto& keys()
 {
-    static const QHash<QString, int> indexes = [] {
-        QHash<QString, int> found;
-        for (const Field& known : fields())
-            found.insert(known.key, int(found.size()));
-        return found;
-    }();
-    return indexes.value(key, -1);
+    static const QString session = QStringLiteral("session");
+    static const QString time = QStringLiteral("time");
+    static const KeyOrder order(
+        joined(keysOf(fields()),
+               std::array{&AcceptorState::DEVICE_STATES, &session, &time, &StatItem::NOTES_INSERTED,
+                          &StatItem::NOTES_REJECTED, &StatItem::NOTES_RETURNED}));
+    return order;
 }
 
-bool isCounter(const QString& key)
+bool readField(JsonReader& json, size_t index, DeviceReport& report)
 {
-    return key == StatItem::NOTES_INSERTED || key == StatItem::NOTES_REJECTED
-        || key == StatItem::NOTES_RETURNED;
-}
-
-bool readField(JsonReader& json, int index, DeviceReport& report)
-{
-    const Field& known = fields().at(size_t(index));
-    QVariant value;
-    if (!json.readValue(value))
-        return false;
-    try {
-        known.read(report.fields, value);
-    } catch (const Fault& fault) {
-        throw Fault{QStringLiteral("\"%1\": %2").arg(known.key, fault.message)};
-    }
+    const Field& known = fields().at(index);
     report.reported |= 1U << index;
-    return true;
+    try {
+        return known.read(json, report.fields);
+    } catch (const Fault& fault) {
+        throw Fault{QStringLiteral("\"%1\": %2").arg(*known.key, fault.message)};
+    }
 }
 
 bool readPublishedDevice(JsonReader& json, DeviceReport& report)
 {
-    const bool isSound = json.readObject([&](const QString& key) {
-        const int index = fieldIndex(key);
-        if (index >= 0)
+    const bool isSound = json.readObject(keys(), [&](size_t index, QStringView key) {
+        if (index < DeviceStates)
             return readField(json, index, report);
-        if (!isCounter(key))
+        if (index < Inserted || index == Unknown)
             throw unknownKey(key);
         return json.skipValue();
     });
@@ -228,7 +244,8 @@ void DeviceReport::applyTo(DeviceState& state) const
 
 quint32 DeviceReport::bit(const QString& key)
 {
-    return 1U << fieldIndex(key);
+    size_t likely = 0;
+    return 1U << keys().find(key, likely);
 }
 
 SessionLine::SessionLine(const QString& text)
@@ -236,28 +253,26 @@ SessionLine::SessionLine(const QString& text)
     JsonReader json(text);
     DeviceReport report;
     QString stray; // the first unknown key: those who read published states pass over such
-    const bool isSound = json.readObject([&](const QString& key) {
-        const int index = fieldIndex(key);
-        if (index >= 0)
+    const bool isSound = json.readObject(keys(), [&](size_t index, QStringView key) {
+        if (index < DeviceStates)
             return readField(json, index, report);
-        if (key == QLatin1String("device_states")) {
+        if (index == DeviceStates) {
             m_isPublished = true;
             return readPublished(json, m_reports);
         }
-        const bool isSession = key == QLatin1String("session");
-        if (!isSession && key != QLatin1String("time")) {
-            stray = stray.isNull() ? key : stray;
+        if (index > Time) {
+            stray = stray.isNull() ? key.toString() : stray;
             return json.skipValue();
         }
         QVariant value;
         if (!json.readValue(value))
             return false;
-        if (!isSession)
+        if (index == Time)
             m_time = readTime(value);
         else if (value.userType() != QMetaType::QString
                  || value.toString() != QLatin1String("start"))
             throw Fault{Diagnosis::tr(R"("session": expected "start")")};
-        m_startsSession = m_startsSession || isSession;
+        m_startsSession = m_startsSession || index == Session;
         return true;
     });
     if (!isSound || !json.isAtEnd())

@@ -53,7 +53,8 @@ inline bool readLookingForDoubledKeys(JsonReader& json, bool& doubled)
 {
     QSet<QByteArray> keys;
     const auto readElement = [&] { return readLookingForDoubledKeys(json, doubled); };
-    const auto readMember = [&](const QString& key) {
+    const auto readMember = [&](QStringView view) {
+        const QString key = view.toString();
         const QString compared =
             key.left(key.indexOf(QChar(0))).replace(QChar(0xfffd), QChar(u'?'));
         const auto count = keys.size();

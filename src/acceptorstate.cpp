@@ -65,6 +65,13 @@ public:
         return true;
     }
 
+    template <typename Keys, typename Read>
+    bool readObject(const Keys& keys, Read readMember)
+    {
+        std::size_t likely = 0;
+        return readObject([&](QStringView key) { readMember(keys.find(key, likely), key); });
+    }
+
     template <typename Read>
     bool readArray(Read readElement)
     {
@@ -84,27 +91,38 @@ public:
 
     static bool skipValue() { return true; }
 
+    const QVariant& value() const { return *m_current; }
+
 private:
     const QVariant* m_current;
 };
+
+template <typename T>
+bool readJson(VariantReader& reader, T& value)
+{
+    value = fromVariant<T>(reader.value());
+    return true;
+}
 
 // A registry row on its way from either reader into an entry's map.
 class RegistryRow
 {
 public:
     // Where the value of a key belongs; null when it is not kept.
-    QVariant* place(const QString& key, const QVariant& likelyCurrency)
+    QVariant* place(std::size_t i, QStringView key, const QVariant& likelyCurrency)
     {
-        const std::size_t i = order().find(key, m_likely);
         m_isEmpty = false;
         if (i == DeviceId || i == ThreadId)
             return nullptr;
         if (i == Channel)
             return &m_channel;
         // A constant and a text that is shared cost no memory in each row.
-        const QString& kept = i == keys.size() ? key : *keys[i];
-        return &*m_values.insert(m_values.cend(), kept,
-                                 i == Currency ? likelyCurrency : QVariant());
+        const QString kept = i == keys.size() ? key.toString() : *keys[i];
+        QVariant* const value =
+            &*m_values.insert(m_values.cend(), kept, i == Currency ? likelyCurrency : QVariant());
+        if (i < keys.size())
+            m_places[i] = value;
+        return value;
     }
 
     // Stores the row under its kind and channel.
@@ -113,17 +131,23 @@ public:
         if (m_isEmpty)
             return;
         QVarLengthArray<QChar, 64> key;
-        append(key, m_values.value(*keys[BillType]));
+        append(key, at(BillType));
         key.append(u'_');
         append(key, m_channel);
         key.append(u'_');
-        append(key, m_values.value(*keys[Denomination]));
+        append(key, at(Denomination));
         key.append(u'_');
         append(key, currency());
-        registry.insert(QString(key.constData(), key.size()), m_values);
+        registry.insert(registry.cend(), QString(key.constData(), key.size()), m_values);
     }
 
-    QVariant currency() const { return m_values.value(*keys[Currency]); }
+    QVariant currency() const { return at(Currency); }
+
+    static const auto& order()
+    {
+        static const KeyOrder order(keys);
+        return order;
+    }
 
 private:
     using Row = DispenserRegistryItem;
@@ -132,11 +156,7 @@ private:
                                      &Row::DENOMINATION, &Row::DEVICE_ID, &Row::THREAD_ID,
                                      &Row::COUNT,        &Row::REJECTED};
 
-    static const KeyOrder<keys.size()>& order()
-    {
-        static const KeyOrder<keys.size()> order(keys);
-        return order;
-    }
+    QVariant at(Key key) const { return m_places[key] ? *m_places[key] : QVariant(); }
 
     static void append(QVarLengthArray<QChar, 64>& key, const QVariant& part)
     {
@@ -152,22 +172,23 @@ private:
     }
 
     QVariantMap m_values;
+    std::array<const QVariant*, keys.size()> m_places{}; // of those that are kept
     QVariant m_channel;
-    std::size_t m_likely = 0;
     bool m_isEmpty = true;
 };
 
 template <typename Reader>
-bool readRegistry(Reader& reader, AcceptorStateItem& device)
+bool readRegistry(Reader& reader, AcceptorStateItem& device, const AcceptorStateItem& /*before*/)
 {
     QVariantMap registry;
     QVariant currency; // mostly the same in every row
     const auto readRow = [&] {
         RegistryRow row;
-        const bool complete = reader.readObject([&](const QString& key) {
-            QVariant* const value = row.place(key, currency);
+        const auto readMember = [&](std::size_t i, QStringView key) {
+            QVariant* const value = row.place(i, key, currency);
             return value ? reader.readValue(*value) : reader.skipValue();
-        });
+        };
+        const bool complete = reader.readObject(RegistryRow::order(), readMember);
         row.file(registry);
         currency = row.currency();
         return complete;
@@ -179,78 +200,69 @@ bool readRegistry(Reader& reader, AcceptorStateItem& device)
 }
 
 // A field of a device's map.
+template <typename Reader>
 struct DeviceField
 {
     const QString* key;
-    void (*set)(AcceptorStateItem& item, const QVariant& value); // null when it is not read
+    // Null when it is not read.
+    bool (*read)(Reader& reader, AcceptorStateItem& item, const AcceptorStateItem& before);
 };
 
-template <typename Setter>
-struct Argument;
-
-template <typename Value>
-struct Argument<void (AcceptorStateItem::*)(Value)>
+template <typename Reader, auto Getter, auto Setter>
+DeviceField<Reader> deviceField(const QString& key)
 {
-    using Type = std::decay_t<Value>;
-};
-
-template <auto Setter>
-DeviceField deviceField(const QString& key)
-{
-    return {&key, [](AcceptorStateItem& item, const QVariant& value) {
-                (item.*Setter)(fromVariant<typename Argument<decltype(Setter)>::Type>(value));
+    return {&key, [](Reader& reader, AcceptorStateItem& item, const AcceptorStateItem& before) {
+                auto value = (before.*Getter)(); // a text that is the same is shared
+                const bool complete = readJson(reader, value);
+                (item.*Setter)(value);
+                return complete;
             }};
 }
 
 // Those that are not read keep the others in step with a map that has them all.
+template <typename Reader>
 const auto& deviceFields()
 {
     using namespace deviceStateDescConst;
     using Item = AcceptorStateItem;
+    using DeviceField = DeviceField<Reader>;
     static const std::array fields{
         DeviceField{&CASH, nullptr},
         DeviceField{&CURRENT_CHANNEL, nullptr},
         DeviceField{&CURRENT_NOTE, nullptr},
-        deviceField<&Item::setDeviceId>(DEVICE_ID),
+        deviceField<Reader, &Item::deviceId, &Item::setDeviceId>(DEVICE_ID),
         DeviceField{&DISPENSED_SUM, nullptr},
-        DeviceField{&DispenserRegistryModel::DISPENSER_REGISTRY, nullptr}, // see readDevice()
-        deviceField<&Item::setEnabled>(ENABLED),
-        deviceField<&Item::setErrorCritical>(ERROR_CRITICAL),
-        deviceField<&Item::setErrorText>(ERROR_TEXT),
-        deviceField<&Item::setHalt>(HALT),
-        deviceField<&Item::setIdString>(ID_STRING),
-        deviceField<&Item::setNotesInserted>(StatItem::NOTES_INSERTED),
-        deviceField<&Item::setNotesRejected>(StatItem::NOTES_REJECTED),
-        deviceField<&Item::setNotesReturned>(StatItem::NOTES_RETURNED),
+        DeviceField{&DispenserRegistryModel::DISPENSER_REGISTRY, readRegistry<Reader>},
+        deviceField<Reader, &Item::enabled, &Item::setEnabled>(ENABLED),
+        deviceField<Reader, &Item::errorCritical, &Item::setErrorCritical>(ERROR_CRITICAL),
+        deviceField<Reader, &Item::errorText, &Item::setErrorText>(ERROR_TEXT),
+        deviceField<Reader, &Item::halt, &Item::setHalt>(HALT),
+        deviceField<Reader, &Item::idString, &Item::setIdString>(ID_STRING),
+        deviceField<Reader, &Item::notesInserted, &Item::setNotesInserted>(
+            StatItem::NOTES_INSERTED),
+        deviceField<Reader, &Item::notesRejected, &Item::setNotesRejected>(
+            StatItem::NOTES_REJECTED),
+        deviceField<Reader, &Item::notesReturned, &Item::setNotesReturned>(
+            StatItem::NOTES_RETURNED),
         DeviceField{&ONLINE, nullptr},
         DeviceField{&SESSION_SUM, nullptr},
-        deviceField<&Item::setStackerFull>(STACKER_FULL),
-        deviceField<&Item::setStackerPresent>(STACKER_PRESENT),
-        deviceField<&Item::setState>(STATE),
-        deviceField<&Item::setStateText>(STATE_TEXT),
-        deviceField<&Item::setThreadId>(THREAD_ID),
+        deviceField<Reader, &Item::stackerFull, &Item::setStackerFull>(STACKER_FULL),
+        deviceField<Reader, &Item::stackerPresent, &Item::setStackerPresent>(STACKER_PRESENT),
+        deviceField<Reader, &Item::state, &Item::setState>(STATE),
+        deviceField<Reader, &Item::stateText, &Item::setStateText>(STATE_TEXT),
+        deviceField<Reader, &Item::threadId, &Item::setThreadId>(THREAD_ID),
     };
     return fields;
 }
 
 template <typename Reader>
-bool readDevice(Reader& reader, AcceptorStateItem& device)
+bool readDevice(Reader& reader, AcceptorStateItem& device, const AcceptorStateItem& before)
 {
-    static const auto& fields = deviceFields();
+    static const auto& fields = deviceFields<Reader>();
     static const KeyOrder order(keysOf(fields));
-    std::size_t likely = 0;
-    return reader.readObject([&](const QString& key) {
-        const std::size_t i = order.find(key, likely);
-        if (i == fields.size())
-            return reader.skipValue();
-        if (fields[i].key == &DispenserRegistryModel::DISPENSER_REGISTRY)
-            return readRegistry(reader, device);
-        if (!fields[i].set)
-            return reader.skipValue();
-        QVariant value;
-        const bool complete = reader.readValue(value);
-        fields[i].set(device, value);
-        return complete;
+    return reader.readObject(order, [&](std::size_t i, QStringView) {
+        return i < fields.size() && fields[i].read ? fields[i].read(reader, device, before)
+                                                   : reader.skipValue();
     });
 }
 
@@ -261,8 +273,9 @@ bool readDevices(Reader& reader, QList<AcceptorStateItem>& devices)
     const AcceptorStateItem withDefaults{QVariantMap()};
     const auto readElement = [&] {
         if (reader.isAtObject()) {
+            const AcceptorStateItem before = devices.isEmpty() ? withDefaults : devices.last();
             devices.append(withDefaults);
-            return readDevice(reader, devices.last());
+            return readDevice(reader, devices.last(), before);
         }
         QVariant other;
         const bool complete = reader.readValue(other);
@@ -270,7 +283,7 @@ bool readDevices(Reader& reader, QList<AcceptorStateItem>& devices)
             devices.append(withDefaults);
         return complete;
     };
-    return reader.readObject([&](const QString& key) {
+    return reader.readObject([&](QStringView key) {
         if (key != AcceptorState::DEVICE_STATES)
             return reader.skipValue();
         devices.clear(); // of doubled keys the last one counts
@@ -311,7 +324,7 @@ AcceptorStateItem::AcceptorStateItem(QVariantMap map)
 {
     const QVariant published(map);
     VariantReader reader(published);
-    readDevice(reader, *this);
+    readDevice(reader, *this, *this);
 }
 
 int AcceptorStateItem::deviceId() const

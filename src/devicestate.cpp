@@ -36,13 +36,19 @@ auto fields(Record& r)
 
 RecordField<DeviceState> stateField()
 {
-    return {
-        &deviceStateDescConst::STATE,
-        [](const DeviceState& record) { return QVariant(record.stateAsString()); },
-        [](DeviceState& record, const QVariant& value) {
-            return DeviceState::stateFromString(Variants::toString(value), record.state);
-        },
-        [](JsonWriter& json, const DeviceState& record) { json.write(record.stateAsString()); }};
+    return {&deviceStateDescConst::STATE,
+            [](const DeviceState& record) { return QVariant(record.stateAsString()); },
+            [](DeviceState& record, const QVariant& value) {
+                return DeviceState::stateFromString(Variants::toString(value), record.state);
+            },
+            [](JsonWriter& json, const DeviceState& record) { json.write(record.stateAsString()); },
+            [](JsonReader& json, DeviceState& record, bool& isRead) {
+                QString name = record.stateAsString(); // shared when it is the same
+                const bool isSound = readJson(json, name);
+                isRead = DeviceState::stateFromString(name, record.state);
+                return isSound;
+            },
+            [](DeviceState& record, DeviceState& from) { record.state = from.state; }};
 }
 
 // The rows travel outwards only, and only when there are any.
@@ -58,6 +64,8 @@ RecordField<DeviceState> registryField()
             [](JsonWriter& json, const DeviceState& record) {
                 writeJson(json, record.dispenserRegistry);
             },
+            nullptr,
+            nullptr,
             UnreadField,
             [](const DeviceState& record) { return !record.dispenserRegistry.isEmpty(); }};
 }

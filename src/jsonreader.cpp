@@ -6,8 +6,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include <algorithm>
-
 namespace {
 
 // A string, number or word as Qt has it; invalid when it is none. Qt knows best what the unusual
@@ -33,7 +31,7 @@ bool JsonReader::readValue(QVariant& value)
     if (isAtObject()) {
         value = QVariantMap();
         auto& map = *static_cast<QVariantMap*>(value.data());
-        return readObject([&](const QString& key) { return readValue(map[key]); });
+        return readObject([&](QStringView key) { return readValue(map[key.toString()]); });
     }
     if (isAtArray()) {
         value = QVariantList();
@@ -44,12 +42,13 @@ bool JsonReader::readValue(QVariant& value)
         });
     }
     if (current() == u'"') {
-        if (!readString(m_key))
+        QStringView string;
+        if (!readString(string))
             return false;
         const bool isHeld = value.userType() == QMetaType::QString
-            && *static_cast<const QString*>(value.constData()) == m_key;
+            && *static_cast<const QString*>(value.constData()) == string;
         if (!isHeld)
-            value = QString(m_key.constData(), m_key.size());
+            value = string.toString();
         return true;
     }
     value = readWord();
@@ -59,51 +58,100 @@ bool JsonReader::readValue(QVariant& value)
 bool JsonReader::skipValue()
 {
     if (isAtObject())
-        return readObject([this](const QString&) { return skipValue(); });
+        return readObject([this](QStringView) { return skipValue(); });
     if (isAtArray())
         return readArray([this] { return skipValue(); });
-    return current() == u'"' ? readString(m_key) : readWord().isValid();
+    QStringView string;
+    qint64 number = 0;
+    if (readPlain(string) || readPlain(number))
+        return true;
+    return current() == u'"' ? readString(string) : readWord().isValid();
 }
 
-bool JsonReader::readString(QString& string)
+bool JsonReader::readPlain(bool& value)
+{
+    for (const QStringView word : {QStringView(u"true"), QStringView(u"false")}) {
+        if (isAt(m_next, word) && isWordEnd(m_next + word.size())) {
+            value = word.size() == 4;
+            m_next += word.size();
+            skipSpace();
+            return true;
+        }
+    }
+    return false;
+}
+
+bool JsonReader::readPlain(qint64& number)
+{
+    const bool isNegative = current() == u'-';
+    const QChar* const digits = m_next + (isNegative ? 1 : 0);
+    const QChar* next = digits;
+    qint64 read = 0;
+    for (; next != m_end && *next >= QChar(u'0') && *next <= QChar(u'9') && next - digits < 18;
+         ++next)
+        read = read * 10 + next->unicode() - u'0';
+    if (next == digits || !isWordEnd(next) || (*digits == QChar(u'0') && next - digits > 1))
+        return false;
+    number = isNegative ? -read : read;
+    m_next = next;
+    skipSpace();
+    return true;
+}
+
+bool JsonReader::readPlain(QString& text)
+{
+    QStringView string;
+    if (!readPlain(string))
+        return false;
+    if (text.isNull() || text != string)
+        text = string.toString();
+    return true;
+}
+
+bool JsonReader::readPlain(QStringView& string)
 {
     if (current() != u'"')
         return false;
-    const QChar* const begin = ++m_next;
     const auto isPlain = [](QChar c) { return c != u'"' && c != u'\\' && !c.isSurrogate(); };
-    m_next = std::find_if_not(begin, m_end, isPlain);
-    if (current() == u'"' && *begin != QChar(QChar::ByteOrderMark)) {
-        string.setUnicode(begin, static_cast<int>(m_next - begin));
-        return skip(u'"');
-    }
+    const QChar* const begin = m_next + 1;
+    const QChar* const end = std::find_if_not(begin, m_end, isPlain);
+    if (end == m_end || *end != QChar(u'"') || *begin == QChar(QChar::ByteOrderMark))
+        return false;
+    string = {begin, end};
+    m_next = end;
+    return skip(u'"');
+}
+
+bool JsonReader::readString(QStringView& string)
+{
+    if (readPlain(string))
+        return true;
+    if (current() != u'"')
+        return false;
+    const QChar* const begin = m_next++;
     for (; current() != u'"'; ++m_next) { // to the quote; an escaped one is stepped over
         if (isAtEnd() || (*m_next == u'\\' && ++m_next == m_end))
             return false;
     }
-    const QVariant value = valueByQt({begin - 1, ++m_next});
+    const QVariant value = valueByQt({begin, ++m_next});
     skipSpace();
-    string = value.toString();
+    m_unusual = value.toString();
+    string = m_unusual;
     return value.isValid();
 }
 
 QVariant JsonReader::readWord()
 {
+    qint64 number = 0;
+    if (readPlain(number))
+        return number;
+    bool isTrue = false;
+    if (readPlain(isTrue))
+        return isTrue;
     const QChar* const begin = m_next;
-    while (current() > u' ' && current() != u',' && current() != u']' && current() != u'}')
+    while (!isWordEnd(m_next))
         ++m_next;
     const QStringView word(begin, m_next);
     skipSpace();
-    if (word == QLatin1String("true") || word == QLatin1String("false"))
-        return word.size() == 4;
-
-    const QStringView digits = word.mid(word.startsWith(u'-') ? 1 : 0);
-    bool isPlain = digits.size() == 1 || (digits.size() <= 18 && !digits.startsWith(u'0'));
-    quint64 number = 0;
-    for (const QChar digit : digits) {
-        isPlain = isPlain && digit >= u'0' && digit <= u'9';
-        number = number * 10 + digit.unicode() - u'0';
-    }
-    if (!isPlain || digits.isEmpty())
-        return valueByQt(word);
-    return digits.size() < word.size() ? -qlonglong(number) : qlonglong(number);
+    return valueByQt(word);
 }

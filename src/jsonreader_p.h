@@ -4,7 +4,58 @@
 #pragma once
 
 #include <QString>
+#include <QStringView>
 #include <QVariant>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+/// Finds keys by their index. They mostly come in ascending order: the one after the key that was
+/// found last is tried first.
+template <std::size_t Size>
+class KeyOrder
+{
+public:
+    explicit KeyOrder(const std::array<const QString*, Size>& keys)
+        : m_keys(keys)
+    {
+        for (std::size_t i = 0; i < Size; ++i)
+            m_ascending[i] = i;
+        std::sort(m_ascending.begin(), m_ascending.end(),
+                  [this](std::size_t a, std::size_t b) { return *m_keys[a] < *m_keys[b]; });
+    }
+
+    /// The indexes of the keys in the order of their texts.
+    const std::array<std::size_t, Size>& ascending() const { return m_ascending; }
+
+    /// The key at a place in that order.
+    QStringView at(std::size_t place) const { return *m_keys[m_ascending[place]]; }
+
+    /// The index of a key, Size without one. @p likely is the place in that order where it is
+    /// looked for first, and afterwards where the next key will be.
+    std::size_t find(QStringView key, std::size_t& likely) const
+    {
+        for (std::size_t tried = 0; tried < Size; ++tried) {
+            const std::size_t i = m_ascending[likely];
+            likely = likely + 1 == Size ? 0 : likely + 1;
+            if (isEqual(*m_keys[i], key))
+                return i;
+        }
+        return Size;
+    }
+
+private:
+    static bool isEqual(QStringView a, QStringView b)
+    {
+        return a.size() == b.size()
+            && (a.data() == b.data()
+                || std::memcmp(a.data(), b.data(), std::size_t(a.size()) * sizeof(QChar)) == 0);
+    }
+
+    std::array<const QString*, Size> m_keys;
+    std::array<std::size_t, Size> m_ascending;
+};
 
 /// Reads JSON text without a document in between. It takes what Qt 5.15's parser takes, and means
 /// the same by it. Of doubled keys the last one counts; Qt's parser leaks then, and does not say
@@ -33,8 +84,25 @@ public:
     template <typename Read>
     bool readObject(Read readMember)
     {
+        QStringView key;
         return readContainer(u'{', u'}',
-                             [&] { return readString(m_key) && skip(u':') && readMember(m_key); });
+                             [&] { return readString(key) && skip(u':') && readMember(key); });
+    }
+
+    /// Reads an object of known keys: @p readMember(index, key) reads the value of each member. The
+    /// key that is likely to come is compared with the text as it stands.
+    /// The index is that of KeyOrder::find().
+    template <std::size_t Size, typename Read>
+    bool readObject(const KeyOrder<Size>& keys, Read readMember)
+    {
+        QStringView key;
+        std::size_t likely = 0;
+        return readContainer(u'{', u'}', [&] {
+            key = keys.at(likely);
+            if (!skipPlainString(key) && !readString(key))
+                return false;
+            return skip(u':') && readMember(keys.find(key, likely), key);
+        });
     }
 
     /// Reads an array: @p readElement() reads each element.
@@ -50,6 +118,13 @@ public:
 
     /// Reads any value and drops it.
     bool skipValue();
+
+    /// Reads a value in the plain form of its type. Any other is left where it is, for readValue():
+    /// texts with escapes, numbers with a fraction or more than 18 digits. A text that @p text
+    /// already holds is kept and stays shared.
+    bool readPlain(bool& value);
+    bool readPlain(qint64& number);
+    bool readPlain(QString& text);
 
 private:
     template <typename Read>
@@ -77,15 +152,41 @@ private:
 
     void skipSpace()
     {
-        while (current() == u' ' || current() == u'\t' || current() == u'\n' || current() == u'\r')
-            ++m_next;
+        for (; current() <= u' '; ++m_next) {
+            if (current() != u' ' && current() != u'\t' && current() != u'\n' && current() != u'\r')
+                return;
+        }
     }
 
-    bool readString(QString& string);
+    // Whether a word may end before a place of the text.
+    bool isWordEnd(const QChar* place) const
+    {
+        return place == m_end || *place <= QChar(u' ') || *place == QChar(u',')
+            || *place == QChar(u']') || *place == QChar(u'}');
+    }
+
+    // Whether these characters stand at a place of the text.
+    bool isAt(const QChar* place, QStringView text) const
+    {
+        return m_end - place >= text.size()
+            && std::memcmp(place, text.data(), std::size_t(text.size()) * sizeof(QChar)) == 0;
+    }
+
+    bool skipPlainString(QStringView string)
+    {
+        const QChar* const end = m_next + string.size() + 1;
+        if (current() != u'"' || !isAt(m_next + 1, string) || end == m_end || *end != QChar(u'"'))
+            return false;
+        m_next = end;
+        return skip(u'"');
+    }
+
+    bool readPlain(QStringView& string);
+    bool readString(QStringView& string); // valid until the next one is read
     QVariant readWord(); // a number, true, false or null
 
     const QChar* m_next; // never at the space between tokens
     const QChar* const m_end;
     int m_depth = 0;
-    QString m_key;
+    QString m_unusual; // the string that was not plain
 };

@@ -33,6 +33,9 @@ struct RecordField
     QVariant (*get)(const Record& record);
     bool (*set)(Record& record, const QVariant& value); ///< false ends the reading
     void (*write)(JsonWriter& json, const Record& record);
+    /// False for text that is no JSON; @p isRead becomes what set() would return.
+    bool (*read)(JsonReader& json, Record& record, bool& isRead);
+    void (*take)(Record& record, Record& from);
     FieldReading reading = RequiredField;
     bool (*isWritten)(const Record& record) = nullptr; ///< null: always
 };
@@ -71,55 +74,44 @@ void writeJson(JsonWriter& json, const T& value)
         json.write(static_cast<qint64>(value));
 }
 
+/// Reads what fromVariant() makes of the value that the text stands for.
+template <typename T>
+bool readJson(JsonReader& json, T& value)
+{
+    using Plain =
+        std::conditional_t<std::is_same_v<T, QString> || std::is_same_v<T, bool>, T, qint64>;
+    if constexpr (std::is_same_v<T, Plain>) {
+        if (json.readPlain(value))
+            return true;
+    } else if (Plain plain = 0; json.readPlain(plain)) {
+        value = static_cast<T>(plain);
+        return true;
+    }
+    QVariant other;
+    const bool isSound = json.readValue(other);
+    value = fromVariant<T>(other);
+    return isSound;
+}
+
 /// The field for a data member of the record or of its base.
 template <typename Record, auto Member>
 RecordField<Record> recordField(const QString& key, FieldReading reading = RequiredField)
 {
     using T = std::decay_t<decltype(std::declval<Record>().*Member)>;
-    return {&key, [](const Record& record) { return toVariant(record.*Member); },
+    return {&key,
+            [](const Record& record) { return toVariant(record.*Member); },
             [](Record& record, const QVariant& value) {
                 record.*Member = fromVariant<T>(value);
                 return true;
             },
             [](JsonWriter& json, const Record& record) { writeJson(json, record.*Member); },
+            [](JsonReader& json, Record& record, bool& isRead) {
+                isRead = true;
+                return readJson(json, record.*Member);
+            },
+            [](Record& record, Record& from) { record.*Member = std::move(from.*Member); },
             reading};
 }
-
-/// Finds keys by their index. They mostly come in ascending order: the one after the key that was
-/// found last is tried first.
-template <std::size_t Size>
-class KeyOrder
-{
-public:
-    explicit KeyOrder(const std::array<const QString*, Size>& keys)
-        : m_keys(keys)
-    {
-        for (std::size_t i = 0; i < Size; ++i)
-            m_ascending[i] = i;
-        std::sort(m_ascending.begin(), m_ascending.end(),
-                  [this](std::size_t a, std::size_t b) { return *m_keys[a] < *m_keys[b]; });
-    }
-
-    /// The indexes of the keys in the order of their texts.
-    const std::array<std::size_t, Size>& ascending() const { return m_ascending; }
-
-    /// The index of a key, Size without one. @p likely is the place in that order where it is
-    /// looked for first, and afterwards where the next key will be.
-    std::size_t find(const QString& key, std::size_t& likely) const
-    {
-        for (std::size_t tried = 0; tried < Size; ++tried) {
-            const std::size_t i = m_ascending[likely];
-            likely = (likely + 1) % Size;
-            if (*m_keys[i] == key)
-                return i;
-        }
-        return Size;
-    }
-
-private:
-    std::array<const QString*, Size> m_keys;
-    std::array<std::size_t, Size> m_ascending;
-};
 
 /// The keys of a table's fields.
 template <typename Field, std::size_t Size>
@@ -156,10 +148,20 @@ public:
     /// @param error receives the bare text of the first missing key; may be null
     bool fromMap(const QVariantMap& map, Record& record, QString* error) const
     {
-        return read(record, error, [this, &map](std::size_t i) {
-            const auto entry = map.constFind(*m_fields[i].key);
-            return entry == map.constEnd() ? nullptr : &*entry;
-        });
+        for (const RecordField<Record>& field : m_fields) {
+            if (field.reading == UnreadField)
+                continue;
+            const auto value = map.constFind(*field.key);
+            if (value != map.constEnd()) {
+                if (!field.set(record, *value))
+                    return false;
+            } else if (field.reading == RequiredField) {
+                if (error)
+                    *error = *field.key;
+                return false;
+            }
+        }
+        return true;
     }
 
     void write(JsonWriter& json, const Record& record) const
@@ -179,41 +181,26 @@ public:
     /// none, and nothing is read.
     bool parse(const QString& text, Record& record) const
     {
-        std::array<QVariant, Size> values;
+        std::array<bool, Size> isRead{};
+        Record read = record; // whose texts are kept where they are the same
         JsonReader json(text);
-        std::size_t likely = 0;
-        const auto readMember = [&](const QString& key) {
-            const std::size_t i = m_order.find(key, likely);
-            return i == Size || m_fields[i].reading == UnreadField ? json.skipValue()
-                                                                   : json.readValue(values[i]);
+        const auto readMember = [&](std::size_t i, QStringView) {
+            if (i == Size || m_fields[i].reading == UnreadField)
+                return json.skipValue();
+            return m_fields[i].read(json, read, isRead[i]);
         };
-        return json.readObject(readMember) && json.isAtEnd()
-            && read(record, nullptr, [&values](std::size_t i) {
-                   return values[i].isValid() ? &values[i] : nullptr;
-               });
-    }
-
-private:
-    // Reads the fields in order; @p valueOf gives the value of the field at an index, or null.
-    template <typename ValueOf>
-    bool read(Record& record, QString* error, ValueOf valueOf) const
-    {
+        if (!json.readObject(m_order, readMember) || !json.isAtEnd())
+            return false;
         for (std::size_t i = 0; i < Size; ++i) {
-            const RecordField<Record>& field = m_fields[i];
-            if (field.reading == UnreadField)
-                continue;
-            if (const QVariant* const value = valueOf(i)) {
-                if (!field.set(record, *value))
-                    return false;
-            } else if (field.reading == RequiredField) {
-                if (error)
-                    *error = *field.key;
+            if (isRead[i])
+                m_fields[i].take(record, read);
+            else if (m_fields[i].reading == RequiredField)
                 return false;
-            }
         }
         return true;
     }
 
+private:
     std::array<RecordField<Record>, Size> m_fields; // in reading order
     KeyOrder<Size> m_order;
 };
