@@ -10,7 +10,7 @@ cd "$(dirname "$0")/.."
 . scripts/require.sh
 preset=${1:-bench}
 
-require_packages "${build_packages[@]}" "${qt6_packages[@]}" libbenchmark-dev nlohmann-json3-dev rapidjson-dev python3
+require_packages "${build_packages[@]}" "${qt6_packages[@]}" libbenchmark-dev nlohmann-json3-dev rapidjson-dev libsimdjson-dev python3
 cmake --preset "$preset"
 cmake --build --preset "$preset"
 "build/$preset"/bench/velmolib_bench --benchmark_repetitions=7 --benchmark_min_time=0.1 \
