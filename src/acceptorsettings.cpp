@@ -158,15 +158,25 @@ class Elements
 public:
     bool apply(const QVariantMap& element)
     {
-        const auto path = element.constFind(SettingsList::groupKey);
-        if (path == element.constEnd())
+        // In ascending order, as the keys are: one walk finds all three.
+        auto entry = element.constBegin();
+        const auto valueOf = [&](const QString& key) {
+            while (entry != element.constEnd() && entry.key() < key)
+                ++entry;
+            return entry != element.constEnd() && entry.key() == key ? &*entry : nullptr;
+        };
+        const QVariant* const path = valueOf(SettingsList::groupKey);
+        if (!path)
             return false;
         const QString text = Variants::toString(*path);
-        if (text != m_path)
+        if (text != m_path) {
             m_group = SettingGroup(text);
-        m_path = text;
-        return ::apply(m_group, Variants::toString(element.value(SettingsList::nameKey)),
-                       Variants::toString(element.value(SettingsList::valueKey)));
+            m_path = text;
+        }
+        const QVariant* const name = valueOf(SettingsList::nameKey);
+        const QVariant* const value = valueOf(SettingsList::valueKey);
+        return ::apply(m_group, name ? Variants::toString(*name) : QString(),
+                       value ? Variants::toString(*value) : QString());
     }
 
 private:
