@@ -19,18 +19,18 @@ void JsonText::appendTo(QByteArray& json, const QString& text)
     const bool isPlain = std::all_of(text.begin(), text.end(), [](QChar c) {
         return c >= u' ' && c <= u'~' && c != u'"' && c != u'\\';
     });
-    if (isPlain) {
-        json += '"';
-        const auto end = json.size();
-        json.resize(int(end + text.size()) + 1);
-        std::transform(text.begin(), text.end(), json.begin() + end,
-                       [](QChar c) { return c.toLatin1(); });
-        json.back() = '"';
+    if (!isPlain) {
+        JsonWriter writer;
+        writer.write(text);
+        json += writer.text().toUtf8();
         return;
     }
-    JsonWriter writer;
-    writer.write(text);
-    json += writer.text().toUtf8();
+    const auto end = json.size();
+    json.resize(int(end + text.size()) + 2);
+    char* next = json.data() + end;
+    *next++ = '"';
+    next = std::transform(text.begin(), text.end(), next, [](QChar c) { return c.toLatin1(); });
+    *next = '"';
 }
 
 void JsonText::appendTo(QByteArray& json, qint64 number)
@@ -45,15 +45,23 @@ JsonText JsonText::null()
     return JsonText(QByteArrayLiteral("null"));
 }
 
-JsonText JsonText::object(const std::vector<Member>& members)
+JsonText JsonText::object(std::initializer_list<Member> members)
 {
     QByteArray text;
     text.reserve(512);
     for (const Member& member : members) {
-        text += text.isEmpty() ? "{\"" : ",\"";
-        text += member.key;
-        text += "\":";
-        text += member.value;
+        text.append(text.isEmpty() ? "{\"" : ",\"", 2);
+        text.append(member.key);
+        text.append("\":", 2);
+        if (member.text)
+            appendTo(text, *member.text);
+        else if (member.json)
+            text.append(*member.json);
+        else if (member.isTruth)
+            text.append(member.number ? "true" : "false");
+        else
+            appendTo(text, member.number);
     }
-    return JsonText(text + '}');
+    text.append('}');
+    return JsonText(text);
 }

@@ -9,8 +9,8 @@
 #include <QJsonObject>
 #include <QString>
 
+#include <initializer_list>
 #include <type_traits>
-#include <vector>
 
 /// A JSON value as compact text. Unlike a QJsonObject, an object keeps its members in the order in
 /// which they were given, which is that of their meaning.
@@ -42,12 +42,14 @@ public:
     static void appendTo(QByteArray& json, const QString& text);
     static void appendTo(QByteArray& json, qint64 number);
 
-    static JsonText object(const std::vector<Member>& members);
+    static JsonText object(std::initializer_list<Member> members);
 
     /// @param toText gives the text of one element
     template <typename List, typename ToText>
     static JsonText list(const List& elements, ToText toText)
     {
+        if (elements.isEmpty())
+            return JsonText(QByteArrayLiteral("[]"));
         QByteArray text("[");
         for (const auto& element : elements) {
             if (text.size() > 1)
@@ -71,8 +73,31 @@ private:
     }
 };
 
+/// A member of an object that is being written: it refers to its value, which must last until then.
 struct JsonText::Member
 {
-    const char* key; ///< plain ASCII
-    JsonText value;
+    /// @param name plain ASCII
+    Member(const char* name, const QString& value)
+        : key(name)
+        , text(&value)
+    {
+    }
+    Member(const char* name, const JsonText& value)
+        : key(name)
+        , json(&value)
+    {
+    }
+    template <typename Number, typename = std::enable_if_t<std::is_integral_v<Number>>>
+    Member(const char* name, Number value)
+        : key(name)
+        , number(value)
+        , isTruth(std::is_same_v<Number, bool>)
+    {
+    }
+
+    const char* key;
+    const QString* text = nullptr;
+    const JsonText* json = nullptr;
+    qint64 number = 0;
+    bool isTruth = false; ///< of the number: it stands for true or false
 };

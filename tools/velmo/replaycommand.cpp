@@ -30,7 +30,7 @@ QByteArray jsonLine(qint64 lineNumber, const LogTime& time, const ReplayStep& st
                                 {"params", JsonText::of(filterParams(*step.refusedBy))}})
             : JsonText::null();
     };
-    std::vector<JsonText::Member> members{
+    QByteArray text = JsonText::object({
         {"line", lineNumber},
         {"time", time.isKnown() ? JsonText(time.iso()) : JsonText::null()},
         {"device", state.deviceId},
@@ -45,10 +45,13 @@ QByteArray jsonLine(qint64 lineNumber, const LogTime& time, const ReplayStep& st
         {"refused_by", refusedBy()},
         {"machine", jsonOf(step.device->conditions())},
         {"payment_text", step.paymentText},
-        {"accepting_allowed", step.acceptingAllowed}};
-    if (step.startsSession)
-        members.push_back({"session", QStringLiteral("start")});
-    return JsonText::object(members) + '\n';
+        {"accepting_allowed", step.acceptingAllowed},
+    });
+    if (step.startsSession) {
+        text.chop(1);
+        text += R"(,"session":"start"})";
+    }
+    return text + '\n';
 }
 
 // A line of the table. The last cell takes what room is left, in several lines if need be; where
