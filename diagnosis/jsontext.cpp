@@ -8,13 +8,18 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstring>
+#include <utility>
 
-JsonText::JsonText(const QString& text)
+void JsonBuffer::appendKey(char before, const char* key)
 {
-    appendTo(*this, text);
+    m_text.append(before);
+    m_text.append('"');
+    m_text.append(key, int(std::strlen(key)));
+    m_text.append("\":", 2);
 }
 
-void JsonText::appendTo(QByteArray& json, const QString& text)
+void JsonBuffer::append(const QString& text)
 {
     const bool isPlain = std::all_of(text.begin(), text.end(), [](QChar c) {
         return c >= u' ' && c <= u'~' && c != u'"' && c != u'\\';
@@ -22,22 +27,29 @@ void JsonText::appendTo(QByteArray& json, const QString& text)
     if (!isPlain) {
         JsonWriter writer;
         writer.write(text);
-        json += writer.text().toUtf8();
+        *this << writer.text().toUtf8();
         return;
     }
-    const auto end = json.size();
-    json.resize(int(end + text.size()) + 2);
-    char* next = json.data() + end;
+    const auto size = m_text.size();
+    m_text.resize(size + int(text.size()) + 2);
+    char* next = m_text.data() + size;
     *next++ = '"';
     next = std::transform(text.begin(), text.end(), next, [](QChar c) { return c.toLatin1(); });
     *next = '"';
 }
 
-void JsonText::appendTo(QByteArray& json, qint64 number)
+void JsonBuffer::appendNumber(qint64 number)
 {
     std::array<char, 20> digits{};
     const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    json.append(digits.data(), int(end - digits.data()));
+    m_text.append(digits.data(), int(end - digits.data()));
+}
+
+JsonText::JsonText(const QString& text)
+{
+    JsonBuffer json;
+    json.append(text);
+    append(json.text());
 }
 
 JsonText JsonText::null()
@@ -47,21 +59,19 @@ JsonText JsonText::null()
 
 JsonText JsonText::object(std::initializer_list<Member> members)
 {
-    QByteArray text;
-    text.reserve(512);
+    JsonBuffer json;
+    char before = '{';
     for (const Member& member : members) {
-        text.append(text.isEmpty() ? "{\"" : ",\"", 2);
-        text.append(member.key);
-        text.append("\":", 2);
+        json.appendKey(std::exchange(before, ','), member.key);
         if (member.text)
-            appendTo(text, *member.text);
+            json.append(*member.text);
         else if (member.json)
-            text.append(*member.json);
-        else if (member.isTruth)
-            text.append(member.number ? "true" : "false");
+            json << *member.json;
+        else if (!member.isTruth)
+            json.append(member.number);
         else
-            appendTo(text, member.number);
+            json.append(member.number != 0);
     }
-    text.append('}');
-    return JsonText(text);
+    json << '}';
+    return JsonText(json.text());
 }

@@ -42,15 +42,15 @@ bool isValidator(const AcceptorStateItem& device)
 constexpr int mostRemembered = 1000;
 
 // As Qt::ISODateWithMs has it, in a tenth of the time.
-void append(QByteArray& json, const QDateTime& time)
+void append(JsonBuffer& json, const QDateTime& time)
 {
     if (!time.isValid()) {
-        json += "null";
+        json << "null";
         return;
     }
     const QDate date = time.date();
     if (time.timeSpec() != Qt::UTC || date.year() < 1000 || date.year() > 9999) {
-        JsonText::appendTo(json, time.toString(Qt::ISODateWithMs));
+        json.append(time.toString(Qt::ISODateWithMs));
         return;
     }
     const QTime clock = time.time();
@@ -66,7 +66,7 @@ void append(QByteArray& json, const QDateTime& time)
     put(15, 2, clock.minute());
     put(18, 2, clock.second());
     put(21, 3, clock.msec());
-    json += text;
+    json << text;
 }
 
 // Reads what the entries of the devices do not keep; there is an entry for all but null.
@@ -198,49 +198,48 @@ StateWriter::StateWriter(const QMap<int, QString>& names)
 QByteArray StateWriter::members(const PublishedState& state)
 {
     const AcceptorState& service = state.service;
-    QByteArray json;
-    json.reserve(1000);
-    json += "\"time\":";
+    JsonBuffer json;
+    json << "\"time\":";
     ::append(json, service.dt());
-    json += ",\"payment_text\":";
-    JsonText::appendTo(json, service.paymentStateDescr());
-    json += service.isAcceptingAllowed() ? ",\"accepting\":true" : ",\"accepting\":false";
-    json += ",\"reasons\":";
-    json += JsonText::list(whyNotAccepting(service));
-    json += ",\"devices\":";
+    json << ",\"payment_text\":";
+    json.append(service.paymentStateDescr());
+    json << ",\"accepting\":";
+    json.append(service.isAcceptingAllowed());
+    json << ",\"reasons\":" << JsonText::list(whyNotAccepting(service)) << ",\"devices\":";
     char before = '[';
     auto details = state.details.begin();
     const QList<AcceptorStateItem> devices = service.deviceStates();
     for (const AcceptorStateItem& device : devices) {
-        json += std::exchange(before, ',');
+        json << std::exchange(before, ',');
         append(json, device, (details++)->isOffline);
     }
-    json += devices.isEmpty() ? "[]" : "]";
-    return json;
+    if (devices.isEmpty())
+        json << before;
+    json << ']';
+    return json.text();
 }
 
-void StateWriter::append(QByteArray& json, const AcceptorStateItem& device, bool isOffline)
+void StateWriter::append(JsonBuffer& json, const AcceptorStateItem& device, bool isOffline)
 {
-    json += "{\"device\":";
-    JsonText::appendTo(json, qint64(device.deviceId()));
-    json += ",\"thread\":";
-    JsonText::appendTo(json, qint64(device.threadId()));
-    json += model(device.deviceId());
-    json += device.enabled() ? ",\"enabled\":true" : ",\"enabled\":false";
-    json += state(device.state());
-    json += ",\"wrong\":";
-    json += JsonText::list(deviceFaults(device, isOffline));
-    json += ",\"notes_inserted\":";
-    JsonText::appendTo(json, qint64(device.notesInserted()));
-    json += ",\"notes_rejected\":";
-    JsonText::appendTo(json, qint64(device.notesRejected()));
-    json += ",\"notes_returned\":";
-    JsonText::appendTo(json, qint64(device.notesReturned()));
-    json += ",\"registry\":";
+    json << "{\"device\":";
+    json.append(device.deviceId());
+    json << ",\"thread\":";
+    json.append(device.threadId());
+    json << model(device.deviceId()) << ",\"enabled\":";
+    json.append(device.enabled());
+    json << state(device.state())
+         << ",\"wrong\":" << JsonText::list(deviceFaults(device, isOffline));
+    json << ",\"notes_inserted\":";
+    json.append(device.notesInserted());
+    json << ",\"notes_rejected\":";
+    json.append(device.notesRejected());
+    json << ",\"notes_returned\":";
+    json.append(device.notesReturned());
+    json << ",\"registry\":";
     const QVariantMap registry = device.dispRegistry();
-    json += registry.isEmpty() ? QByteArrayLiteral("{}")
-                               : JsonText::of(QJsonObject::fromVariantMap(registry));
-    json += '}';
+    json << (registry.isEmpty() ? QByteArrayLiteral("{}")
+                                : JsonText::of(QJsonObject::fromVariantMap(registry)));
+    json << '}';
 }
 
 const QByteArray& StateWriter::model(int number)

@@ -66,7 +66,7 @@ public:
     QByteArray members(const PublishedState& state);
 
 private:
-    void append(QByteArray& json, const AcceptorStateItem& device, bool isOffline);
+    void append(JsonBuffer& json, const AcceptorStateItem& device, bool isOffline);
     const QByteArray& model(int number);
     const QByteArray& state(const QString& name);
 

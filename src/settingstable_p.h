@@ -59,12 +59,16 @@ struct SettingRow
 
     bool isCalled(const QString& key, const QString& lowerKey) const
     {
-        return keys.keyCase == ExactKey ? isEqual(key, keys.list)
-                                        : isEqual(lowerKey, keys.list) || isEqual(lowerKey, keys.other);
+        return keys.keyCase == ExactKey
+            ? isEqual(key, keys.list)
+            : isEqual(lowerKey, keys.list) || isEqual(lowerKey, keys.other);
     }
 
     // Most are told apart by their length, which needs no call.
-    static bool isEqual(const QString& a, const QString& b) { return a.size() == b.size() && a == b; }
+    static bool isEqual(const QString& a, const QString& b)
+    {
+        return a.size() == b.size() && a == b;
+    }
 
     const QString& key(Form form) const
     {
