@@ -7,6 +7,7 @@
 #include "devicename.h"
 #include "fault.h"
 #include "jsonreader_p.h"
+#include "textinput.h"
 #include "words.h"
 
 #include <QDateTime>
@@ -49,7 +50,7 @@ QByteArray ending(KioskSummary::Condition condition, const QStringList& faults)
 template <typename Read>
 bool readMembers(const QByteArray& text, Read readMember)
 {
-    const QString json = QString::fromUtf8(text);
+    const QString json = decoded(text);
     JsonReader reader(json);
     return reader.readObject([&](QStringView key) { return readMember(reader, key); })
         && reader.isAtEnd();

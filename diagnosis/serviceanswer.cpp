@@ -73,6 +73,8 @@ void append(JsonBuffer& json, const QDateTime& time)
 bool readDetails(JsonReader& reader, std::vector<PublishedState::Details>& details)
 {
     using namespace deviceStateDescConst;
+    enum Key : std::size_t { CurrentNote, Online, SessionSum, Other };
+    static const KeyOrder keys(std::array{&CURRENT_NOTE, &ONLINE, &SESSION_SUM});
     details.clear(); // of doubled keys the last one counts
     return reader.readArray([&] {
         QVariant value;
@@ -83,18 +85,14 @@ bool readDetails(JsonReader& reader, std::vector<PublishedState::Details>& detai
             return isSound;
         }
         PublishedState::Details& device = details.emplace_back();
-        return reader.readObject([&](QStringView key) {
-            const bool isOnline = key == ONLINE;
-            int* const number = key == SESSION_SUM ? &device.sessionSum
-                : key == CURRENT_NOTE              ? &device.currentNote
-                                                   : nullptr;
-            if (!isOnline && !number)
+        return reader.readObject(keys, [&](std::size_t key, QStringView) {
+            if (key == Other)
                 return reader.skipValue();
             const bool isSound = reader.readValue(value);
-            if (isOnline)
+            if (key == Online)
                 device.isOffline = !value.toBool();
             else
-                *number = value.toInt();
+                (key == SessionSum ? device.sessionSum : device.currentNote) = value.toInt();
             return isSound;
         });
     });

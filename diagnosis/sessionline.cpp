@@ -287,11 +287,8 @@ SessionLine::SessionLine(const QString& text)
 
 SessionLine SessionLine::read(const TextInput& file, const QByteArray& text)
 {
-    const QString decoded = QString::fromUtf8(text);
-    if (decoded.contains(QChar(QChar::ReplacementCharacter)))
-        file.parseJson(text, file.lineNumber()); // which may not be UTF-8 at all
     try {
-        return SessionLine(decoded);
+        return SessionLine(decoded(text));
     } catch (const Fault& fault) {
         file.parseJson(text, file.lineNumber()); // says where a text is not JSON
         throw file.faultAt(file.lineNumber(), fault.message);

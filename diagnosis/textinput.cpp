@@ -37,6 +37,14 @@ int readDevice(QIODevice& device, char* data, int size)
 
 } // namespace
 
+QString decoded(const QByteArray& utf8)
+{
+    const QString text = QString::fromUtf8(utf8.constData(), utf8.size());
+    if (text.contains(QChar(QChar::ReplacementCharacter)) && text.toUtf8() != utf8)
+        throw Fault{Diagnosis::tr("expected UTF-8")};
+    return text;
+}
+
 TextInput::TextInput(std::unique_ptr<QIODevice> device, const QString& name)
     : m_device(std::move(device))
     , m_name(name)

@@ -14,6 +14,9 @@
 
 class Gzip;
 
+/// Text as it stands, NUL bytes included. Throws Fault for bytes that are no UTF-8.
+QString decoded(const QByteArray& utf8);
+
 /// Text that is read from a device, plain or compressed by gzip, with what a fault in it needs: its
 /// name and the number of the line. Throws Fault when the device cannot be read, for compressed
 /// data that are damaged or cut off, and for more than 256 MiB in one line or in readAll().

@@ -4,6 +4,7 @@
 #include "worker.h"
 
 #include "fault.h"
+#include "textinput.h"
 #include "words.h"
 
 #include <QDateTime>
@@ -22,15 +23,6 @@ constexpr seconds retiringPause{3}; // without a state, after which no more are 
 QString shared(const WorkerOptions& options, const KioskTopic& topic)
 {
     return QStringLiteral("$share/%1/%2").arg(options.group, topic.filter());
-}
-
-// Throws Fault for bytes that are no UTF-8.
-QString decoded(const QByteArray& bytes)
-{
-    const QString text = QString::fromUtf8(bytes);
-    if (text.contains(QChar(QChar::ReplacementCharacter)) && text.toUtf8() != bytes)
-        throw Fault{Diagnosis::tr("expected UTF-8")};
-    return text;
 }
 
 } // namespace

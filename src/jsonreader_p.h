@@ -174,8 +174,10 @@ private:
 
     bool skipPlainString(QStringView string)
     {
+        if (m_end - m_next < string.size() + 2)
+            return false;
         const QChar* const end = m_next + string.size() + 1;
-        if (current() != u'"' || !isAt(m_next + 1, string) || end == m_end || *end != QChar(u'"'))
+        if (*m_next != QChar(u'"') || *end != QChar(u'"') || !isAt(m_next + 1, string))
             return false;
         m_next = end;
         return skip(u'"');

@@ -72,7 +72,7 @@ QByteArray reportText(const AcceptorState& state, const QMap<int, QString>& name
 PublishedState serviceStateOf(const QByteArray& text, const TextInput& file, qint64 line)
 {
     try {
-        return readServiceState(QString::fromUtf8(text));
+        return readServiceState(decoded(text));
     } catch (const Fault& fault) {
         file.parseJson(text, line); // knows better what is wrong with the text
         throw file.faultAt(line, fault.message);
@@ -89,7 +89,7 @@ bool isStateALine(const QString& fileName)
 
 DeviceState checkedState(const QByteArray& text)
 {
-    const SessionLine line(QString::fromUtf8(text));
+    const SessionLine line(decoded(text));
     const DeviceReport report =
         line.reports().size() == 1 ? line.reports().front() : DeviceReport();
     const QVariantMap every = DeviceState().toMap();
