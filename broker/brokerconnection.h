@@ -44,6 +44,10 @@ public:
     void subscribeToOthers(const QString& filter);
     void unsubscribe(const QString& filter);
 
+    /// Listens to what mosquitto tells, every ten seconds, of the messages for its clients that it
+    /// had no room for, and warns when they grow. Brokers that tell nothing are taken as they are.
+    void watchDropped();
+
     /// Publishes with QoS 1, retained; kept and repeated until the broker has it.
     void publish(const QString& topic, const QByteArray& payload);
 
@@ -52,6 +56,12 @@ public:
     /// Why there is no connection or subscription, in words; empty when there is one, or has not
     /// been one yet.
     const QString& fault() const { return m_fault; }
+
+    /// Whether the broker has told how many messages it dropped.
+    bool tellsDropped() const { return m_droppedBefore >= 0; }
+
+    /// Messages that the broker has dropped since it first told, whoever they were for.
+    qint64 dropped() const { return m_dropped; }
 
     /// How many published messages the broker has not acknowledged.
     int unacknowledged() const { return m_unacknowledged; }
@@ -89,6 +99,7 @@ private:
     void lose(const QString& why);
     void takeConnect(int reason);
     void takeAnswer();
+    void takeDropped(const QByteArray& count);
 
     const BrokerOptions m_options;
     const quint32 m_expiry;
@@ -102,6 +113,10 @@ private:
     int m_unanswered = 0; // subscriptions and the ends of some
     bool m_isReady = false; // connected and subscribed, and told so
     quint64 m_events = 0; // so many things arrived
+    bool m_isDroppedWatched = false;
+    int m_droppedRequest = 0; // the subscription, whose refusal does not matter
+    qint64 m_droppedBefore = -1; // as the broker told last; negative: never
+    qint64 m_dropped = 0;
     std::chrono::seconds m_pause{0};
     std::chrono::steady_clock::time_point m_nextAttempt;
     std::vector<Subscription> m_subscriptions;

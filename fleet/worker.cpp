@@ -17,7 +17,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(fleetLog, "velmo.fleet")
 
-constexpr int batch = 500; // messages between two rounds of acknowledgements
+constexpr int batch = 100; // messages between two rounds of acknowledgements
 constexpr seconds retiringPause{3}; // without a state, after which no more are to come
 
 QString shared(const WorkerOptions& options, const KioskTopic& topic)
@@ -38,6 +38,7 @@ Worker::Worker(const WorkerOptions& options, Metrics& metrics)
           options.broker, options.name, options.expiry,
           [this](const QString& topic, const QByteArray& text, bool) { takeState(topic, text); })
 {
+    m_summaries.watchDropped();
     m_summaries.subscribeToOthers(options.summaries.filter());
     if (!options.isRetiring) {
         m_states.subscribe(shared(options, options.states), 1);

@@ -73,5 +73,12 @@
             <numerusform>the broker did not take %n summaries; their states are kept for the next start</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>The broker had no room for %n messages and dropped them. With mosquitto, max_queued_messages sets the room.</source>
+        <translation>
+            <numerusform>The broker had no room for %n message and dropped it. With mosquitto, max_queued_messages sets the room.</numerusform>
+            <numerusform>The broker had no room for %n messages and dropped them. With mosquitto, max_queued_messages sets the room.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -1161,5 +1161,13 @@
         <source>Makes summaries of what kiosks publish at an MQTT broker.</source>
         <translation>Составляет сводки о том, что терминалы публикуют у брокера MQTT.</translation>
     </message>
+    <message numerus="yes">
+        <source>The broker had no room for %n messages and dropped them. With mosquitto, max_queued_messages sets the room.</source>
+        <translation>
+            <numerusform>У брокера не нашлось места для %n сообщения, и он его отбросил. В mosquitto место задаёт max_queued_messages.</numerusform>
+            <numerusform>У брокера не нашлось места для %n сообщений, и он их отбросил. В mosquitto место задаёт max_queued_messages.</numerusform>
+            <numerusform>У брокера не нашлось места для %n сообщений, и он их отбросил. В mosquitto место задаёт max_queued_messages.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -699,5 +699,9 @@
         <source>Its key.</source>
         <translation>Его ключ.</translation>
     </message>
+    <message>
+        <source>Kiosks may be missing here: the broker had no room for all messages. With mosquitto, max_queued_messages sets the room.</source>
+        <translation>Здесь могут быть не все киоски: у брокера не нашлось места для всех сообщений. В mosquitto место задаёт max_queued_messages.</translation>
+    </message>
 </context>
 </TS>

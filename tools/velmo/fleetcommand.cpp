@@ -15,6 +15,7 @@
 #include <QMap>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 using std::chrono::milliseconds;
@@ -25,6 +26,10 @@ namespace {
 
 constexpr int batch = 1000; // messages between two looks at the clock
 constexpr seconds longestConnecting{10};
+
+// What mosquitto has room for in any case, and how often it tells of what it had none for.
+constexpr int alwaysRoomFor = 1000;
+constexpr seconds droppedPause{11};
 
 // One that is not to be read is the worst: nothing is known of the kiosk.
 constexpr int unknown = -1;
@@ -165,6 +170,12 @@ QByteArray json(const Fleet& fleet)
         + '\n';
 }
 
+QString missingText()
+{
+    return Velmo::tr("Kiosks may be missing here: the broker had no room for all messages. With "
+                     "mosquitto, max_queued_messages sets the room.");
+}
+
 // As much of the table as the terminal has room for, and what is known of its truth.
 QString screen(const Fleet& fleet, const BrokerConnection& broker)
 {
@@ -173,7 +184,7 @@ QString screen(const Fleet& fleet, const BrokerConnection& broker)
     if (height > 0 && kiosks.size() > size_t(height)) // each takes a line or more
         kiosks.resize(size_t(height));
     QStringList lines = table(kiosks, outputWidth()).split(QLatin1Char('\n'));
-    const int room = height - 4;
+    const int room = height - 5;
     if (room > 0 && lines.size() > room) {
         lines = lines.mid(0, room);
         lines += QStringLiteral("...");
@@ -182,6 +193,8 @@ QString screen(const Fleet& fleet, const BrokerConnection& broker)
     state += broker.fault().isEmpty() ? totals(fleet)
                                       : broker.fault() + QStringLiteral(". ")
             + Velmo::tr("The table is from before.") + QLatin1Char('\n');
+    if (broker.dropped() > 0)
+        state += missingText() + QLatin1Char('\n');
     return QStringLiteral("\033[2J\033[H") + lines.join(QLatin1Char('\n')) + QLatin1Char('\n')
         + state;
 }
@@ -216,15 +229,21 @@ int fleetCommand(const Arguments& arguments)
                                    : QLatin1String(usualSummaries));
 
     Fleet fleet;
+    bool isFromBefore = false; // the connection was lost since
     auto lastKept = Clock::now(); // of the summaries that the broker had kept
     BrokerConnection broker(where, {}, 0,
                             [&](const QString& topic, const QByteArray& text, bool isRetained) {
                                 const QString kiosk = summaries.kioskOf(topic);
+                                // A new connection brings all that are kept once more, and tells
+                                // nothing of those that are gone.
+                                if (isRetained && std::exchange(isFromBefore, false))
+                                    fleet = Fleet();
                                 if (!kiosk.isEmpty())
                                     fleet.take(kiosk, text);
                                 if (isRetained)
                                     lastKept = Clock::now();
                             });
+    broker.watchDropped();
     broker.subscribe(summaries.filter(), 1);
     auto drawn = Clock::time_point();
     const auto work = [&] {
@@ -232,6 +251,7 @@ int fleetCommand(const Arguments& arguments)
         broker.read(batch);
         broker.write();
         const bool isLost = !broker.fault().isEmpty();
+        isFromBefore = isFromBefore || isLost;
         if (isLost && !isWatched)
             throw Fault{broker.fault()};
         const bool isKnown = isLost || broker.isSubscribed();
@@ -250,10 +270,15 @@ int fleetCommand(const Arguments& arguments)
     lastKept = Clock::now();
     while (isWatched || Clock::now() - lastKept < pause)
         work();
+    const bool mayMiss = fleet.size() >= alwaysRoomFor && broker.tellsDropped();
+    while (mayMiss && broker.dropped() == 0 && Clock::now() - lastKept < droppedPause)
+        work();
     broker.disconnect(true);
     if (fleet.isEmpty())
         throw Fault{Velmo::tr("no kiosk has a summary at \"%1\"").arg(summaries.filter())};
     print(isJson ? QString::fromUtf8(json(fleet))
                  : table(fleet.toSeeTo(), outputWidth()) + totals(fleet));
-    return fleet.count(unknown) > 0 ? exitBadInput : exitSuccess;
+    if (broker.dropped() > 0)
+        printError(missingText());
+    return fleet.count(unknown) > 0 || broker.dropped() > 0 ? exitBadInput : exitSuccess;
 }
