@@ -43,13 +43,12 @@ def begin_as(summaries, expected):
 
 
 class Broker:
-    def __init__(self, folder):
+    def __init__(self, folder, limits="max_inflight_messages 1000\nmax_queued_messages 0\n"):
         self.port = free_port()
         self.config = os.path.join(folder, "mosquitto.conf")
         with open(self.config, "w") as config:
             config.write(f"listener {self.port} 127.0.0.1\nallow_anonymous true\nuser root\n"
-                         f"persistence true\npersistence_location {folder}/\n"
-                         "max_inflight_messages 1000\nmax_queued_messages 0\n")
+                         f"persistence true\npersistence_location {folder}/\n{limits}")
         self.log = open(os.path.join(folder, "mosquitto.log"), "a")
         self.start()
 
@@ -264,6 +263,30 @@ def table(fleet, *options):
                           capture_output=True, text=True)
 
 
+def check_room(fleet):
+    """A broker that has no room for all summaries makes velmo fleet say that kiosks may be missing."""
+    folder = os.path.join(fleet.folder, "small")
+    os.mkdir(folder)
+    broker = Broker(folder, "sys_interval 1\n")
+    try:
+        client = mqtt.Client("many")
+        client.connect("127.0.0.1", broker.port)
+        client.loop_start()
+        for number in range(3000):
+            last = client.publish(f"kiosks/k{number}/summary",
+                                  fleet.summaries["k1"], 1, retain=True)
+        last.wait_for_publish(60)
+        time.sleep(2)  # until the broker has told of itself
+        shown = table(fleet, "--broker", f"127.0.0.1:{broker.port}", "--json")
+        client.loop_stop()
+    finally:
+        broker.stop()
+    kiosks = json.loads(shown.stdout.splitlines()[-1])["kiosks"]
+    if kiosks >= 3000 or shown.returncode != 2 or "may be missing" not in shown.stderr:
+        raise SystemExit(f"check_fleet.py: of 3000 kiosks velmo fleet has {kiosks}: {shown.stderr}")
+    print(f"no room: {kiosks} of 3000 kiosks, and told so", flush=True)
+
+
 def check_table(fleet):
     """What people are shown of a fleet of which nothing is heard, and of what cannot be read."""
     fleet.client.publish("kiosks/odd/summary", b"\x1b[31m", 1, retain=True).wait_for_publish(20)
@@ -381,6 +404,7 @@ def main():
                 check_garbage(fleet, workers)
                 check_silence(fleet, workers)
                 check_retiring(fleet)
+                check_room(fleet)
         finally:
             if fleet:
                 fleet.stop()

@@ -270,7 +270,7 @@ int fleetCommand(const Arguments& arguments)
     lastKept = Clock::now();
     while (isWatched || Clock::now() - lastKept < pause)
         work();
-    const bool mayMiss = fleet.size() >= alwaysRoomFor && broker.tellsDropped();
+    const bool mayMiss = fleet.size() > alwaysRoomFor && broker.tellsDropped();
     while (mayMiss && broker.dropped() == 0 && Clock::now() - lastKept < droppedPause)
         work();
     broker.disconnect(true);
