@@ -71,7 +71,7 @@ private Q_SLOTS:
     void badSessionLineIsNamed_data()
     {
         addRows(R"(
-            {"state":                                       | not JSON
+            {"state":}                                      | not JSON
             [1]                                             | expected a JSON object
             {"stat":"busy"}                                 | unknown key "stat"
             {"state":"Busy"}                                | "state": unknown state name "Busy"
@@ -107,8 +107,8 @@ private Q_SLOTS:
             {"name":"AcceptFilter","parms":{}}                 | unknown key "parms"
             {"name":"AcceptFilter","params":[]}                | expected an object
             "AcceptFilter"                                     | expected an object
-            {"name":["AcceptFilter",{"a":"}\\"}]}              | expected an object
-            }                                                  | not JSON)"_s);
+            {"name":["AcceptFilter",{"a":"}{\\"}]}             | expected an object
+            {"name"}                                           | not JSON)"_s);
     }
 
     void badFiltersAreNamed()
@@ -129,7 +129,7 @@ private Q_SLOTS:
                                               | no command given
             play                              | unknown command "play"
             replay x.jsonl                    | usage: velmo replay
-            replay x.jsonl --filter y         | Unknown option 'filter'
+            replay x.jsonl --filter y         | unknown option --filter (nearest known: --filters)
             replay missing.jsonl --filters /dev/null | /dev/null:1: not JSON
             replay - --filters -              | cannot both come from standard input)"_s);
     }

@@ -60,7 +60,7 @@ private Q_SLOTS:
         const QByteArray times =
             R"({"time":0,"device_states":[]})"
             "\n"
-            R"({"device_states":[{"device_id":9999,"enabled":true,"state":"idling","stacker_full":true,"online":false,)"
+            R"({"device_states":[{"device_id":9999,"enabled":true,"state":"idling","stacker_full":true,"online":"false",)"
             R"("dispenser_registry":[{"bill_type":1,"channel":2,"denomination":100,"currency":643}]}]})";
         const QString file =
             writeFile(m_folder.filePath("states.jsonl"_s), QString::fromUtf8(times));
@@ -78,6 +78,18 @@ private Q_SLOTS:
         QCOMPARE(velmo({"report"_s, file, "--json"_s}).out, expected);
         const VelmoRun text = velmo({"report"_s, file});
         QVERIFY(text.out.contains("01.01.1970 00.00.00\n-- line 2 --\nError status unknown\n"_s));
+    }
+
+    void nothingIsReadPastRawBytes()
+    {
+        const QByteArray lines[] = {QByteArrayLiteral("{\"device_states\":[]}\0{"),
+                                    QByteArrayLiteral("{\"device_states\":[],\"x\":\"\xff\"}")};
+        for (const QByteArray& line : lines) {
+            const VelmoRun run = velmo({"report"_s, "-"_s, "--json"_s}, line);
+            QCOMPARE(run.exitCode, 2);
+            QCOMPARE(run.out, QString());
+            QVERIFY2(run.err.contains("standard input:1: not JSON"_s), qPrintable(run.err));
+        }
     }
 
     void textsAreTranslated()
