@@ -141,11 +141,14 @@ Device& deviceAt(int index)
     return *device;
 }
 
-// The result is that of updateValue().
-bool apply(const SettingGroup& group, const QString& key, const QString& value)
+Device* deviceOf(const SettingGroup& group)
 {
-    Device* const device = group.isOfDevice() ? &deviceAt(group.deviceIndex()) : nullptr;
-    const SettingRow* const row = group.find(key);
+    return group.isOfDevice() ? &deviceAt(group.deviceIndex()) : nullptr;
+}
+
+// The result is that of updateValue().
+bool apply(const SettingGroup& group, Device* device, const SettingRow* row, const QString& value)
+{
     if (row && row->access.set)
         row->access.set(device, value);
     return !device ? group.isOfService()
@@ -158,30 +161,40 @@ class Elements
 public:
     bool apply(const QVariantMap& element)
     {
-        // In ascending order, as the keys are: one walk finds all three.
-        auto entry = element.constBegin();
-        const auto valueOf = [&](const QString& key) {
-            while (entry != element.constEnd() && entry.key() < key)
-                ++entry;
-            return entry != element.constEnd() && entry.key() == key ? &*entry : nullptr;
-        };
-        const QVariant* const path = valueOf(SettingsList::groupKey);
+        const QVariant none;
+        const QVariant* path = nullptr;
+        const QVariant* name = &none;
+        const QVariant* value = &none;
+        for (auto entry = element.constBegin(); entry != element.constEnd(); ++entry) {
+            if (SettingRow::isEqual(entry.key(), SettingsList::groupKey))
+                path = &*entry;
+            else if (SettingRow::isEqual(entry.key(), SettingsList::nameKey))
+                name = &*entry;
+            else if (SettingRow::isEqual(entry.key(), SettingsList::valueKey))
+                value = &*entry;
+        }
         if (!path)
             return false;
         const QString text = Variants::toString(*path);
-        if (text != m_path) {
+        if (!m_isKnown || text != m_path) {
             m_group = SettingGroup(text);
+            m_device = deviceOf(m_group);
+            m_likely = nullptr;
             m_path = text;
+            m_isKnown = true;
         }
-        const QVariant* const name = valueOf(SettingsList::nameKey);
-        const QVariant* const value = valueOf(SettingsList::valueKey);
-        return ::apply(m_group, name ? Variants::toString(*name) : QString(),
-                       value ? Variants::toString(*value) : QString());
+        const SettingRow* const row = m_group.find(Variants::toString(*name), m_likely);
+        if (row)
+            m_likely = row + 1;
+        return ::apply(m_group, m_device, row, Variants::toString(*value));
     }
 
 private:
+    bool m_isKnown = false;
     QString m_path;
     SettingGroup m_group{m_path};
+    Device* m_device = nullptr;
+    const SettingRow* m_likely = nullptr;
 };
 
 } // namespace
@@ -349,7 +362,8 @@ void AcceptorSettings::setFotmattedMap(const QVariantMap& map)
         const SettingGroup group(entry.key());
         const QVariantMap settings = Variants::toMap(entry.value());
         for (auto setting = settings.constBegin(); setting != settings.constEnd(); ++setting)
-            apply(group, setting.key(), Variants::toString(setting.value()));
+            apply(group, deviceOf(group), group.find(setting.key()),
+                  Variants::toString(setting.value()));
     }
     for (auto entry = devices.lowerBound(deviceCount_); entry != devices.end();) {
         delete entry.value();
@@ -365,7 +379,8 @@ bool AcceptorSettings::setValue(const QVariantMap& setting)
 
 bool AcceptorSettings::updateValue(QString group, QString subgroup, QString key, QString value)
 {
-    return apply(SettingGroup(group, subgroup), key, value);
+    const SettingGroup path(group, subgroup);
+    return apply(path, deviceOf(path), path.find(key), value);
 }
 
 void AcceptorSettings::removeDeviceByIndex(int position)

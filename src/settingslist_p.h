@@ -15,11 +15,13 @@ inline const QString valueKey = QStringLiteral("value");
 
 inline QVariantMap element(const QString& group, const QString& name, const QVariant& value)
 {
-    QVariantMap map;
-    // In ascending order, which is the fastest way to fill a map.
-    map.insert(map.cend(), groupKey, group);
-    map.insert(map.cend(), nameKey, name);
-    map.insert(map.cend(), valueKey, value);
+    // A copy of a map is made faster than a map is filled; the keys are in ascending order.
+    static const auto& blank = *new QVariantMap{{groupKey, {}}, {nameKey, {}}, {valueKey, {}}};
+    QVariantMap map = blank;
+    auto entry = map.begin();
+    *entry++ = group;
+    *entry++ = name;
+    *entry = value;
     return map;
 }
 

@@ -538,8 +538,9 @@ Rows deviceSettings()
 SettingGroup::SettingGroup(const QString& path)
 {
     const QString group = path.left(path.indexOf(QLatin1Char('/')));
-    const QString rest = path.mid(group.size() + 1);
-    *this = SettingGroup(group, rest.left(rest.indexOf(QLatin1Char('/'))));
+    const auto begin = group.size() + 1;
+    const auto end = path.indexOf(QLatin1Char('/'), begin);
+    *this = SettingGroup(group, path.mid(begin, end < 0 ? -1 : end - begin));
 }
 
 SettingGroup::SettingGroup(const QString& group, const QString& subgroup)
@@ -555,15 +556,18 @@ SettingGroup::SettingGroup(const QString& group, const QString& subgroup)
     }
 }
 
-const SettingRow* SettingGroup::find(const QString& key) const
+const SettingRow* SettingGroup::find(const QString& key, const SettingRow* likely) const
 {
     if (m_kind == OfNone)
         return nullptr;
+    const SettingsTable::Rows rows =
+        isOfService() ? SettingsTable::serviceSettings() : SettingsTable::deviceSettings();
+    if (likely && likely != rows.end() && Row::isEqual(key, likely->keys.list)
+        && m_name == likely->group)
+        return likely;
     const Row* anywhere = nullptr;
-    const QString lowerKey = key.toLower();
-    for (const Row& row :
-         isOfService() ? SettingsTable::serviceSettings() : SettingsTable::deviceSettings()) {
-        if (!row.isCalled(key, lowerKey))
+    for (const Row& row : rows) {
+        if (!row.isCalled(key))
             continue;
         if (m_name == row.group)
             return &row;

@@ -57,17 +57,11 @@ struct SettingRow
         QStringList (*choices)() = nullptr;
     };
 
-    bool isCalled(const QString& key, const QString& lowerKey) const
+    bool isCalled(const QString& key) const
     {
-        return keys.keyCase == ExactKey
-            ? isEqual(key, keys.list)
-            : isEqual(lowerKey, keys.list) || isEqual(lowerKey, keys.other);
-    }
-
-    // Most are told apart by their length, which needs no call.
-    static bool isEqual(const QString& a, const QString& b)
-    {
-        return a.size() == b.size() && a == b;
+        return isEqual(key, keys.list)
+            || (keys.keyCase == KeyInAnyCase
+                && (isEqualInLowerCase(key, keys.list) || isEqualInLowerCase(key, keys.other)));
     }
 
     const QString& key(Form form) const
@@ -77,6 +71,18 @@ struct SettingRow
 
     /// Whether the list form has it for a device of this model and interface.
     bool isFor(int model, const QString& interfaceType) const;
+
+    // Most are told apart by their length, which needs no call.
+    static bool isEqual(const QString& a, const QString& b)
+    {
+        return a.size() == b.size() && a == b;
+    }
+
+    // What becomes ASCII in lower case keeps its length.
+    static bool isEqualInLowerCase(const QString& key, const QString& ascii)
+    {
+        return key.size() == ascii.size() && key.toLower() == ascii;
+    }
 
     const QString& group; ///< the service's group, or the sub-group of each device
     Keys keys;
@@ -125,7 +131,8 @@ public:
     QString name() const { return m_name; }
 
     /// The setting that is read under a key; null where there is none.
-    const SettingRow* find(const QString& key) const;
+    /// @param likely is looked at first: the row after one that this group had found, or null
+    const SettingRow* find(const QString& key, const SettingRow* likely = nullptr) const;
 
 private:
     enum Kind : qint32 { OfNone, OfService, OfDevice };
