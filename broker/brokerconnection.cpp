@@ -246,9 +246,8 @@ void BrokerConnection::unsubscribe(const QString& filter)
 void BrokerConnection::watchDropped()
 {
     m_isDroppedWatched = true;
-    if (m_isConnected) {
+    if (m_isConnected)
         Mosquitto::library().subscribe_v5(m_client, &m_droppedRequest, droppedTopic, 0, 0, nullptr);
-    }
 }
 
 void BrokerConnection::takeDropped(const QByteArray& count)

@@ -176,12 +176,11 @@ public:
         if (!path)
             return false;
         const QString text = Variants::toString(*path);
-        if (!m_isKnown || text != m_path) {
+        if (text != m_path) {
             m_group = SettingGroup(text);
             m_device = deviceOf(m_group);
             m_likely = nullptr;
             m_path = text;
-            m_isKnown = true;
         }
         const SettingRow* const row = m_group.find(Variants::toString(*name), m_likely);
         if (row)
@@ -190,11 +189,10 @@ public:
     }
 
 private:
-    bool m_isKnown = false;
     QString m_path;
     SettingGroup m_group{m_path};
-    Device* m_device = nullptr;
-    const SettingRow* m_likely = nullptr;
+    Device* m_device = nullptr; // null for a group that is none of a device
+    const SettingRow* m_likely = nullptr; // to come next
 };
 
 } // namespace
