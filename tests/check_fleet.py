@@ -10,7 +10,7 @@ Usage: check_fleet.py BIN [--measure]    (BIN has velmo and velmo-fleet; needs m
 import json
 import os
 import random
-import signal
+import re
 import socket
 import subprocess
 import sys
@@ -250,6 +250,7 @@ def check_silence(fleet, workers):
     wait_until("silence is counted", lambda: watcher.counts()[
         'velmo_fleet_kiosks{condition="silent"}'] == len(fleet.newest))
     check_table(fleet)
+    check_dashboard(watcher)
     fleet.client.publish("kiosks/k9/summary", b"", 1, retain=True)  # k9 is scrapped
     wait_until("a scrapped kiosk is forgotten", lambda: watcher.counts()[
         'velmo_fleet_kiosks{condition="silent"}'] == len(fleet.newest) - 1)
@@ -303,6 +304,15 @@ def check_table(fleet):
     for options in (["--broker", "127.0.0.1:1"], ["--summaries", "other/+/summary"]):
         if table(fleet, *options).returncode != 2:
             raise SystemExit(f"check_fleet.py: velmo fleet is content with {options}")
+
+
+def check_dashboard(worker):
+    """The dashboard asks for nothing that a worker does not tell."""
+    told = {name.split("{")[0] for name in worker.counts()}
+    dashboard = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../docs/fleet/dashboard.json")
+    asked = set(re.findall(r"velmo_fleet_\w+", open(dashboard).read()))
+    if not asked or not asked <= told:
+        raise SystemExit(f"check_fleet.py: the dashboard asks for {asked - told}")
 
 
 def check_retiring(fleet):
