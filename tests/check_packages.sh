@@ -41,6 +41,7 @@ for library in "$root"/usr/lib/*/libvelmolib*.so.5.*; do
     grep -qazx src/acceptors.cpp "$library" || fail "log lines do not name their file as in the tree"
 done
 LD_LIBRARY_PATH=$(echo "$root"/usr/lib/*-linux-gnu) "$root"/usr/bin/velmo-fleet --version
+zgrep -q retire "$root"/usr/share/man/man1/velmo-fleet.1.gz
 systemd-analyze security --offline=true --threshold=20 --root="$root" velmo-fleet.service > /dev/null
 for qt_major in 5 6; do
     "$(dirname "$0")/installed.sh" "$1" "$root/usr" $qt_major
