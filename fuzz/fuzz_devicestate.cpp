@@ -32,11 +32,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     DeviceState state;
     DeviceState reference;
     state.deviceId = reference.deviceId = 77;
+    state.stateText = reference.stateText = QStringLiteral("idle"); // which a text may have too
     const bool accepted = state.parse(text);
     if (!hasDoubledKeys(text)) {
         CHECK(accepted == plainParse(reference, text));
         CHECK(state == reference);
+        for (const auto field :
+             {&DeviceState::errorText, &DeviceState::stateText, &DeviceState::idString})
+            CHECK((state.*field).isNull() == (reference.*field).isNull());
     }
+    const DeviceState once = state;
+    CHECK(state.parse(text) == accepted);
+    CHECK(state == once);
 
     const DeviceState before = state;
     const QString written = state.serialize();
