@@ -5,7 +5,7 @@
 
 #include "acceptors.h"
 #include "devicename.h"
-#include "devicestatesconst.h"
+#include "devicestate.h"
 #include "words.h"
 
 namespace {
@@ -34,11 +34,16 @@ Money moneyOf(int model)
 QStringList whyNotWorking(const AcceptorStateItem& device, bool isOffline)
 {
     QStringList reasons = deviceFaults(device, isOffline);
-    const bool isStuck = device.state() == deviceStatesConst::DS_JAMMED
-        || device.state() == deviceStatesConst::DS_ERROR;
-    if (reasons.isEmpty() && isStuck) {
-        reasons += Diagnosis::tr("The device does not work; its state: %1.")
-                       .arg(AcceptorState::stateDescr(device.state()));
+    const QString name = device.state();
+    const bool isStuck =
+        name == deviceStatesConst::DS_JAMMED || name == deviceStatesConst::DS_ERROR;
+    State state = STATE_BUSY;
+    const bool isKnown = DeviceState::stateFromString(name, state);
+    if (reasons.isEmpty() && (isStuck || !isKnown)) {
+        const QString reason = isKnown
+            ? Diagnosis::tr("The device does not work; its state: %1.")
+            : Diagnosis::tr("It is not known whether the device works; its state: %1.");
+        reasons += reason.arg(AcceptorState::stateDescr(name));
     }
     return reasons;
 }

@@ -14,7 +14,7 @@ enum class Money { None, Note, Coin, Card };
 Money moneyOf(int model);
 
 /// Why a device that is told of so could not take money at all, a sentence for each reason: its
-/// deviceFaults(), or that it is jammed or in error.
+/// deviceFaults(), or that it is jammed, in error, or in a state that nobody knows.
 QStringList whyNotWorking(const AcceptorStateItem& device, bool isOffline);
 
 /// Whether there is no such reason.

@@ -48,7 +48,7 @@ public:
             appendNumber(number);
     }
 
-    QByteArray text() const { return QByteArray(m_text.constData(), int(m_text.size())); }
+    QByteArray text() const { return {m_text.constData(), int(m_text.size())}; }
 
 private:
     void appendNumber(qint64 number);

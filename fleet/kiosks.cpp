@@ -5,6 +5,17 @@
 
 #include "metrics.h"
 
+#include <QDateTime>
+
+bool tellsOrder(const KioskSummary& summary)
+{
+    // A kiosk's clock may be ahead a little; one that is far ahead would hold back all that
+    // follows.
+    constexpr qint64 tolerance = 5 * 60 * 1000;
+    return summary.time != KioskSummary::noTime
+        && summary.time <= QDateTime::currentMSecsSinceEpoch() + tolerance;
+}
+
 Kiosks::Kiosks(Metrics& metrics)
     : m_metrics(metrics)
 {
@@ -18,7 +29,8 @@ bool Kiosks::take(const QString& kiosk, const KioskSummary& summary)
         count(summary, 1);
         return true;
     }
-    const bool isOlder = summary.time < known->newest.time;
+    const bool isOlder =
+        tellsOrder(summary) && tellsOrder(known->newest) && summary.time < known->newest.time;
     if (isOlder)
         return false;
     count(known->newest, -1);

@@ -13,6 +13,10 @@
 
 class Metrics;
 
+/// Whether a summary's time says what is newer: it has one, which is not in the future. Otherwise
+/// the order of arrival counts.
+bool tellsOrder(const KioskSummary& summary);
+
 /// The newest summary of each kiosk that a worker has seen, its own and those of the other workers.
 class Kiosks
 {

@@ -9,6 +9,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QLoggingCategory>
+#include <QRegularExpression>
 #include <QSysInfo>
 
 #include <csignal>
@@ -93,8 +94,9 @@ WorkerOptions workerOptions(const QCommandLineParser& parser, const Options& opt
     worker.broker.take(parser.value(options.broker), parser.value(options.password),
                        parser.value(options.ca), parser.value(options.certificate),
                        parser.value(options.key));
-    if (worker.name.isEmpty() || worker.group.isEmpty() || worker.group.contains(QLatin1Char('/')))
-        throw Fault{Diagnosis::tr("--name and --group: expected a name without \"/\"")};
+    static const QRegularExpression separators(QStringLiteral("[/+#]"));
+    if (worker.name.isEmpty() || worker.group.isEmpty() || worker.group.contains(separators))
+        throw Fault{Diagnosis::tr("--name and --group: expected a name without /, + and #")};
     return worker;
 }
 
@@ -117,11 +119,17 @@ void run()
         Diagnosis::tr("Makes summaries of what kiosks publish at an MQTT broker."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({options.broker, options.states, options.summaries, options.wills,
-                       options.group, options.name, options.expire, options.silent, options.metrics,
-                       options.password, options.ca, options.certificate, options.key,
-                       options.language, options.retire});
+    const QList<QCommandLineOption> every{
+        options.broker, options.states,      options.summaries, options.wills,    options.group,
+        options.name,   options.expire,      options.silent,    options.metrics,  options.password,
+        options.ca,     options.certificate, options.key,       options.language, options.retire};
+    parser.addOptions(every);
     parser.process(QCoreApplication::arguments());
+    for (const QCommandLineOption& given : every) {
+        // As where a script's variable is not set: it means nothing, least of all the default.
+        if (parser.isSet(given) && !given.valueName().isEmpty() && parser.value(given).isEmpty())
+            throw Fault{Diagnosis::tr("--%1: expected a value").arg(given.names().constFirst())};
+    }
     if (!parser.positionalArguments().isEmpty())
         throw Fault{Diagnosis::tr("unknown argument \"%1\"")
                         .arg(parser.positionalArguments().constFirst())};

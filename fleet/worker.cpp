@@ -10,6 +10,8 @@
 #include <QDateTime>
 #include <QLoggingCategory>
 
+#include <algorithm>
+
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
@@ -121,6 +123,9 @@ void Worker::takeState(const QString& topic, const QByteArray& text)
             throw Fault{Diagnosis::tr("the topic is of no kiosk")};
         const KioskSummary summary(kiosk, readServiceState(decoded(text)), m_writer);
         m_metrics.states.Increment();
+        if (summary.time != KioskSummary::noTime && !tellsOrder(summary))
+            qCWarning(fleetLog, "%s: %s", qUtf8Printable(topic),
+                      qUtf8Printable(Diagnosis::tr("its time is in the future")));
         if (m_kiosks.take(kiosk, summary))
             publish(kiosk, summary);
         else
@@ -166,8 +171,8 @@ void Worker::publish(const QString& kiosk, const KioskSummary& summary)
 {
     m_summaries.publish(m_options.summaries.of(kiosk), summary.text);
     m_metrics.summaries.Increment();
-    if (summary.time != KioskSummary::noTime && summary.condition != KioskSummary::Silent) {
-        m_metrics.latency.Observe(double(QDateTime::currentMSecsSinceEpoch() - summary.time)
-                                  / 1000);
+    if (tellsOrder(summary) && summary.condition != KioskSummary::Silent) {
+        const qint64 age = QDateTime::currentMSecsSinceEpoch() - summary.time;
+        m_metrics.latency.Observe(double(std::max<qint64>(age, 0)) / 1000);
     }
 }

@@ -228,11 +228,29 @@ def check_garbage(fleet, workers):
         fleet.client.publish("kiosks/k2/state", fleet.newest["k2"], 1)
     wait_until("the garbage is counted", lambda: faults() == before + len(garbage))
     fleet.publish("k3")
+    fleet.newest["k4"] = json.dumps({"device_states": [
+        {"device_id": 7, "thread_id": 0, "enabled": True, "state": "dancing"}]})
+    fleet.client.publish("kiosks/k4/state", fleet.newest["k4"], 1)
     fleet.check("garbage")
+    if b'out_of_order","faults":["Note recycler (JCM iPRO ID003): It is not known' not in fleet.summaries["k4"]:
+        raise SystemExit(f"check_fleet.py: of an unknown state: {fleet.summaries['k4'][-300:]}")
     log = "".join(open(worker.log).read() for worker in workers)
     for words in ("kiosks/k1/state: expected a JSON object", "kiosks/k1/state: expected UTF-8"):
         if words not in log:
             raise SystemExit(f"check_fleet.py: the log does not say \"{words}\"")
+
+
+def check_clocks(fleet):
+    """A state without a time, or with one of the future, counts as it arrives, and so do those after it."""
+    for time_of_state in (32472144000000, None, "usual"):
+        state = json.loads(fleet.state("k7"))
+        if time_of_state is None:
+            del state["time"]
+        elif time_of_state != "usual":
+            state["time"] = time_of_state
+        fleet.newest["k7"] = json.dumps(state)
+        fleet.client.publish("kiosks/k7/state", fleet.newest["k7"], 1).wait_for_publish(20)
+        fleet.check(f"time {time_of_state}")
 
 
 def check_silence(fleet, workers):
@@ -412,6 +430,7 @@ def main():
             else:
                 workers = check_deaths(fleet)
                 check_garbage(fleet, workers)
+                check_clocks(fleet)
                 check_silence(fleet, workers)
                 check_retiring(fleet)
                 check_room(fleet)

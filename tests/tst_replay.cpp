@@ -131,6 +131,7 @@ private Q_SLOTS:
             replay x.jsonl                    | usage: velmo replay
             replay x.jsonl --filter y         | unknown option --filter (nearest known: --filters)
             replay missing.jsonl --filters /dev/null | /dev/null:1: not JSON
+            replay x.jsonl --filters=         | --filters: expected a value
             replay - --filters -              | cannot both come from standard input)"_s);
     }
 

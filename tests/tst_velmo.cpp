@@ -92,6 +92,19 @@ private Q_SLOTS:
         }
     }
 
+    void textsAreNoCommands()
+    {
+        const QByteArray device = "{\"device_id\":1,\"enabled\":true,\"error_critical\":true,"
+                                  "\"error_text\":\"\\u001b[31m\\u202e\"}";
+        const VelmoRun runs[] = {
+            velmo({"report"_s, "-"_s}, "{\"device_states\":[" + device + "]}"),
+            velmo({"replay"_s, "-"_s, "--filters"_s, sample("filters.json"_s)}, device)};
+        for (const VelmoRun& run : runs) {
+            QVERIFY2(run.out.contains("\\u001b[31m\\u202e"_s), qPrintable(run.out));
+            QVERIFY(!run.out.contains(QChar(0x1b)) && !run.out.contains(QChar(0x202e)));
+        }
+    }
+
     void textsAreTranslated()
     {
         const VelmoRun russian = velmo({"--lang"_s, "ru"_s, "report"_s, "-"_s}, published);

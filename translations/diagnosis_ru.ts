@@ -1046,10 +1046,6 @@
         <translation>--%1: ожидается число</translation>
     </message>
     <message>
-        <source>--name and --group: expected a name without &quot;/&quot;</source>
-        <translation>--name и --group: ожидается имя без «/»</translation>
-    </message>
-    <message>
         <source>unknown argument &quot;%1&quot;</source>
         <translation>неизвестный аргумент «%1»</translation>
     </message>
@@ -1168,6 +1164,22 @@
             <numerusform>У брокера не нашлось места для %n сообщений, и он их отбросил. В mosquitto место задаёт max_queued_messages.</numerusform>
             <numerusform>У брокера не нашлось места для %n сообщений, и он их отбросил. В mosquitto место задаёт max_queued_messages.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>It is not known whether the device works; its state: %1.</source>
+        <translation>Неизвестно, работает ли устройство; его состояние: %1.</translation>
+    </message>
+    <message>
+        <source>--name and --group: expected a name without /, + and #</source>
+        <translation>--name и --group: ожидается имя без /, + и #</translation>
+    </message>
+    <message>
+        <source>--%1: expected a value</source>
+        <translation>--%1: ожидается значение</translation>
+    </message>
+    <message>
+        <source>its time is in the future</source>
+        <translation>его время в будущем</translation>
     </message>
 </context>
 </TS>

@@ -252,6 +252,9 @@ int runCommand(const QStringList& arguments)
     for (const Option* const option : everyOption()) {
         if (isSet(*option) && std::find(allowed.begin(), allowed.end(), option) == allowed.end())
             throw unknownOption(QLatin1String(option->name), allowed);
+        // As where a script's variable is not set: it means nothing, least of all the default.
+        if (isSet(*option) && option->value && parser.value(QLatin1String(option->name)).isEmpty())
+            throw Fault{Velmo::tr("%1: expected a value").arg(option->dashedName())};
     }
     const Arguments given(*command, parser, words.mid(command->words().size()));
     const int operands = int(given.operands().size());

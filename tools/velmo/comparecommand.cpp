@@ -69,8 +69,9 @@ private:
         LogComparer comparer(m_a, m_b, [&](const Difference& difference) {
             result.text += m_json
                 ? QString::fromUtf8(jsonOf(log, difference)) + QLatin1Char('\n')
-                : wrapped(QStringLiteral("%1: %2").arg(file.name(), difference.text()), 4,
-                          outputWidth());
+                : wrapped(
+                    printableLines(QStringLiteral("%1: %2").arg(file.name(), difference.text())), 4,
+                    outputWidth());
         });
         QByteArray line;
         while (!m_stopped && file.readLine(line)) {

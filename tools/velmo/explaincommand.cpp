@@ -65,7 +65,7 @@ QByteArray textLine(const NoteAnswer& answer)
     static const bool isColored = isOutputColored();
     static const char* const colors[outcomeCount] = {"\033[31m", "\033[32m", "\033[33m", "\033[33m",
                                                      "\033[2m"};
-    const QString text = wrapped(answer.text(), indent, width);
+    const QString text = wrapped(printableLines(answer.text()), indent, width);
     if (!isColored)
         return text.toUtf8();
     const auto end = qMin(answer.headline().size(), text.indexOf(QLatin1Char('\n')));

@@ -26,6 +26,7 @@ namespace {
 
 constexpr int batch = 1000; // messages between two looks at the clock
 constexpr seconds longestConnecting{10};
+constexpr int longestName = 40; // in the table; --json has all of it
 
 // What mosquitto has room for in any case, and how often it tells of what it had none for.
 constexpr int alwaysRoomFor = 1000;
@@ -132,9 +133,13 @@ QString table(const std::vector<Kiosk>& kiosks, int width)
 {
     QList<QStringList> rows;
     for (const Kiosk& kiosk : kiosks) {
-        QStringList row{printable(kiosk.name), kiosk.conditionText(),
+        QString name = printable(kiosk.name);
+        if (name.size() > longestName)
+            name = name.left(longestName - 3) + QStringLiteral("...");
+        QStringList row{name, kiosk.conditionText(),
                         kiosk.dateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"))};
-        for (const QString& fault : kiosk.faults) {
+        const QStringList faults = kiosk.faults.isEmpty() ? QStringList{QString()} : kiosk.faults;
+        for (const QString& fault : faults) {
             rows += row + QStringList{printable(fault)};
             row = QStringList{QString(), QString(), QString()};
         }

@@ -6,6 +6,7 @@
 #include "fault.h"
 #include "words.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -58,12 +59,20 @@ QString printable(const QString& text)
 {
     QString shown;
     for (const QChar c : text) {
-        // C0 and C1, which terminals take for commands
-        const bool isControl = c.unicode() < ' ' || (c.unicode() >= 0x7f && c.unicode() < 0xa0);
-        shown += isControl ? QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'))
+        const QChar::Category category = c.category();
+        const bool isCommand = category == QChar::Other_Control || category == QChar::Other_Format
+            || category == QChar::Separator_Line || category == QChar::Separator_Paragraph;
+        shown += isCommand ? QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'))
                            : QString(c);
     }
     return shown;
+}
+
+QString printableLines(const QString& text)
+{
+    QStringList lines = text.split(QLatin1Char('\n'));
+    std::transform(lines.begin(), lines.end(), lines.begin(), printable);
+    return lines.join(QLatin1Char('\n'));
 }
 
 bool isOutputColored()

@@ -26,8 +26,12 @@ int outputWidth();
 /// The lines that the terminal of standard output has; 0 where it is none.
 int outputHeight();
 
-/// A text as it may be shown on a terminal: control characters as \uXXXX.
+/// A text as it may be shown on a terminal, where it can be of anybody: what terminals take for
+/// commands, and what changes the direction or the line, as \uXXXX.
 QString printable(const QString& text);
+
+/// The same, but for line feeds.
+QString printableLines(const QString& text);
 
 /// Whether standard output may be coloured: on a terminal unless NO_COLOR is set.
 bool isOutputColored();

@@ -119,7 +119,7 @@ QString meaning(const ReplayStep& step)
             refusal += QStringLiteral(" %1=%2").arg(param.key()).arg(param.value().toInt());
         parts += refusal;
     }
-    return parts.join(QStringLiteral("; "));
+    return printable(parts.join(QStringLiteral("; ")));
 }
 
 QByteArray tableLine(qint64 lineNumber, const LogTime& time, const ReplayStep& step, bool withTime)

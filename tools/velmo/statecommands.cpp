@@ -66,7 +66,8 @@ QByteArray reportText(const AcceptorState& state, const QMap<int, QString>& name
         + QLatin1Char('\n');
     for (const QString& reason : reasons)
         text += QStringLiteral("  - %1\n").arg(reason);
-    return (text + QLatin1Char('\n') + state.systemStatusDescr(names) + QLatin1Char('\n')).toUtf8();
+    text += QLatin1Char('\n') + state.systemStatusDescr(names) + QLatin1Char('\n');
+    return printableLines(text).toUtf8();
 }
 
 PublishedState serviceStateOf(const QByteArray& text, const TextInput& file, qint64 line)
