@@ -11,7 +11,7 @@ bool tellsOrder(const KioskSummary& summary)
 {
     // A kiosk's clock may be ahead a little; one that is far ahead would hold back all that
     // follows.
-    constexpr qint64 tolerance = 5 * 60 * 1000;
+    constexpr qint64 tolerance = 300000; // milliseconds
     return summary.time != KioskSummary::noTime
         && summary.time <= QDateTime::currentMSecsSinceEpoch() + tolerance;
 }
