@@ -8,6 +8,11 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
+kiosks=${1:-1000}
+if [ $# -gt 1 ] || ! [[ $kiosks =~ ^[1-9][0-9]{0,5}$ ]]; then
+    echo "fleet.sh: expected a number of kiosks, or nothing: ${*}" >&2
+    exit 2
+fi
 
 require_packages "${build_packages[@]}" mosquitto python3 python3-paho-mqtt
 cmake --preset release
@@ -52,5 +57,5 @@ until [ "$(cat "$folder"/log.* | grep -c Connected)" -ge 4 ]; do # each with two
     kill -0 "${started[0]}" "${started[1]}" || { cat "$folder"/log.*; exit 1; }
     sleep 0.1
 done
-start /usr/bin/python3 examples/fleet/simulator.py "$broker" "${1:-1000}" samples/*.jsonl
+start /usr/bin/python3 examples/fleet/simulator.py "$broker" "$kiosks" samples/*.jsonl
 "$bin/velmo" fleet --broker "$broker" --watch
