@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Kiosks may be missing here: the broker had no room for all messages. With mosquitto, max_queued_messages sets the room.</source>
-        <translation>Здесь могут быть не все киоски: у брокера не нашлось места для всех сообщений. В mosquitto место задаёт max_queued_messages.</translation>
+        <translation>Здесь могут быть не все терминалы: у брокера не нашлось места для всех сообщений. В mosquitto место задаёт max_queued_messages.</translation>
     </message>
     <message>
         <source>%1: expected a value</source>
