@@ -125,9 +125,7 @@ BrokerConnection::BrokerConnection(const BrokerOptions& options, const QString& 
     library.subscribe_callback_set(
         m_client, [](mosquitto*, void* self, int message, int /*count*/, const int* granted) {
             ++connectionOf(self)->m_events;
-            if (message == connectionOf(self)->m_droppedRequest)
-                return;
-            if (granted[0] >= 128) {
+            if (granted[0] >= 128 && message != connectionOf(self)->m_droppedRequest) {
                 connectionOf(self)->m_fault = Diagnosis::tr("The broker refuses a subscription.");
                 warn(connectionOf(self)->m_fault);
             }
@@ -171,8 +169,6 @@ void BrokerConnection::takeConnect(int reason)
     m_fault.clear();
     m_pause = std::chrono::seconds(0);
     m_unanswered = 1; // this one
-    if (m_isDroppedWatched)
-        watchDropped(); // first: it may be dropped too
     // A broker that kept the session has the subscriptions; to repeat them brings what is retained.
     const auto subscriptions = std::exchange(m_subscriptions, {});
     for (const Subscription& subscription : subscriptions)
@@ -224,10 +220,13 @@ void BrokerConnection::subscribe(const Subscription& subscription)
     if (!m_isConnected)
         return;
     ++m_unanswered;
-    require(Mosquitto::library().subscribe_v5(m_client, nullptr,
+    int message = 0;
+    require(Mosquitto::library().subscribe_v5(m_client, &message,
                                               subscription.filter.toUtf8().constData(),
                                               subscription.qos, subscription.options, nullptr),
             subscription.filter);
+    if (subscription.filter == QLatin1String(droppedTopic))
+        m_droppedRequest = message;
 }
 
 void BrokerConnection::unsubscribe(const QString& filter)
@@ -245,9 +244,7 @@ void BrokerConnection::unsubscribe(const QString& filter)
 
 void BrokerConnection::watchDropped()
 {
-    m_isDroppedWatched = true;
-    if (m_isConnected)
-        Mosquitto::library().subscribe_v5(m_client, &m_droppedRequest, droppedTopic, 0, 0, nullptr);
+    subscribe(QLatin1String(droppedTopic), 0);
 }
 
 void BrokerConnection::takeDropped(const QByteArray& count)

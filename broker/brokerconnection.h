@@ -46,6 +46,7 @@ public:
 
     /// Listens to what mosquitto tells, every ten seconds, of the messages for its clients that it
     /// had no room for, and warns when they grow. Brokers that tell nothing are taken as they are.
+    /// Called before what is to be watched is subscribed to: what tells of it may be dropped too.
     void watchDropped();
 
     /// Publishes with QoS 1, retained; kept and repeated until the broker has it.
@@ -113,7 +114,6 @@ private:
     int m_unanswered = 0; // subscriptions and the ends of some
     bool m_isReady = false; // connected and subscribed, and told so
     quint64 m_events = 0; // so many things arrived
-    bool m_isDroppedWatched = false;
     int m_droppedRequest = 0; // the subscription, whose refusal does not matter
     qint64 m_droppedBefore = -1; // as the broker told last; negative: never
     qint64 m_dropped = 0;
