@@ -63,14 +63,7 @@ JsonText JsonText::object(std::initializer_list<Member> members)
     char before = '{';
     for (const Member& member : members) {
         json.appendKey(std::exchange(before, ','), member.key);
-        if (member.text)
-            json.append(*member.text);
-        else if (member.json)
-            json << *member.json;
-        else if (!member.isTruth)
-            json.append(member.number);
-        else
-            json.append(member.number != 0);
+        member.appendTo(json);
     }
     json << '}';
     return JsonText(json.text());

@@ -115,27 +115,24 @@ private:
 struct JsonText::Member
 {
     /// @param name plain ASCII
-    Member(const char* name, const QString& value)
+    template <typename Value>
+    Member(const char* name, const Value& value)
         : key(name)
-        , text(&value)
-    {
-    }
-    Member(const char* name, const JsonText& value)
-        : key(name)
-        , json(&value)
-    {
-    }
-    template <typename Number, typename = std::enable_if_t<std::is_integral_v<Number>>>
-    Member(const char* name, Number value)
-        : key(name)
-        , number(value)
-        , isTruth(std::is_same_v<Number, bool>)
+        , m_value(&value)
+        , m_append([](JsonBuffer& json, const void* known) {
+            if constexpr (std::is_same_v<Value, JsonText>)
+                json << *static_cast<const JsonText*>(known);
+            else
+                json.append(*static_cast<const Value*>(known));
+        })
     {
     }
 
+    void appendTo(JsonBuffer& json) const { m_append(json, m_value); }
+
     const char* key;
-    const QString* text = nullptr;
-    const JsonText* json = nullptr;
-    qint64 number = 0;
-    bool isTruth = false; ///< of the number: it stands for true or false
+
+private:
+    const void* m_value;
+    void (*m_append)(JsonBuffer& json, const void* value);
 };
