@@ -63,9 +63,9 @@ bool JsonReader::skipValue()
         return readArray([this] { return skipValue(); });
     QStringView string;
     qint64 number = 0;
-    if (readPlain(string) || readPlain(number))
-        return true;
-    return current() == u'"' ? readString(string) : readWord().isValid();
+    if (current() == u'"')
+        return readString(string);
+    return readPlain(number) || readWord().isValid();
 }
 
 bool JsonReader::readPlain(bool& value)
