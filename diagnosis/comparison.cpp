@@ -61,7 +61,7 @@ void LogComparer::compareAnswers()
         const NoteAnswer& b = m_answersOfB.front();
         const bool refusedByA = a.outcome == Outcome::Refused;
         const bool refusedByB = b.outcome == Outcome::Refused;
-        if (a.wasOffered())
+        if (a.hasValue())
             m_totals.offered.add(a.note);
         if (refusedByA)
             m_totals.refusedByA.add(a.note);

@@ -12,17 +12,19 @@
 #include <array>
 #include <deque>
 #include <functional>
+#include <optional>
 #include <unordered_map>
 
 /// What became of a note.
 enum class Outcome {
     Refused, ///< by the filters
     Taken,
+    Stuck, ///< in the device, which stopped while it had it: neither taken nor given back
     Rejected, ///< by the device
     Returned,
     Unknown ///< the log does not say
 };
-constexpr int outcomeCount = 5;
+constexpr int outcomeCount = 6;
 
 /// "refused", "taken", ...
 QString outcomeKey(Outcome outcome);
@@ -36,16 +38,23 @@ struct NoteAnswer
     QString deviceName;
     qint64 line = 0; ///< on which it was offered, or rejected without having been
     LogTime time; ///< of that line
-    int note = 0; ///< face value; 0 when the device rejected it before it knew
+    int note = 0; ///< face value; 0 when the log never says
     Outcome outcome = Outcome::Unknown;
-    bool taken = false; ///< also of a note that the filters refused
+    Outcome end = Outcome::Unknown; ///< the same, but of a refused note what became of it then
     qint64 lastLine = 0; ///< on which it became clear what became of it; 0 when it did not
     QVector<Objection> objections; ///< of every filter that refused it
-    /// What was the matter when the device rejected or returned the note, or when its trace ends.
+    /// What was the matter while the device had the note, unless it took it or the filters refused
+    /// it and it did not get stuck.
     QVector<MachineCondition> machine;
+    /// Of a stuck note: the line on which the session's sum rose, 0 when it did not; nothing when
+    /// the log does not tell the sum.
+    std::optional<qint64> creditLine;
     QStringList uncertain; ///< what may make this answer wrong
 
-    bool wasOffered() const { return note > 0; }
+    bool isJudged = false; ///< whether the filters were asked about it
+
+    bool isTaken() const { return end == Outcome::Taken; }
+    bool hasValue() const { return note > 0; }
 
     /// "Session 1, line 8, 10:05:12, Bill validator (CCNet)"
     QString place() const;
@@ -88,8 +97,9 @@ struct Summary
     };
 
     int sessions = 0;
-    Tally offered;
-    std::array<Tally, outcomeCount> outcomes; ///< by Outcome
+    Tally offered; ///< those of known value
+    std::array<Tally, outcomeCount> outcomes; ///< by Outcome; of refused notes by what became of
+                                              ///< them too, if they were taken or got stuck
     Tally takenAlthoughRefused;
     QMap<QString, qint64> refusedBy; ///< notes that a filter of that name refused
 
@@ -103,9 +113,10 @@ struct Summary
 
 /// Explains a session log. A note is offered by an event in state accepting with a note above 0,
 /// unless the device's event before it was the same. It is refused when a filter objects then;
-/// otherwise what follows decides, up to the next note or session of the device: a stacked,
-/// rejected or returned event, or else an accepted or stacking one before the device idles. A
-/// rejection without an offer is a rejected note of unknown value.
+/// otherwise what follows decides, up to the device's next note, or to a session that begins when
+/// the device idles: a stacked, rejected or returned event, or else an accepted or stacking one
+/// before the device idles, unless it stopped in between. A note whose value comes after it was
+/// accepting, or with the end, is followed likewise; the filters are not asked about it.
 class LogExplainer
 {
 public:
@@ -133,21 +144,33 @@ public:
 private:
     struct Note
     {
-        NoteAnswer answer;
-        Outcome followedBy = Outcome::Unknown; // so far
+        NoteAnswer answer; // its end: so far
+        qint64 stoppedLine = 0; // on which the device stopped with it; 0 while it works
+        int sumBefore = 0; // of the session
         bool isOpen = true;
+        bool isInHand = true; // of the device, until it idles
         bool startSeen = false; // of the session
         qint64 skippedBefore = 0; // the session
     };
 
-    void takeEvent(const LogDevice& device, const SessionLine& line, qint64 lineNumber);
-    Note& addNote(const LogDevice& device, const SessionLine& line, qint64 lineNumber);
-    void follow(const LogDevice& device, Note& note, qint64 lineNumber);
+    // How a device stood after its last event, of whatever session, and its open note.
+    struct Trail
+    {
+        Note* note = nullptr;
+        std::optional<State> state;
+        int value = 0;
+    };
+
+    void takeEvent(const LogStep& step, const SessionLine& line, qint64 lineNumber);
+    void addNote(const LogDevice& device, const SessionLine& line, qint64 lineNumber);
+    void judge(const LogDevice& device, Note& note);
+    static void watch(const LogDevice& device, Note& note, qint64 lineNumber);
+    void follow(const LogDevice& device, Note& note, bool isNewState, qint64 lineNumber);
     void close(const LogDevice& device);
     void giveAway();
 
     LogPlayer m_player;
     const Receiver m_receiver;
     std::deque<Note> m_notes; // from the oldest open one on
-    std::unordered_map<const LogDevice*, Note*> m_open; // at most one of each device
+    std::unordered_map<const LogDevice*, Trail> m_trails;
 };

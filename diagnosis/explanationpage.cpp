@@ -99,6 +99,7 @@ QString tallies(const std::vector<NoteAnswer>::const_iterator& begin,
 {
     static const char* const words[outcomeCount] = {QT_TRANSLATE_NOOP("Diagnosis", "%n refused"),
                                                     QT_TRANSLATE_NOOP("Diagnosis", "%n taken"),
+                                                    QT_TRANSLATE_NOOP("Diagnosis", "%n stuck"),
                                                     QT_TRANSLATE_NOOP("Diagnosis", "%n rejected"),
                                                     QT_TRANSLATE_NOOP("Diagnosis", "%n returned"),
                                                     QT_TRANSLATE_NOOP("Diagnosis", "%n unknown")};
@@ -120,8 +121,10 @@ QString legend()
     static const char* const words[outcomeCount] = {
         QT_TRANSLATE_NOOP("Diagnosis", "refused by the filters"),
         QT_TRANSLATE_NOOP("Diagnosis", "taken"),
+        QT_TRANSLATE_NOOP("Diagnosis", "stuck in the device"),
         QT_TRANSLATE_NOOP("Diagnosis", "rejected by the device"),
-        QT_TRANSLATE_NOOP("Diagnosis", "returned"), QT_TRANSLATE_NOOP("Diagnosis", "unknown")};
+        QT_TRANSLATE_NOOP("Diagnosis", "returned"),
+        QT_TRANSLATE_NOOP("Diagnosis", "unknown")};
     QString outcomes;
     for (int i = 0; i < outcomeCount; ++i)
         outcomes += QStringLiteral("<li>%1%2</li>\n")

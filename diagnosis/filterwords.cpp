@@ -5,6 +5,7 @@
 
 #include "abstractfilter.h"
 #include "filterfactory.h"
+#include "filtermemory.h"
 #include "filterset.h"
 #include "words.h"
 
@@ -49,57 +50,59 @@ QString sumRule(const AbstractFilter& filter)
 // What a filter found in a session, besides what it says of it.
 struct Finding
 {
-    QVector<int> events; // that are enough for it to refuse, newest first
+    QVector<int> events; // that are enough for it to refuse, oldest first
     QString text;
 };
 
-// An event list with the lines of its events.
+// An event list with the lines of its events, and what a filter has counted of it.
 struct Session
 {
+    const FilterMemory& memory;
     const StatesList& events;
     const QVector<qint64>& lines;
 
+    int param(const char* name) const { return ::param(memory.filter(), name); }
+
     const DeviceState& newest() const { return events.constLast(); }
 
-    QVector<qint64> linesOf(const QVector<int>& newestFirst) const
+    // Those of the counted events that are enough.
+    QVector<int> enough() const
     {
-        QVector<qint64> found;
-        for (auto event = newestFirst.crbegin(); event != newestFirst.crend(); ++event)
-            found += lines.at(*event);
-        return found;
+        const auto count = memory.counted().size();
+        return memory.counted().mid(count - qBound(0, memory.limit(), int(count)));
+    }
+
+    QVector<qint64> linesOf(const QVector<int>& found) const
+    {
+        QVector<qint64> places;
+        for (const int event : found)
+            places += lines.at(event);
+        return places;
     }
 
     // "lines 3 and 6", or that these are not all that there were.
-    QString place(const QVector<int>& newestFirst, int count) const
+    QString place(const QVector<int>& found) const
     {
-        const QString shown = lineList(linesOf(newestFirst));
-        return count > newestFirst.size() ? Diagnosis::tr("at last in %1").arg(shown) : shown;
+        const QString shown = lineList(linesOf(found));
+        return memory.counted().size() > found.size() ? Diagnosis::tr("at last in %1").arg(shown)
+                                                      : shown;
     }
 };
 
-Finding findSwitch(const AbstractFilter& /*filter*/, const Session& /*session*/)
+Finding findSwitch(const Session& /*session*/)
 {
     return {{}, Diagnosis::tr("All notes are switched off (acceptAll is 0).")};
 }
 
-Finding findAttempts(const AbstractFilter& filter, const Session& session)
+Finding findAttempts(const Session& session)
 {
-    const int allowed = param(filter, "attempts");
     const QString note = QString::number(session.newest().currentNote);
-    Finding finding;
-    int count = 0;
-    int event = int(session.events.size()) - 1;
-    for (; event > 0 && session.events.at(event).state != STATE_STACKED; --event) {
-        if (session.events.at(event).state != STATE_REJECTED)
-            continue;
-        if (count++ < allowed)
-            finding.events += event;
-    }
-    if (allowed <= 0) {
-        finding.text = Diagnosis::tr("No attempts at all are allowed for %1.").arg(note);
-        return finding;
-    }
-    const QString sentence = event > 0
+    if (session.memory.limit() <= 0)
+        return {{}, Diagnosis::tr("No attempts at all are allowed for %1.").arg(note)};
+    const QVector<int> found = session.enough();
+    const int count = int(session.memory.counted().size());
+    const int since = session.memory.since();
+    const QString sentence = since > 0
         ? Diagnosis::tr(
             "Notes were rejected %n times since the stacked note of line %4 (%1); %2 are "
             "allowed for %3. The next stacked note or session clears this.",
@@ -107,68 +110,53 @@ Finding findAttempts(const AbstractFilter& filter, const Session& session)
         : Diagnosis::tr("Notes were rejected %n times since the session began (%1); %2 are allowed "
                         "for %3. The next stacked note or session clears this.",
                         nullptr, count);
-    finding.text =
-        sentence.arg(session.place(finding.events, count), QString::number(allowed), note);
-    if (event > 0)
-        finding.text = finding.text.arg(session.lines.at(event));
-    return finding;
+    QString text =
+        sentence.arg(session.place(found), QString::number(session.memory.limit()), note);
+    if (since > 0)
+        text = text.arg(session.lines.at(since));
+    return {found, text};
 }
 
-Finding findCount(const AbstractFilter& filter, const Session& session)
+Finding findCount(const Session& session)
 {
-    const int allowed = param(filter, "count");
     const int note = session.newest().currentNote;
-    Finding finding;
-    int count = 0;
-    State later = STATE_BUSY;
-    for (int event = int(session.events.size()) - 1; event > 0; --event) {
-        const DeviceState& state = session.events.at(event);
-        // Of a run of accepted events the newest one counts.
-        if (state.state == STATE_ACCEPTED && later != STATE_ACCEPTED && state.currentNote == note
-            && count++ < allowed)
-            finding.events += event;
-        later = state.state;
-    }
-    if (allowed <= 0) {
-        finding.text = Diagnosis::tr("No notes of %1 are allowed at all.").arg(note);
-        return finding;
-    }
-    finding.text =
+    if (session.memory.limit() <= 0)
+        return {{}, Diagnosis::tr("No notes of %1 are allowed at all.").arg(note)};
+    const QVector<int> found = session.enough();
+    const QString text =
         Diagnosis::tr("%n notes of %1 were accepted since the session began (%2); %3 are "
                       "allowed. The next session clears this.",
-                      nullptr, count)
-            .arg(QString::number(note), session.place(finding.events, count),
-                 QString::number(allowed));
-    return finding;
+                      nullptr, int(session.memory.counted().size()))
+            .arg(QString::number(note), session.place(found),
+                 QString::number(session.memory.limit()));
+    return {found, text};
 }
 
-Finding findSum(const AbstractFilter& filter, const Session& session)
+Finding findSum(const Session& session)
 {
     const DeviceState& newest = session.newest();
-    const int last = int(session.events.size()) - 1;
-    int event = last;
-    while (event > 0 && session.events.at(event - 1).sessionSum == newest.sessionSum)
-        --event;
+    const int since =
+        session.memory.since(); // where the sum came from; the newest event has it too
     Finding finding;
-    if (event < last && newest.sessionSum != 0)
-        finding.events += event; // where the sum came from; the newest event has it too
+    if (since < session.events.size() - 1 && newest.sessionSum != 0)
+        finding.events += since;
     finding.text = Diagnosis::tr("%1 taken + note %2 > limit %3. The next session clears this.")
                        .arg(QString::number(newest.sessionSum), QString::number(newest.currentNote),
-                            QString::number(param(filter, "sessionSum")));
+                            QString::number(session.param("sessionSum")));
     return finding;
 }
 
-struct Words
+struct FilterWords
 {
     const char* filter;
     const char* purpose;
     QString (*rule)(const AbstractFilter& filter);
-    Finding (*find)(const AbstractFilter& filter, const Session& session);
+    Finding (*find)(const Session& session);
 };
 
-const Words* wordsOf(const QString& name)
+const FilterWords* wordsOf(const QString& name)
 {
-    static const Words table[] = {
+    static const FilterWords table[] = {
         {filters::ACCEPT_FILTER,
          QT_TRANSLATE_NOOP("Diagnosis", "Switches the taking of all notes and coins on or off."),
          acceptRule, findSwitch},
@@ -185,9 +173,9 @@ const Words* wordsOf(const QString& name)
         {filters::SESSION_SUM_FILTER,
          QT_TRANSLATE_NOOP("Diagnosis", "Limits the sum that a session takes."), sumRule, findSum},
     };
-    const auto* const found = std::find_if(std::begin(table), std::end(table), [&](const Words& w) {
-        return name == QLatin1String(w.filter);
-    });
+    const auto* const found =
+        std::find_if(std::begin(table), std::end(table),
+                     [&](const FilterWords& w) { return name == QLatin1String(w.filter); });
     return found == std::end(table) ? nullptr : found;
 }
 
@@ -195,7 +183,7 @@ const Words* wordsOf(const QString& name)
 
 QString filterPurpose(const QString& name)
 {
-    const Words* const words = wordsOf(name);
+    const FilterWords* const words = wordsOf(name);
     return words ? Diagnosis::tr(words->purpose) : QString();
 }
 
@@ -204,13 +192,13 @@ QString filterRule(const AbstractFilter& filter)
     return wordsOf(filterName(filter))->rule(filter);
 }
 
-Objection objectionOf(const AbstractFilter& filter, const StatesList& events,
+Objection objectionOf(const FilterMemory& filter, const StatesList& events,
                       const QVector<qint64>& lines)
 {
-    const Session session{events, lines};
-    const QString name = filterName(filter);
-    const Finding finding = wordsOf(name)->find(filter, session);
-    return {name, filterParams(filter), session.linesOf(finding.events), finding.text};
+    const Session session{filter, events, lines};
+    const QString name = filterName(filter.filter());
+    const Finding finding = wordsOf(name)->find(session);
+    return {name, filterParams(filter.filter()), session.linesOf(finding.events), finding.text};
 }
 
 QString lineList(const QVector<qint64>& lines)

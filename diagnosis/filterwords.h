@@ -10,6 +10,7 @@
 #include <QVector>
 
 class AbstractFilter;
+class FilterMemory;
 
 /// Why a filter refuses the newest event of a session.
 struct Objection
@@ -30,7 +31,7 @@ QString filterRule(const AbstractFilter& filter);
 
 /// Explains a filter that refuses the newest event.
 /// @param lines the line of each event in the log
-Objection objectionOf(const AbstractFilter& filter, const StatesList& events,
+Objection objectionOf(const FilterMemory& filter, const StatesList& events,
                       const QVector<qint64>& lines);
 
 /// "line 3", "lines 3 and 6"; of many lines the first ones and the last one.

@@ -10,6 +10,7 @@
 #include <QMap>
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -17,6 +18,7 @@ struct Condition
 {
     const char* what;
     const QString& key;
+    bool stopsNotes; // wherever they are in the device
     bool (*holds)(const DeviceState& state);
     const char* text; // %1 is the line
 };
@@ -25,20 +27,33 @@ const auto& conditionTable()
 {
     using namespace deviceStateDescConst;
     static const std::array<Condition, 6> table{{
-        {"disabled", ENABLED, [](const DeviceState& s) { return !s.enabled; },
+        {"disabled", ENABLED, false, [](const DeviceState& s) { return !s.enabled; },
          QT_TRANSLATE_NOOP("Diagnosis", "The device was disabled (since line %1).")},
-        {"offline", ONLINE, [](const DeviceState& s) { return !s.online; },
+        {"offline", ONLINE, true, [](const DeviceState& s) { return !s.online; },
          QT_TRANSLATE_NOOP("Diagnosis", "The device was offline (since line %1).")},
-        {"halted", HALT, [](const DeviceState& s) { return s.halt; },
+        {"halted", HALT, true, [](const DeviceState& s) { return s.halt; },
          QT_TRANSLATE_NOOP("Diagnosis", "The device was halted (since line %1).")},
-        {"error", ERROR_CRITICAL, [](const DeviceState& s) { return s.errCritical; },
+        {"error", ERROR_CRITICAL, true, [](const DeviceState& s) { return s.errCritical; },
          QT_TRANSLATE_NOOP("Diagnosis", "The device had a critical error (since line %1): %2.")},
-        {"stacker_missing", STACKER_PRESENT, [](const DeviceState& s) { return !s.stackerPresent; },
+        {"stacker_missing", STACKER_PRESENT, false,
+         [](const DeviceState& s) { return !s.stackerPresent; },
          QT_TRANSLATE_NOOP("Diagnosis", "The stacker was missing (since line %1).")},
-        {"stacker_full", STACKER_FULL, [](const DeviceState& s) { return s.stackerFull; },
+        {"stacker_full", STACKER_FULL, false, [](const DeviceState& s) { return s.stackerFull; },
          QT_TRANSLATE_NOOP("Diagnosis", "The stacker was full (since line %1).")},
     }};
     return table;
+}
+
+quint32 deviceBit()
+{
+    static const quint32 bit = DeviceReport::bit(deviceStateDescConst::DEVICE_ID);
+    return bit;
+}
+
+quint32 threadBit()
+{
+    static const quint32 bit = DeviceReport::bit(deviceStateDescConst::THREAD_ID);
+    return bit;
 }
 
 } // namespace
@@ -50,19 +65,19 @@ LogDevice::LogDevice(const FilterSet& filters, quint32 deviceId, quint32 threadI
     , m_worker(std::make_unique<DeviceStateWorker>())
     , m_chain(std::make_unique<FilterChain>())
 {
-    m_chain->setEvents(m_worker->getStatesList());
-    m_filters = filters.addTo(*m_chain);
+    const QList<AbstractFilter*> made = filters.addTo(*m_chain);
+    for (AbstractFilter* const filter : made)
+        m_filters.emplace_back(*filter);
     m_worker->setDeviceId(deviceId);
     m_worker->setThreadId(threadId);
 }
 
-QList<const AbstractFilter*> LogDevice::refusing() const
+QVector<const FilterMemory*> LogDevice::refusing() const
 {
-    // Filters keep nothing between verdicts: asked again, each says the same.
-    QList<const AbstractFilter*> found;
-    for (AbstractFilter* const filter : m_filters) {
-        if (filter->validate() != AbstractFilter::FILTER_ACCEPT)
-            found += filter;
+    QVector<const FilterMemory*> found;
+    for (const FilterMemory& filter : m_filters) {
+        if (filter.refuses(events()))
+            found += &filter;
     }
     return found;
 }
@@ -85,6 +100,17 @@ QVector<MachineCondition> LogDevice::conditions() const
     return found;
 }
 
+bool LogDevice::hasStoppedSince(qint64 line) const
+{
+    if (state().state == STATE_JAMMED || state().state == STATE_ERROR)
+        return true;
+    for (size_t i = 0; i < m_conditionSince.size(); ++i) {
+        if (conditionTable().at(i).stopsNotes && m_conditionSince.at(i) > line)
+            return true;
+    }
+    return false;
+}
+
 QString LogDevice::name() const
 {
     return m_showThread ? Diagnosis::tr("%1, thread %2").arg(m_name).arg(m_threadId) : m_name;
@@ -97,6 +123,8 @@ void LogDevice::startSession(int number, qint64 skippedLines)
     m_skippedBefore = skippedLines;
     m_worker->startSession();
     m_eventLines.clear();
+    for (FilterMemory& filter : m_filters)
+        filter.startSession();
 }
 
 void LogDevice::take(const DeviceReport& report, qint64 line)
@@ -107,7 +135,6 @@ void LogDevice::take(const DeviceReport& report, qint64 line)
                        [](const Condition& condition) { return DeviceReport::bit(condition.key); });
         return found;
     }();
-    m_lastLine = line;
     report.applyTo(*m_worker->getState());
     m_known |= report.reported;
     for (size_t i = 0; i < bits.size(); ++i) {
@@ -124,6 +151,8 @@ bool LogDevice::send(qint64 line)
         return false;
     m_worker->saveState();
     m_eventLines.append(line);
+    for (FilterMemory& filter : m_filters)
+        filter.add(events());
     return true;
 }
 
@@ -134,24 +163,31 @@ LogPlayer::LogPlayer(const FilterSet& filters)
 
 const std::vector<LogStep>& LogPlayer::take(const SessionLine& line, qint64 lineNumber)
 {
-    static const quint32 namingBits = DeviceReport::bit(deviceStateDescConst::DEVICE_ID)
-        | DeviceReport::bit(deviceStateDescConst::THREAD_ID);
     m_steps.clear();
     const std::vector<DeviceReport>& reports = line.reports();
-    const bool namesDevice = !line.isPublished() && reports.front().has(namingBits);
+    const bool namesDevice = !line.isPublished() && reports.front().has(deviceBit() | threadBit());
     if (line.startsSession() && !namesDevice)
         startEverySession();
-    for (const DeviceReport& report : reports) {
+    // Looked up before any is new, so that it makes no difference in which order they are
+    // published.
+    m_reporting.clear();
+    for (const DeviceReport& report : reports)
+        m_reporting.push_back(knownDevice(report));
+    for (size_t i = 0; i < reports.size(); ++i) {
+        const DeviceReport& report = reports.at(i);
         // A start alone is nobody's report.
         if (line.startsSession() && report.reported == 0)
             continue;
-        LogDevice& device = deviceOf(report);
+        LogDevice& device = m_reporting.at(i) ? *m_reporting.at(i) : newDevice(report);
         if (line.startsSession() && namesDevice)
             startSession(device);
         else if (device.m_session == 0)
             device.m_session = m_session = qMax(m_session, 1);
         device.take(report, lineNumber);
-        stepOf(device);
+        stepOf(device).reported |= report.reported;
+        if (line.isPublished())
+            continue;
+        device.m_lastOwnLine = lineNumber;
         m_last = &device;
     }
     for (LogStep& step : m_steps)
@@ -159,28 +195,42 @@ const std::vector<LogStep>& LogPlayer::take(const SessionLine& line, qint64 line
     return m_steps;
 }
 
-LogDevice& LogPlayer::deviceOf(const DeviceReport& report)
+LogDevice* LogPlayer::knownDevice(const DeviceReport& report) const
 {
-    static const quint32 deviceBit = DeviceReport::bit(deviceStateDescConst::DEVICE_ID);
-    static const quint32 threadBit = DeviceReport::bit(deviceStateDescConst::THREAD_ID);
-    const bool hasDevice = report.has(deviceBit);
-    const bool hasThread = report.has(threadBit);
     const auto fits = [&](const LogDevice& device) {
-        return (!hasDevice || device.deviceId() == report.fields.deviceId)
-            && (!hasThread || device.threadId() == report.fields.threadId);
+        return (!report.has(deviceBit()) || device.deviceId() == report.fields.deviceId)
+            && (!report.has(threadBit()) || device.threadId() == report.fields.threadId);
     };
-    if (m_last && fits(*m_last))
-        return *m_last;
+    return m_last && fits(*m_last) ? m_last : lastDevice(fits);
+}
+
+// Of those that fit; null when none does.
+template <typename Fits>
+LogDevice* LogPlayer::lastDevice(Fits fits) const
+{
+    const auto rank = [](const LogDevice& device) {
+        return std::make_tuple(-device.m_lastOwnLine, device.deviceId(), device.threadId());
+    };
     LogDevice* found = nullptr;
     for (const auto& device : m_devices) {
-        if (fits(*device) && (!found || found->m_lastLine <= device->m_lastLine))
+        if (fits(*device) && (!found || rank(*device) < rank(*found)))
             found = device.get();
     }
-    if (found)
-        return *found;
-    const quint32 lastDevice = m_last ? m_last->deviceId() : 0;
-    return addDevice(hasDevice ? report.fields.deviceId : lastDevice,
-                     hasThread ? report.fields.threadId : 0);
+    return found;
+}
+
+LogDevice& LogPlayer::newDevice(const DeviceReport& report)
+{
+    const LogDevice* const last =
+        m_last ? m_last : lastDevice([](const LogDevice&) { return true; });
+    const quint32 device = report.has(deviceBit()) ? report.fields.deviceId
+        : last                                     ? last->deviceId()
+                                                   : 0;
+    const quint32 thread = report.has(threadBit()) ? report.fields.threadId : 0;
+    LogDevice* const twice = lastDevice([=](const LogDevice& known) {
+        return known.deviceId() == device && known.threadId() == thread;
+    });
+    return twice ? *twice : addDevice(device, thread); // published twice in one list
 }
 
 LogDevice& LogPlayer::addDevice(quint32 deviceId, quint32 threadId)
@@ -223,5 +273,6 @@ LogStep& LogPlayer::stepOf(LogDevice& device)
 {
     const auto found = std::find_if(m_steps.begin(), m_steps.end(),
                                     [&](const LogStep& step) { return step.device == &device; });
-    return found == m_steps.end() ? m_steps.emplace_back(LogStep{&device, false, false}) : *found;
+    return found == m_steps.end() ? m_steps.emplace_back(LogStep{&device, false, false, 0})
+                                  : *found;
 }

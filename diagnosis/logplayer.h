@@ -5,6 +5,7 @@
 
 #include "devicestateworker.h"
 #include "filterchain.h"
+#include "filtermemory.h"
 #include "filterset.h"
 #include "sessionline.h"
 
@@ -46,15 +47,20 @@ public:
 
     const DeviceState& state() const { return *m_worker->getState(); }
 
+    /// Whether it ever reported the field with this bit of DeviceReport.
+    bool hasReported(quint32 bit) const { return (m_known & bit) != 0; }
+
+    /// Whether it is jammed or in error, or went offline, halted or got a critical error after a
+    /// line, and is so still: where its money is then, its states do not say.
+    bool hasStoppedSince(qint64 line) const;
+
     /// What it sent in its session, and the line of each.
     const StatesList& events() const { return *m_worker->getStatesList(); }
     const QVector<qint64>& eventLines() const { return m_eventLines; }
 
-    /// The chain's verdict on the newest event.
-    AbstractFilter::FilterResult verdict() const { return m_chain->validate(); }
-
-    /// Every filter that refuses the newest event, in the order of the chain.
-    QList<const AbstractFilter*> refusing() const;
+    /// Every filter that refuses the newest event, in the order of the chain: the first one's
+    /// verdict is the chain's.
+    QVector<const FilterMemory*> refusing() const;
 
     /// What is known to be the matter with it now.
     QVector<MachineCondition> conditions() const;
@@ -73,10 +79,10 @@ private:
     int m_session = 0;
     bool m_sessionStartSeen = false;
     qint64 m_skippedBefore = 0;
-    qint64 m_lastLine = 0;
+    qint64 m_lastOwnLine = 0; // that was of it alone; 0 before there was one
     std::unique_ptr<DeviceStateWorker> m_worker;
     std::unique_ptr<FilterChain> m_chain;
-    QList<AbstractFilter*> m_filters; // owned by the chain, in its order
+    std::vector<FilterMemory> m_filters; // of those that the chain owns, in its order
     QVector<qint64> m_eventLines;
     quint32 m_known = 0; // bits of the fields that it has reported
     std::array<qint64, 6> m_conditionSince{}; // 0 for one that does not hold
@@ -88,12 +94,14 @@ struct LogStep
     LogDevice* device;
     bool startsSession;
     bool sent; ///< its state differed from the one before and became an event
+    quint32 reported; ///< the bits of the fields that the line reports
 };
 
 /// Plays a session log the way that the service would: one worker and one chain of filters for each
-/// device, that is for each pair of device and thread. A report without "thread_id" is of the
-/// thread that reported last for the device, one without "device_id" of the device that reported
-/// last, device 0 before any did.
+/// device, that is for each pair of device and thread. A line that lacks one of the two or both is
+/// of the device that fits and had a line of its own last; published states are of all devices and
+/// point at none. Where none that fits had one, it is of the lowest that fits, by device and then
+/// thread; where none fits, what is missing is the device of the last line, and thread 0.
 ///
 /// Sessions are numbered through the log. A device's start begins the next number when the device
 /// is in the newest session already, and joins that session otherwise.
@@ -117,7 +125,10 @@ public:
     const std::vector<std::unique_ptr<LogDevice>>& devices() const { return m_devices; }
 
 private:
-    LogDevice& deviceOf(const DeviceReport& report);
+    LogDevice* knownDevice(const DeviceReport& report) const;
+    template <typename Fits>
+    LogDevice* lastDevice(Fits fits) const;
+    LogDevice& newDevice(const DeviceReport& report);
     LogDevice& addDevice(quint32 deviceId, quint32 threadId);
     LogStep& stepOf(LogDevice& device);
     void startSession(LogDevice& device);
@@ -126,7 +137,8 @@ private:
     const FilterSet m_filters;
     std::vector<std::unique_ptr<LogDevice>> m_devices;
     std::vector<LogStep> m_steps;
-    LogDevice* m_last = nullptr; // that reported
+    std::vector<LogDevice*> m_reporting; // of each report of a line; null for a new one
+    LogDevice* m_last = nullptr; // that had a line of its own
     int m_session = 0; // the newest
     bool m_everySessionStarted = false; // once at least
     qint64 m_skippedBefore = 0; // when every session was started last

@@ -9,7 +9,8 @@ constexpr const char pageStyle[] = R"css(
     color-scheme: light dark;
     --paper: #fff; --panel: #f5f7f9; --edge: #d3dae2; --ink: #1a1f26; --faint: #55606e;
     --link: #0b57d0; --pin: #b8005c; --hit: #fdeaf4; --warn: #fff4d6; --warn-edge: #a15500;
-    --refused: #c5221f; --taken: #137333; --rejected: #a15500; --returned: #7b3fbf; --unknown: #55606e;
+    --refused: #c5221f; --taken: #137333; --stuck: #8c1d5c; --rejected: #a15500;
+    --returned: #7b3fbf; --unknown: #55606e;
     --idle: #d3dae2; --take: #8ab4f8; --keep: #81c995; --back: #fcc95f; --bad: #b3261e;
     --busy: #b9c3cf; --pay: #cdb8f2; --on-state: #10141a; --on-idle: #10141a; --on-bad: #fff;
 }
@@ -17,7 +18,7 @@ constexpr const char pageStyle[] = R"css(
     :root {
         --paper: #14171c; --panel: #1c2128; --edge: #3b4552; --ink: #e6e9ee; --faint: #a7b1bf;
         --link: #8ab4f8; --pin: #ff8ac4; --hit: #3a2331; --warn: #332a12; --warn-edge: #ffb454;
-        --refused: #ff8a80; --taken: #6fd08c; --rejected: #ffb454; --returned: #cfa5ff;
+        --refused: #ff8a80; --taken: #6fd08c; --stuck: #ff9ed2; --rejected: #ffb454; --returned: #cfa5ff;
         --unknown: #a7b1bf; --idle: #3b4552; --busy: #5a6675; --on-idle: #e6e9ee; --bad: #d9473d;
     }
 }
@@ -83,6 +84,7 @@ svg .grid { stroke: var(--edge); stroke-dasharray: 2 4; }
 svg .base { stroke: var(--edge); }
 .refused { color: var(--refused); }
 .taken { color: var(--taken); }
+.stuck { color: var(--stuck); }
 .rejected { color: var(--rejected); }
 .returned { color: var(--returned); }
 .unknown { color: var(--unknown); }

@@ -35,10 +35,9 @@ std::vector<ReplayStep> Replay::take(const SessionLine& line, qint64 lineNumber)
         taken.sent = step.sent;
         if (device.state().currentNote <= 0)
             continue;
-        // Filters keep nothing between verdicts: the first that refuses is the chain's verdict.
-        const QList<const AbstractFilter*> refusing = device.refusing();
+        const QVector<const FilterMemory*> refusing = device.refusing();
         taken.verdict = refusing.isEmpty() ? ReplayStep::Accepted : ReplayStep::Refused;
-        taken.refusedBy = refusing.isEmpty() ? nullptr : refusing.constFirst();
+        taken.refusedBy = refusing.isEmpty() ? nullptr : &refusing.constFirst()->filter();
     }
     for (ReplayStep& step : steps) {
         step.paymentText = m_screen.paymentStateDescr();

@@ -353,7 +353,7 @@ void SessionPicture::drawMarks(const SessionRecord::Lane& lane)
         m_anchors.insert(mark);
         const double x = xOf(answer.line) + markSize / 2;
         const QString outcome = outcomeKey(answer.outcome);
-        const QString halo = answer.taken && answer.outcome == Outcome::Refused
+        const QString halo = answer.isTaken() && answer.outcome == Outcome::Refused
             ? QStringLiteral("<use href=\"#ring\" x=\"%1\" y=\"%2\"/>")
                   .arg(number(x), number(middle))
             : QString();
@@ -362,7 +362,7 @@ void SessionPicture::drawMarks(const SessionRecord::Lane& lane)
                                  "<circle class=\"halo\" cx=\"%5\" cy=\"%6\" r=\"11\"/></a>\n")
                       .arg(mark, outcome, sentence, htmlText(answer.headline()), number(x),
                            number(middle), halo);
-        const QString value = answer.wasOffered() ? QString::number(answer.note) : QString();
+        const QString value = answer.hasValue() ? QString::number(answer.note) : QString();
         const double half = textWidth(value) / 2;
         if (x - half < free)
             continue;
@@ -533,7 +533,8 @@ QString SessionPicture::pins(double height) const
 
 QString SessionPicture::symbols()
 {
-    // A crossed square, a disc with a tick, a triangle, a diamond, a ring with a dot.
+    // A crossed square, a disc with a tick, a note in a slot, a triangle, a diamond, a ring with a
+    // dot.
     return QStringLiteral("<svg width=\"0\" height=\"0\" aria-hidden=\"true\"><defs>\n"
                           "<path id=\"refused\" fill-rule=\"evenodd\" "
                           "d=\"M-7-7H7V7H-7zM-4.5-3L-1.5 0-4.5 3-3 4.5 0 1.5 "
@@ -541,6 +542,7 @@ QString SessionPicture::symbols()
                           "<path id=\"taken\" fill-rule=\"evenodd\" d=\"M-7 0A7 7 0 1 1 7 0A7 7 0 "
                           "1 1-7 0zM-4.3.4L-1.2 "
                           "3.6 4.3-2.4 3-3.6-1.2 1-3-1z\"/>\n"
+                          "<path id=\"stuck\" d=\"M-7-7H7V-2.5H3L6 7H-6L-3-2.5H-7z\"/>\n"
                           "<path id=\"rejected\" d=\"M0-7.5L8 6.5H-8z\"/>\n"
                           "<path id=\"returned\" d=\"M0-8L8 0 0 8-8 0z\"/>\n"
                           "<path id=\"unknown\" fill-rule=\"evenodd\" d=\"M-7 0A7 7 0 1 1 7 0A7 7 "

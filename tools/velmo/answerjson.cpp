@@ -37,21 +37,20 @@ JsonText jsonOf(const QVector<MachineCondition>& conditions)
 
 JsonText jsonOf(const QString& log, const NoteAnswer& answer)
 {
-    return JsonText::object(
-        {{"kind", QStringLiteral("note")},
-         {"log", log},
-         {"session", answer.session},
-         {"device", qint64(answer.device)},
-         {"thread", qint64(answer.thread)},
-         {"line", answer.line},
-         {"time", jsonOf(answer.time)},
-         {"note", answer.wasOffered() ? JsonText(answer.note) : JsonText::null()},
-         {"outcome", outcomeKey(answer.outcome)},
-         {"taken", answer.taken},
-         {"filters", jsonOf(answer.objections)},
-         {"machine", jsonOf(answer.machine)},
-         {"uncertain", JsonText::list(answer.uncertain)},
-         {"text", answer.text()}});
+    return JsonText::object({{"kind", QStringLiteral("note")},
+                             {"log", log},
+                             {"session", answer.session},
+                             {"device", qint64(answer.device)},
+                             {"thread", qint64(answer.thread)},
+                             {"line", answer.line},
+                             {"time", jsonOf(answer.time)},
+                             {"note", answer.hasValue() ? JsonText(answer.note) : JsonText::null()},
+                             {"outcome", outcomeKey(answer.outcome)},
+                             {"taken", answer.isTaken()},
+                             {"filters", jsonOf(answer.objections)},
+                             {"machine", jsonOf(answer.machine)},
+                             {"uncertain", JsonText::list(answer.uncertain)},
+                             {"text", answer.text()}});
 }
 
 JsonText jsonOf(const QString& log, const Difference& difference)
@@ -70,7 +69,7 @@ JsonText jsonOf(const QString& log, const Difference& difference)
                              {"note", note.note},
                              {"a", verdict(difference.refusedByA)},
                              {"b", verdict(!difference.refusedByA)},
-                             {"taken", note.taken},
+                             {"taken", note.isTaken()},
                              {"filters", jsonOf(note.objections)},
                              {"uncertain", JsonText::list(note.uncertain)},
                              {"text", difference.text()}});
@@ -91,6 +90,7 @@ JsonText jsonOf(const Summary& summary)
                                                 {"sum", refused.sum},
                                                 {"by", JsonText::of(by)},
                                                 {"taken", jsonOf(summary.takenAlthoughRefused)}})},
+                             {"stuck", jsonOf(summary.of(Outcome::Stuck))},
                              {"rejected", jsonOf(summary.of(Outcome::Rejected))},
                              {"returned", jsonOf(summary.of(Outcome::Returned))},
                              {"unknown", jsonOf(summary.of(Outcome::Unknown))}});

@@ -63,8 +63,8 @@ QByteArray textLine(const NoteAnswer& answer)
     constexpr int indent = 4;
     static const int width = outputWidth();
     static const bool isColored = isOutputColored();
-    static const char* const colors[outcomeCount] = {"\033[31m", "\033[32m", "\033[33m", "\033[33m",
-                                                     "\033[2m"};
+    static const char* const colors[outcomeCount] = {"\033[31m", "\033[32m", "\033[35m",
+                                                     "\033[33m", "\033[33m", "\033[2m"};
     const QString text = wrapped(printableLines(answer.text()), indent, width);
     if (!isColored)
         return text.toUtf8();
