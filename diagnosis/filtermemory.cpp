@@ -80,7 +80,8 @@ void FilterMemory::add(const StatesList& events)
     // The event that was the newest stays when it counts.
     if (m_counted.isEmpty() || m_counted.constFirst() == newest)
         m_shown = {events.constFirst()};
-    else if (std::binary_search(m_counted.constEnd() - qMin(2, int(m_counted.size())), m_counted.constEnd(), newest - 1))
+    else if (std::binary_search(m_counted.constEnd() - qMin(2, int(m_counted.size())),
+                                m_counted.constEnd(), newest - 1))
         m_shown += DeviceState(); // ends a run
     else
         m_shown.removeLast();

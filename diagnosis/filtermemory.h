@@ -9,9 +9,9 @@
 
 class AbstractFilter;
 
-/// A filter and what it has counted of a session. Asked for a verdict, a filter walks over the events of
-/// the session; shown only those that count, it says the same, and a note late in a long session
-/// costs no more than an early one.
+/// A filter and what it has counted of a session. Asked for a verdict, a filter walks over the
+/// events of the session; shown only those that count, it says the same, and a note late in a long
+/// session costs no more than an early one.
 class FilterMemory
 {
 public:

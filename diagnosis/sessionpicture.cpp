@@ -196,6 +196,15 @@ SessionPicture::SessionPicture(const SessionRecord& session, std::optional<int> 
                 m_evidence.insert({line, {answer.device, answer.thread}});
         }
     }
+    for (const SessionRecord::Lane& lane : session.lanes) {
+        double most = sumLimit ? double(*sumLimit) : 0;
+        for (const SessionRecord::Event& event : lane.events)
+            most = qMax(most, double(event.sum));
+        const bool anyExceeds = std::any_of(
+            session.answers.begin(), session.answers.end(),
+            [&](const NoteAnswer& answer) { return isOf(answer, lane) && isOverSum(answer); });
+        m_mostSum[&lane] = anyExceeds ? 1.3 * most : most;
+    }
 }
 
 std::vector<size_t> SessionPicture::parts() const
@@ -466,16 +475,9 @@ QString SessionPicture::excesses(const SessionRecord::Lane& lane,
 
 void SessionPicture::drawSum(const SessionRecord::Lane& lane, const std::vector<Segment>& segments)
 {
-    double most = m_sumLimit ? double(*m_sumLimit) : 0;
-    for (const SessionRecord::Event& event : lane.events)
-        most = qMax(most, double(event.sum));
+    const double most = m_mostSum.at(&lane);
     if (segments.empty() || most <= 0)
         return;
-    const bool anyExceeds = std::any_of(
-        m_session.answers.begin(), m_session.answers.end(),
-        [&](const NoteAnswer& answer) { return isOf(answer, lane) && isOverSum(answer); });
-    if (anyExceeds)
-        most *= 1.3;
     m_y += 16;
     const double bottom = m_y + sumHeight;
     const double perUnit = sumHeight / most;

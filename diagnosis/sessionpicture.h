@@ -8,6 +8,7 @@
 #include <QString>
 #include <QVector>
 
+#include <map>
 #include <optional>
 #include <set>
 #include <vector>
@@ -110,6 +111,7 @@ private:
     const std::optional<int> m_sumLimit;
     const bool m_hasTimes;
     std::set<std::pair<qint64, std::pair<quint32, quint32>>> m_evidence; // line, device, thread
+    std::map<const SessionRecord::Lane*, double> m_mostSum; // that a lane's picture has room for
     std::set<QString> m_anchors;
     size_t m_first = 0; // of the part that is drawn
     size_t m_end = 0;
