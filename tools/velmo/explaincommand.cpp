@@ -179,11 +179,9 @@ int explainCommand(const Arguments& arguments)
             if (!question.isAbout(answer.session, answer.device))
                 return;
             summary.add(answer);
-            if (!question.shows(answer))
-                return;
-            if (page)
+            if (page && !question.summaryOnly)
                 page->page().add(answer);
-            else
+            else if (!page && question.shows(answer))
                 text += json ? jsonOf(log, answer) + '\n' : textLine(answer);
         });
         TextInput file = openInput(log);
