@@ -44,7 +44,7 @@ th, td { padding: .15rem 0 .15rem .8rem; text-align: right; border-bottom: 1px s
 th:first-child { padding-left: 0; text-align: left; }
 td, thead th { white-space: nowrap; }
 tbody th { font-weight: normal; }
-tbody .part th { padding-left: 1.6rem; color: var(--faint); }
+tbody .part th { padding-left: .8rem; color: var(--faint); }
 tbody tr:last-child > * { border-bottom: 0; }
 
 .legend { margin-top: 1rem; font-size: .875rem; }
