@@ -93,8 +93,8 @@ QString answerItem(const SessionRecord& session, const NoteAnswer& note,
              evidenceLinks(session, note, picture));
 }
 
-// How many notes had which outcome, with its mark.
-QString tallies(const std::vector<NoteAnswer>::const_iterator& begin,
+// How many of the notes that are told of had which outcome, with its mark.
+QString tallies(const SessionRecord& session, const std::vector<NoteAnswer>::const_iterator& begin,
                 const std::vector<NoteAnswer>::const_iterator& end)
 {
     static const char* const words[outcomeCount] = {QT_TRANSLATE_NOOP("Diagnosis", "%n refused"),
@@ -105,8 +105,9 @@ QString tallies(const std::vector<NoteAnswer>::const_iterator& begin,
                                                     QT_TRANSLATE_NOOP("Diagnosis", "%n unknown")};
     QString text;
     for (int i = 0; i < outcomeCount; ++i) {
-        const auto count = std::count_if(
-            begin, end, [i](const NoteAnswer& note) { return int(note.outcome) == i; });
+        const auto count = std::count_if(begin, end, [&](const NoteAnswer& note) {
+            return int(note.outcome) == i && session.isTold(note);
+        });
         if (count > 0) {
             text += QStringLiteral("<span>%1%2</span>\n")
                         .arg(SessionPicture::glyph(Outcome(i)),
@@ -189,21 +190,23 @@ void ExplanationPage::add(const NoteAnswer& answer)
     session(answer.session).answers.push_back(answer);
 }
 
-void ExplanationPage::finishSessions(int before, bool onlyWithNotes)
+void ExplanationPage::finishSessions(int before, bool onlyRefusals)
 {
     while (!m_open.empty() && m_open.begin()->first < before) {
-        const SessionRecord session = std::move(m_open.begin()->second);
+        SessionRecord session = std::move(m_open.begin()->second);
         m_open.erase(m_open.begin());
-        const bool isShown =
-            !session.moments.empty() && !(onlyWithNotes && session.answers.empty());
-        if (isShown)
+        session.onlyRefusals = onlyRefusals;
+        const bool anyTold =
+            std::any_of(session.answers.begin(), session.answers.end(),
+                        [&](const NoteAnswer& answer) { return session.isTold(answer); });
+        if (!session.moments.empty() && (anyTold || !onlyRefusals))
             writeSession(session);
     }
 }
 
-void ExplanationPage::endLog(qint64 skipped, bool onlyWithNotes)
+void ExplanationPage::endLog(qint64 skipped, bool onlyRefusals)
 {
-    finishSessions(INT_MAX, onlyWithNotes);
+    finishSessions(INT_MAX, onlyRefusals);
     if (skipped > 0) {
         m_doubts += QStringLiteral("%1: %2").arg(
             m_logs.constLast(),
@@ -231,8 +234,10 @@ void ExplanationPage::writeSession(const SessionRecord& session)
             ++note;
         const QString drawn = picture.draw(parts.at(i), parts.at(i + 1));
         QString sentences;
-        for (auto shown = begin; shown != note; ++shown)
-            sentences += answerItem(session, *shown, picture);
+        for (auto shown = begin; shown != note; ++shown) {
+            if (session.isTold(*shown))
+                sentences += answerItem(session, *shown, picture);
+        }
         const QString range = Diagnosis::tr("lines %1 to %2").arg(firstLine).arg(lastLine);
         writeTo(m_sections,
                 QStringLiteral("<details class=\"session\"%1>\n<summary><strong>%2 <span "
@@ -240,7 +245,7 @@ void ExplanationPage::writeSession(const SessionRecord& session)
                                "class=\"picture\" tabindex=\"0\" role=\"group\" "
                                "aria-label=\"%5\">\n%6</div>\n%7</details>\n")
                     .arg(m_written++ < unfoldedParts ? QStringLiteral(" open") : QString(),
-                         htmlText(title), htmlText(range), tallies(begin, note),
+                         htmlText(title), htmlText(range), tallies(session, begin, note),
                          htmlText(Diagnosis::tr("Picture, %1").arg(range)), drawn,
                          sentences.isEmpty()
                              ? QStringLiteral("<p class=\"none\">%1</p>\n")

@@ -34,12 +34,15 @@ public:
 
     void add(const NoteAnswer& answer);
 
-    /// Writes down the sessions before a number, of which nothing follows. Sessions without a note
-    /// are left out on demand.
-    void finishSessions(int before, bool onlyWithNotes);
+    /// Tells what may make answers wrong.
+    void addDoubt(const QString& doubt) { m_doubts += doubt; }
+
+    /// Writes down the sessions before a number, of which nothing follows. On demand only what the
+    /// filters refused is told; other notes have marks as far as they are evidence.
+    void finishSessions(int before, bool onlyRefusals);
 
     /// @param skipped lines that could not be read
-    void endLog(qint64 skipped, bool onlyWithNotes);
+    void endLog(qint64 skipped, bool onlyRefusals);
 
     /// Writes the page.
     void write(QIODevice& page, const Summary& summary);

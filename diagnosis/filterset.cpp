@@ -9,6 +9,7 @@
 #include "filterchain.h"
 #include "filterfactory.h"
 #include "filterwords.h"
+#include "settingslist.h"
 #include "words.h"
 
 #include <algorithm>
@@ -115,7 +116,15 @@ void FilterSet::addFilters(const ArrayFile& file)
 
 void FilterSet::addSettings(const ArrayFile& file)
 {
-    AcceptorSettings().setList(file.elements().toVariantList());
+    // Never read through AcceptorSettings: what the list lacks would stay as the list before it
+    // left it there.
+    const SettingsList list(file.elements());
+    const auto valueOf = [&list](const QString& group, const QString& key) {
+        return list.used(ServiceSetting::find(group, key)).value.toString();
+    };
+    const auto common = [&valueOf](const QString& key) {
+        return valueOf(AcceptorSettings::ACCEPTOR_COMMON_SECTION, key);
+    };
     const auto add = [this, &file](const char* name, const QVariantMap& params) {
         const QJsonObject description{{nameKey, QLatin1String(name)},
                                       {paramsKey, QJsonObject::fromVariantMap(params)}};
@@ -125,22 +134,31 @@ void FilterSet::addSettings(const ArrayFile& file)
             throw Fault{QStringLiteral("%1: %2").arg(file.name(), fault.message)};
         }
     };
-    add(filters::ACCEPT_FILTER, {{QStringLiteral("acceptAll"), AcceptorSettings::acceptAll()}});
-    const QList<AcceptorAttemptFilterItem> limits = AcceptorSettings::attemptsFilter();
-    for (const AcceptorAttemptFilterItem& limit : limits) {
+    const bool acceptAll = common(AcceptorSettings::ACCEPT_ALL) == QLatin1String("1");
+    add(filters::ACCEPT_FILTER, {{QStringLiteral("acceptAll"), acceptAll}});
+    const QByteArray limits = common(AcceptorSettings::ATTEMPTS_FILTER).toUtf8();
+    for (const QJsonValue limitMap : QJsonDocument::fromJson(limits).array()) {
+        AcceptorAttemptFilterItem limit;
+        limit.loadFromMap(limitMap.toObject().toVariantMap());
         add(filters::ATTEMPTS_FILTER,
             {{QStringLiteral("denom"), limit.denom()},
              {QStringLiteral("attempts"), limit.attempts()}});
     }
-    if (AcceptorSettings::maxSumm() > 0) {
+    const qint64 maxSumm = common(AcceptorSettings::MAX_SUMM).toLongLong();
+    if (maxSumm > 0) {
         // The sums of a session have 32 bits: none exceeds this.
-        const qint64 maximum = qMin<qint64>(AcceptorSettings::maxSumm(), INT_MAX);
-        add(filters::SESSION_SUM_FILTER, {{QStringLiteral("sessionSum"), maximum}});
+        add(filters::SESSION_SUM_FILTER,
+            {{QStringLiteral("sessionSum"), qMin<qint64>(maxSumm, INT_MAX)}});
     }
-    for (const AcceptorDeviceSettings* const device : std::as_const(AcceptorSettings::devices)) {
-        const auto id = static_cast<quint32>(device->type());
+    for (auto device = list.devices().keyBegin(); device != list.devices().keyEnd(); ++device) {
+        const QString group = deviceGroup(*device, AcceptorSettings::DEVICE_SECTION);
+        const QString model = valueOf(group, AcceptorSettings::DEVICE_ID);
+        if (model.isEmpty())
+            continue;
+        const auto id = static_cast<quint32>(model.toInt());
+        const QString name = valueOf(group, AcceptorSettings::DEVICE_NAME);
         // Of two devices of a model, nobody knows which one the log means.
-        m_deviceNames.insert(id, m_deviceNames.contains(id) ? QString() : device->name());
+        m_deviceNames.insert(id, m_deviceNames.contains(id) ? QString() : name);
     }
 }
 

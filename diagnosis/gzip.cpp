@@ -52,7 +52,13 @@ int Gzip::read(char* text, int size)
             m_stream->next_in = reinterpret_cast<Bytef*>(m_data.data());
             m_stream->avail_in = static_cast<uInt>(m_source(m_data.data(), chunkSize));
         }
-        if (m_stream->avail_in == 0) {
+        const bool isEnd = m_stream->avail_in == 0;
+        for (; !m_inMember && m_stream->avail_in > 0 && *m_stream->next_in == 0;
+             ++m_stream->next_in)
+            --m_stream->avail_in;
+        if (m_stream->avail_in == 0 && !isEnd)
+            continue;
+        if (isEnd) {
             if (m_inMember)
                 throw Fault{Diagnosis::tr("the compressed file is cut off")};
             return 0;

@@ -8,7 +8,9 @@
 #include <functional>
 #include <memory>
 
-/// Inflates gzip data as they come, also several members one after the other.
+/// Inflates gzip data as they come, also several members one after the other. Zero bytes behind a
+/// member are no data: files are padded with them. What else stands there is damage, which zlib's
+/// own gzread() would pass over.
 class Gzip
 {
 public:

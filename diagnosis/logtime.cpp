@@ -8,8 +8,6 @@
 
 #include <QDateTime>
 
-#include <cmath>
-
 namespace {
 
 constexpr int timeOfDay = 11; // where it begins in yyyy-MM-ddThh:mm:ss
@@ -49,17 +47,20 @@ bool isTime(const QString& text)
 
 LogTime::LogTime(const QVariant& value)
 {
-    constexpr double most = 8.64e15; // what a QDateTime holds and a double counts
+    // The years that an ISO 8601 text can say: 1 to 9999.
+    constexpr double least = -62135596800000;
+    constexpr double most = 253402300799999;
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
     if (value.userType() == QMetaType::QString && isTime(value.toString())) {
         m_text = value.toString();
     } else if (value.userType() != QMetaType::QString && value.userType() != QMetaType::Bool
-               && isNumber && std::fabs(number) <= most) {
+               && isNumber && number >= least && number <= most) {
         m_hasMilliseconds = true;
         m_milliseconds = static_cast<qint64>(number);
     } else {
-        throw Fault{Diagnosis::tr("expected an ISO 8601 time or milliseconds since 1970")};
+        throw Fault{Diagnosis::tr(
+            "expected an ISO 8601 time or milliseconds since 1970, in a year from 1 to 9999")};
     }
 }
 

@@ -43,8 +43,9 @@ a { color: var(--link); }
 table { border-collapse: collapse; width: 100%; font-variant-numeric: tabular-nums; }
 th, td { padding: .15rem 0 .15rem .8rem; text-align: right; border-bottom: 1px solid var(--edge); }
 th:first-child { padding-left: 0; text-align: left; }
+td, thead th { white-space: nowrap; }
 tbody th { font-weight: normal; }
-tbody .part th { padding-left: 1.6rem; color: var(--faint); }
+tbody .part th { padding-left: .8rem; color: var(--faint); }
 tbody tr:last-child > * { border-bottom: 0; }
 
 .legend { margin-top: 1rem; font-size: .875rem; }
@@ -72,7 +73,8 @@ li.answer:target { background: var(--hit); outline: 2px solid var(--pin); }
 li.answer > a:first-child { color: inherit; font-weight: 600; text-decoration-color: var(--edge);
     text-underline-offset: .2em; }
 li.answer.quiet > a:first-child { font-weight: normal; }
-.see { white-space: nowrap; color: var(--faint); }
+.see { color: var(--faint); }
+.see a { white-space: nowrap; }
 .none { padding: .5rem 1rem; margin: 0; color: var(--faint); }
 
 svg text { font-size: 11px; fill: var(--ink); }

@@ -58,9 +58,11 @@ bool read(JsonReader& json, Number& field)
     const bool isPlain = json.readPlain(plain);
     if (!isPlain && !json.readValue(value))
         return false;
-    const double number = isPlain               ? double(plain)
-        : value.userType() == QMetaType::Double ? value.toDouble()
-                                                : std::numeric_limits<double>::quiet_NaN();
+    const bool isNumber = isPlain || value.userType() == QMetaType::Double
+        || value.userType() == QMetaType::LongLong; // Qt makes it of 1000.0
+    const double number = isPlain ? double(plain)
+        : isNumber                ? value.toDouble()
+                                  : std::numeric_limits<double>::quiet_NaN();
     if (!(number >= min && number <= max) || std::trunc(number) != number)
         throw Fault{Diagnosis::tr("expected a whole number from %1 to %2").arg(min).arg(max)};
     field = static_cast<Number>(number);

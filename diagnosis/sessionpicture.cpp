@@ -8,6 +8,7 @@
 #include "words.h"
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
 #include <iterator>
 
@@ -193,7 +194,7 @@ SessionPicture::SessionPicture(const SessionRecord& session, std::optional<int> 
     for (const NoteAnswer& answer : session.answers) {
         for (const Objection& objection : answer.objections) {
             for (const qint64 line : objection.evidence)
-                m_evidence.insert({line, {answer.device, answer.thread}});
+                m_evidence.insert({{line, {answer.device, answer.thread}}, answer.line});
         }
     }
     for (const SessionRecord::Lane& lane : session.lanes) {
@@ -346,6 +347,20 @@ void SessionPicture::drawLane(const SessionRecord::Lane& lane)
     m_y += 12;
 }
 
+// The line of the note whose sentence speaks of an answer; 0 without one.
+qint64 SessionPicture::sentenceOf(const NoteAnswer& answer) const
+{
+    if (m_session.isTold(answer))
+        return answer.line;
+    const auto end =
+        m_evidence.upper_bound({qMax(answer.line, answer.lastLine), {UINT_MAX, UINT_MAX}});
+    for (auto it = m_evidence.lower_bound({answer.line, {0, 0}}); it != end; ++it) {
+        if (it->first.second == std::pair(answer.device, answer.thread))
+            return it->second;
+    }
+    return 0;
+}
+
 void SessionPicture::drawMarks(const SessionRecord::Lane& lane)
 {
     const double middle = m_y + 26;
@@ -353,12 +368,13 @@ void SessionPicture::drawMarks(const SessionRecord::Lane& lane)
     double free = plotLeft;
     for (auto note = m_firstAnswer; note != m_endAnswer; ++note) {
         const NoteAnswer& answer = *note;
-        if (!isOf(answer, lane))
+        const qint64 toldOn = sentenceOf(answer);
+        if (!isOf(answer, lane) || toldOn == 0)
             continue;
         const QString mark =
             anchorName(Anchor::Mark, m_session, answer.line, answer.device, answer.thread);
         const QString sentence =
-            anchorName(Anchor::Sentence, m_session, answer.line, answer.device, answer.thread);
+            anchorName(Anchor::Sentence, m_session, toldOn, answer.device, answer.thread);
         m_anchors.insert(mark);
         const double x = xOf(answer.line) + markSize / 2;
         const QString outcome = outcomeKey(answer.outcome);
@@ -519,14 +535,15 @@ QString SessionPicture::pins(double height) const
 {
     QString drawn;
     for (auto it = m_evidence.lower_bound({m_firstLine, {0, 0}});
-         it != m_evidence.end() && it->first <= m_lastLine; ++it) {
-        const double x = xOf(it->first);
-        const QString text = Diagnosis::tr("line %1").arg(it->first);
+         it != m_evidence.end() && it->first.first <= m_lastLine; ++it) {
+        const auto& [line, device] = it->first;
+        const double x = xOf(line);
+        const QString text = Diagnosis::tr("line %1").arg(line);
         const double half = textWidth(text) / 2;
-        drawn += QStringLiteral("<g id=\"%1\" class=\"pin\"><path d=\"M%2 %3V%4\"/>")
-                     .arg(anchorName(Anchor::Evidence, m_session, it->first, it->second.first,
-                                     it->second.second),
-                          number(x), number(headHeight - 4), number(height))
+        drawn +=
+            QStringLiteral("<g id=\"%1\" class=\"pin\"><path d=\"M%2 %3V%4\"/>")
+                .arg(anchorName(Anchor::Evidence, m_session, line, device.first, device.second),
+                     number(x), number(headHeight - 4), number(height))
             + svgText(qBound(half, x, width - half), headHeight - 8, "", text)
             + QStringLiteral("</g>\n");
     }

@@ -45,6 +45,12 @@ struct SessionRecord
     std::vector<Moment> moments; // by line
     std::vector<Lane> lanes;
     std::vector<NoteAnswer> answers; // by line
+    bool onlyRefusals = false; // what is told
+
+    bool isTold(const NoteAnswer& answer) const
+    {
+        return !onlyRefusals || answer.outcome == Outcome::Refused;
+    }
 
     void add(const LogDevice& device, const LogTime& time, qint64 line);
 
@@ -98,6 +104,7 @@ private:
     std::vector<Segment> segmentsOf(const SessionRecord::Lane& lane) const;
     void drawLane(const SessionRecord::Lane& lane);
     void drawMarks(const SessionRecord::Lane& lane);
+    qint64 sentenceOf(const NoteAnswer& answer) const;
     void drawStates(const std::vector<Segment>& segments);
     void drawConditions(const SessionRecord::Lane& lane, const std::vector<Segment>& segments);
     void drawSum(const SessionRecord::Lane& lane, const std::vector<Segment>& segments);
@@ -110,7 +117,8 @@ private:
     const SessionRecord& m_session;
     const std::optional<int> m_sumLimit;
     const bool m_hasTimes;
-    std::set<std::pair<qint64, std::pair<quint32, quint32>>> m_evidence; // line, device, thread
+    /// Lines of devices and threads, and the first note that each is evidence for.
+    std::map<std::pair<qint64, std::pair<quint32, quint32>>, qint64> m_evidence;
     std::map<const SessionRecord::Lane*, double> m_mostSum; // that a lane's picture has room for
     std::set<QString> m_anchors;
     size_t m_first = 0; // of the part that is drawn

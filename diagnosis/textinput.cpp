@@ -17,6 +17,7 @@ namespace {
 
 constexpr int chunkSize = 64 * 1024;
 constexpr int mostText = 256 * 1024 * 1024;
+constexpr int mostBlankLines = 1000000;
 
 int readDevice(QIODevice& device, char* data, int size)
 {
@@ -42,6 +43,8 @@ QString decoded(const QByteArray& utf8)
     const QString text = QString::fromUtf8(utf8.constData(), utf8.size());
     if (text.contains(QChar(QChar::ReplacementCharacter)) && text.toUtf8() != utf8)
         throw Fault{Diagnosis::tr("expected UTF-8")};
+    if (text.contains(QChar(0)))
+        throw Fault{Diagnosis::tr("NUL byte")};
     return text;
 }
 
@@ -71,7 +74,13 @@ bool TextInput::readLine(QByteArray& line)
         const int length = found ? int(static_cast<const char*>(found) - begin) : size;
         line = m_text.mid(m_next, length);
         m_next += length + (found ? 1 : 0);
-        ++m_lineNumber;
+        m_isLineUnended = isLast;
+        if (++m_lineNumber == 1 && line.startsWith("\xef\xbb\xbf"))
+            line.remove(0, 3);
+        m_blankLines = line.trimmed().isEmpty() ? m_blankLines + 1 : 0;
+        if (m_blankLines > mostBlankLines)
+            throw faultAt(m_lineNumber,
+                          Diagnosis::tr("more than %1 blank lines").arg(mostBlankLines));
         return true;
     }
 }
@@ -128,12 +137,14 @@ QJsonDocument TextInput::parseJson(const QByteArray& text, qint64 firstLine) con
 {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
-    if (error.error == QJsonParseError::NoError)
+    const bool isJson = error.error == QJsonParseError::NoError;
+    const int nul = int(text.indexOf('\0')); // which Qt takes in strings
+    if (isJson && nul < 0)
         return document;
-    const QByteArray before = text.left(error.offset);
+    const QByteArray before = text.left(isJson ? nul : error.offset);
     throw faultAt(firstLine + before.count('\n'),
                   Diagnosis::tr("not JSON: %1 (column %2)")
-                      .arg(error.errorString())
+                      .arg(isJson ? Diagnosis::tr("NUL byte") : error.errorString())
                       .arg(before.size() - before.lastIndexOf('\n')));
 }
 

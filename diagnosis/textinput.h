@@ -14,12 +14,13 @@
 
 class Gzip;
 
-/// Text as it stands, NUL bytes included. Throws Fault for bytes that are no UTF-8.
+/// Throws Fault for bytes that are no UTF-8 and for NUL, which no text of ours has.
 QString decoded(const QByteArray& utf8);
 
 /// Text that is read from a device, plain or compressed by gzip, with what a fault in it needs: its
 /// name and the number of the line. Throws Fault when the device cannot be read, for compressed
-/// data that are damaged or cut off, and for more than 256 MiB in one line or in readAll().
+/// data that are damaged or cut off, for more than 256 MiB in one line or in readAll(), and for a
+/// million blank lines one after the other, which a few bytes of compressed data hold.
 class TextInput
 {
 public:
@@ -29,7 +30,8 @@ public:
     TextInput(TextInput&& other) noexcept;
     ~TextInput();
 
-    /// Reads the next line, without its line feed; false at the end of the file.
+    /// Reads the next line, without its line feed and the file's byte order mark; false at the end
+    /// of the file.
     bool readLine(QByteArray& line);
 
     QByteArray readAll();
@@ -38,6 +40,9 @@ public:
 
     /// The number of the line that was read last, counted from 1 in the uncompressed text.
     qint64 lineNumber() const { return m_lineNumber; }
+
+    /// Whether that line ends with the file and has no line feed: who writes it may be at it still.
+    bool isLineUnended() const { return m_isLineUnended; }
 
     /// Whether the input comes from a pipe or a terminal, so that someone may be waiting for
     /// what it leads to.
@@ -55,6 +60,8 @@ private:
     std::unique_ptr<QIODevice> m_device;
     QString m_name;
     qint64 m_lineNumber = 0;
+    qint64 m_blankLines = 0; // up to the one that was read last
+    bool m_isLineUnended = false;
     std::unique_ptr<Gzip> m_gzip; // null for plain text
     bool m_isOpen = false; // it is known whether the text is compressed
     QByteArray m_text; // read and, from m_next on, not yet given away

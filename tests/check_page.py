@@ -27,6 +27,23 @@ return {title: document.title, answers: answers, width: document.documentElement
         window: window.innerWidth, outside: performance.getEntriesByType('resource').length};
 """
 
+# The numbers outside of the pictures that go on in a further line or outside of the window.
+BROKEN = """
+const broken = [];
+const texts = document.createTreeWalker(document.querySelector('main'), NodeFilter.SHOW_TEXT);
+while (texts.nextNode()) {
+    const text = texts.currentNode;
+    for (const number of text.parentElement.closest('svg') ? [] : text.data.matchAll(/\\d+/g)) {
+        const range = document.createRange();
+        range.setStart(text, number.index);
+        range.setEnd(text, number.index + number[0].length);
+        const boxes = [...range.getClientRects()];
+        if (boxes.length > 1 || boxes.some(box => box.right > window.innerWidth)) broken.push(number[0]);
+    }
+}
+return broken;
+"""
+
 
 class Browser:
     def __init__(self):
@@ -58,6 +75,11 @@ class Browser:
 
     def run(self, script):
         return self.ask("/execute/sync", {"script": script, "args": []})
+
+    def narrow(self, width):
+        metrics = {"width": width, "height": 900, "deviceScaleFactor": 1, "mobile": False}
+        command = {"cmd": "Emulation.setDeviceMetricsOverride", "params": metrics}
+        self.ask("/goog/cdp/execute", command)
 
     def close(self):
         self.driver.terminate()
@@ -99,6 +121,31 @@ def check(browser, velmo, samples, folder):
     # A sentence leads to its mark, also for the keyboard.
     browser.run("document.querySelector('li.answer a').focus(); document.activeElement.click();")
     require(browser.run("return document.querySelector(':target') !== null;"), "a link leads nowhere")
+
+    # On a telephone: a note with a lot of evidence, which is marked where only refusals are told.
+    log = os.path.join(folder, "log.jsonl")
+    rejected = '{"state":"accepting","current_note":1000}\n{"state":"rejected"}\n{"state":"idling"}\n'
+    with open(log, "w", encoding="utf-8") as lines:
+        lines.write('{"session":"start","device_id":1}\n' + 30 * rejected)
+        lines.write('{"state":"accepting","current_note":1000,"session_sum":2000000000}\n')
+    filters = os.path.join(folder, "filters.json")
+    with open(filters, "w", encoding="utf-8") as file:
+        json.dump([{"name": "AttemptsFilter", "params": {"denom": 1000, "attempts": 20}}], file)
+    explain = [velmo, "--lang", "en", "explain", log, "--filters", filters, "--refusals"]
+    subprocess.run([*explain, "--html", page], check=True)
+    browser.narrow(390)
+    browser.ask("/url", {"url": "file://" + page})
+    seen = browser.run(LOOK)
+    require(seen["window"] == 390, f"the window has a width of {seen['window']}")
+    require(seen["width"] <= 390, f"the page is too wide for a telephone: {seen['width']}")
+    broken = browser.run(BROKEN)
+    require(not broken, f"numbers are broken or cut off: {broken}")
+    marks = browser.run("return document.querySelectorAll('a.mark.rejected').length;")
+    told = browser.run("return document.querySelectorAll('li.answer').length;")
+    require((marks, told) == (20, 11), f"{marks} rejections are marked, {told} notes told")
+    leading = "a => document.getElementById(a.getAttribute('href').slice(1))"
+    leads = browser.run(f"return [...document.querySelectorAll('a')].every({leading});")
+    require(leads, "a link leads nowhere")
 
 
 def main():

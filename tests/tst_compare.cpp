@@ -128,6 +128,58 @@ private Q_SLOTS:
         QCOMPARE(refusedBy("b"_s), 4 * int(b.size()));
     }
 
+    // What a list lacks is not what the list that was read before it has.
+    void everyFileIsReadAlone_data()
+    {
+        const auto list = [this](const QString& name, const QString& elements) {
+            const QString sound =
+                R"({"group":"service","key":"reset_idle_timeout","value":3600000})"_s;
+            return writeFile(m_folder.filePath(name), "[%1,%2]"_s.arg(elements, sound));
+        };
+        const auto common = [&list](const QString& key, const QString& value) {
+            return list(key + ".json"_s,
+                        R"({"group":"acceptor_common","key":"%1","value":%2})"_s.arg(key, value));
+        };
+        const QString device = R"({"group":"device%1/device","key":"%2","value":"%3"},)"_s;
+        const QStringList files{
+            common("acceptAll"_s, "0"_s),
+            common("maxSumm"_s, "1000"_s),
+            common("attempts_filter_settings"_s, "\"[{\\\"denom\\\":1000,\\\"attempts\\\":2}]\""_s),
+            list("named.json"_s,
+                 device.arg(0).arg("device_id"_s, "1"_s) + device.arg(0).arg("device_name"_s, "N"_s)
+                     + R"({"group":"service","key":"devices_count","value":1})"_s),
+            sample("settings.json"_s),
+            sample("filters.json"_s)};
+        QTest::addColumn<QString>("a");
+        QTest::addColumn<QString>("b");
+        for (const QString& a : files) {
+            for (const QString& b : files) {
+                QTest::addRow("%s, %s", qPrintable(QFileInfo(a).fileName()),
+                              qPrintable(QFileInfo(b).fileName()))
+                    << a << b;
+            }
+        }
+    }
+
+    void everyFileIsReadAlone()
+    {
+        QFETCH(QString, a);
+        QFETCH(QString, b);
+        const QString log = sample("fished-note.jsonl"_s);
+        const QJsonObject both =
+            objectOf(velmo({"compare"_s, a, b, log, "--json"_s}).outLines().constLast());
+        for (const QString& side : {"a"_s, "b"_s}) {
+            const QString file = side == "a"_s ? a : b;
+            const bool isFilters = file == sample("filters.json"_s);
+            const VelmoRun alone =
+                velmo({"explain"_s, log, isFilters ? "--filters"_s : "--settings"_s, file,
+                       "--json"_s, "--summary"_s});
+            const QJsonValue refused = objectOf(alone.out)["refused"_s];
+            for (const QString& number : {"count"_s, "sum"_s})
+                QCOMPARE(QJsonValue(both[side])["refused"_s][number], refused[number]);
+        }
+    }
+
     void badInputIsNamed_data()
     {
         // Operands, what standard error says.

@@ -147,6 +147,9 @@ private Q_SLOTS:
             AcceptFilter acceptAll=1 | A1000;{"state":"rejected"} | note of 1000 rejected. By the device itself; no filter objected.
             AcceptFilter acceptAll=1 | {"error_critical":true};A1000;{"state":"returned","error_text":"jam"} | note of 1000 returned. The device had a critical error (since line 1): jam. Uncertain:
             AcceptFilter acceptAll=1 | {"time":"2026-11-16T10:05:12","device_id":100};{"time":"2026-11-16T10:05:12","state":"accepting","current_note":10} | Session 1, line 2, 10:05:12, Coin acceptor (CCTalk): coin of 10: the log does not say what became of it.
+            AcceptFilter acceptAll=1 | {"state":"accepting","current_note":1000.0} | note of 1000:
+            AcceptFilter acceptAll=1 | {"state":"accepting","current_note":1e3} | note of 1000:
+            AcceptFilter acceptAll=1 | {"time":253402300799999,"state":"rejected"} | line 1, 23:59:59 UTC, Device 0
             AcceptFilter acceptAll=1 | {"time":0,"device_id":1,"state":"rejected"} | line 1, 00:00:00 UTC, Bill validator (CCNet): note of unknown value rejected.)"_s);
     }
 
@@ -381,6 +384,14 @@ private Q_SLOTS:
         QTest::newRow("cut off") << gz.left(40) << "log: the compressed file is cut off"_s;
         QTest::newRow("damaged") << gz.left(20) + "junkjunkjunk" + gz.mid(32)
                                  << "log: the compressed file is damaged"_s;
+        QTest::newRow("padded") << gz + QByteArray(200000, '\0')
+                                << R"({"state":"accepting","current_note":1000})"_s;
+        QTest::newRow("text behind") << gz + "{}\n"
+                                     << "log: the compressed file is damaged"_s;
+        QTest::newRow("byte order mark")
+            << QByteArray("\xef\xbb\xbf\na\xef\xbb\xbf") << QStringLiteral("|a\uFEFF");
+        QTest::newRow("blank lines") << QByteArray(" \r\n").repeated(1000001)
+                                     << "log:1000001: more than 1000000 blank lines"_s;
         QTest::newRow("one byte") << QByteArray("\x1f") << "\x1f"_s;
     }
 
@@ -390,17 +401,17 @@ private Q_SLOTS:
         QFETCH(QString, expected);
         TextInput input(bufferOf(bytes), "log"_s);
         QByteArrayList lines;
-        QString result;
+        QByteArray result;
         try {
             QByteArray line;
             while (input.readLine(line))
                 lines += line;
-            result = QString::fromUtf8(lines.join('|'));
+            result = lines.join('|');
             QCOMPARE(input.lineNumber(), qint64(lines.size()));
         } catch (const Fault& fault) {
-            result = fault.message;
+            result = fault.message.toUtf8();
         }
-        QCOMPARE(result, expected);
+        QCOMPARE(result, expected.toUtf8());
     }
 
     void documentedLinesAreRead()
@@ -426,6 +437,11 @@ private Q_SLOTS:
             {"time":"10:05"}                            | "time": expected an ISO 8601 time or milliseconds since 1970
             {"time":"2026-02-30T10:05:12"}              | "time": expected an ISO 8601 time
             {"time":"2026-11-16T24:05:12Z"}             | "time": expected an ISO 8601 time
+            {"time":253402300800000}                    | "time": expected an ISO 8601 time or milliseconds since 1970, in a year from 1 to 9999
+            {"time":-62135596800001}                    | "time": expected an ISO 8601 time
+            {"current_note":"100"}                      | "current_note": expected a whole number from -2147483648 to 2147483647
+            {"current_note":100.5}                      | "current_note": expected a whole number
+            {"device_id":1} x                           | not JSON: garbage at the end of the document (column 17)
             {"session":true}                            | "session": expected "start"
             {"time":true}                               | "time": expected an ISO 8601 time
             {"device_states":{}}                        | expected a list "device_states"
@@ -473,6 +489,106 @@ private Q_SLOTS:
         QVERIFY(text.out.startsWith("Filters in force (%1):\n"_s.arg(sample("filters.json"_s))));
         QVERIFY(!text.out.contains(QLatin1Char('\033')));
         QVERIFY(text.out.contains("\nOffered                      6  5500\n"_s));
+    }
+
+    // The parts of a log are told as such, and together are the whole.
+    void sessionsAndDevicesAddUp_data()
+    {
+        // Log, option, its values.
+        addRows(R"(
+            fished-note.jsonl | --session | 1 2
+            two-devices.jsonl | --session | 1 2
+            two-devices.jsonl | --device  | 1 100)"_s);
+    }
+
+    void sessionsAndDevicesAddUp()
+    {
+        const auto [name, option, values] = cells<3>();
+        const QString own = QStringLiteral(EXPLANATIONS "/") + name;
+        const QStringList explain{"explain"_s, QFile::exists(own) ? own : sample(name),
+                                  "--filters"_s, sample("filters.json"_s)};
+        const auto summaryOf = [&](const QStringList& more) {
+            const VelmoRun run = velmo(explain + QStringList{"--summary"_s, "--json"_s} + more);
+            return QJsonDocument::fromJson(run.out.toUtf8()).object();
+        };
+        const auto offered = [](const QJsonObject& summary) {
+            return summary["offered"_s]["count"_s].toInt();
+        };
+        const QJsonObject whole = summaryOf({});
+        int sessions = 0;
+        int notes = 0;
+        for (const QString& value : values.split(QLatin1Char(' '))) {
+            const QJsonObject part = summaryOf({option, value});
+            sessions += part["sessions"_s].toInt();
+            notes += offered(part);
+            const QString heading = "<h3>%1 session"_s.arg(part["sessions"_s].toInt());
+            QVERIFY(velmo(explain + QStringList{option, value, "--html"_s, "-"_s})
+                        .out.contains(heading));
+        }
+        QCOMPARE(notes, offered(whole));
+        if (option == "--session"_s)
+            QCOMPARE(sessions, whole["sessions"_s].toInt());
+        else
+            QVERIFY(sessions > whole["sessions"_s].toInt());
+    }
+
+    void whatCannotBeReadEndsNothing_data()
+    {
+        // Command, whether it needs --keep-going, what becomes of the log, what standard error
+        // says.
+        addRows(R"(
+            explain | --keep-going | missing  | No such file
+            explain | --keep-going | cut      | the compressed file is cut off
+            explain | --keep-going | damaged  | the compressed file is damaged
+            explain |              | unended  | 2: the file ends in the middle of a line
+            explain | --keep-going | unended  | 2: the file ends in the middle of a line
+            explain |              | nested   | 2: the file ends in the middle of a line
+            compare | --keep-going | missing  | No such file
+            compare | --keep-going | cut      | the compressed file is cut off
+            compare |              | unended  | 2: the file ends in the middle of a line)"_s);
+    }
+
+    void whatCannotBeReadEndsNothing()
+    {
+        const auto [command, keepGoing, fault, message] = cells<4>();
+        const QByteArray note = R"({"session":"start","state":"accepting","current_note":50})"
+                                "\n";
+        const QMap<QString, QByteArray> contents{
+            {"cut"_s, gzipOfOneLine.left(40)},
+            {"damaged"_s, gzipOfOneLine.left(20) + "junkjunkjunk" + gzipOfOneLine.mid(32)},
+            {"unended"_s, note + "{\"state\":\"acce"},
+            {"nested"_s, note + R"({"device_states":[{"device_id":1})"}};
+        const QString log = m_folder.filePath(fault);
+        if (contents.contains(fault)) {
+            QFile file(log);
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(contents[fault]) > 0);
+        }
+        const QString filters = sample("filters.json"_s);
+        const QString sound = sample("fished-note.jsonl"_s);
+        const bool isCompare = command == "compare"_s;
+        QStringList arguments{command};
+        arguments += isCompare ? QStringList{filters, filters, log, sound}
+                               : QStringList{log, sound, "--filters"_s, filters, "--summary"_s};
+        if (!keepGoing.isEmpty())
+            arguments += keepGoing;
+        const VelmoRun run = velmo(arguments + QStringList{"--json"_s});
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.errLines().constFirst().startsWith("velmo: "_s + log)
+                     && run.errLines().constFirst().contains(message),
+                 qPrintable(run.err));
+        const QString last = run.out.section(QLatin1Char('\n'), -2);
+        const QJsonObject summary = QJsonDocument::fromJson(last.toUtf8()).object();
+        const bool hasNote = contents.value(fault).startsWith(note);
+        QCOMPARE(summary["offered"_s]["count"_s].toInt(), hasNote ? 7 : 6);
+        if (isCompare)
+            return;
+        const VelmoRun page = velmo(arguments + QStringList{"--html"_s, "-"_s});
+        QVERIFY2(page.out.contains("<h3>The answers may be wrong</h3>\n<ul>\n<li>"_s + log),
+                 qPrintable(page.out.left(12000)));
+        if (!keepGoing.isEmpty() && fault != "unended"_s) {
+            arguments.removeAll(keepGoing);
+            QCOMPARE(velmo(arguments + QStringList{"--json"_s}).out, QString());
+        }
     }
 
     void textFitsTheTerminal()
@@ -530,7 +646,8 @@ private Q_SLOTS:
     // Markup in every text that a log, the settings and a file name can hold.
     void pageShowsTextsAsTexts()
     {
-        const QString markup = "</svg><script>x</script><img src='a' onerror=\"b\">"_s;
+        const QString markup =
+            "</svg><script>x</script><img src='a' onerror=\"b\">"_s + QChar(0x202e);
         QVariantList settings;
         for (const QJsonValue value :
              QJsonDocument::fromJson(readFile(sample("settings.json"_s)).toUtf8()).array()) {
@@ -568,6 +685,9 @@ private Q_SLOTS:
         QVERIFY(!html.contains(QRegularExpression("<(script|img|b)\\b"_s)));
         QVERIFY(html.contains(
             "&lt;script&gt;x&lt;/script&gt;&lt;img src='a' onerror=&quot;b&quot;&gt;"_s));
+        // What turns the direction of texts is shown and does nothing.
+        QVERIFY(!html.contains(QChar(0x202e)));
+        QVERIFY(html.contains("onerror=&quot;b&quot;&gt;\\u202e"_s));
         // Each link leads somewhere, and each sentence to its mark.
         QSet<QString> ids;
         QStringList links;

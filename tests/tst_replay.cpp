@@ -108,6 +108,7 @@ private Q_SLOTS:
             {"name":"AcceptFilter","params":[]}                | expected an object
             "AcceptFilter"                                     | expected an object
             {"name":["AcceptFilter",{"a":"}{\\"}]}             | expected an object
+            {}]   x                                            | not JSON: garbage at the end of the document (column 7)
             {"name"}                                           | not JSON)"_s);
     }
 

@@ -76,6 +76,15 @@ private Q_SLOTS:
             R"("denomination":100}}}]})"
             "\n"_s;
         QCOMPARE(velmo({"report"_s, file, "--json"_s}).out, expected);
+        const QString marked =
+            writeFile(m_folder.filePath("marked.jsonl"_s),
+                      QString(QChar(QChar::ByteOrderMark)) + "\n"_s + QString::fromUtf8(times)
+                          + "\n{\"device_states\":[{"_s);
+        const VelmoRun cut = velmo({"report"_s, marked, "--json"_s});
+        QCOMPARE(cut.out, expected);
+        QCOMPARE(cut.errLines().constFirst(),
+                 "velmo: %1:4: the file ends in the middle of a line"_s.arg(marked));
+        QCOMPARE(cut.exitCode, 2);
         const VelmoRun text = velmo({"report"_s, file});
         QVERIFY(text.out.contains("01.01.1970 00.00.00\n-- line 2 --\nError status unknown\n"_s));
     }
@@ -83,12 +92,20 @@ private Q_SLOTS:
     void nothingIsReadPastRawBytes()
     {
         const QByteArray lines[] = {QByteArrayLiteral("{\"device_states\":[]}\0{"),
+                                    QByteArrayLiteral("{\"device_states\":[],\"x\":\"\0\"}"),
                                     QByteArrayLiteral("{\"device_states\":[],\"x\":\"\xff\"}")};
         for (const QByteArray& line : lines) {
-            const VelmoRun run = velmo({"report"_s, "-"_s, "--json"_s}, line);
-            QCOMPARE(run.exitCode, 2);
-            QCOMPARE(run.out, QString());
-            QVERIFY2(run.err.contains("standard input:1: not JSON"_s), qPrintable(run.err));
+            const VelmoRun runs[] = {
+                velmo({"report"_s, "-"_s, "--json"_s}, line),
+                velmo({"explain"_s, "-"_s, "--json"_s, "--filters"_s, sample("filters.json"_s)},
+                      line),
+                velmo({"explain"_s, sample("jam.jsonl"_s), "--filters"_s, "-"_s},
+                      "[{\"name\":" + line + "}]")};
+            for (const VelmoRun& run : runs) {
+                QCOMPARE(run.exitCode, 2);
+                QCOMPARE(run.out, QString());
+                QVERIFY2(run.err.contains("standard input:1: not JSON"_s), qPrintable(run.err));
+            }
         }
     }
 
@@ -160,6 +177,7 @@ private Q_SLOTS:
             state -             | {"state":"busy"}           | standard input: key "cash" is missing
             state -             | {"state":"Busy"}           | standard input: "state": unknown state name "Busy"
             state -             | []                         | standard input:1: expected a JSON object
+            report -            | {"device_states":[],"time":253402300800000} | standard input:1: expected an ISO 8601 time
             report /dev/null    |                            | /dev/null:1: not JSON
             report -            | {"device_states":[],"time":true} | standard input:1: expected an ISO 8601 time
             report - --json --watch |                        | usage: velmo report

@@ -280,10 +280,6 @@
         <translation>%1, поток %2</translation>
     </message>
     <message>
-        <source>expected an ISO 8601 time or milliseconds since 1970</source>
-        <translation>ожидается время ISO 8601 или миллисекунды с 1970 года</translation>
-    </message>
-    <message>
         <source>expected true or false</source>
         <translation>ожидается true или false</translation>
     </message>
@@ -1180,6 +1176,18 @@
     <message>
         <source>its time is in the future</source>
         <translation>его время в будущем</translation>
+    </message>
+    <message>
+        <source>expected an ISO 8601 time or milliseconds since 1970, in a year from 1 to 9999</source>
+        <translation>ожидается время ISO 8601 или миллисекунды с 1970 года, год от 1 до 9999</translation>
+    </message>
+    <message>
+        <source>NUL byte</source>
+        <translation>нулевой байт</translation>
+    </message>
+    <message>
+        <source>more than %1 blank lines</source>
+        <translation>больше %1 пустых строк подряд</translation>
     </message>
 </context>
 </TS>

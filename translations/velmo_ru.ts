@@ -156,10 +156,6 @@
         <translation>Печатать JSON вместо текста.</translation>
     </message>
     <message>
-        <source>Skip bad lines and count them; the exit code is still 2.</source>
-        <translation>Пропускать негодные строки и считать их; код завершения всё равно 2.</translation>
-    </message>
-    <message>
         <source>Only session N, counted from 1 in each log.</source>
         <translation>Только сеанс N, в каждом журнале счёт с 1.</translation>
     </message>
@@ -706,6 +702,14 @@
     <message>
         <source>%1: expected a value</source>
         <translation>%1: ожидается значение</translation>
+    </message>
+    <message>
+        <source>the file ends in the middle of a line</source>
+        <translation>файл обрывается посреди строки</translation>
+    </message>
+    <message>
+        <source>Skip bad lines and what cannot be read of a log; the exit code is still 2.</source>
+        <translation>Пропускать негодные строки и то, чего в журнале не прочесть; код завершения всё равно 2.</translation>
     </message>
 </context>
 </TS>

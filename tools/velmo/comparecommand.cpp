@@ -5,6 +5,7 @@
 #include "commands.h"
 #include "filtersinput.h"
 #include "inputfile.h"
+#include "jsonlines.h"
 #include "options.h"
 #include "output.h"
 #include "table.h"
@@ -19,7 +20,8 @@ namespace {
 struct LogResult
 {
     QString text; // of the differences
-    QStringList skipped; // what is wrong with the lines that were passed over
+    QStringList faults; // that were passed over
+    int skipped = 0; // lines
     ComparisonTotals totals;
 };
 
@@ -56,6 +58,11 @@ private:
         for (size_t i = m_next++; i < m_results.size() && !m_stopped; i = m_next++) {
             try {
                 m_results.at(i).set_value(compare(m_logs.at(int(i))));
+            } catch (const Fault& fault) {
+                if (m_keepGoing) // the log cannot be opened
+                    m_results.at(i).set_value({{}, {fault.message}, 0, {}});
+                else
+                    m_results.at(i).set_exception(std::current_exception());
             } catch (...) {
                 m_results.at(i).set_exception(std::current_exception());
             }
@@ -73,19 +80,15 @@ private:
                     printableLines(QStringLiteral("%1: %2").arg(file.name(), difference.text())), 4,
                     outputWidth());
         });
-        QByteArray line;
-        while (!m_stopped && file.readLine(line)) {
-            if (line.trimmed().isEmpty())
-                continue;
-            try {
-                comparer.take(SessionLine::read(file, line), file.lineNumber());
-            } catch (const Fault& fault) {
-                if (!m_keepGoing)
-                    throw;
-                result.skipped += fault.message;
-                comparer.skipLine();
-            }
-        }
+        const auto take = [&](const QByteArray& line) {
+            comparer.take(SessionLine::read(file, line), file.lineNumber());
+        };
+        const auto skip = [&](const QString& fault) {
+            result.faults += fault;
+            ++result.skipped;
+            comparer.skipLine();
+        };
+        while (!m_stopped && takeLine(file, m_keepGoing, take, skip)) { }
         comparer.finish();
         result.totals = comparer.totals();
         return result;
@@ -144,22 +147,24 @@ int compareCommand(const Arguments& arguments)
 
     ComparisonTotals totals;
     int skipped = 0;
+    bool isWhole = true;
     Comparison comparison(arguments, a.filters, b.filters);
     comparison.forEachResult([&](const LogResult& result) {
-        for (const QString& fault : result.skipped)
+        for (const QString& fault : result.faults)
             printError(fault);
+        isWhole = isWhole && result.faults.isEmpty();
         print(result.text);
         totals.add(result.totals);
-        skipped += int(result.skipped.size());
+        skipped += result.skipped;
     });
     if (!json && totals.differences.count > 0)
         print(QStringLiteral("\n"));
     print((json ? summaryJson(totals, a.fileName, b.fileName)
                 : wrapped(summaryText(totals), 0, outputWidth()).trimmed())
           + QLatin1Char('\n'));
-    if (skipped > 0) {
+    if (skipped > 0)
         printError(Velmo::tr("bad lines skipped: %1").arg(skipped));
+    if (!isWhole)
         return exitBadInput;
-    }
     return totals.differences.count > 0 ? exitFindings : exitSuccess;
 }

@@ -14,8 +14,8 @@
 #include <QSaveFile>
 #include <QTemporaryFile>
 
-#include <algorithm>
 #include <optional>
+#include <set>
 #include <unistd.h>
 
 namespace {
@@ -33,13 +33,7 @@ struct Question
         return (!session || sessionNumber == *session) && (!device || deviceId == quint32(*device));
     }
 
-    template <typename Steps>
-    bool isAboutAny(const Steps& steps) const
-    {
-        return std::any_of(steps.begin(), steps.end(), [this](const LogStep& step) {
-            return isAbout(step.device->session(), step.device->deviceId());
-        });
-    }
+    bool isAboutAll() const { return !session && !device; }
 
     bool shows(const NoteAnswer& answer) const
     {
@@ -171,40 +165,57 @@ int explainCommand(const Arguments& arguments)
         print(input.rulesText(Velmo::tr("Filters in force (%1):").arg(input.fileName)));
 
     Summary summary;
-    bool isAnswered = !question.session && !question.device;
+    bool isAnswered = question.isAboutAll();
+    const bool keepGoing = arguments.isSet(options::keepGoing);
     int exitCode = exitSuccess;
     for (const QString& log : logs) {
+        std::optional<TextInput> opened;
+        try {
+            opened.emplace(openInput(log));
+        } catch (const Fault& fault) {
+            if (!keepGoing)
+                throw;
+            printError(fault.message);
+            if (page)
+                page->page().addDoubt(fault.message);
+            exitCode = exitBadInput;
+            continue;
+        }
+        TextInput& file = *opened;
         QByteArray text; // of the answers that a line led to
+        std::set<int> asked; // the sessions that are asked for, where not all are
         LogExplainer explainer(input.filters, [&](const NoteAnswer& answer) {
             if (!question.isAbout(answer.session, answer.device))
                 return;
             summary.add(answer);
-            if (!question.shows(answer))
-                return;
-            if (page)
+            if (page && !question.summaryOnly)
                 page->page().add(answer);
-            else
+            else if (!page && question.shows(answer))
                 text += json ? jsonOf(log, answer) + '\n' : textLine(answer);
         });
-        TextInput file = openInput(log);
         if (asText && !question.summaryOnly && logs.size() > 1)
             print(file.name() + QStringLiteral(":\n"));
         if (page)
             page->page().beginLog(file.name());
         const int result = processLines(
-            file, arguments.isSet(options::keepGoing),
+            file, keepGoing,
             [&](const QByteArray& bytes) {
                 const SessionLine line = SessionLine::read(file, bytes);
                 explainer.take(line, file.lineNumber());
-                if (!isAnswered)
-                    isAnswered = question.isAboutAny(explainer.player().steps());
+                if (!question.isAboutAll()) {
+                    for (const LogStep& step : explainer.player().steps()) {
+                        if (question.isAbout(step.device->session(), step.device->deviceId()))
+                            asked.insert(step.device->session());
+                    }
+                }
                 if (page)
                     page->follow(explainer, line.time(), file.lineNumber());
                 return std::exchange(text, {});
             },
             [&] { explainer.skipLine(); });
         explainer.finish();
-        summary.sessions += explainer.sessions();
+        summary.sessions += question.isAboutAll() ? explainer.sessions() : int(asked.size());
+        isAnswered = isAnswered || !asked.empty();
         if (page)
             page->endLog(explainer);
         if (asText && !question.summaryOnly)

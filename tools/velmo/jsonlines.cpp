@@ -7,9 +7,11 @@
 #include "output.h"
 
 #include <QElapsedTimer>
+#include <QJsonDocument>
 
 #include <cstdio>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -44,7 +46,48 @@ private:
     QElapsedTimer m_sinceShown;
 };
 
+// Whether more of the text would make an object of it.
+bool isBegunObject(const QByteArray& text)
+{
+    QJsonParseError error;
+    QJsonDocument::fromJson(text, &error);
+    const bool isOpen = error.error == QJsonParseError::UnterminatedObject
+        || error.error == QJsonParseError::UnterminatedArray;
+    return text.startsWith('{') && error.error != QJsonParseError::NoError
+        && error.error != QJsonParseError::GarbageAtEnd && (isOpen || !text.endsWith('}'));
+}
+
 } // namespace
+
+bool takeLine(TextInput& file, bool keepGoing,
+              const std::function<void(const QByteArray& line)>& take,
+              const std::function<void(const QString& fault)>& skip)
+{
+    QByteArray text;
+    try {
+        do {
+            if (!file.readLine(text))
+                return false;
+        } while (text.trimmed().isEmpty());
+    } catch (const Fault& fault) {
+        if (!keepGoing)
+            throw;
+        skip(fault.message);
+        return false;
+    }
+    try {
+        take(text);
+    } catch (const Fault& fault) {
+        const bool isBegun = file.isLineUnended() && isBegunObject(text.trimmed());
+        if (!isBegun && !keepGoing)
+            throw;
+        skip(isBegun ? file.faultAt(file.lineNumber(),
+                                    Velmo::tr("the file ends in the middle of a line"))
+                           .message
+                     : fault.message);
+    }
+    return true;
+}
 
 int processLines(TextInput& file, bool keepGoing,
                  const std::function<QByteArray(const QByteArray& line)>& toText,
@@ -54,26 +97,21 @@ int processLines(TextInput& file, bool keepGoing,
     const bool flushLines = file.isLive() || isatty(STDOUT_FILENO);
     Progress progress;
     qint64 skipped = 0;
-    QByteArray text;
-    while (file.readLine(text)) {
+    QByteArray result;
+    const auto take = [&](const QByteArray& line) {
         progress.show(file.lineNumber());
-        if (text.trimmed().isEmpty())
-            continue;
-        QByteArray result;
-        try {
-            result = toText(text);
-        } catch (const Fault& fault) {
-            if (!keepGoing)
-                throw;
-            progress.erase();
-            printError(fault.message);
-            ++skipped;
-            skipLine();
-            continue;
-        }
+        result = toText(line);
+    };
+    const auto skip = [&](const QString& fault) {
+        progress.erase();
+        printError(fault);
+        ++skipped;
+        skipLine();
+    };
+    while (takeLine(file, keepGoing, take, skip)) {
         if (result.isEmpty())
             continue;
-        output.write(result);
+        output.write(std::exchange(result, {}));
         if (flushLines)
             output.flush();
     }

@@ -7,10 +7,18 @@
 
 #include <functional>
 
-/// Hands every line of a file to @p toText and writes what that returns to standard output. Blank
-/// lines are passed over. A fault that @p toText throws names the file and the line; it ends the
-/// run, or with @p keepGoing is reported and counted, and @p skipLine told. Shows progress on
-/// standard error when that is a terminal and standard output is not.
+/// Hands the next line of a file that is not blank to @p take; false at its end. A fault in it that
+/// @p take throws, or the end of what can be read of the file, goes to @p skip with @p keepGoing
+/// and is thrown without. A last line without line feed that is the beginning of an object goes to
+/// @p skip always: it may be being written.
+bool takeLine(TextInput& file, bool keepGoing,
+              const std::function<void(const QByteArray& line)>& take,
+              const std::function<void(const QString& fault)>& skip);
+
+/// Hands every line of a file to @p toText and writes what that returns to standard output. Faults
+/// name the file and the line; those that takeLine() skips are reported and counted, and @p
+/// skipLine told. Shows progress on standard error when that is a terminal and standard output is
+/// not.
 /// @return the exit code
 int processLines(
     TextInput& file, bool keepGoing,

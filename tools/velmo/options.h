@@ -28,7 +28,8 @@ constexpr Option json{"json", nullptr, nullptr,
                       QT_TRANSLATE_NOOP("Velmo", "Print JSON in place of text.")};
 constexpr Option keepGoing{
     "keep-going", nullptr, nullptr,
-    QT_TRANSLATE_NOOP("Velmo", "Skip bad lines and count them; the exit code is still 2.")};
+    QT_TRANSLATE_NOOP(
+        "Velmo", "Skip bad lines and what cannot be read of a log; the exit code is still 2.")};
 constexpr Option session{"session", nullptr, "N",
                          QT_TRANSLATE_NOOP("Velmo", "Only session N, counted from 1 in each log.")};
 constexpr Option device{"device", nullptr, "ID",

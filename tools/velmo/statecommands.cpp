@@ -83,9 +83,12 @@ PublishedState serviceStateOf(const QByteArray& text, const TextInput& file, qin
 // Whether the file has a state a line, and not one state over many lines.
 bool isStateALine(const QString& fileName)
 {
+    if (fileName == QLatin1String("-"))
+        return true;
+    TextInput file = openInput(fileName);
     QByteArray first;
-    return fileName == QLatin1String("-")
-        || (openInput(fileName).readLine(first) && !QJsonDocument::fromJson(first).isNull());
+    while (first.trimmed().isEmpty() && file.readLine(first)) { }
+    return !QJsonDocument::fromJson(first).isNull();
 }
 
 DeviceState checkedState(const QByteArray& text)
