@@ -115,6 +115,11 @@ int Variants::toInt(const QVariant& value)
     return wholeNumber(value).toInt();
 }
 
+qint64 Variants::toLongLong(const QVariant& value)
+{
+    return wholeNumber(value).toLongLong();
+}
+
 quint64 Variants::toULongLong(const QVariant& value)
 {
     return wholeNumber(value).toULongLong();

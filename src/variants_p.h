@@ -14,6 +14,7 @@ namespace Variants {
 
 bool toBool(const QVariant& value);
 int toInt(const QVariant& value);
+qint64 toLongLong(const QVariant& value);
 quint64 toULongLong(const QVariant& value);
 bool write(const QMetaProperty& property, QObject* object, const QVariant& value);
 

@@ -130,6 +130,7 @@ private Q_SLOTS:
             AcceptFilter acceptAll=1 | A1000;{"state":"rejected"} | note of 1000 rejected. By the device itself; no filter objected.
             AcceptFilter acceptAll=1 | {"error_critical":true};A1000;{"state":"returned","error_text":"jam"} | note of 1000 returned. The device had a critical error (since line 1): jam. Uncertain:
             AcceptFilter acceptAll=1 | {"time":"2026-11-16T10:05:12","device_id":100};{"time":"2026-11-16T10:05:12","state":"accepting","current_note":10} | Session 1, line 2, 10:05:12, Coin acceptor (CCTalk): coin of 10: the log does not say what became of it.
+            AcceptFilter acceptAll=1 | {"device_id":199};A5;{"state":"rejected"} | line 2, Device 199: coin of 5 rejected.
             AcceptFilter acceptAll=1 | {"time":0,"device_id":1,"state":"rejected"} | line 1, 00:00:00 UTC, Bill validator (CCNet): note of unknown value rejected.)"_s);
     }
 
