@@ -25,9 +25,15 @@ bool isReal(const QVariant& value)
     return value.userType() == QMetaType::Double || value.userType() == QMetaType::Float;
 }
 
+bool isInteger(const QVariant& value)
+{
+    return value.userType() == QMetaType::Int || value.userType() == QMetaType::LongLong;
+}
+
 bool isEnumeration(const QVariant& value)
 {
-    return QMetaType(value.userType()).flags().testFlag(QMetaType::IsEnumeration);
+    return value.userType() >= QMetaType::User
+        && QMetaType(value.userType()).flags().testFlag(QMetaType::IsEnumeration);
 }
 
 template <typename... Types>
@@ -107,12 +113,14 @@ bool holdsNull(const QVariant& value)
 
 bool Variants::toBool(const QVariant& value)
 {
-    return !isEnumeration(value) && (isReal(value) ? wholeNumber(value) : value).toBool();
+    if (isReal(value))
+        return wholeNumber(value).toBool();
+    return !isEnumeration(value) && value.toBool();
 }
 
 int Variants::toInt(const QVariant& value)
 {
-    return wholeNumber(value).toInt();
+    return isInteger(value) ? value.toInt() : wholeNumber(value).toInt();
 }
 
 qint64 Variants::toLongLong(const QVariant& value)
