@@ -95,16 +95,23 @@ bool readDetails(JsonReader& reader, std::vector<PublishedState::Details>& detai
             if (key == Other)
                 return reader.skipValue();
             const bool isSound = reader.readValue(value);
-            if (key == Online)
+            switch (key) {
+            case Inserted:
+                device.notesInserted = counterOf(value);
+                break;
+            case Rejected:
+                device.notesRejected = counterOf(value);
+                break;
+            case Returned:
+                device.notesReturned = counterOf(value);
+                break;
+            case Online:
                 device.isOffline = !Variants::toBool(value);
-            else if (key == SessionSum)
-                device.sessionSum = Variants::toInt(value);
-            else if (key == CurrentNote)
-                device.currentNote = Variants::toInt(value);
-            else
-                (key == Inserted       ? device.notesInserted
-                     : key == Rejected ? device.notesRejected
-                                       : device.notesReturned) = counterOf(value);
+                break;
+            default:
+                (key == SessionSum ? device.sessionSum : device.currentNote) =
+                    Variants::toInt(value);
+            }
             return isSound;
         });
     });
