@@ -9,6 +9,7 @@
 #include "jsonreader_p.h"
 #include "textinput.h"
 #include "words.h"
+#include "wraparound_p.h"
 
 #include <QDateTime>
 #include <QJsonValue>
@@ -71,11 +72,10 @@ KioskSummary::KioskSummary(const QString& kiosk, const PublishedState& state, St
         condition = CustomerAnswer(state).inService ? Faulty : OutOfOrder;
     text =
         "{\"kiosk\":" + JsonText(kiosk) + ',' + writer.members(state) + ending(condition, faults);
-    const QList<AcceptorStateItem> devices = state.service.deviceStates();
-    for (const AcceptorStateItem& device : devices) {
-        inserted += device.notesInserted();
-        rejected += device.notesRejected();
-        returned += device.notesReturned();
+    for (const PublishedState::Details& device : state.details) {
+        inserted = wrappingSum(inserted, device.notesInserted);
+        rejected = wrappingSum(rejected, device.notesRejected);
+        returned = wrappingSum(returned, device.notesReturned);
     }
 }
 
@@ -115,7 +115,7 @@ KioskSummary::KioskSummary(const QByteArray& json)
             if (!count)
                 return reader.skipValue();
             const bool isSound = reader.readValue(value);
-            *count += value.toInt();
+            *count = wrappingSum(*count, counterOf(value));
             return isSound;
         });
     };

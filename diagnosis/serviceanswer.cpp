@@ -8,11 +8,15 @@
 #include "fault.h"
 #include "jsonreader_p.h"
 #include "logtime.h"
+#include "statitem.h"
+#include "variants_p.h"
 #include "words.h"
 
 #include <QJsonObject>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <numeric>
 #include <utility>
 
@@ -73,8 +77,10 @@ void append(JsonBuffer& json, const QDateTime& time)
 bool readDetails(JsonReader& reader, std::vector<PublishedState::Details>& details)
 {
     using namespace deviceStateDescConst;
-    enum Key : std::size_t { CurrentNote, Online, SessionSum, Other };
-    static const KeyOrder keys(std::array{&CURRENT_NOTE, &ONLINE, &SESSION_SUM});
+    enum Key : std::size_t { CurrentNote, Inserted, Rejected, Returned, Online, SessionSum, Other };
+    static const KeyOrder keys(std::array{&CURRENT_NOTE, &StatItem::NOTES_INSERTED,
+                                          &StatItem::NOTES_REJECTED, &StatItem::NOTES_RETURNED,
+                                          &ONLINE, &SESSION_SUM});
     details.clear(); // of doubled keys the last one counts
     return reader.readArray([&] {
         QVariant value;
@@ -89,10 +95,23 @@ bool readDetails(JsonReader& reader, std::vector<PublishedState::Details>& detai
             if (key == Other)
                 return reader.skipValue();
             const bool isSound = reader.readValue(value);
-            if (key == Online)
-                device.isOffline = !value.toBool();
-            else
-                (key == SessionSum ? device.sessionSum : device.currentNote) = value.toInt();
+            switch (key) {
+            case Inserted:
+                device.notesInserted = counterOf(value);
+                break;
+            case Rejected:
+                device.notesRejected = counterOf(value);
+                break;
+            case Returned:
+                device.notesReturned = counterOf(value);
+                break;
+            case Online:
+                device.isOffline = !Variants::toBool(value);
+                break;
+            default:
+                (key == SessionSum ? device.sessionSum : device.currentNote) =
+                    Variants::toInt(value);
+            }
             return isSound;
         });
     });
@@ -105,6 +124,16 @@ qint64 PublishedState::sessionSum() const
     return std::accumulate(
         details.begin(), details.end(), qint64(0),
         [](qint64 sum, const Details& device) { return sum + device.sessionSum; });
+}
+
+qint64 counterOf(const QVariant& published)
+{
+    const bool isBeyond = published.userType() == QMetaType::Double
+        && std::abs(published.toDouble()) >= 9223372036854775808.0;
+    if (!isBeyond)
+        return Variants::toLongLong(published);
+    return published.toDouble() < 0 ? std::numeric_limits<qint64>::min()
+                                    : std::numeric_limits<qint64>::max();
 }
 
 QStringList deviceFaults(const AcceptorStateItem& device, bool isOffline)
@@ -209,7 +238,7 @@ QByteArray StateWriter::members(const PublishedState& state)
     const QList<AcceptorStateItem> devices = service.deviceStates();
     for (const AcceptorStateItem& device : devices) {
         json << std::exchange(before, ',');
-        append(json, device, (details++)->isOffline);
+        append(json, device, *details++);
     }
     if (devices.isEmpty())
         json << before;
@@ -217,7 +246,8 @@ QByteArray StateWriter::members(const PublishedState& state)
     return json.text();
 }
 
-void StateWriter::append(JsonBuffer& json, const AcceptorStateItem& device, bool isOffline)
+void StateWriter::append(JsonBuffer& json, const AcceptorStateItem& device,
+                         const PublishedState::Details& details)
 {
     json << "{\"device\":";
     json.append(device.deviceId());
@@ -226,13 +256,13 @@ void StateWriter::append(JsonBuffer& json, const AcceptorStateItem& device, bool
     json << model(device.deviceId()) << ",\"enabled\":";
     json.append(device.enabled());
     json << state(device.state())
-         << ",\"wrong\":" << JsonText::list(deviceFaults(device, isOffline));
+         << ",\"wrong\":" << JsonText::list(deviceFaults(device, details.isOffline));
     json << ",\"notes_inserted\":";
-    json.append(device.notesInserted());
+    json.append(details.notesInserted);
     json << ",\"notes_rejected\":";
-    json.append(device.notesRejected());
+    json.append(details.notesRejected);
     json << ",\"notes_returned\":";
-    json.append(device.notesReturned());
+    json.append(details.notesReturned);
     json << ",\"registry\":";
     const QVariantMap registry = device.dispRegistry();
     json << (registry.isEmpty() ? QByteArrayLiteral("{}")

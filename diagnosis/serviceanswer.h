@@ -25,6 +25,9 @@ struct PublishedState
         bool isOffline = false; ///< it says of itself that it is not connected
         qint32 sessionSum = 0; ///< taken in the current session
         qint32 currentNote = 0; ///< face value of the note or coin in hand
+        qint64 notesInserted = 0; ///< the counters in full, of which the entry keeps 32 bits
+        qint64 notesRejected = 0;
+        qint64 notesReturned = 0;
     };
 
     AcceptorState service;
@@ -37,6 +40,9 @@ struct PublishedState
     /// Taken by all devices in the current session.
     qint64 sessionSum() const;
 };
+
+/// A counter as it was published; of what is beyond 64 bits the nearest number within.
+qint64 counterOf(const QVariant& published);
 
 /// Why no money may be accepted, one sentence for each reason; empty exactly when
 /// AcceptorState::isAcceptingAllowed().
@@ -66,7 +72,8 @@ public:
     QByteArray members(const PublishedState& state);
 
 private:
-    void append(JsonBuffer& json, const AcceptorStateItem& device, bool isOffline);
+    void append(JsonBuffer& json, const AcceptorStateItem& device,
+                const PublishedState::Details& details);
     const QByteArray& model(int number);
     const QByteArray& state(const QString& name);
 

@@ -191,7 +191,8 @@ void ServiceState::showDevices(const QMap<int, QString>& names)
     auto details = m_state.details.begin();
     const QList<AcceptorStateItem> devices = m_state.service.deviceStates();
     for (const AcceptorStateItem& device : devices) {
-        const bool isOffline = (details++)->isOffline;
+        const PublishedState::Details& told = *details++;
+        const bool isOffline = told.isOffline;
         const bool isAccepting = m_available && takesMoney(device, isOffline);
         const int model = device.deviceId();
         QString key = QStringLiteral("%1/%2").arg(model).arg(device.threadId());
@@ -202,9 +203,8 @@ void ServiceState::showDevices(const QMap<int, QString>& names)
                                names.value(model), device.idString(), device.enabled(),
                                device.state(), AcceptorState::stateDescr(device.state()),
                                device.stateText(), deviceFaults(device, isOffline), isAccepting,
-                               lampsOf(device, isOffline, isAccepting), device.notesInserted(),
-                               device.notesRejected(), device.notesReturned(),
-                               registryOf(key, device)}};
+                               lampsOf(device, isOffline, isAccepting), told.notesInserted,
+                               told.notesRejected, told.notesReturned, registryOf(key, device)}};
     }
     m_devices.setRows(rows);
     for (auto registry = gone.begin(); registry != gone.end(); ++registry) {

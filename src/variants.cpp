@@ -16,40 +16,70 @@
 #include <QUuid>
 
 #include <algorithm>
-#include <cmath>
-
-// Built with Qt 6 only: the header does what Qt 5 has of its own.
+#include <limits>
 
 namespace {
 
-constexpr double smallestInteger = -9223372036854775808.0;
-
 bool isReal(const QVariant& value)
 {
-    return value.typeId() == QMetaType::Double || value.typeId() == QMetaType::Float;
+    return value.userType() == QMetaType::Double || value.userType() == QMetaType::Float;
+}
+
+bool isInteger(const QVariant& value)
+{
+    return value.userType() == QMetaType::Int || value.userType() == QMetaType::LongLong;
 }
 
 bool isEnumeration(const QVariant& value)
 {
-    return value.metaType().flags().testFlag(QMetaType::IsEnumeration);
+    return value.userType() >= QMetaType::User
+        && QMetaType(value.userType()).flags().testFlag(QMetaType::IsEnumeration);
 }
 
-// A value that Qt 6 makes the whole number of which Qt 5 makes of the given one.
+template <typename... Types>
+bool isOneOf(const QVariant& value)
+{
+    return ((value.userType() == qMetaTypeId<Types>()) || ...);
+}
+
+// A real without its fraction. What does not fit becomes the least number, as most processors have
+// it.
+template <typename Real>
+qint64 truncated(Real real)
+{
+    constexpr auto limit = Real(9223372036854775808.0);
+    return real >= -limit && real < limit ? qint64(real) : std::numeric_limits<qint64>::min();
+}
+
+// As Qt 5 rounds: halves go upwards, and what is far below 64 bits becomes 0, as what is no number.
+template <typename Real>
+qint64 rounded(Real real)
+{
+    if (real >= 0)
+        return truncated(real + Real(0.5));
+    const qint64 below = truncated(real - 1);
+    const qint64 above = truncated(real - Real(below) + Real(0.5));
+    return qint64(quint64(below) + quint64(above)); // may wrap around
+}
+
+// A value that either Qt makes the whole number of which Qt 5 makes of the given one.
 QVariant wholeNumber(const QVariant& value)
 {
-    if (value.typeId() == QMetaType::QString)
+    switch (value.userType()) {
+    case QMetaType::Double:
+        return rounded(value.toDouble());
+    case QMetaType::Float:
+        return rounded(value.toFloat());
+    case QMetaType::QJsonValue:
+        return value.toJsonValue().isDouble() ? truncated(value.toJsonValue().toDouble()) : value;
+    case QMetaType::QString:
         return Variants::number(value.toString());
-    if (value.typeId() == QMetaType::QJsonValue && value.toJsonValue().isDouble()) {
-        const double number = std::trunc(value.toJsonValue().toDouble());
-        return std::abs(number) < -smallestInteger ? QVariant(qint64(number)) : value;
-    }
-    if (!isReal(value) || value.toDouble() >= 0)
+    default:
         return value;
-    // Halves are rounded upwards; what is no number or too small is 0.
-    const double below = std::floor(value.toDouble());
-    const double rounded = value.toDouble() - below < 0.5 ? below : below + 1;
-    return rounded >= smallestInteger ? qint64(rounded) : qint64(0);
+    }
 }
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 
 // As few digits as give the number back, with an exponent only when that makes the text shorter; Qt
 // 5 counts one digit fewer in the exponent than it writes.
@@ -71,34 +101,63 @@ QString realText(double number)
 }
 
 template <typename... Types>
-bool isOneOf(const QVariant& value)
-{
-    return ((value.metaType() == QMetaType::fromType<Types>()) || ...);
-}
-
-template <typename... Types>
 bool holdsNull(const QVariant& value)
 {
     return ((isOneOf<Types>(value) && static_cast<const Types*>(value.constData())->isNull())
             || ...);
 }
 
+#endif
+
 } // namespace
 
 bool Variants::toBool(const QVariant& value)
 {
-    return !isEnumeration(value) && (isReal(value) ? wholeNumber(value) : value).toBool();
+    if (isReal(value))
+        return wholeNumber(value).toBool();
+    return !isEnumeration(value) && value.toBool();
 }
 
 int Variants::toInt(const QVariant& value)
 {
-    return wholeNumber(value).toInt();
+    return isInteger(value) ? value.toInt() : wholeNumber(value).toInt();
+}
+
+qint64 Variants::toLongLong(const QVariant& value)
+{
+    return wholeNumber(value).toLongLong();
 }
 
 quint64 Variants::toULongLong(const QVariant& value)
 {
     return wholeNumber(value).toULongLong();
 }
+
+bool Variants::write(const QMetaProperty& property, QObject* object, const QVariant& value)
+{
+    const bool textDiffers = isReal(value) || value.userType() == QMetaType::QByteArray;
+    switch (property.userType()) {
+    case QMetaType::Bool:
+        if (isEnumeration(value) || isOneOf<uchar, long, ulong>(value))
+            return false;
+        return property.write(object, isReal(value) ? wholeNumber(value) : value);
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::SChar:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+        return property.write(object, wholeNumber(value));
+    case QMetaType::QString:
+        return !isOneOf<uchar, long, ulong>(value)
+            && property.write(object, textDiffers ? Variants::toString(value) : value);
+    default:
+        return property.write(object, value);
+    }
+}
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 
 QString Variants::toString(const QVariant& value)
 {
@@ -143,26 +202,4 @@ QString Variants::number(const QString& text)
                                       : QString(trimmed).replace(QChar(0x2212), QLatin1Char('-'));
 }
 
-bool Variants::write(const QMetaProperty& property, QObject* object, const QVariant& value)
-{
-    const bool textDiffers = isReal(value) || value.typeId() == QMetaType::QByteArray;
-    switch (property.typeId()) {
-    case QMetaType::Bool:
-        if (isEnumeration(value) || isOneOf<uchar, long, ulong>(value))
-            return false;
-        return property.write(object, isReal(value) ? wholeNumber(value) : value);
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::SChar:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-        return property.write(object, wholeNumber(value));
-    case QMetaType::QString:
-        return !isOneOf<uchar, long, ulong>(value)
-            && property.write(object, textDiffers ? Variants::toString(value) : value);
-    default:
-        return property.write(object, value);
-    }
-}
+#endif

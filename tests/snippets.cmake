@@ -27,8 +27,8 @@ endforeach()
 
 add_library(snippets OBJECT ${snippets})
 set_target_properties(snippets PROPERTIES CXX_CLANG_TIDY "")
-# As in a program that casts from ASCII and looks only at what matters to it.
-target_compile_options(snippets PRIVATE -UQT_NO_CAST_FROM_ASCII -Wno-unused-variable)
+# As in a program that looks only at what matters to it.
+target_compile_options(snippets PRIVATE -Wno-unused-variable)
 target_link_libraries(snippets PRIVATE velmolib::velmolib Qt${VELMOLIB_QT_MAJOR}::Widgets)
 if(VELMOLIB_PRECOMPILE)
     target_precompile_headers(snippets PRIVATE <QtWidgets>)

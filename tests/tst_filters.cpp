@@ -68,6 +68,7 @@ private Q_SLOTS:
             accept | AttemptsFilter   | 3 | idling 0, rejected 7, rejected 500, accepting 500
             accept | AttemptsFilter   | 2 | idling 0, rejected 9, stacked 9, rejected 9, accepting 500
             reject | AttemptsFilter   | 2 | idling 0, stacked 9, rejected 9, rejected 9, accepting 500
+            reject | AttemptsFilter   | 2 | idling 0, rejected 9, accepting 9, returning 9, returned 9, rejected 9, accepting 500
             accept | AttemptsFilter   | 1 | rejected 500, accepting 500
             reject | AttemptsFilter   | 1 | idling 0, rejected 500
             accept | AttemptsFilter   | 1 | idling 0, rejected 500, accepting 100

@@ -8,6 +8,7 @@
 #include "droutemapitem.h"
 #include "filterchain.h"
 #include "filterset.h"
+#include "kiosksummary.h"
 #include "serviceanswer.h"
 #include "statitem.h"
 #include "velmorun.h"
@@ -192,6 +193,21 @@ private Q_SLOTS:
         }
         QCOMPARE(QStringList(unused.keys()), QStringList());
         settings.setList({});
+    }
+
+    void summaryOfAKioskReadsBack()
+    {
+        const PublishedState state = readServiceState(
+            R"({"time":1234,"device_states":[{"device_id":1,"notes_inserted":5000000000},)"
+            R"({"device_id":2,"notes_inserted":7,"notes_rejected":-1,"notes_returned":1e19}]})"_s);
+        StateWriter writer;
+        const KioskSummary written("kiosk"_s, state, writer);
+        for (const KioskSummary& summary : {written, KioskSummary(written.text)}) {
+            QCOMPARE(summary.time, 1234LL);
+            QCOMPARE(summary.inserted, 5000000007LL);
+            QCOMPARE(summary.rejected, -1LL);
+            QCOMPARE(summary.returned, std::numeric_limits<qint64>::max());
+        }
     }
 
     void everySettingIsDescribed()

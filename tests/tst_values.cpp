@@ -65,9 +65,24 @@ private Q_SLOTS:
         add("negative half of a float", -1.5F, "true|-1|18446744073709551615|-1.5"_s,
             "true|-1|-1.5"_s);
         add("no number", qQNaN(), "false|0|0|nan"_s, "false|0|nan"_s);
+        add("below 64 bits", -1473564327E10,
+            "true|-892977152|3711100803709550592|-1.473564327e+19"_s,
+            "true|-892977152|-1.473564327e+19"_s);
+        add("a little below 64 bits", -9223372036854777856.0,
+            "true|-2047|9223372036854773761|-9223372036854778000"_s,
+            "true|-2047|-9223372036854778000"_s);
+        add("far below 64 bits", -1e20, "false|0|0|-1e+20"_s, "false|0|-1e+20"_s);
+        add("above 64 bits", 1e19, "true|0|9223372036854775808|1e+19"_s, "true|0|1e+19"_s);
+        add("float below 64 bits", -1.473564327E19F,
+            "true|0|3711101332883505152|-14735642740826046000"_s, "true|0|-14735642740826046000"_s);
+        add("infinite", -qInf(), "false|0|0|-inf"_s, "false|0|-inf"_s);
         add("large real", 1e5, "true|100000|100000|100000"_s, "true|100000|100000"_s);
         add("small real", 0.0001, "false|0|0|0.0001"_s, "false|0|0.0001"_s);
         add("JSON number", QJsonValue(2.7), "false|2|2|"_s, "false|2|-"_s);
+        add("JSON number above 64 bits", QJsonValue(1e19), "false|0|9223372036854775808|"_s,
+            "false|0|-"_s);
+        add("JSON number below 64 bits", QJsonValue(-1473564327E10),
+            "false|0|9223372036854775808|"_s, "false|0|-"_s);
         add("list", QVariantList{7}, "false|0|0|"_s, "false|0|-"_s);
         add("enumerator", QVariant::fromValue(Qt::Horizontal), "false|1|1|Horizontal"_s,
             "false|1|Horizontal"_s);
@@ -99,6 +114,29 @@ private Q_SLOTS:
                            filter.m_text})
                   .join(QLatin1Char('|')),
               "parameters");
+    }
+
+    void realsInText_data()
+    {
+        // Number, as an unsigned 32-bit one, whether it is on.
+        addRows(R"(
+            -1473564327E10   | 3401990144 | true
+            -1259366302522e7 | 3771361280 | true
+            -1e20            | 0          | false
+            1e19             | 0          | true
+            -2.5             | 4294967294 | true)"_s);
+    }
+
+    void realsInText()
+    {
+        const auto [number, deviceId, isOn] = cells<3>();
+        DeviceState state;
+        QVERIFY(
+            state.parse(state.serialize()
+                            .replace("\"device_id\":0"_s, "\"device_id\":"_s + number)
+                            .replace("\"stacker_full\":false"_s, "\"stacker_full\":"_s + number)));
+        QCOMPARE(QString::number(state.deviceId), deviceId);
+        QCOMPARE(QVariant(state.stackerFull).toString(), isOn);
     }
 
     void listsAndMaps_data()

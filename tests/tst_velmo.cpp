@@ -46,7 +46,8 @@ private Q_SLOTS:
             "\033[2J\033[HWait...\nAccepting money: not allowed\n"
             "  - Bill validator (CCNet): The device has a critical error: no description.\n"
             "  - Bill validator (CCNet): The device is not ready for notes; its state: "
-            "money accepting disabled or sum exceeded.\n\n"
+            "money accepting disabled or sum exceeded.\n"
+            "Device faults:\n  - Coin acceptor (CCTalk): The device is disabled.\n\n"
             "DeviceId: 1,ThreadId: 2\nName: BNV\nActivity: enabled\n"
             "Critical error: no description\n"
             "Status: money accepting disabled or sum exceeded\n\n\n"
@@ -58,21 +59,22 @@ private Q_SLOTS:
     void manyStatesAreToldOneByOne()
     {
         const QByteArray times =
-            R"({"time":0,"device_states":[]})"
+            R"({"time":1234,"device_states":[]})"
             "\n"
             R"({"device_states":[{"device_id":9999,"enabled":true,"state":"idling","stacker_full":true,"online":"false",)"
+            R"("notes_inserted":5000000000,"notes_rejected":9223372036854775807,"notes_returned":-1e19,)"
             R"("dispenser_registry":[{"bill_type":1,"channel":2,"denomination":100,"currency":643}]}]})";
         const QString file =
             writeFile(m_folder.filePath("states.jsonl"_s), QString::fromUtf8(times));
         const QString expected =
-            R"({"time":"1970-01-01T00:00:00.000Z","payment_text":"Wait...","accepting":false,)"
+            R"({"time":"1970-01-01T00:00:01.234Z","payment_text":"Wait...","accepting":false,)"
             R"("reasons":["The service tells of no device."],"devices":[]})"
             "\n"
             R"({"time":null,"payment_text":"Error status unknown","accepting":true,"reasons":[],)"
             R"("devices":[{"device":9999,"thread":-1,"name":"Device 9999","model":null,)"
             R"("kind":"Device","enabled":true,"state":"idling","state_text":"waiting for money",)"
-            R"("wrong":["The stacker is full.","The device is offline."],"notes_inserted":0,"notes_rejected":0,)"
-            R"("notes_returned":0,"registry":{"1_2_100_643":{"bill_type":1,"currency":643,)"
+            R"("wrong":["The stacker is full.","The device is offline."],"notes_inserted":5000000000,)"
+            R"("notes_rejected":9223372036854775807,"notes_returned":-9223372036854775808,"registry":{"1_2_100_643":{"bill_type":1,"currency":643,)"
             R"("denomination":100}}}]})"
             "\n"_s;
         QCOMPARE(velmo({"report"_s, file, "--json"_s}).out, expected);
@@ -86,7 +88,33 @@ private Q_SLOTS:
                  "velmo: %1:4: the file ends in the middle of a line"_s.arg(marked));
         QCOMPARE(cut.exitCode, 2);
         const VelmoRun text = velmo({"report"_s, file});
-        QVERIFY(text.out.contains("01.01.1970 00.00.00\n-- line 2 --\nError status unknown\n"_s));
+        QVERIFY(text.out.contains(
+            "01.01.1970 00.00.01\n-- line 2 --\nError status unknown\nAccepting money: allowed\n"
+            "Device faults:\n  - Device 9999: The stacker is full.\n"
+            "  - Device 9999: The device is offline.\n\n"_s));
+    }
+
+    void faultsOfDevicesAreNamed_data()
+    {
+        // What is published of a device, its last fault.
+        addRows(R"(
+            "error_critical":true,"error_text":"jam","state_text":"Head" | The device has a critical error: jam.
+            "error_critical":true,"state_text":"Head"                    | The device has a critical error: Head.
+            "error_critical":true                                        | The device has a critical error: no description.
+            "online":-1259366302522e7                                    | The device is halted.
+            "online":false                                               | The device is offline.)"_s);
+    }
+
+    void faultsOfDevicesAreNamed()
+    {
+        const auto [device, fault] = cells<2>();
+        const QString state =
+            R"({"device_states":[{"device_id":1,"enabled":true,"halt":true,%1}]})"_s.arg(device);
+        const QString json = velmo({"report"_s, "-"_s, "--json"_s}, state.toUtf8()).out;
+        const QJsonValue told = QJsonDocument::fromJson(json.toUtf8())["devices"_s][0];
+        QCOMPARE(told["wrong"_s].toArray().last().toString(), fault);
+        const QString text = velmo({"report"_s, "-"_s}, state.toUtf8()).out;
+        QVERIFY2(text.contains("  - Bill validator (CCNet): %1\n"_s.arg(fault)), qPrintable(text));
     }
 
     void nothingIsReadPastRawBytes()

@@ -460,6 +460,10 @@
         <translation>Приём денег: не разрешён</translation>
     </message>
     <message>
+        <source>Device faults:</source>
+        <translation>Неполадки устройств:</translation>
+    </message>
+    <message>
         <source>-- line %1 --</source>
         <translation>-- строка %1 --</translation>
     </message>

@@ -63,6 +63,8 @@ TestCase {
              text: "Input coin", accepted: "coin"},
             {tag: "jam", devices: [device(1, 1, {state: "jammed"}), device(200, 2, {state: "busy"})],
              text: "Pay by card", accepted: "card"},
+            {tag: "error", devices: [device(1, 1, {state: "error"}), device(199, 2)],
+             text: "Input coin", accepted: "coin"},
             {tag: "note in hand", devices: [device(1, 1, {state: "accepting"}), device(100, 2), device(201, 3)],
              text: "Wait...", accepted: ""},
             {tag: "dispenser only", devices: [device(51, 1)], text: "Out of service", accepted: ""},
@@ -96,6 +98,10 @@ TestCase {
              steps: [["accepting", 500, sum], ["returning", 500, sum], ["returned", 500], ["idling", 0]],
              text: "This note would pass the limit of 3000. It comes back to you.",
              outcome: ServiceState.NoteRefused},
+            {tag: "refused while returning", model: 1,
+             steps: [["accepting", 500], ["returning", 500, sum], ["returned", 500], ["idling", 0]],
+             text: "This note would pass the limit of 3000. It comes back to you.",
+             outcome: ServiceState.NoteRefused},
             {tag: "too many", model: 1, steps: [["accepting", 500, count]],
              text: "No more notes of 500 are accepted in this payment. It comes back to you.",
              outcome: ServiceState.NoteRefused},
@@ -106,6 +112,8 @@ TestCase {
              text: "This note cannot be accepted. It comes back to you.", outcome: ServiceState.NoteRefused},
             {tag: "not recognised", model: 1, steps: [["rejected", 0]],
              text: "Your note was not recognised. Please try another one.", outcome: ServiceState.NoteRejected},
+            {tag: "coin not recognised", model: 199, steps: [["rejected", 0]],
+             text: "Your coin was not recognised. Please try another one.", outcome: ServiceState.NoteRejected},
             {tag: "returned", model: 1, steps: [["accepting", 500], ["returning", 500], ["returned", 0]],
              text: "Your note of 500 was returned. Please take it.", outcome: ServiceState.NoteReturned},
             {tag: "jam", model: 1, steps: [["accepting", 500], ["stacking", 500], ["jammed", 500]],
@@ -157,17 +165,18 @@ TestCase {
         model.rowsMoved.connect((parent, first, last, to, row) => rows.push("move " + first + " to " + row));
         model.dataChanged.connect(first => rows.push("change " + first.row));
         model.modelReset.connect(() => rows.push("reset"));
+        model.countChanged.connect(() => rows.push("count"));
     }
 
     function test_rowsChangeOneByOne_data() {
         const [a, b, c, d] = [device(1, 1), device(2, 1), device(100, 2), device(1, 1, {id_string: "X"})];
         return [
             {tag: "same", after: [a, b, c], rows: []},
-            {tag: "insert", after: [a, d, b, c], rows: ["insert 1-1"]},
-            {tag: "remove", after: [a, c], rows: ["remove 1-1"]},
+            {tag: "insert", after: [a, d, b, c], rows: ["insert 1-1", "count"]},
+            {tag: "remove", after: [a, c], rows: ["remove 1-1", "count"]},
             {tag: "move", after: [c, a, b], rows: ["move 2 to 0"]},
             {tag: "change", after: [d, b, c], rows: ["change 0"]},
-            {tag: "all", after: [], rows: ["remove 2-2", "remove 1-1", "remove 0-0"]}
+            {tag: "all", after: [], rows: ["remove 2-2", "remove 1-1", "remove 0-0", "count"]}
         ];
     }
 
@@ -176,6 +185,36 @@ TestCase {
         spyOn(state.devices);
         state.text = text(row.after);
         compare(rows, row.rows);
+    }
+
+    function test_twinsAreTwoDevices() {
+        const [full, empty] = [{dispenser_registry: [{channel: 1, count: 24}]}, {}];
+        const state = make([device(1, 1, full), device(1, 1, empty)]);
+        const registries = [state.devices.get(0).registry, state.devices.get(1).registry];
+        compare(registries.map(registry => registry.count), [1, 0]);
+        spyOn(state.devices);
+        state.text = text([device(1, 1, full), device(1, 1, {halt: true})]);
+        compare(rows, ["change 1"]);
+        state.text = text([device(1, 1, full)]);
+        compare(rows, ["change 1", "remove 1-1", "count"]);
+        wait(0); // what is gone may be deleted
+        compare(state.devices.get(0).registry, registries[0]);
+    }
+
+    function test_newNamesAreShown() {
+        const state = make([device(1, 1), device(100, 1)]);
+        spyOn(state.devices);
+        state.names = {"1": "Left"};
+        compare(rows, ["change 0"]);
+        compare(state.devices.get(0).name, "Left");
+        compare(state.devices.get(1).name, "Coin acceptor (CCTalk)");
+        verify(state.report.includes("Name: Left\n"), state.report);
+    }
+
+    function test_countersAreInFull() {
+        const devices = make([device(1, 1, {notes_inserted: 5e9, notes_rejected: 6e9, notes_returned: 7e9})]).devices;
+        const {notesInserted, notesRejected, notesReturned} = devices.get(0);
+        compare([notesInserted, notesRejected, notesReturned], [5e9, 6e9, 7e9]);
     }
 
     function test_lampsAreThoseOfTheKind() {
@@ -223,6 +262,11 @@ TestCase {
             groups.push(settings.get(row).group);
         verify(groups.every(group => group.startsWith("device2/")), groups);
         verify(groups.includes("device2/ccnet"));
+        const keys = () => Array.from({length: settings.count}, (_, row) => settings.get(row).key);
+        settings.interfaceType = "tcp";
+        verify(keys().includes("tcp_host") && !keys().includes("portname"), keys());
+        settings.interfaceType = "rs232";
+        verify(keys().includes("portname") && !keys().includes("tcp_host"), keys());
         settings.model = 200;
         verify(settings.count > 0 && settings.count !== groups.length);
         compare(settings.accepts("device2/ccnet", "response_time", "x"), false);

@@ -4,6 +4,7 @@
 #include "commands.h"
 
 #include "acceptorstate.h"
+#include "devicename.h"
 #include "devicestate.h"
 #include "inputfile.h"
 #include "jsonlines.h"
@@ -57,8 +58,23 @@ QMap<int, QString> readNames(const QString& fileName)
     return names;
 }
 
-QByteArray reportText(const AcceptorState& state, const QMap<int, QString>& names)
+// What is wrong with the devices, whether or not that stops the service.
+QStringList allFaults(const PublishedState& state)
 {
+    QStringList texts;
+    auto details = state.details.begin();
+    const QList<AcceptorStateItem> devices = state.service.deviceStates();
+    for (const AcceptorStateItem& device : devices) {
+        const QStringList faults = deviceFaults(device, (details++)->isOffline);
+        for (const QString& fault : faults)
+            texts += QStringLiteral("%1: %2").arg(deviceName(device.deviceId()), fault);
+    }
+    return texts;
+}
+
+QByteArray reportText(const PublishedState& published, const QMap<int, QString>& names)
+{
+    const AcceptorState& state = published.service;
     const QStringList reasons = whyNotAccepting(state);
     QString text = state.paymentStateDescr() + QLatin1Char('\n')
         + (reasons.isEmpty() ? Velmo::tr("Accepting money: allowed")
@@ -66,6 +82,13 @@ QByteArray reportText(const AcceptorState& state, const QMap<int, QString>& name
         + QLatin1Char('\n');
     for (const QString& reason : reasons)
         text += QStringLiteral("  - %1\n").arg(reason);
+    QStringList faults = allFaults(published);
+    for (const QString& reason : reasons)
+        faults.removeAll(reason);
+    if (!faults.isEmpty())
+        text += Velmo::tr("Device faults:") + QLatin1Char('\n');
+    for (const QString& fault : std::as_const(faults))
+        text += QStringLiteral("  - %1\n").arg(fault);
     text += QLatin1Char('\n') + state.systemStatusDescr(names) + QLatin1Char('\n');
     return printableLines(text).toUtf8();
 }
@@ -124,7 +147,7 @@ int reportCommand(const Arguments& arguments)
     StateWriter writer(given);
     const auto toText = [&](const PublishedState& state) {
         return isJson ? '{' + writer.members(state) + "}\n"
-                      : reportText(state.service, deviceNames(state.service, given));
+                      : reportText(state, deviceNames(state.service, given));
     };
     const QString fileName = arguments.operands().constFirst();
     const bool hasLines = isStateALine(fileName);
