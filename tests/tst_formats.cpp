@@ -79,6 +79,26 @@ QVariant serviceReport(const QVariant& /*example*/)
                     .out);
 }
 
+// What the tool prints of a log in which notes were fished.
+QVariantList fishedLog(const QStringList& command)
+{
+    QTemporaryDir folder;
+    const QString filters =
+        writeFile(folder.filePath("f.json"_s),
+                  R"([{"name":"AttemptsFilter","params":{"denom":1000,"attempts":2}}])"_s);
+    const VelmoRun run =
+        velmo(command + QStringList{"-"_s, "--json"_s, "--filters"_s, filters},
+              R"({"session":"start","device_id":1,"thread_id":1,"enabled":true,"state":"idling"}
+                 {"state":"rejected"}
+                 {"state":"idling"}
+                 {"state":"rejected"}
+                 {"state":"accepting","current_note":1000,"stacker_full":true,"time":"2026-11-24T10:05:30Z"})");
+    QVariantList lines;
+    for (const QString& line : run.outLines())
+        lines += json(line);
+    return lines;
+}
+
 // Reads an example with the class that reads its format and writes it again.
 const QMap<QString, std::function<QVariant(const QVariant& example)>> checks{
     {"note record"_s, written<NoteItem>},
@@ -125,6 +145,11 @@ const QMap<QString, std::function<QVariant(const QVariant& example)>> checks{
      }},
     {"field description"_s, written<FieldDescription>},
     {"filters file"_s, writtenFilters},
+    {"explained log"_s,
+     [](auto& /*v*/) {
+         return fishedLog({"explain"_s, "--refusals"_s});
+     }},
+    {"replayed log"_s, [](auto& /*v*/) { return fishedLog({"replay"_s}).last(); }},
     {"names file"_s, reportedNames},
     {"service report"_s, serviceReport},
 };
