@@ -4,60 +4,12 @@
 <context>
     <name>Diagnosis</name>
     <message>
-        <source>note of %1 refused.</source>
-        <translation>купюра %1 не принята фильтрами.</translation>
-    </message>
-    <message>
-        <source>coin of %1 refused.</source>
-        <translation>монета %1 не принята фильтрами.</translation>
-    </message>
-    <message>
-        <source>note of %1 taken.</source>
-        <translation>купюра %1 принята.</translation>
-    </message>
-    <message>
-        <source>coin of %1 taken.</source>
-        <translation>монета %1 принята.</translation>
-    </message>
-    <message>
-        <source>note of %1 rejected.</source>
-        <translation>купюра %1 отклонена устройством.</translation>
-    </message>
-    <message>
-        <source>coin of %1 rejected.</source>
-        <translation>монета %1 отклонена устройством.</translation>
-    </message>
-    <message>
-        <source>note of %1 returned.</source>
-        <translation>купюра %1 возвращена.</translation>
-    </message>
-    <message>
-        <source>coin of %1 returned.</source>
-        <translation>монета %1 возвращена.</translation>
-    </message>
-    <message>
-        <source>note of %1: the log does not say what became of it.</source>
-        <translation>купюра %1: что с ней стало, из журнала не видно.</translation>
-    </message>
-    <message>
-        <source>coin of %1: the log does not say what became of it.</source>
-        <translation>монета %1: что с ней стало, из журнала не видно.</translation>
-    </message>
-    <message>
         <source>Session %1</source>
         <translation>Сеанс %1</translation>
     </message>
     <message>
         <source>line %1</source>
         <translation>строка %1</translation>
-    </message>
-    <message>
-        <source>coin of unknown value rejected.</source>
-        <translation>отклонена монета неизвестного номинала.</translation>
-    </message>
-    <message>
-        <source>note of unknown value rejected.</source>
-        <translation>отклонена купюра неизвестного номинала.</translation>
     </message>
     <message>
         <source>It was taken although refused (line %1).</source>
@@ -1188,6 +1140,74 @@
     <message>
         <source>more than %1 blank lines</source>
         <translation>больше %1 пустых строк подряд</translation>
+    </message>
+    <message>
+        <source>%1 refused.</source>
+        <translation>%1 не принята фильтрами.</translation>
+    </message>
+    <message>
+        <source>%1 taken.</source>
+        <translation>%1 принята.</translation>
+    </message>
+    <message>
+        <source>%1 stuck in the device, neither taken nor returned.</source>
+        <translation>%1 застряла в устройстве: не принята и не возвращена.</translation>
+    </message>
+    <message>
+        <source>%1 rejected.</source>
+        <translation>%1 отклонена устройством.</translation>
+    </message>
+    <message>
+        <source>%1 returned.</source>
+        <translation>%1 возвращена.</translation>
+    </message>
+    <message>
+        <source>%1: the log does not say what became of it.</source>
+        <translation>%1: что с ней стало, из журнала не видно.</translation>
+    </message>
+    <message>
+        <source>coin of unknown value</source>
+        <translation>монета неизвестного номинала</translation>
+    </message>
+    <message>
+        <source>note of unknown value</source>
+        <translation>купюра неизвестного номинала</translation>
+    </message>
+    <message>
+        <source>It got stuck in the device (line %1).</source>
+        <translation>Она застряла в устройстве (строка %1).</translation>
+    </message>
+    <message>
+        <source>It was last seen on its way through the device (line %1).</source>
+        <translation>В последний раз она была на пути через устройство (строка %1).</translation>
+    </message>
+    <message>
+        <source>It was credited all the same (line %1).</source>
+        <translation>Она всё же была зачислена (строка %1).</translation>
+    </message>
+    <message>
+        <source>It was not credited.</source>
+        <translation>Она не была зачислена.</translation>
+    </message>
+    <message>
+        <source>By the device itself.</source>
+        <translation>Решило само устройство.</translation>
+    </message>
+    <message>
+        <source>Stuck in the device</source>
+        <translation>Застряли в устройстве</translation>
+    </message>
+    <message>
+        <source>its value came too late to ask the filters about it</source>
+        <translation>номинал стал известен слишком поздно, чтобы спросить о ней фильтры</translation>
+    </message>
+    <message>
+        <source>%n stuck</source>
+        <translation>застряло: %n</translation>
+    </message>
+    <message>
+        <source>stuck in the device</source>
+        <translation>застряла в устройстве</translation>
     </message>
 </context>
 </TS>
