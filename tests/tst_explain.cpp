@@ -283,6 +283,82 @@ private Q_SLOTS:
                               "Stuck in the device 1 100"_s}));
     }
 
+    // Random logs of two devices. Cut where sessions begin, the parts give the answers of the
+    // whole, as long as each start changes something: what is no change is no event. It makes no
+    // difference in which order the devices are published.
+    void logsGiveTheSameInPartsAndInAnyOrder()
+    {
+        std::mt19937 random(21);
+        const auto pick = [&random](int below) { return int(random() % unsigned(below)); };
+        const FilterSet filters = filterSet(
+            R"([{"name":"AttemptsFilter","params":{"denom":100,"attempts":2}},
+                {"name":"DenomCountFilter","params":{"denom":500,"count":2}}])"_s);
+        const auto answersOf = [&](const QStringList& log, int first, int end) {
+            QStringList answers;
+            LogExplainer explainer(filters, [&](const NoteAnswer& a) {
+                QStringList answer{QString::number(a.line), a.deviceName, QString::number(a.note),
+                                   outcomeKey(a.outcome), outcomeKey(a.end)};
+                for (const Objection& objection : a.objections)
+                    answer += objection.text;
+                answers += answer.join(QLatin1Char(' '));
+            });
+            for (int line = first; line < end; ++line)
+                explainer.take(SessionLine(log.at(line)), line + 1);
+            explainer.finish();
+            answers.sort(); // notes of one line come in the order of its devices
+            return answers;
+        };
+        static const char* const states[] = {"accepting", "accepted", "rejected", "stacked",
+                                             "returned",  "jammed",   "idling"};
+        int answered = 0;
+        for (int round = 0; round < 200; ++round) {
+            QStringList log;
+            QStringList turned; // the same with the devices in the other order
+            QVector<int> starts;
+            for (int session = 0; session < 3; ++session) {
+                starts += int(log.size());
+                for (const int device : {1, 100})
+                    log += R"({"session":"start","device_id":%1,"thread_id":2,"state":"idling"})"_s
+                               .arg(device);
+                turned += log.mid(turned.size());
+                for (int line = 0; line < 12; ++line) {
+                    QStringList devices;
+                    for (const int device : {1, 100}) {
+                        const int note = QVector<int>{0, 100, 500}.at(pick(3));
+                        devices +=
+                            R"({"device_id":%1,"thread_id":2,"state":"%2","current_note":%3})"_s
+                                .arg(device)
+                                .arg(QString::fromUtf8(states[pick(7)]))
+                                .arg(note);
+                    }
+                    log += pick(2) == 0
+                        ? devices.at(pick(2))
+                        : R"({"device_states":[%1,%2]})"_s.arg(devices.at(0), devices.at(1));
+                    turned += log.constLast().contains("device_states"_s)
+                        ? R"({"device_states":[%1,%2]})"_s.arg(devices.at(1), devices.at(0))
+                        : log.constLast();
+                }
+                for (const int device : {1, 100}) {
+                    log +=
+                        R"({"device_id":%1,"state":"stacked","session_sum":%2})"_s.arg(device).arg(
+                            session + 1);
+                    log += R"({"device_id":%1,"state":"idling","current_note":0})"_s.arg(device);
+                }
+                turned += log.mid(turned.size());
+            }
+            starts += int(log.size());
+            const QStringList whole = answersOf(log, 0, int(log.size()));
+            QCOMPARE(answersOf(turned, 0, int(log.size())), whole);
+            QStringList parts;
+            for (int i = 0; i + 1 < starts.size(); ++i)
+                parts += answersOf(log, starts.at(i), starts.at(i + 1));
+            parts.sort();
+            QCOMPARE(parts, whole);
+            answered += int(whole.size());
+        }
+        QVERIFY(answered > 2000);
+    }
+
     // Random sessions: a note is explained as refused exactly when the chain refused it, and the
     // evidence is enough: with every other event idle the chain still refuses it.
     void explanationsHoldAgainstTheFilters()
