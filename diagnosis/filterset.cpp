@@ -115,7 +115,7 @@ void FilterSet::addFilters(const ArrayFile& file)
 
 void FilterSet::addSettings(const ArrayFile& file)
 {
-    AcceptorSettings().setList(file.elements().toVariantList());
+    AcceptorSettings().setList(file.values());
     const auto add = [this, &file](const char* name, const QVariantMap& params) {
         const QJsonObject description{{nameKey, QLatin1String(name)},
                                       {paramsKey, QJsonObject::fromVariantMap(params)}};

@@ -264,13 +264,13 @@ bool ServiceSetting::accepts(const QString& value) const
     return !m_description.isValid() || m_description.accepts(value);
 }
 
-QVariant ServiceSetting::listValue(const QString& text) const
+JsonText ServiceSetting::listValue(const QString& text) const
 {
-    const QVariant like = facts().unset.value(m_device ? ofAnyDevice(path()) : path());
-    QVariant value = text;
-    if (like.userType() == QMetaType::Bool)
-        value = QVariant(text).toBool();
-    else if (like.userType() == QMetaType::Int || like.userType() == QMetaType::LongLong)
-        value = text.toLongLong();
-    return value.toString() == text ? value : QVariant(text);
+    const int type = facts().unset.value(m_device ? ofAnyDevice(path()) : path()).userType();
+    const qint64 number = text.toLongLong();
+    if ((type == QMetaType::Int || type == QMetaType::LongLong) && QString::number(number) == text)
+        return number;
+    if (type == QMetaType::Bool && (text == QLatin1String("true") || text == QLatin1String("false")))
+        return text == QLatin1String("true");
+    return text;
 }

@@ -8,8 +8,6 @@
 #include "settingslist.h"
 #include "words.h"
 
-#include <QJsonObject>
-
 #include <algorithm>
 
 namespace {
@@ -56,7 +54,8 @@ class Check
 {
 public:
     explicit Check(const ArrayFile& file)
-        : m_list(file.elements())
+        : m_file(file)
+        , m_list(file)
     {
     }
 
@@ -85,6 +84,13 @@ private:
     void checkElement(int index)
     {
         const SettingsList::Element& element = m_list.elements().at(index);
+        for (const char* const key : {"group", "key", "value"}) {
+            if (m_file.isDoubled(index, QLatin1String(key))) {
+                report(Finding::Error, index, element.path(),
+                       Diagnosis::tr("has \"%1\" more than once: which one counts is not certain")
+                           .arg(QLatin1String(key)));
+            }
+        }
         if (!element.hasGroup) {
             const bool isMeant = !element.key.isEmpty();
             return report(isMeant ? Finding::Error : Finding::Warning, index, element.key,
@@ -253,6 +259,7 @@ private:
         }
     }
 
+    const ArrayFile& m_file;
     const SettingsList m_list;
     QList<Finding> m_findings;
     QHash<QString, int> m_addresses; // the device that has it

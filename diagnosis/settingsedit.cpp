@@ -8,7 +8,6 @@
 #include "nearest.h"
 #include "words.h"
 
-#include <QJsonObject>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -19,24 +18,28 @@ using S = AcceptorSettings;
 
 const QString valueKey = QStringLiteral("value");
 
-QString textOf(const QJsonValue& value)
-{
-    return value.toVariant().toString();
-}
-
 // The value in the element's own type where it means the same in it, else in that of the list that
 // AcceptorSettings writes.
-QJsonValue valueLike(const QJsonValue& old, const ServiceSetting& setting, const QString& text)
+JsonText valueLike(const QVariant& old, const ServiceSetting& setting, const QString& text)
 {
-    bool isNumber = false;
-    const qint64 number = text.toLongLong(&isNumber);
-    if (old.isString())
+    const qint64 number = text.toLongLong();
+    const bool wasNumber =
+        old.userType() == QMetaType::LongLong || old.userType() == QMetaType::Double;
+    if (old.userType() == QMetaType::QString)
         return text;
-    if (old.isDouble() && isNumber && textOf(number) == text)
+    if (wasNumber && QString::number(number) == text)
         return number;
-    if (old.isBool() && (text == QLatin1String("true") || text == QLatin1String("false")))
+    if (old.userType() == QMetaType::Bool
+        && (text == QLatin1String("true") || text == QLatin1String("false")))
         return text == QLatin1String("true");
-    return QJsonValue::fromVariant(setting.listValue(text));
+    return setting.listValue(text);
+}
+
+QVector<ArrayFile::Member> elementOf(const ServiceSetting& setting, const QString& value)
+{
+    return {{QStringLiteral("group"), setting.group()},
+            {QStringLiteral("key"), setting.key()},
+            {valueKey, setting.listValue(value)}};
 }
 
 // The number of a model that is called by its number or name.
@@ -165,17 +168,14 @@ void SettingsEdit::setElement(const SettingsList& list, int element, const Servi
     // As it is read, it may be so already.
     if (old == value || (setting.accepts(old) && setting.readAs(old) == value))
         return;
-    const QJsonValue listed = m_file.elements().at(element).toObject().value(valueKey);
+    const QVariant listed = list.elements().at(element).value;
     m_file.setMember(element, valueKey, valueLike(listed, setting, value));
     record(setting.path(), old, value);
 }
 
 void SettingsEdit::insert(const ServiceSetting& setting, const QString& value)
 {
-    m_file.insert(positionFor(setting),
-                  {{QStringLiteral("group"), setting.group()},
-                   {QStringLiteral("key"), setting.key()},
-                   {valueKey, QJsonValue::fromVariant(setting.listValue(value))}});
+    m_file.insert(positionFor(setting), elementOf(setting, value));
     record(setting.path(), {}, value);
 }
 
@@ -318,10 +318,7 @@ void SettingsEdit::makeDevice(int device, int model, const QList<Assignment>& as
         QString value = setting.key() == S::DEVICE_ID ? id : startingValue(setting, before);
         if (position < 0)
             position = positionFor(setting);
-        m_file.insert(position++,
-                      {{QStringLiteral("group"), setting.group()},
-                       {QStringLiteral("key"), setting.key()},
-                       {valueKey, QJsonValue::fromVariant(setting.listValue(value))}});
+        m_file.insert(position++, elementOf(setting, value));
         record(setting.path(), {}, value);
     }
     for (const Assignment& assignment : ranked(assignments))

@@ -63,7 +63,7 @@ public:
     QList<SettingsFinding> newFindings() const;
 
 private:
-    SettingsList list() const { return SettingsList(m_file.elements()); }
+    SettingsList list() const { return SettingsList(m_file); }
 
     void setValue(const ServiceSetting& asked, const QString& value);
     void setElement(const SettingsList& list, int element, const ServiceSetting& setting,

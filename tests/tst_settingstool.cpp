@@ -450,11 +450,11 @@ private Q_SLOTS:
             }
             const ArrayFile file = arrayFile(random.textOf(list));
             SettingsEdit edit(file);
-            const SettingsList::Used used = random.of(SettingsList(file.elements()).used());
+            const SettingsList::Used used = random.of(SettingsList(file).used());
             const QString path = used.setting.path();
             if (!used.setting.description().isRead())
                 continue;
-            const int devices = SettingsList(file.elements()).devices().lastKey() + 1;
+            const int devices = SettingsList(file).devices().lastKey() + 1;
             const int action = isTidy ? random.below(4) : 3;
             if (action == 0)
                 edit.addDevice(
@@ -466,9 +466,9 @@ private Q_SLOTS:
                 edit.removeDevice(devices - 1);
             else
                 edit.set({{path, random.valueFor(used.setting.description())}});
-            const QMap<QString, QString> before = modelValues(file.elements().toVariantList());
+            const QMap<QString, QString> before = modelValues(file.values());
             const QMap<QString, QString> after =
-                modelValues(edit.file().elements().toVariantList());
+                modelValues(edit.file().values());
             QStringList said;
             for (const SettingsEdit::Change& change : edit.changes()) {
                 if (!change.path.endsWith("/debug/port_logging"_s))
