@@ -79,7 +79,8 @@ QStringList ArrayFile::keysOf(const QByteArray& object)
     QStringList keys;
     const QVector<Span> spans = spansIn(object, 0);
     for (int i = 0; i < spans.size(); i += 2)
-        keys += parsed(object.mid(spans.at(i).begin, spans.at(i).end - spans.at(i).begin)).toString();
+        keys +=
+            parsed(object.mid(spans.at(i).begin, spans.at(i).end - spans.at(i).begin)).toString();
     return keys;
 }
 

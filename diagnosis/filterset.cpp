@@ -9,6 +9,7 @@
 #include "filterchain.h"
 #include "filterfactory.h"
 #include "filterwords.h"
+#include "settingslist.h"
 #include "words.h"
 
 #include <algorithm>
@@ -122,7 +123,12 @@ void FilterSet::addSettings(const ArrayFile& file)
         try {
             m_filters.append(checkedFilter(description));
         } catch (const Fault& fault) {
-            throw Fault{QStringLiteral("%1: %2").arg(file.name(), fault.message)};
+            // Of what settings say, only these limits can be too much for a filter.
+            const ServiceSetting limits = ServiceSetting::find(
+                AcceptorSettings::ACCEPTOR_COMMON_SECTION, AcceptorSettings::ATTEMPTS_FILTER);
+            const int element = SettingsList(file).used(limits).element;
+            throw Fault{QStringLiteral("%1: %2").arg(
+                element < 0 ? file.name() : file.place(element), fault.message)};
         }
     };
     add(filters::ACCEPT_FILTER, {{QStringLiteral("acceptAll"), AcceptorSettings::acceptAll()}});

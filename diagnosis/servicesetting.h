@@ -40,8 +40,8 @@ public:
     static QList<ServiceSetting> ofDevice(int device, int model, const QString& interfaceType);
     static QList<ServiceSetting> ofService();
 
-    /// The known path that is spelled most like this one.
-    static QString nearestPath(const QString& path);
+    /// The known path that is spelled most like this one, as nearestKnown() says it.
+    static QString nearestKnown(const QString& path);
 
     /// Whether some setting is read in this group.
     static bool isGroupKnown(const QString& group);
@@ -78,8 +78,8 @@ public:
     QString readAs(const QString& value) const;
     bool accepts(const QString& value) const;
 
-    /// The text as JSON of the type that it has in a list of AcceptorSettings; as text where it does
-    /// not fit.
+    /// The text as JSON of the type that it has in a list of AcceptorSettings; as text where it
+    /// does not fit.
     JsonText listValue(const QString& text) const;
 
 private:

@@ -3,12 +3,16 @@
 
 #include "settingscheck.h"
 
+#include "acceptorattemptfilteritem.h"
 #include "acceptorsettings.h"
 #include "droutemapitem.h"
+#include "filterfactory.h"
+#include "jsonreader_p.h"
 #include "settingslist.h"
 #include "words.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -99,8 +103,8 @@ private:
         if (!element.setting.isValid()) {
             const bool isMeant = ServiceSetting::isGroupKnown(element.group);
             return report(isMeant ? Finding::Error : Finding::Warning, index, element.path(),
-                          Diagnosis::tr("is ignored (nearest known: %1)")
-                              .arg(ServiceSetting::nearestPath(element.path())));
+                          Diagnosis::tr("is ignored")
+                              + ServiceSetting::nearestKnown(element.path()));
         }
         const SettingsList::Used used = m_list.used(element.setting);
         checkPlace(index, element, used);
@@ -143,13 +147,33 @@ private:
             return report(level, index, element.path(),
                           Diagnosis::tr("has no text or number: reads as \"%1\"").arg(read));
         }
-        if (setting.accepts(text))
+        if (setting.accepts(text)) {
+            if (setting.description().kind() == SettingDescription::AttemptsLimits)
+                checkLimits(index, element, level);
             return;
+        }
         QString fault = Diagnosis::tr("\"%1\" is %2")
                             .arg(shortened(text), faultOf(setting.description(), text));
         if (read != text)
             fault += Diagnosis::tr(": reads as \"%1\"").arg(shortened(read));
         report(level, index, element.path(), fault);
+    }
+
+    // The filter has fewer bits than the setting.
+    void checkLimits(int index, const SettingsList::Element& element, Finding::Level level)
+    {
+        const QVariantList limits = JsonReader::readList(element.text());
+        for (const QVariant& map : limits) {
+            AcceptorAttemptFilterItem limit;
+            limit.loadFromMap(map.toMap());
+            const std::unique_ptr<AbstractFilter> filter(FilterFactory::createFilter(
+                QLatin1String(filters::ATTEMPTS_FILTER), limit.toMap()));
+            if (filter->property("attempts").toInt() != limit.attempts()) {
+                report(level, index, element.path(),
+                       Diagnosis::tr("the filter cannot hold %1 attempts (\"denom\" %2)")
+                           .arg(QString::number(limit.attempts()), QString::number(limit.denom())));
+            }
+        }
     }
 
     void checkCount()

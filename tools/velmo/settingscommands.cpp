@@ -178,10 +178,11 @@ QList<JsonText> settingsJson(const SettingsList& list)
         const JsonText source = used.isListed() ? JsonText(QStringLiteral("list"))
             : used.value.isValid()              ? JsonText(QStringLiteral("default"))
                                                 : JsonText::null();
-        settings += JsonText::object({{"default", jsonOf(used.setting, used.setting.defaultValue())},
-                                      {"path", used.setting.path()},
-                                      {"source", source},
-                                      {"value", jsonOf(used.setting, used.value)}});
+        settings +=
+            JsonText::object({{"default", jsonOf(used.setting, used.setting.defaultValue())},
+                              {"path", used.setting.path()},
+                              {"source", source},
+                              {"value", jsonOf(used.setting, used.value)}});
     }
     return settings;
 }
@@ -265,8 +266,7 @@ int checkSettingsCommand(const Arguments& arguments)
     for (const SettingsFinding& finding : findings) {
         const bool hasPlace = finding.element >= 0;
         const JsonText element = hasPlace ? JsonText(finding.element + 1) : JsonText::null();
-        const JsonText line =
-            hasPlace ? JsonText(file.lineOf(finding.element)) : JsonText::null();
+        const JsonText line = hasPlace ? JsonText(file.lineOf(finding.element)) : JsonText::null();
         list += JsonText::object({{"element", element},
                                   {"level", finding.levelKey()},
                                   {"line", line},
@@ -323,8 +323,8 @@ int settingsFiltersCommand(const Arguments& arguments)
     FilterChain chain;
     QList<JsonText> list;
     for (const AbstractFilter* const filter : filters.addTo(chain)) {
-        list += JsonText::object({{"name", filterName(*filter)},
-                                  {"params", JsonText::of(filterParams(*filter))}});
+        list += JsonText::object(
+            {{"name", filterName(*filter)}, {"params", JsonText::of(filterParams(*filter))}});
     }
     printList(list);
     return exitSuccess;
