@@ -17,8 +17,8 @@ Fault faultOf(QIODevice& device)
     if (file)
         file->flush();
     const QString name = file ? file->fileName() : QString();
-    return {QStringLiteral("%1: %2").arg(
-        name.isEmpty() ? Diagnosis::tr("standard output") : name, device.errorString())};
+    return {QStringLiteral("%1: %2").arg(name.isEmpty() ? Diagnosis::tr("standard output") : name,
+                                         device.errorString())};
 }
 
 } // namespace

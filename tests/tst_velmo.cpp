@@ -8,6 +8,8 @@
 #include <QJsonObject>
 
 #include <array>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -165,7 +167,7 @@ private Q_SLOTS:
             twin.jsonl   | twin.jsonl: is an input too
             filters.json | filters.json: is an input too
             page.html    | page.html: File too large
-            /dev/full    | /dev/full: No space left on device
+            pipe         |
             /dev/stdout  |)"_s);
     }
 
@@ -184,6 +186,11 @@ private Q_SLOTS:
                         QFile::encodeName(folder.filePath("twin.jsonl"_s)).constData()),
                  0);
         writeFile(folder.filePath("page.html"_s), "old"_s);
+        // Open at both ends, the pipe takes it all.
+        const QByteArray pipe = QFile::encodeName(folder.filePath("pipe"_s));
+        QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
+        const int reader = ::open(pipe.constData(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
+        QVERIFY(reader >= 0);
         // No file of more than some bytes can be written.
         QProcess shell;
         shell.setWorkingDirectory(folder.path());
@@ -196,6 +203,9 @@ private Q_SLOTS:
         QVERIFY2(fault.isEmpty() ? error.isEmpty() : error.contains(fault), qPrintable(error));
         QCOMPARE(shell.exitCode(), fault.isEmpty() ? 0 : 2);
         QCOMPARE(shell.readAllStandardOutput().endsWith("</html>\n"), page == "/dev/stdout"_s);
+        QFile piped;
+        QVERIFY(piped.open(reader, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle));
+        QCOMPARE(piped.readAll().endsWith("</html>\n"), page == "pipe"_s);
         const std::array<QStringList, 3> files{{{log, sample("jam.jsonl"_s)},
                                                 {filters, sample("filters.json"_s)},
                                                 {folder.filePath("page.html"_s), {}}}};
@@ -211,7 +221,7 @@ private Q_SLOTS:
     void wrongUtf8InArgumentsIsRefused()
     {
         QProcess shell;
-        const QString script = R"(exec "$0" settings set "$1" -o /dev/null \
+        const QString script = R"(exec "$0" settings set -n "$1" \
             device0/device/device_name=$(printf 'a\377'))"_s;
         shell.start("sh"_s, {"-c"_s, script, QStringLiteral(VELMO), sample("settings.json"_s)});
         QVERIFY(shell.waitForFinished());
