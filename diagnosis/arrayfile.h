@@ -64,7 +64,7 @@ private:
     };
 
     static QVector<Span> spansIn(const QByteArray& text, int open);
-    static QStringList keysOf(const QByteArray& object);
+    static QStringList keysOf(const QByteArray& object, const QVector<Span>& spans);
     static QVariant valueOf(const QByteArray& json);
     static QByteArray withMember(QByteArray object, const Member& member);
 

@@ -218,7 +218,7 @@ private Q_SLOTS:
         }
     }
 
-    void wrongUtf8InArgumentsIsRefused()
+    void wrongBytesInArgumentsAreRefused()
     {
         QProcess shell;
         const QString script = R"(exec "$0" settings set -n "$1" \
