@@ -5,8 +5,6 @@
 
 #include "words.h"
 
-#include <QJsonObject>
-
 #include <algorithm>
 
 namespace {
@@ -17,9 +15,15 @@ bool isSpace(char c)
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
 }
 
-QByteArray toText(const QJsonValue& value)
+// What QJsonDocument makes of a value; it is slow with the many that are plain text.
+QJsonValue parsed(const QByteArray& json)
 {
-    return QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).chopped(1).mid(1);
+    const bool isPlain = json.startsWith('"') && std::all_of(json.begin(), json.end(), [](char c) {
+                             return c >= ' ' && c <= '~' && c != '\\';
+                         });
+    if (isPlain)
+        return QString::fromLatin1(json.mid(1, json.size() - 2));
+    return QJsonDocument::fromJson('[' + json + ']').array().at(0);
 }
 
 } // namespace
@@ -69,8 +73,44 @@ ArrayFile::ArrayFile(TextInput& file, const QString& contents)
 void ArrayFile::setText(const QByteArray& text)
 {
     m_text = text;
-    m_elements = QJsonDocument::fromJson(text).array();
     m_spans = spansIn(text, int(text.indexOf('[')));
+    m_values.clear();
+    for (int i = 0; i < m_spans.size(); ++i)
+        m_values += valueOf(textOf(i));
+}
+
+QStringList ArrayFile::keysOf(const QByteArray& object, const QVector<Span>& spans)
+{
+    QStringList keys;
+    for (int i = 0; i < spans.size(); i += 2)
+        keys +=
+            parsed(object.mid(spans.at(i).begin, spans.at(i).end - spans.at(i).begin)).toString();
+    return keys;
+}
+
+// Qt's JSON classes have numbers as double in part, which rounds.
+QVariant ArrayFile::valueOf(const QByteArray& json)
+{
+    bool isWhole = false;
+    const qint64 number = json.toLongLong(&isWhole);
+    if (isWhole)
+        return number;
+    if (!json.startsWith('{'))
+        return parsed(json).toVariant();
+    QVariantMap map;
+    const QVector<Span> spans = spansIn(json, 0);
+    const QStringList keys = keysOf(json, spans);
+    for (int i = 0; i < keys.size(); ++i) {
+        const Span value = spans.at(2 * i + 1);
+        map.insert(keys.at(i), valueOf(json.mid(value.begin, value.end - value.begin)));
+    }
+    return map;
+}
+
+bool ArrayFile::isDoubled(int index, const QString& key) const
+{
+    const QByteArray text = textOf(index);
+    return text.startsWith('{') && keysOf(text, spansIn(text, 0)).count(key) > 1;
 }
 
 int ArrayFile::lineOf(int index) const
@@ -89,22 +129,21 @@ void ArrayFile::replace(Span span, const QByteArray& replacement)
     setText(m_text.left(span.begin) + replacement + m_text.mid(span.end));
 }
 
-QByteArray ArrayFile::withMember(QByteArray object, const QString& key, const QJsonValue& value)
+QByteArray ArrayFile::withMember(QByteArray object, const Member& member)
 {
     const QVector<Span> spans = spansIn(object, 0);
-    bool isFound = false; // more than once, it may be: then all of them are set
-    for (int i = int(spans.size()) - 2; i >= 0; i -= 2) {
-        const QByteArray name = object.mid(spans.at(i).begin, spans.at(i).end - spans.at(i).begin);
-        if (QJsonDocument::fromJson('[' + name + ']').array().at(0) != key)
-            continue;
-        const Span old = spans.at(i + 1);
-        object.replace(old.begin, old.end - old.begin, toText(value));
-        isFound = true;
+    const QStringList keys = keysOf(object, spans);
+    // More than once, it may be: then all of them are set.
+    for (int i = int(keys.size()) - 1; i >= 0; --i) {
+        const Span old = spans.at(2 * i + 1);
+        if (keys.at(i) == member.key)
+            object.replace(old.begin, old.end - old.begin, member.value);
     }
-    if (isFound)
+    if (keys.contains(member.key))
         return object;
-    const QByteArray member = (spans.isEmpty() ? "" : ", ") + toText(key) + ": " + toText(value);
-    return object.insert(spans.isEmpty() ? 1 : spans.constLast().end, member);
+    const QByteArray added =
+        (spans.isEmpty() ? "" : ", ") + JsonText(member.key) + ": " + member.value;
+    return object.insert(spans.isEmpty() ? 1 : spans.constLast().end, added);
 }
 
 QByteArray ArrayFile::textOf(int index) const
@@ -112,9 +151,9 @@ QByteArray ArrayFile::textOf(int index) const
     return m_text.mid(m_spans.at(index).begin, m_spans.at(index).end - m_spans.at(index).begin);
 }
 
-void ArrayFile::setMember(int index, const QString& key, const QJsonValue& value)
+void ArrayFile::setMember(int index, const QString& key, const JsonText& value)
 {
-    replace(m_spans.at(index), withMember(textOf(index), key, value));
+    replace(m_spans.at(index), withMember(textOf(index), {key, value}));
 }
 
 QByteArray ArrayFile::gapBefore(int index) const
@@ -126,19 +165,25 @@ QByteArray ArrayFile::gapBefore(int index) const
     return m_text.mid(gap, begin - gap);
 }
 
-void ArrayFile::insert(int index, const QJsonObject& element)
+void ArrayFile::insert(int index, const QVector<Member>& element)
 {
+    QByteArray text;
+    QStringList keys;
+    for (const Member& member : element) {
+        text += (text.isEmpty() ? '{' : ',') + JsonText(member.key) + ':' + member.value;
+        keys += member.key;
+    }
+    text += '}';
     if (m_spans.isEmpty()) {
         const int inside = int(m_text.indexOf('[')) + 1;
-        return replace({inside, inside}, toText(element));
+        return replace({inside, inside}, text);
     }
     const int neighbour = std::max(index - 1, 0);
-    QByteArray text = toText(element);
-    const QJsonObject like = m_elements.at(neighbour).toObject();
-    if (like.keys() == element.keys()) {
+    keys.sort();
+    if (m_values.at(neighbour).toMap().keys() == keys) {
         text = textOf(neighbour);
-        for (auto member = element.begin(); member != element.end(); ++member)
-            text = withMember(text, member.key(), member.value());
+        for (const Member& member : element)
+            text = withMember(text, member);
     }
     // One line further, without the blank lines that may stand before the neighbour.
     const QByteArray gap = gapBefore(neighbour);

@@ -3,11 +3,13 @@
 
 #pragma once
 
+#include "jsontext.h"
 #include "textinput.h"
 
 #include <QByteArray>
 #include <QJsonArray>
 #include <QString>
+#include <QVariant>
 #include <QVector>
 
 /// A file that holds a JSON array of objects, for example of filters or of settings. What is
@@ -19,11 +21,24 @@ public:
     /// @param contents what the array holds, for the fault
     ArrayFile(TextInput& file, const QString& contents);
 
+    struct Member
+    {
+        QString key;
+        JsonText value;
+    };
+
     QString name() const { return m_name; }
 
-    QJsonArray elements() const { return m_elements; }
+    QJsonArray elements() const { return QJsonDocument::fromJson(m_text).array(); }
+
+    /// The elements as the library takes them, whole numbers of 64 bits exact. Of doubled keys the
+    /// last one counts.
+    const QVariantList& values() const { return m_values; }
 
     QByteArray text() const { return m_text; }
+
+    /// Whether a key stands more than once in an element: readers differ in which one counts.
+    bool isDoubled(int index, const QString& key) const;
 
     /// The number of the line on which an element begins.
     int lineOf(int index) const;
@@ -32,11 +47,11 @@ public:
     QString place(int index) const;
 
     /// Sets a member of an element that is an object.
-    void setMember(int index, const QString& key, const QJsonValue& value);
+    void setMember(int index, const QString& key, const JsonText& value);
 
     /// Inserts an object so that it becomes the element at @p index, written like the one before
     /// it.
-    void insert(int index, const QJsonObject& element);
+    void insert(int index, const QVector<Member>& element);
 
     void remove(int index);
 
@@ -49,7 +64,9 @@ private:
     };
 
     static QVector<Span> spansIn(const QByteArray& text, int open);
-    static QByteArray withMember(QByteArray object, const QString& key, const QJsonValue& value);
+    static QStringList keysOf(const QByteArray& object, const QVector<Span>& spans);
+    static QVariant valueOf(const QByteArray& json);
+    static QByteArray withMember(QByteArray object, const Member& member);
 
     void setText(const QByteArray& text);
     void replace(Span span, const QByteArray& replacement);
@@ -58,6 +75,6 @@ private:
 
     QString m_name;
     QByteArray m_text;
-    QJsonArray m_elements;
+    QVariantList m_values;
     QVector<Span> m_spans; // of the elements
 };

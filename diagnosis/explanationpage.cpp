@@ -6,6 +6,7 @@
 #include "fault.h"
 #include "htmltext.h"
 #include "pagestyle.h"
+#include "textoutput.h"
 #include "words.h"
 
 #include <QCryptographicHash>
@@ -27,12 +28,6 @@ Fault faultOf(const QIODevice& device)
     const auto* const file = qobject_cast<const QFileDevice*>(&device);
     return {
         QStringLiteral("%1: %2").arg(file ? file->fileName() : QString(), device.errorString())};
-}
-
-void writeTo(QIODevice& device, const QByteArray& text)
-{
-    if (device.write(text) != text.size())
-        throw faultOf(device);
 }
 
 QString element(const char* tag, const QString& text)
@@ -168,8 +163,8 @@ ExplanationPage::ExplanationPage(Subject subject, QIODevice& sections)
 void ExplanationPage::beginLog(const QString& name)
 {
     m_logs += name;
-    writeTo(m_sections,
-            QStringLiteral("<section class=\"log\">\n%1").arg(element("h2", name)).toUtf8());
+    writeText(m_sections,
+              QStringLiteral("<section class=\"log\">\n%1").arg(element("h2", name)).toUtf8());
 }
 
 SessionRecord& ExplanationPage::session(int number)
@@ -213,7 +208,7 @@ void ExplanationPage::endLog(qint64 skipped, bool onlyRefusals)
             Diagnosis::tr("%n lines could not be read and were skipped", nullptr,
                           int(qMin<qint64>(skipped, INT_MAX))));
     }
-    writeTo(m_sections, "</section>\n");
+    writeText(m_sections, "</section>\n");
 }
 
 void ExplanationPage::writeSession(const SessionRecord& session)
@@ -239,19 +234,19 @@ void ExplanationPage::writeSession(const SessionRecord& session)
                 sentences += answerItem(session, *shown, picture);
         }
         const QString range = Diagnosis::tr("lines %1 to %2").arg(firstLine).arg(lastLine);
-        writeTo(m_sections,
-                QStringLiteral("<details class=\"session\"%1>\n<summary><strong>%2 <span "
-                               "class=\"file\">%3</span></strong>\n%4</summary>\n<div "
-                               "class=\"picture\" tabindex=\"0\" role=\"group\" "
-                               "aria-label=\"%5\">\n%6</div>\n%7</details>\n")
-                    .arg(m_written++ < unfoldedParts ? QStringLiteral(" open") : QString(),
-                         htmlText(title), htmlText(range), tallies(session, begin, note),
-                         htmlText(Diagnosis::tr("Picture, %1").arg(range)), drawn,
-                         sentences.isEmpty()
-                             ? QStringLiteral("<p class=\"none\">%1</p>\n")
-                                   .arg(htmlText(Diagnosis::tr("No note to tell of.")))
-                             : QStringLiteral("<ol>\n%1</ol>\n").arg(sentences))
-                    .toUtf8());
+        writeText(m_sections,
+                  QStringLiteral("<details class=\"session\"%1>\n<summary><strong>%2 <span "
+                                 "class=\"file\">%3</span></strong>\n%4</summary>\n<div "
+                                 "class=\"picture\" tabindex=\"0\" role=\"group\" "
+                                 "aria-label=\"%5\">\n%6</div>\n%7</details>\n")
+                      .arg(m_written++ < unfoldedParts ? QStringLiteral(" open") : QString(),
+                           htmlText(title), htmlText(range), tallies(session, begin, note),
+                           htmlText(Diagnosis::tr("Picture, %1").arg(range)), drawn,
+                           sentences.isEmpty()
+                               ? QStringLiteral("<p class=\"none\">%1</p>\n")
+                                     .arg(htmlText(Diagnosis::tr("No note to tell of.")))
+                               : QStringLiteral("<ol>\n%1</ol>\n").arg(sentences))
+                      .toUtf8());
     }
 }
 
@@ -288,8 +283,8 @@ void ExplanationPage::write(QIODevice& page, const Summary& summary)
     const QStringList rules = m_subject.rules.isEmpty()
         ? QStringList(Diagnosis::tr("None: every note is accepted."))
         : m_subject.rules;
-    writeTo(page, head(title + QStringLiteral(" - ") + m_logs.join(QStringLiteral(", "))));
-    writeTo(
+    writeText(page, head(title + QStringLiteral(" - ") + m_logs.join(QStringLiteral(", "))));
+    writeText(
         page,
         QStringLiteral("<header>\n%1</header>\n<main>\n%2<div class=\"top\">\n%3<section "
                        "class=\"card\">\n<h3>%4 <span class=\"file\">%5</span></h3>\n%6</section>\n"
@@ -304,7 +299,7 @@ void ExplanationPage::write(QIODevice& page, const Summary& summary)
         const QByteArray chunk = m_sections.read(1 << 20);
         if (chunk.isEmpty())
             throw faultOf(m_sections);
-        writeTo(page, chunk);
+        writeText(page, chunk);
     }
-    writeTo(page, "</main>\n</body>\n</html>\n");
+    writeText(page, "</main>\n</body>\n</html>\n");
 }

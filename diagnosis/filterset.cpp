@@ -118,20 +118,25 @@ void FilterSet::addSettings(const ArrayFile& file)
 {
     // Never read through AcceptorSettings: what the list lacks would stay as the list before it
     // left it there.
-    const SettingsList list(file.elements());
+    const SettingsList list(file);
     const auto valueOf = [&list](const QString& group, const QString& key) {
         return list.used(ServiceSetting::find(group, key)).value.toString();
     };
     const auto common = [&valueOf](const QString& key) {
         return valueOf(AcceptorSettings::ACCEPTOR_COMMON_SECTION, key);
     };
-    const auto add = [this, &file](const char* name, const QVariantMap& params) {
+    const auto add = [this, &file, &list](const char* name, const QVariantMap& params) {
         const QJsonObject description{{nameKey, QLatin1String(name)},
                                       {paramsKey, QJsonObject::fromVariantMap(params)}};
         try {
             m_filters.append(checkedFilter(description));
         } catch (const Fault& fault) {
-            throw Fault{QStringLiteral("%1: %2").arg(file.name(), fault.message)};
+            // Of what settings say, only these limits can be too much for a filter.
+            const ServiceSetting limits = ServiceSetting::find(
+                AcceptorSettings::ACCEPTOR_COMMON_SECTION, AcceptorSettings::ATTEMPTS_FILTER);
+            const int element = list.used(limits).element;
+            throw Fault{QStringLiteral("%1: %2").arg(
+                element < 0 ? file.name() : file.place(element), fault.message)};
         }
     };
     const bool acceptAll = common(AcceptorSettings::ACCEPT_ALL) == QLatin1String("1");

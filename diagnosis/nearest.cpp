@@ -3,6 +3,8 @@
 
 #include "nearest.h"
 
+#include "words.h"
+
 #include <QVector>
 
 #include <algorithm>
@@ -30,16 +32,16 @@ int editDistance(const QString& a, const QString& b)
 
 } // namespace
 
-QString nearest(const QString& word, const QStringList& known)
+QString nearestKnown(const QString& word, const QStringList& known)
 {
     QString closest;
     int least = INT_MAX;
     for (const QString& candidate : known) {
         const int distance = editDistance(word, candidate);
-        if (distance < least) {
+        if (distance < least && 2 * distance <= std::max(word.size(), candidate.size())) {
             least = distance;
             closest = candidate;
         }
     }
-    return closest;
+    return least == INT_MAX ? QString() : Diagnosis::tr(" (nearest known: %1)").arg(closest);
 }

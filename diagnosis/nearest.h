@@ -5,5 +5,6 @@
 
 #include <QStringList>
 
-/// The word that is spelled most like this one; the first of several, an empty text of none.
-QString nearest(const QString& word, const QStringList& known);
+/// " (nearest known: WORD)" with the word that is spelled most like this one, the first of several;
+/// an empty text when none has half of its characters.
+QString nearestKnown(const QString& word, const QStringList& known);

@@ -177,8 +177,7 @@ ServiceSetting ServiceSetting::require(const QString& path)
         throw Fault{Diagnosis::tr("\"%1\": expected GROUP/KEY").arg(path)};
     const ServiceSetting setting = find(path.left(slash), path.mid(slash + 1));
     if (!setting.isValid())
-        throw Fault{Diagnosis::tr("unknown setting \"%1\" (nearest known: %2)")
-                        .arg(path, nearestPath(path))};
+        throw Fault{Diagnosis::tr("unknown setting \"%1\"").arg(path) + nearestKnown(path)};
     return setting;
 }
 
@@ -205,14 +204,14 @@ QList<ServiceSetting> ServiceSetting::ofService()
     return settings;
 }
 
-QString ServiceSetting::nearestPath(const QString& path)
+QString ServiceSetting::nearestKnown(const QString& path)
 {
     const QString device = QString::number(deviceOfGroup(path).value_or(0));
     QStringList paths;
     const QList<SettingDescription> descriptions = S::settingDescriptions();
     for (const SettingDescription& row : descriptions)
         paths += row.path().replace(QLatin1Char('#'), device);
-    return nearest(path, paths);
+    return ::nearestKnown(path, paths);
 }
 
 bool ServiceSetting::isGroupKnown(const QString& group)
@@ -264,13 +263,14 @@ bool ServiceSetting::accepts(const QString& value) const
     return !m_description.isValid() || m_description.accepts(value);
 }
 
-QVariant ServiceSetting::listValue(const QString& text) const
+JsonText ServiceSetting::listValue(const QString& text) const
 {
-    const QVariant like = facts().unset.value(m_device ? ofAnyDevice(path()) : path());
-    QVariant value = text;
-    if (like.userType() == QMetaType::Bool)
-        value = QVariant(text).toBool();
-    else if (like.userType() == QMetaType::Int || like.userType() == QMetaType::LongLong)
-        value = text.toLongLong();
-    return value.toString() == text ? value : QVariant(text);
+    const int type = facts().unset.value(m_device ? ofAnyDevice(path()) : path()).userType();
+    const qint64 number = text.toLongLong();
+    if ((type == QMetaType::Int || type == QMetaType::LongLong) && QString::number(number) == text)
+        return number;
+    if (type == QMetaType::Bool
+        && (text == QLatin1String("true") || text == QLatin1String("false")))
+        return text == QLatin1String("true");
+    return text;
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "jsontext.h"
 #include "settingdescription.h"
 
 #include <QString>
@@ -39,8 +40,8 @@ public:
     static QList<ServiceSetting> ofDevice(int device, int model, const QString& interfaceType);
     static QList<ServiceSetting> ofService();
 
-    /// The known path that is spelled most like this one.
-    static QString nearestPath(const QString& path);
+    /// The known path that is spelled most like this one, as nearestKnown() says it.
+    static QString nearestKnown(const QString& path);
 
     /// Whether some setting is read in this group.
     static bool isGroupKnown(const QString& group);
@@ -77,9 +78,9 @@ public:
     QString readAs(const QString& value) const;
     bool accepts(const QString& value) const;
 
-    /// The text as the type that it has in a list of AcceptorSettings; as text where it does not
-    /// fit.
-    QVariant listValue(const QString& text) const;
+    /// The text as JSON of the type that it has in a list of AcceptorSettings; as text where it
+    /// does not fit.
+    JsonText listValue(const QString& text) const;
 
 private:
     explicit ServiceSetting(const SettingDescription& description);

@@ -3,14 +3,16 @@
 
 #include "settingscheck.h"
 
+#include "acceptorattemptfilteritem.h"
 #include "acceptorsettings.h"
 #include "droutemapitem.h"
+#include "filterfactory.h"
+#include "jsonreader_p.h"
 #include "settingslist.h"
 #include "words.h"
 
-#include <QJsonObject>
-
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -56,7 +58,8 @@ class Check
 {
 public:
     explicit Check(const ArrayFile& file)
-        : m_list(file.elements())
+        : m_file(file)
+        , m_list(file)
     {
     }
 
@@ -85,6 +88,13 @@ private:
     void checkElement(int index)
     {
         const SettingsList::Element& element = m_list.elements().at(index);
+        for (const char* const key : {"group", "key", "value"}) {
+            if (m_file.isDoubled(index, QLatin1String(key))) {
+                report(Finding::Error, index, element.path(),
+                       Diagnosis::tr("has \"%1\" more than once: which one counts is not certain")
+                           .arg(QLatin1String(key)));
+            }
+        }
         if (!element.hasGroup) {
             const bool isMeant = !element.key.isEmpty();
             return report(isMeant ? Finding::Error : Finding::Warning, index, element.key,
@@ -93,8 +103,8 @@ private:
         if (!element.setting.isValid()) {
             const bool isMeant = ServiceSetting::isGroupKnown(element.group);
             return report(isMeant ? Finding::Error : Finding::Warning, index, element.path(),
-                          Diagnosis::tr("is ignored (nearest known: %1)")
-                              .arg(ServiceSetting::nearestPath(element.path())));
+                          Diagnosis::tr("is ignored")
+                              + ServiceSetting::nearestKnown(element.path()));
         }
         const SettingsList::Used used = m_list.used(element.setting);
         checkPlace(index, element, used);
@@ -137,13 +147,33 @@ private:
             return report(level, index, element.path(),
                           Diagnosis::tr("has no text or number: reads as \"%1\"").arg(read));
         }
-        if (setting.accepts(text))
+        if (setting.accepts(text)) {
+            if (setting.description().kind() == SettingDescription::AttemptsLimits)
+                checkLimits(index, element, level);
             return;
+        }
         QString fault = Diagnosis::tr("\"%1\" is %2")
                             .arg(shortened(text), faultOf(setting.description(), text));
         if (read != text)
             fault += Diagnosis::tr(": reads as \"%1\"").arg(shortened(read));
         report(level, index, element.path(), fault);
+    }
+
+    // The filter has fewer bits than the setting.
+    void checkLimits(int index, const SettingsList::Element& element, Finding::Level level)
+    {
+        const QVariantList limits = JsonReader::readList(element.text());
+        for (const QVariant& map : limits) {
+            AcceptorAttemptFilterItem limit;
+            limit.loadFromMap(map.toMap());
+            const std::unique_ptr<AbstractFilter> filter(FilterFactory::createFilter(
+                QLatin1String(filters::ATTEMPTS_FILTER), limit.toMap()));
+            if (filter->property("attempts").toInt() != limit.attempts()) {
+                report(level, index, element.path(),
+                       Diagnosis::tr("the filter cannot hold %1 attempts (\"denom\" %2)")
+                           .arg(QString::number(limit.attempts()), QString::number(limit.denom())));
+            }
+        }
     }
 
     void checkCount()
@@ -253,6 +283,7 @@ private:
         }
     }
 
+    const ArrayFile& m_file;
     const SettingsList m_list;
     QList<Finding> m_findings;
     QHash<QString, int> m_addresses; // the device that has it

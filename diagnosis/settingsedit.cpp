@@ -8,7 +8,6 @@
 #include "nearest.h"
 #include "words.h"
 
-#include <QJsonObject>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -19,24 +18,28 @@ using S = AcceptorSettings;
 
 const QString valueKey = QStringLiteral("value");
 
-QString textOf(const QJsonValue& value)
-{
-    return value.toVariant().toString();
-}
-
 // The value in the element's own type where it means the same in it, else in that of the list that
 // AcceptorSettings writes.
-QJsonValue valueLike(const QJsonValue& old, const ServiceSetting& setting, const QString& text)
+JsonText valueLike(const QVariant& old, const ServiceSetting& setting, const QString& text)
 {
-    bool isNumber = false;
-    const qint64 number = text.toLongLong(&isNumber);
-    if (old.isString())
+    const qint64 number = text.toLongLong();
+    const bool wasNumber =
+        old.userType() == QMetaType::LongLong || old.userType() == QMetaType::Double;
+    if (old.userType() == QMetaType::QString)
         return text;
-    if (old.isDouble() && isNumber && textOf(number) == text)
+    if (wasNumber && QString::number(number) == text)
         return number;
-    if (old.isBool() && (text == QLatin1String("true") || text == QLatin1String("false")))
+    if (old.userType() == QMetaType::Bool
+        && (text == QLatin1String("true") || text == QLatin1String("false")))
         return text == QLatin1String("true");
-    return QJsonValue::fromVariant(setting.listValue(text));
+    return setting.listValue(text);
+}
+
+QVector<ArrayFile::Member> elementOf(const ServiceSetting& setting, const QString& value)
+{
+    return {{QStringLiteral("group"), setting.group()},
+            {QStringLiteral("key"), setting.key()},
+            {valueKey, setting.listValue(value)}};
 }
 
 // The number of a model that is called by its number or name.
@@ -60,8 +63,8 @@ int requireModel(const QString& text)
     const QList<SupportedDevice> catalogue = Acceptors::supportedDevices();
     for (const SupportedDevice& row : catalogue)
         names += row.value(QStringLiteral("protocol")).toString();
-    throw Fault{Diagnosis::tr("\"%1\" is no model of the catalogue (nearest known: %2)")
-                    .arg(text, nearest(text, names))};
+    throw Fault{Diagnosis::tr("\"%1\" is no model of the catalogue").arg(text)
+                + nearestKnown(text, names)};
 }
 
 // Models decide which settings a device has, interfaces the rest.
@@ -95,15 +98,17 @@ SettingsEdit::SettingsEdit(const ArrayFile& file)
 {
 }
 
-void SettingsEdit::record(const QString& path, const QVariant& before, const QVariant& after)
+void SettingsEdit::record(const QString& path, const QVariant& before, const QVariant& after,
+                          const QString& from)
 {
     const int known = m_changeOfPath.value(path, -1);
     if (known >= 0) {
         m_changes[known].after = after;
+        m_changes[known].from = from;
         return;
     }
     m_changeOfPath.insert(path, int(m_changes.size()));
-    m_changes += Change{path, before, after};
+    m_changes += Change{path, before, after, from};
 }
 
 QList<SettingsEdit::Change> SettingsEdit::changes() const
@@ -155,7 +160,7 @@ void SettingsEdit::setValue(const ServiceSetting& asked, const QString& value)
     if (used.isListed())
         setElement(now, used.element, used.setting, text);
     else
-        insert(used.setting, text);
+        insert(used.setting, {text, {}});
 }
 
 void SettingsEdit::setElement(const SettingsList& list, int element, const ServiceSetting& setting,
@@ -165,18 +170,15 @@ void SettingsEdit::setElement(const SettingsList& list, int element, const Servi
     // As it is read, it may be so already.
     if (old == value || (setting.accepts(old) && setting.readAs(old) == value))
         return;
-    const QJsonValue listed = m_file.elements().at(element).toObject().value(valueKey);
+    const QVariant listed = list.elements().at(element).value;
     m_file.setMember(element, valueKey, valueLike(listed, setting, value));
     record(setting.path(), old, value);
 }
 
-void SettingsEdit::insert(const ServiceSetting& setting, const QString& value)
+void SettingsEdit::insert(const ServiceSetting& setting, const Start& start)
 {
-    m_file.insert(positionFor(setting),
-                  {{QStringLiteral("group"), setting.group()},
-                   {QStringLiteral("key"), setting.key()},
-                   {valueKey, QJsonValue::fromVariant(setting.listValue(value))}});
-    record(setting.path(), {}, value);
+    m_file.insert(positionFor(setting), elementOf(setting, start.value));
+    record(setting.path(), {}, start.value, start.from);
 }
 
 // Where AcceptorSettings would write it: behind what stands before it in a device's settings or in
@@ -249,13 +251,13 @@ void SettingsEdit::setUp(int device, const SettingsList& before)
     remove(now, needless);
     for (const ServiceSetting& setting : needed) {
         if (!wasNeeded(setting) && !list().used(setting).isListed())
-            insert(setting, startingValue(setting, before));
+            insert(setting, startOf(setting, before));
     }
 }
 
 // What a setting that a device gets begins with: the value that the device had under the same key,
 // or the built-in default, if need be that of another protocol.
-QString SettingsEdit::startingValue(const ServiceSetting& setting, const SettingsList& before)
+SettingsEdit::Start SettingsEdit::startOf(const ServiceSetting& setting, const SettingsList& before)
 {
     const QList<SettingDescription> descriptions = S::settingDescriptions();
     QList<ServiceSetting> namesakes;
@@ -267,16 +269,16 @@ QString SettingsEdit::startingValue(const ServiceSetting& setting, const Setting
     for (const ServiceSetting& namesake : std::as_const(namesakes)) {
         const SettingsList::Used used = before.used(namesake);
         if (used.isListed() && used.isForDevice && used.setting.key() == setting.key())
-            return used.value.toString();
+            return {used.value.toString(), used.setting.path()};
     }
     if (setting.defaultValue().isValid())
-        return setting.defaultValue().toString();
+        return {setting.defaultValue().toString(), {}};
     for (const ServiceSetting& namesake : std::as_const(namesakes)) {
         if (!namesake.defaultValue().isValid())
             continue;
         m_notes += Diagnosis::tr("%1 has no built-in default and gets that of %2")
                        .arg(setting.path(), namesake.path());
-        return namesake.defaultValue().toString();
+        return {namesake.defaultValue().toString(), {}};
     }
     return {};
 }
@@ -315,13 +317,10 @@ void SettingsEdit::makeDevice(int device, int model, const QList<Assignment>& as
     }
     int position = -1;
     for (const ServiceSetting& setting : ServiceSetting::ofDevice(device, model, interfaceType)) {
-        QString value = setting.key() == S::DEVICE_ID ? id : startingValue(setting, before);
+        QString value = setting.key() == S::DEVICE_ID ? id : startOf(setting, before).value;
         if (position < 0)
             position = positionFor(setting);
-        m_file.insert(position++,
-                      {{QStringLiteral("group"), setting.group()},
-                       {QStringLiteral("key"), setting.key()},
-                       {valueKey, QJsonValue::fromVariant(setting.listValue(value))}});
+        m_file.insert(position++, elementOf(setting, value));
         record(setting.path(), {}, value);
     }
     for (const Assignment& assignment : ranked(assignments))
@@ -353,8 +352,8 @@ ServiceSetting SettingsEdit::settingOfDevice(int device, const QString& key) con
         if (row.appliesTo(now.model(device), now.interfaceType(device)))
             known += row.key();
     }
-    throw Fault{Diagnosis::tr("a device of this model has no \"%1\" (nearest known: %2)")
-                    .arg(key, nearest(key, known))};
+    throw Fault{Diagnosis::tr("a device of this model has no \"%1\"").arg(key)
+                + nearestKnown(key, known)};
 }
 
 void SettingsEdit::removeDevice(int device)

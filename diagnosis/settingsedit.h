@@ -31,6 +31,7 @@ public:
         QString path;
         QVariant before;
         QVariant after;
+        QString from; ///< the setting whose value an added one has taken over; empty for none
     };
 
     explicit SettingsEdit(const ArrayFile& file);
@@ -63,21 +64,29 @@ public:
     QList<SettingsFinding> newFindings() const;
 
 private:
-    SettingsList list() const { return SettingsList(m_file.elements()); }
+    /// The value that an added setting begins with, and the setting that it is taken over from.
+    struct Start
+    {
+        QString value;
+        QString from;
+    };
+
+    SettingsList list() const { return SettingsList(m_file); }
 
     void setValue(const ServiceSetting& asked, const QString& value);
     void setElement(const SettingsList& list, int element, const ServiceSetting& setting,
                     const QString& value);
-    void insert(const ServiceSetting& setting, const QString& value);
+    void insert(const ServiceSetting& setting, const Start& start);
     int positionFor(const ServiceSetting& setting) const;
     void remove(const SettingsList& list, const QVector<int>& elements);
     void setUp(int device, const SettingsList& before);
-    QString startingValue(const ServiceSetting& setting, const SettingsList& before);
+    Start startOf(const ServiceSetting& setting, const SettingsList& before);
     void makeDevice(int device, int model, const QList<Assignment>& assignments);
     QString renumbered(const SettingsFinding& finding) const;
     ServiceSetting settingOfDevice(int device, const QString& key) const;
     void requireDevice(int device) const;
-    void record(const QString& path, const QVariant& before, const QVariant& after);
+    void record(const QString& path, const QVariant& before, const QVariant& after,
+                const QString& from = {});
 
     const ArrayFile m_original;
     ArrayFile m_file;

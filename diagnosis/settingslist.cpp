@@ -97,11 +97,11 @@ ArrayFile readSettingsFile(TextInput& input)
     throw Fault{Diagnosis::tr("%1: not a settings list: looks like %2").arg(input.name(), looks)};
 }
 
-SettingsList::SettingsList(const QJsonArray& elements)
+SettingsList::SettingsList(const ArrayFile& file)
 {
-    m_elements.reserve(elements.size());
-    for (const QJsonValue& value : elements) {
-        const QVariantMap map = value.toVariant().toMap();
+    m_elements.reserve(int(file.values().size()));
+    for (const QVariant& value : file.values()) {
+        const QVariantMap map = value.toMap();
         Element element;
         element.hasGroup = map.contains(QStringLiteral("group"));
         element.group = map.value(QStringLiteral("group")).toString();

@@ -50,7 +50,7 @@ public:
         bool isCertain() const { return isListed() || value == setting.unsetValue(); }
     };
 
-    explicit SettingsList(const QJsonArray& elements);
+    explicit SettingsList(const ArrayFile& file);
 
     const QVector<Element>& elements() const { return m_elements; }
 

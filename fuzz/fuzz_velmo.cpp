@@ -100,10 +100,10 @@ void checkSettingsFile(const ArrayFile& file)
         SettingsEdit edit(file);
         CHECK(edit.file().text() == file.text());
         edit.set({{QStringLiteral("acceptor_common/maxSumm"), QStringLiteral("12345")}});
-        AcceptorSettings().setList(edit.file().elements().toVariantList());
+        AcceptorSettings().setList(edit.file().values());
         CHECK(AcceptorSettings::maxSumm() == 12345);
-        const auto devices = SettingsList(file.elements()).devices();
-        CHECK(SettingsList(edit.file().elements()).devices().keys() == devices.keys());
+        const auto devices = SettingsList(file).devices();
+        CHECK(SettingsList(edit.file()).devices().keys() == devices.keys());
     } catch (const Fault& fault) {
         CHECK(!fault.message.isEmpty());
     }

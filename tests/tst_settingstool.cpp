@@ -3,6 +3,7 @@
 
 #include "acceptors.h"
 #include "acceptorsettings.h"
+#include "nearest.h"
 #include "settingscheck.h"
 #include "settingsedit.h"
 #include "velmorun.h"
@@ -15,6 +16,8 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -298,6 +301,141 @@ private Q_SLOTS:
         QCOMPARE(contentOf(m_list) == sampleText, added.isEmpty() && removed.isEmpty());
     }
 
+    // A value in the list as JSON, what it is set to, the value then.
+    void wholeNumbersAreExact_data()
+    {
+        addRows(R"(
+            acceptor_common/maxSumm    | 1                   | 9007199254740993    | 9007199254740993
+            acceptor_common/maxSumm    | 9223372036854775807 | 9223372036854775806 | 9223372036854775806
+            acceptor_common/maxSumm    | 9007199254740992    | 9007199254740993    | 9007199254740993
+            acceptor_common/maxSumm    | "1"                 | 9223372036854775807 | "9223372036854775807"
+            acceptor_common/maxSumm    |                     | 9223372036854775807 | 9223372036854775807
+            service/reset_idle_timeout | 2                   | 9007199254740993    | 9007199254740993
+            service/reset_idle_timeout |                     | 9007199254740993    | 9007199254740993)"_s);
+    }
+
+    void wholeNumbersAreExact()
+    {
+        const auto [path, old, value, expected] = cells<4>();
+        const QString element = R"({"group":"%1","key":"%2","value":)"_s.arg(
+            path.section(QLatin1Char('/'), 0, 0), path.section(QLatin1Char('/'), 1));
+        const QString rest = R"({"group":"service","key":"devices_count","value":0}])"_s;
+        writeFile(m_list, "["_s + (old.isEmpty() ? QString() : element + old + "},"_s) + rest);
+        const VelmoRun run = velmo({"settings"_s, "set"_s, m_list, path + "="_s + value});
+        QVERIFY2(run.exitCode == 0, qPrintable(run.err));
+        const QString list = QString::fromUtf8(contentOf(m_list));
+        QVERIFY2(list.contains(element + expected + "}"_s), qPrintable(list));
+        QCOMPARE(velmo({"settings"_s, "get"_s, m_list, path}).out, value + "\n"_s);
+        const QString json = velmo({"settings"_s, "show"_s, m_list, "--json"_s}).out;
+        QVERIFY2(json.contains(value), qPrintable(json));
+        const QString map = velmo({"settings"_s, "show"_s, m_list, "--formatted"_s}).out;
+        QVERIFY2(path.startsWith("service"_s) || map.contains("\"maxSumm\": "_s + value),
+                 qPrintable(map));
+    }
+
+    void editsAtOnceLoseNothing()
+    {
+        const QStringList edits{"acceptor_common/maxSumm=1"_s, "acceptor_common/acceptAll=0"_s,
+                                "device0/ccnet/response_time=7"_s,
+                                "acceptor_common/reset_stats=1"_s,
+                                "device0/device/device_name=x"_s};
+        for (int round = 0; round < 5; ++round) {
+            init();
+            std::array<QProcess, 5> runs;
+            for (int i = 0; i < edits.size(); ++i)
+                runs[size_t(i)].start(QStringLiteral(VELMO),
+                                      {"settings"_s, "set"_s, m_list, edits.at(i)});
+            for (QProcess& run : runs)
+                QVERIFY(run.waitForFinished() && run.exitCode() == 0);
+            const QString list = QString::fromUtf8(contentOf(m_list));
+            QCOMPARE(
+                Lines(list.toUtf8()).without(Lines(contentOf(sample("settings.json"_s)))).size(),
+                edits.size());
+        }
+    }
+
+    void replacedFileKeepsItsMode()
+    {
+        const QByteArray name = QFile::encodeName(m_list);
+        for (const mode_t mode : {0640U, 02640U, 04755U, 0400U, 0444U, 070U}) {
+            if (geteuid() != 0 && (mode & S_IWUSR) == 0)
+                continue; // which others than root may not change
+            init();
+            QCOMPARE(chmod(name.constData(), mode), 0);
+            QCOMPARE(velmo({"settings"_s, "set"_s, m_list, "acceptor_common/maxSumm=1"_s}).exitCode,
+                     0);
+            struct stat found = {};
+            QCOMPARE(stat(name.constData(), &found), 0);
+            QCOMPARE(found.st_mode & 07777, mode);
+        }
+    }
+
+    void whatIsNoPlainFileIsNotReplaced()
+    {
+        const auto set = [](const QStringList& words) {
+            return velmo(QStringList{"settings"_s, "set"_s} + words
+                         + QStringList("acceptor_common/maxSumm=1"_s));
+        };
+        const QString pipe = m_folder.filePath("pipe"_s);
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QVERIFY(set({pipe}).err.contains("is no regular file"_s));
+        const VelmoRun piped = set({m_list, "-o"_s, "/dev/stdout"_s});
+        QVERIFY(piped.out.startsWith("["_s) && piped.out.endsWith("]\n"_s));
+        QCOMPARE(piped.err, "changed acceptor_common/maxSumm: 15000 -> 1\n"_s);
+
+        const QByteArray before = contentOf(m_list);
+        const QString twin = m_folder.filePath("twin.json"_s);
+        QCOMPARE(::link(QFile::encodeName(m_list).constData(), QFile::encodeName(twin).constData()),
+                 0);
+        QVERIFY(set({m_list}).err.contains("hard links"_s));
+        QCOMPARE(contentOf(m_list), before);
+        QFile::remove(twin);
+        QCOMPARE(set({m_list, "-o"_s, m_list}).exitCode, 0);
+        QCOMPARE(velmo({"settings"_s, "get"_s, m_list, "acceptor_common/maxSumm"_s}).out, "1\n"_s);
+    }
+
+    void carriedOverValuesAreSaidToBe()
+    {
+        const VelmoRun run = velmo({"settings"_s, "set"_s, m_list, "device0/device/device_id=6"_s,
+                                    "device0/id003/rest_interval=5"_s});
+        QVERIFY2(run.out.contains("\ncarried over device0/id003/response_time: 1000 (from "
+                                  "device0/ccnet/response_time)\n"_s),
+                 qPrintable(run.out));
+        QVERIFY(run.out.contains("\nadded device0/id003/rest_interval: 5\n"_s));
+    }
+
+    // A word, those that are known, the one that is told.
+    void nearestWordIsTheFirstThatIsAlike_data()
+    {
+        addRows(R"(
+            bat   | cat,rat | cat
+            bat   | rat,cat | rat
+            bat   | bats,bat,bar | bat
+            abcd  | abxx    | abxx
+            abcd  | axxx    |
+            abcd  |         |)"_s);
+    }
+
+    void nearestWordIsTheFirstThatIsAlike()
+    {
+        const auto [word, known, nearest] = cells<3>();
+        QCOMPARE(nearestKnown(word, known.split(QLatin1Char(','))),
+                 nearest.isEmpty() ? QString() : " (nearest known: %1)"_s.arg(nearest));
+    }
+
+    void missingDevicesAreCounted()
+    {
+        for (const int missing : {16, 17, 20}) {
+            const QByteArray list = R"([{"group":"service","key":"devices_count","value":)"
+                + QByteArray::number(missing) + "}]";
+            const VelmoRun run = velmo({"settings"_s, "check"_s, "-"_s}, list);
+            QCOMPARE(run.out.count("is missing, but below"_s), 16);
+            QCOMPARE(run.out.contains(
+                         "device16: and more up to device%1 are missing"_s.arg(missing - 1)),
+                     missing > 16);
+        }
+    }
+
     void removedDeviceLeavesNoGap()
     {
         const VelmoRun run = velmo({"settings"_s, "remove-device"_s, m_list, "1"_s});
@@ -382,6 +520,10 @@ private Q_SLOTS:
             {"group":"acceptor_common","key":"reset_stats","value":null}             | error: acceptor_common/reset_stats: has no text or number: reads as "0"
             {"group":"acceptor_common","key":"attempts_filter_settings","value":"x"} | error: acceptor_common/attempts_filter_settings: "x" is no JSON array of limits
             {"group":"acceptor_common","key":"attempts_filter_settings","value":"[{\u0022denom\u0022:1}]"} | reads as "[{"attempts":"1","denom":"1"}]"
+            {"group":"acceptor_common","key":"attempts_filter_settings","value":"[{\u0022denom\u0022:1,\u0022attempts\u0022:127}]"} |
+            {"group":"acceptor_common","key":"attempts_filter_settings","value":"[{\u0022denom\u0022:5,\u0022attempts\u0022:128}]"} | error: acceptor_common/attempts_filter_settings: the filter cannot hold 128 attempts ("denom" 5)
+            {"group":"acceptor_common","key":"maxSumm","value":5,"value":3}          | error: acceptor_common/maxSumm: has "value" more than once
+            {"group":"acceptor_common","key":"maxSumm","\u0076alue":5,"value":5}     | error: acceptor_common/maxSumm: has "value" more than once
             {"group":"dispenser","key":"route_map","value":"[{}]"}                   | "[{}]" is no JSON array of whole routes; 0 can be read
             {"group":"device0/device","key":"device_name","value":{}}                | error: device0/device/device_name: has no text or number: reads as ""
             {"group":"device0/hw_interface","key":"flowcontrol","value":"rts"}       | "rts" is none of hardware, xonxoff, none: reads as "none"
@@ -450,11 +592,11 @@ private Q_SLOTS:
             }
             const ArrayFile file = arrayFile(random.textOf(list));
             SettingsEdit edit(file);
-            const SettingsList::Used used = random.of(SettingsList(file.elements()).used());
+            const SettingsList::Used used = random.of(SettingsList(file).used());
             const QString path = used.setting.path();
             if (!used.setting.description().isRead())
                 continue;
-            const int devices = SettingsList(file.elements()).devices().lastKey() + 1;
+            const int devices = SettingsList(file).devices().lastKey() + 1;
             const int action = isTidy ? random.below(4) : 3;
             if (action == 0)
                 edit.addDevice(
@@ -466,9 +608,8 @@ private Q_SLOTS:
                 edit.removeDevice(devices - 1);
             else
                 edit.set({{path, random.valueFor(used.setting.description())}});
-            const QMap<QString, QString> before = modelValues(file.elements().toVariantList());
-            const QMap<QString, QString> after =
-                modelValues(edit.file().elements().toVariantList());
+            const QMap<QString, QString> before = modelValues(file.values());
+            const QMap<QString, QString> after = modelValues(edit.file().values());
             QStringList said;
             for (const SettingsEdit::Change& change : edit.changes()) {
                 if (!change.path.endsWith("/debug/port_logging"_s))
@@ -511,11 +652,11 @@ private Q_SLOTS:
 
         velmo({"settings"_s, "set"_s, m_list, "acceptor_common/acceptAll=0"_s});
         QVERIFY(velmo(arguments, session).out.contains("AcceptFilter"_s));
-        velmo({"settings"_s, "set"_s, m_list,
+        velmo({"settings"_s, "set"_s, m_list, "-f"_s,
                R"(acceptor_common/attempts_filter_settings=[{"denom":1,"attempts":200}])"_s});
         const VelmoRun tooMany = velmo(arguments, session);
         QCOMPARE(tooMany.exitCode, 2);
-        QVERIFY(tooMany.err.startsWith("velmo: "_s + m_list + ": AttemptsFilter: parameter"_s));
+        QVERIFY(tooMany.err.startsWith("velmo: "_s + m_list + ":5: AttemptsFilter: parameter"_s));
     }
 
 private:

@@ -7,6 +7,11 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <array>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace {
 
 const QByteArray published = R"({"device_states":[{"device_id":1,"thread_id":2,"enabled":true,)"
@@ -198,6 +203,77 @@ private Q_SLOTS:
         QVERIFY2(run.out.contains(QString(output).replace("\\n"_s, "\n"_s)), qPrintable(run.out));
     }
 
+    // What --html names, the fault, none where it is written to.
+    void pageOverwritesNoInput_data()
+    {
+        addRows(R"(
+            log.jsonl    | log.jsonl: is an input too
+            link.jsonl   | link.jsonl: is an input too
+            twin.jsonl   | twin.jsonl: is an input too
+            filters.json | filters.json: is an input too
+            page.html    | page.html: File too large
+            pipe         |
+            /dev/stdout  |)"_s);
+    }
+
+    void pageOverwritesNoInput()
+    {
+        const auto [page, fault] = cells<2>();
+        const QDir folder(
+            QDir(m_folder.path()).filePath(page.section(QLatin1Char('/'), -1) + "-d"_s));
+        QVERIFY(QDir().mkpath(folder.path()));
+        const QString log = folder.filePath("log.jsonl"_s);
+        const QString filters = folder.filePath("filters.json"_s);
+        QVERIFY(QFile::copy(sample("jam.jsonl"_s), log));
+        QVERIFY(QFile::copy(sample("filters.json"_s), filters));
+        QVERIFY(QFile::link(log, folder.filePath("link.jsonl"_s)));
+        QCOMPARE(::link(QFile::encodeName(log).constData(),
+                        QFile::encodeName(folder.filePath("twin.jsonl"_s)).constData()),
+                 0);
+        writeFile(folder.filePath("page.html"_s), "old"_s);
+        // Open at both ends, the pipe takes it all.
+        const QByteArray pipe = QFile::encodeName(folder.filePath("pipe"_s));
+        QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
+        const int reader = ::open(pipe.constData(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
+        QVERIFY(reader >= 0);
+        // No file of more than some bytes can be written.
+        QProcess shell;
+        shell.setWorkingDirectory(folder.path());
+        const QString script = R"(trap '' XFSZ
+            [ $1 = page.html ] && ulimit -f 4
+            exec "$0" explain log.jsonl --filters filters.json --summary --html $1)"_s;
+        shell.start("sh"_s, {"-c"_s, script, QStringLiteral(VELMO), page});
+        QVERIFY(shell.waitForFinished());
+        const QString error = QString::fromUtf8(shell.readAllStandardError());
+        QVERIFY2(fault.isEmpty() ? error.isEmpty() : error.contains(fault), qPrintable(error));
+        QCOMPARE(shell.exitCode(), fault.isEmpty() ? 0 : 2);
+        QCOMPARE(shell.readAllStandardOutput().endsWith("</html>\n"), page == "/dev/stdout"_s);
+        QFile piped;
+        QVERIFY(piped.open(reader, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle));
+        QCOMPARE(piped.readAll().endsWith("</html>\n"), page == "pipe"_s);
+        const std::array<QStringList, 3> files{{{log, sample("jam.jsonl"_s)},
+                                                {filters, sample("filters.json"_s)},
+                                                {folder.filePath("page.html"_s), {}}}};
+        for (const QStringList& pair : files) {
+            QFile file(pair.at(0));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QFile original(pair.at(1));
+            QCOMPARE(file.readAll(),
+                     original.open(QIODevice::ReadOnly) ? original.readAll() : QByteArray("old"));
+        }
+    }
+
+    void wrongBytesInArgumentsAreRefused()
+    {
+        QProcess shell;
+        const QString script = R"(exec "$0" settings set -n "$1" \
+            device0/device/device_name=$(printf 'a\377'))"_s;
+        shell.start("sh"_s, {"-c"_s, script, QStringLiteral(VELMO), sample("settings.json"_s)});
+        QVERIFY(shell.waitForFinished());
+        QCOMPARE(shell.exitCode(), 2);
+        QVERIFY(shell.readAllStandardError().contains("wrong UTF-8"));
+    }
+
     void badInputIsNamed_data()
     {
         // Command, input, fault.
@@ -214,6 +290,7 @@ private Q_SLOTS:
             filters x           |                            | unknown filter "x" (known: SessionSumFilter,
             reprot x            |                            | unknown command "reprot" (nearest known: report)
             settings shw x      |                            | unknown command "settings shw" (nearest known: settings show)
+            setings             |                            | unknown command "setings" (nearest known: settings)
             settings            |                            | usage: velmo settings ... (known: settings show,
             report --nmes x     |                            | unknown option --nmes (nearest known: --names)
             devices --map       |                            | unknown option --map (nearest known: --

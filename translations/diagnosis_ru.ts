@@ -292,10 +292,6 @@
         <translation>&quot;%1&quot;: ожидается ГРУППА/КЛЮЧ</translation>
     </message>
     <message>
-        <source>unknown setting &quot;%1&quot; (nearest known: %2)</source>
-        <translation>неизвестная настройка &quot;%1&quot; (самая похожая: %2)</translation>
-    </message>
-    <message>
         <source>out of its range %1 to %2</source>
         <translation>вне допустимых границ от %1 до %2</translation>
     </message>
@@ -330,10 +326,6 @@
     <message>
         <source>is skipped: no &quot;group&quot;</source>
         <translation>пропускается: нет &quot;group&quot;</translation>
-    </message>
-    <message>
-        <source>is ignored (nearest known: %1)</source>
-        <translation>не учитывается (самая похожая: %1)</translation>
     </message>
     <message>
         <source>is set again by a later element, to the same</source>
@@ -408,10 +400,6 @@
         <translation>предупреждение</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no model of the catalogue (nearest known: %2)</source>
-        <translation>&quot;%1&quot; нет среди моделей каталога (самая похожая: %2)</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot;: expected SETTING=VALUE</source>
         <translation>&quot;%1&quot;: ожидается НАСТРОЙКА=ЗНАЧЕНИЕ</translation>
     </message>
@@ -426,10 +414,6 @@
     <message>
         <source>%1 is not in the list</source>
         <translation>%1 нет в списке</translation>
-    </message>
-    <message>
-        <source>a device of this model has no &quot;%1&quot; (nearest known: %2)</source>
-        <translation>у устройства этой модели нет &quot;%1&quot; (самая похожая: %2)</translation>
     </message>
     <message>
         <source>%1: there is no %2</source>
@@ -1204,6 +1188,38 @@
     <message>
         <source>%n stuck</source>
         <translation>застряло: %n</translation>
+    </message>
+    <message>
+        <source> (nearest known: %1)</source>
+        <translation> (похоже на %1)</translation>
+    </message>
+    <message>
+        <source>unknown setting &quot;%1&quot;</source>
+        <translation>неизвестная настройка &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>has &quot;%1&quot; more than once: which one counts is not certain</source>
+        <translation>содержит &quot;%1&quot; несколько раз: какое из них действует, неизвестно</translation>
+    </message>
+    <message>
+        <source>is ignored</source>
+        <translation>не учитывается</translation>
+    </message>
+    <message>
+        <source>the filter cannot hold %1 attempts (&quot;denom&quot; %2)</source>
+        <translation>фильтр не вмещает число попыток %1 (&quot;denom&quot; %2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no model of the catalogue</source>
+        <translation>&quot;%1&quot; нет среди моделей каталога</translation>
+    </message>
+    <message>
+        <source>a device of this model has no &quot;%1&quot;</source>
+        <translation>у устройства этой модели нет &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>стандартный вывод</translation>
     </message>
     <message>
         <source>stuck in the device</source>

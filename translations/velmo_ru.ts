@@ -28,14 +28,6 @@
         <translation>вызов: velmo %1 ... (есть: %2)</translation>
     </message>
     <message>
-        <source>unknown command &quot;%1&quot; (nearest known: %2)</source>
-        <translation>неизвестная команда &quot;%1&quot; (самая похожая: %2)</translation>
-    </message>
-    <message>
-        <source>unknown option %1 (nearest known: %2)</source>
-        <translation>неизвестный параметр %1 (самый похожий: %2)</translation>
-    </message>
-    <message>
         <source>velmo %1 (library built %2)</source>
         <translation>velmo %1 (библиотека собрана %2)</translation>
     </message>
@@ -710,6 +702,46 @@
     <message>
         <source>the file ends in the middle of a line</source>
         <translation>файл обрывается посреди строки</translation>
+    </message>
+    <message>
+        <source>unknown command &quot;%1&quot;</source>
+        <translation>неизвестная команда &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>неизвестный параметр %1</translation>
+    </message>
+    <message>
+        <source>argument %1, &quot;%2&quot;: wrong UTF-8</source>
+        <translation>аргумент %1, &quot;%2&quot;: неверный UTF-8</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>стандартный вывод</translation>
+    </message>
+    <message>
+        <source>%1: is an input too; not overwritten</source>
+        <translation>%1: этот файл читается; он не перезаписан</translation>
+    </message>
+    <message>
+        <source>%1: has further names (hard links), which would keep the old content; not written</source>
+        <translation>%1: у файла есть другие имена (жёсткие ссылки), под которыми осталось бы прежнее содержимое; не записано</translation>
+    </message>
+    <message>
+        <source>%1: is no regular file to change; --output says where the changed list goes</source>
+        <translation>%1: это не обычный файл, его нельзя изменить; куда записать изменённый список, указывает --output</translation>
+    </message>
+    <message>
+        <source>%1: another program is changing it</source>
+        <translation>%1: его изменяет другая программа</translation>
+    </message>
+    <message>
+        <source>carried over %1: %2 (from %3)</source>
+        <translation>перенесено %1: %2 (из %3)</translation>
+    </message>
+    <message>
+        <source>%1: was changed meanwhile; not written</source>
+        <translation>%1: тем временем изменён; не записано</translation>
     </message>
     <message>
         <source>Skip bad lines and what cannot be read of a log; the exit code is still 2.</source>

@@ -6,6 +6,7 @@
 #include "fault.h"
 #include "words.h"
 
+#include <QByteArrayList>
 #include <QStringList>
 
 #include <vector>
@@ -88,4 +89,4 @@ QStringList translationLanguages();
 /// Runs the command that the arguments name. Throws Fault for bad ones.
 /// @param arguments the program's name, then the rest of the command line
 /// @return the exit code
-int runCommand(const QStringList& arguments);
+int runCommand(const QByteArrayList& arguments);

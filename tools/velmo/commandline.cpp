@@ -85,14 +85,14 @@ Fault unknownCommand(const QStringList& words)
     for (const Command& command : commands()) {
         const QString name = QLatin1String(command.name);
         if (command.summary && name.startsWith(group))
-            names += name;
+            names += group.isEmpty() ? QStringList{name.section(QLatin1Char(' '), 0, 0), name}
+                                     : QStringList(name);
     }
     if (!group.isEmpty() && words.size() == 1)
         return {Velmo::tr("usage: velmo %1 ... (known: %2)")
                     .arg(words.constFirst(), names.join(QStringLiteral(", ")))};
     const QString asked = group + words.at(group.isEmpty() ? 0 : 1);
-    return {
-        Velmo::tr("unknown command \"%1\" (nearest known: %2)").arg(asked, nearest(asked, names))};
+    return {Velmo::tr("unknown command \"%1\"").arg(asked) + nearestKnown(asked, names)};
 }
 
 QString helpOn(const QStringList& words)
@@ -112,7 +112,7 @@ Fault unknownOption(const QString& name, const std::vector<const Option*>& known
     for (const Option* const option : known)
         names += option->dashedName();
     const QString dashed = QString(name.size() == 1 ? 1 : 2, QLatin1Char('-')) + name;
-    return {Velmo::tr("unknown option %1 (nearest known: %2)").arg(dashed, nearest(dashed, names))};
+    return {Velmo::tr("unknown option %1").arg(dashed) + nearestKnown(dashed, names)};
 }
 
 // The same place in the build folder and where the tool is installed.
@@ -220,8 +220,11 @@ Fault Arguments::usageFault() const
     return {Velmo::tr("usage: %1").arg(m_command.usage())};
 }
 
-int runCommand(const QStringList& arguments)
+int runCommand(const QByteArrayList& bytes)
 {
+    QStringList arguments;
+    for (const QByteArray& argument : bytes)
+        arguments += QString::fromLocal8Bit(argument);
     QCommandLineParser parser;
     for (const Option* const option : everyOption())
         parser.addOption(parserOption(*option));
@@ -232,6 +235,12 @@ int runCommand(const QStringList& arguments)
 
     loadTranslations(translationsFolder(), {QStringLiteral("velmo")},
                      parser.value(QLatin1String(options::language.name)));
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString& text = arguments.at(i);
+        if (text.contains(QChar(QChar::ReplacementCharacter)) && text.toLocal8Bit() != bytes.at(i))
+            throw Fault{
+                Velmo::tr("argument %1, \"%2\": wrong UTF-8").arg(QString::number(i), text)};
+    }
     const QStringList words = parser.positionalArguments();
     const Command* const command = findCommand(words);
     const QStringList unknown = parser.unknownOptionNames();

@@ -35,7 +35,7 @@ QStringList settingPaths(const QString& fileName)
     QList<int> devices;
     try {
         if (fileName != QLatin1String("-")) {
-            const SettingsList list(readSettings(fileName).elements());
+            const SettingsList list(readSettings(fileName));
             devices = list.devices().keys();
             for (const SettingsList::Used& used : list.used())
                 paths += used.setting.path();
@@ -68,7 +68,7 @@ QStringList devicesOf(const QString& fileName)
 {
     QStringList indexes;
     try {
-        const SettingsList list(readSettings(fileName).elements());
+        const SettingsList list(readSettings(fileName));
         for (auto device = list.devices().keyBegin(); device != list.devices().keyEnd(); ++device)
             indexes += QString::number(*device);
     } catch (const Fault&) {

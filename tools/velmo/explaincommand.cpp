@@ -11,12 +11,10 @@
 #include "output.h"
 #include "table.h"
 
-#include <QSaveFile>
 #include <QTemporaryFile>
 
 #include <optional>
 #include <set>
-#include <unistd.h>
 
 namespace {
 
@@ -86,18 +84,16 @@ QString summaryText(const Summary& summary)
 class PageFile
 {
 public:
-    PageFile(const QString& fileName, const FiltersInput& input, const Question& question)
+    PageFile(const QString& fileName, const QStringList& inputs, const FiltersInput& input,
+             const Question& question)
         : m_question(question)
-        , m_toOutput(fileName == QLatin1String("-"))
-        , m_file(fileName)
+        , m_file(fileName, inputs)
         , m_page({input.fileName, input.filters.rules(), input.findings, input.filters.sumLimit()},
                  m_sections)
     {
         if (!m_sections.open())
-            throw faultOf(m_sections);
-        if (m_toOutput ? !m_output.open(STDOUT_FILENO, QIODevice::WriteOnly)
-                       : !m_file.open(QIODevice::WriteOnly))
-            throw faultOf(device());
+            throw Fault{
+                QStringLiteral("%1: %2").arg(m_sections.fileName(), m_sections.errorString())};
     }
 
     ExplanationPage& page() { return m_page; }
@@ -123,24 +119,14 @@ public:
 
     void finish(const Summary& summary)
     {
-        m_page.write(device(), summary);
-        if (!(m_toOutput ? m_output.flush() : m_file.commit()))
-            throw faultOf(device());
+        m_page.write(m_file.device(), summary);
+        m_file.commit();
     }
 
 private:
-    QFileDevice& device() { return m_toOutput ? static_cast<QFileDevice&>(m_output) : m_file; }
-
-    static Fault faultOf(const QFileDevice& file)
-    {
-        return {QStringLiteral("%1: %2").arg(file.fileName(), file.errorString())};
-    }
-
     const Question m_question;
-    const bool m_toOutput;
     QTemporaryFile m_sections;
-    QSaveFile m_file;
-    QFile m_output;
+    OutputFile m_file;
     ExplanationPage m_page;
 };
 
@@ -159,8 +145,14 @@ int explainCommand(const Arguments& arguments)
         throw Fault{Velmo::tr("--json and --html do not go together")};
     const bool asText = !json && !html;
     std::optional<PageFile> page;
-    if (html)
-        page.emplace(arguments.value(options::html), input, question);
+    if (html) {
+        // Of the two options, one has no value: it names no file.
+        page.emplace(arguments.value(options::html),
+                     logs
+                         + QStringList{arguments.value(options::filters),
+                                       arguments.value(options::settings)},
+                     input, question);
+    }
     if (asText)
         print(input.rulesText(Velmo::tr("Filters in force (%1):").arg(input.fileName)));
 

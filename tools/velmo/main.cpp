@@ -16,7 +16,7 @@ int main(int argc, char* argv[])
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\nvelmo.broker=false"));
     int exitCode = exitBadInput;
     try {
-        exitCode = runCommand(QCoreApplication::arguments());
+        exitCode = runCommand(QByteArrayList(argv, argv + argc));
     } catch (const Fault& fault) {
         printError(fault.message);
     }

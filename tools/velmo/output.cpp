@@ -3,8 +3,11 @@
 
 #include "output.h"
 
-#include "fault.h"
+#include "textoutput.h"
 #include "words.h"
+
+#include <QFileInfo>
+#include <QSaveFile>
 
 #include <algorithm>
 #include <cstdio>
@@ -13,29 +16,101 @@
 
 namespace {
 
-Fault outputFault(const QFile& file)
+// What a name stands for; "-" for an open file.
+bool find(const QString& fileName, int standardStream, struct stat& found)
 {
-    return {Velmo::tr("standard output: %1").arg(file.errorString())};
+    return (fileName == QLatin1String("-") ? fstat(standardStream, &found)
+                                           : stat(QFile::encodeName(fileName).constData(), &found))
+        == 0;
 }
 
 } // namespace
 
+OutputFile::OutputFile(const QString& fileName, const QStringList& inputs)
+    : m_name(isStandardOutput(fileName) ? Velmo::tr("standard output") : fileName)
+{
+    const QString name = isStandardOutput(fileName) ? QStringLiteral("-") : fileName;
+    const bool isThere = find(name, STDOUT_FILENO, m_old);
+    for (const QString& input : inputs) {
+        struct stat read = {};
+        // A terminal may well be both, and so may a socket.
+        if (isThere && !S_ISCHR(m_old.st_mode) && !S_ISSOCK(m_old.st_mode)
+            && find(input, STDIN_FILENO, read) && read.st_dev == m_old.st_dev
+            && read.st_ino == m_old.st_ino)
+            throw Fault{Velmo::tr("%1: is an input too; not overwritten").arg(m_name)};
+    }
+    if (name == QLatin1String("-") || (isThere && !S_ISREG(m_old.st_mode))) {
+        auto file = std::make_unique<QFile>(name);
+        const bool isOpen = name == QLatin1String("-")
+            ? file->open(STDOUT_FILENO, QIODevice::WriteOnly)
+            : file->open(QIODevice::WriteOnly);
+        m_file = std::move(file);
+        if (!isOpen)
+            throw fault();
+        return;
+    }
+    if (m_old.st_nlink > 1) {
+        throw Fault{
+            Velmo::tr("%1: has further names (hard links), which would keep the old content; not "
+                      "written")
+                .arg(m_name)};
+    }
+    const mode_t mask = umask(S_IRWXG | S_IRWXO); // nobody reads it before it has its mode
+    if (!isThere)
+        m_old.st_mode = 0666 & ~mask;
+    m_file = std::make_unique<QSaveFile>(isThere ? QFileInfo(name).canonicalFilePath() : name);
+    const bool isOpen = m_file->open(QIODevice::WriteOnly);
+    umask(mask);
+    if (!isOpen)
+        throw fault();
+}
+
+OutputFile::~OutputFile() = default;
+
+bool OutputFile::isStandardOutput(const QString& fileName)
+{
+    return fileName == QLatin1String("-") || fileName == QLatin1String("/dev/stdout")
+        || fileName == QLatin1String("/dev/fd/1");
+}
+
+Fault OutputFile::fault() const
+{
+    return {QStringLiteral("%1: %2").arg(m_name, m_file->errorString())};
+}
+
+void OutputFile::commit()
+{
+    flushText(*m_file);
+    auto* const replacement = qobject_cast<QSaveFile*>(m_file.get());
+    if (!replacement)
+        return;
+    const int descriptor = replacement->handle();
+    struct stat made = {};
+    const bool isOthers = m_old.st_nlink > 0 && fstat(descriptor, &made) == 0
+        && (made.st_uid != m_old.st_uid || made.st_gid != m_old.st_gid)
+        && fchown(descriptor, m_old.st_uid, m_old.st_gid) != 0;
+    // What runs with its owner's rights must not get those of another.
+    const mode_t mode = m_old.st_mode & (isOthers ? 0777 : 07777);
+    if (isOthers)
+        printError(Velmo::tr("%1: has another owner now").arg(m_name));
+    if (fchmod(descriptor, mode) != 0 || !replacement->commit())
+        throw fault();
+}
+
 Output::Output()
 {
     if (!m_file.open(STDOUT_FILENO, QIODevice::WriteOnly))
-        throw outputFault(m_file);
+        throw Fault{Velmo::tr("standard output: %1").arg(m_file.errorString())};
 }
 
 void Output::write(const QByteArray& text)
 {
-    if (m_file.write(text) != text.size())
-        throw outputFault(m_file);
+    writeText(m_file, text);
 }
 
 void Output::flush()
 {
-    if (!m_file.flush())
-        throw outputFault(m_file);
+    flushText(m_file);
 }
 
 int outputWidth()

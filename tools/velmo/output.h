@@ -3,8 +3,15 @@
 
 #pragma once
 
+#include "fault.h"
+
 #include <QByteArray>
 #include <QFile>
+#include <QStringList>
+
+#include <memory>
+
+#include <sys/stat.h>
 
 /// Standard output. Throws Fault when it cannot be written.
 class Output
@@ -17,6 +24,31 @@ public:
 
 private:
     QFile m_file;
+};
+
+/// A file that a command writes, "-" for standard output. A regular file is replaced when all is
+/// written, or stays as it is; it keeps its owner and mode. Anything else, as a device or a pipe,
+/// is written to. Throws Fault, which names the file.
+class OutputFile
+{
+public:
+    /// @param inputs what is read meanwhile, which it must not be
+    OutputFile(const QString& fileName, const QStringList& inputs);
+    ~OutputFile();
+
+    QFileDevice& device() { return *m_file; }
+
+    /// To be called when all is written.
+    void commit();
+
+    static bool isStandardOutput(const QString& fileName);
+
+private:
+    Fault fault() const;
+
+    const QString m_name; // for people
+    struct stat m_old = {}; // of the file that is replaced; without links for a new one
+    std::unique_ptr<QFileDevice> m_file;
 };
 
 /// The columns that a line on standard output may have: those of the terminal or of the variable

@@ -25,23 +25,42 @@ using S = AcceptorSettings;
 using Used = SettingsList::Used;
 
 // One element a line, like the lists that people write.
-void printList(const QJsonArray& list)
+void printList(const QList<JsonText>& list)
 {
     QByteArrayList lines;
-    for (const QJsonValue& element : list) {
-        const QByteArray inBrackets =
-            QJsonDocument(QJsonArray{element}).toJson(QJsonDocument::Compact);
-        lines += "    " + inBrackets.mid(1, inBrackets.size() - 2);
-    }
+    for (const JsonText& element : list)
+        lines += "    " + element;
     const QByteArray text =
         lines.isEmpty() ? QByteArray("[]\n") : "[\n" + lines.join(",\n") + "\n]\n";
     print(QString::fromUtf8(text));
 }
 
-QJsonValue jsonOf(const ServiceSetting& setting, const QVariant& value)
+JsonText jsonOf(const ServiceSetting& setting, const QVariant& value)
 {
-    return value.isValid() ? QJsonValue::fromVariant(setting.listValue(value.toString()))
-                           : QJsonValue();
+    return value.isValid() ? setting.listValue(value.toString()) : JsonText::null();
+}
+
+JsonText jsonOf(const QVariant& text)
+{
+    return text.isValid() ? JsonText(text.toString()) : JsonText::null();
+}
+
+// A map of maps and of values, as QJsonDocument indents it; that rounds numbers beyond 53 bits.
+QByteArray indentedJson(const QVariant& value, const QByteArray& indent = {})
+{
+    if (value.userType() == QMetaType::Bool)
+        return JsonText(value.toBool());
+    if (value.userType() == QMetaType::Int || value.userType() == QMetaType::LongLong)
+        return JsonText(value.toLongLong());
+    if (value.userType() != QMetaType::QVariantMap)
+        return JsonText(value.toString());
+    QByteArrayList members;
+    const QVariantMap map = value.toMap();
+    for (auto member = map.begin(); member != map.end(); ++member) {
+        members += indent + "    " + JsonText(member.key()) + ": "
+            + indentedJson(member.value(), indent + "    ");
+    }
+    return "{\n" + members.join(",\n") + "\n" + indent + "}";
 }
 
 QString deviceHeading(const SettingsList& list, int device)
@@ -152,18 +171,18 @@ QString settingsText(const SettingsList& list)
     return text;
 }
 
-QJsonArray settingsJson(const SettingsList& list)
+QList<JsonText> settingsJson(const SettingsList& list)
 {
-    QJsonArray settings;
+    QList<JsonText> settings;
     for (const Used& used : list.used()) {
-        const QJsonValue source = used.isListed() ? QStringLiteral("list")
-            : used.value.isValid()                ? QJsonValue(QStringLiteral("default"))
-                                                  : QJsonValue();
-        settings += QJsonObject{
-            {QStringLiteral("path"), used.setting.path()},
-            {QStringLiteral("value"), jsonOf(used.setting, used.value)},
-            {QStringLiteral("default"), jsonOf(used.setting, used.setting.defaultValue())},
-            {QStringLiteral("source"), source}};
+        const JsonText source = used.isListed() ? JsonText(QStringLiteral("list"))
+            : used.value.isValid()              ? JsonText(QStringLiteral("default"))
+                                                : JsonText::null();
+        settings +=
+            JsonText::object({{"default", jsonOf(used.setting, used.setting.defaultValue())},
+                              {"path", used.setting.path()},
+                              {"source", source},
+                              {"value", jsonOf(used.setting, used.value)}});
     }
     return settings;
 }
@@ -203,12 +222,11 @@ int showSettingsCommand(const Arguments& arguments)
     const ArrayFile file = readSettings(arguments.operands().constFirst());
     if (arguments.isSet(options::formatted)) {
         S settings;
-        settings.setList(file.elements().toVariantList());
-        const QJsonDocument map(QJsonObject::fromVariantMap(settings.toFormattedMap()));
-        print(QString::fromUtf8(map.toJson()));
+        settings.setList(file.values());
+        print(QString::fromUtf8(indentedJson(settings.toFormattedMap())) + QLatin1Char('\n'));
         return exitSuccess;
     }
-    const SettingsList list(file.elements());
+    const SettingsList list(file);
     if (arguments.isSet(options::json))
         printList(settingsJson(list));
     else
@@ -220,7 +238,7 @@ int getSettingCommand(const Arguments& arguments)
 {
     const ArrayFile file = readSettings(arguments.operands().constFirst());
     const ServiceSetting asked = ServiceSetting::require(arguments.operands().at(1));
-    const SettingsList list(file.elements());
+    const SettingsList list(file);
     const Used used = list.used(asked);
     if (!used.value.isValid())
         throw whyNotSet(list, used, file.name());
@@ -244,16 +262,16 @@ int checkSettingsCommand(const Arguments& arguments)
 {
     const ArrayFile file = readSettings(arguments.operands().constFirst());
     const QList<SettingsFinding> findings = checkSettings(file);
-    QJsonArray list;
+    QList<JsonText> list;
     for (const SettingsFinding& finding : findings) {
         const bool hasPlace = finding.element >= 0;
-        list += QJsonObject{
-            {QStringLiteral("level"), finding.levelKey()},
-            {QStringLiteral("element"), hasPlace ? QJsonValue(finding.element + 1) : QJsonValue()},
-            {QStringLiteral("line"),
-             hasPlace ? QJsonValue(file.lineOf(finding.element)) : QJsonValue()},
-            {QStringLiteral("path"), finding.path},
-            {QStringLiteral("text"), finding.text}};
+        const JsonText element = hasPlace ? JsonText(finding.element + 1) : JsonText::null();
+        const JsonText line = hasPlace ? JsonText(file.lineOf(finding.element)) : JsonText::null();
+        list += JsonText::object({{"element", element},
+                                  {"level", finding.levelKey()},
+                                  {"line", line},
+                                  {"path", finding.path},
+                                  {"text", finding.text}});
         if (!arguments.isSet(options::json))
             print(finding.line(file) + QLatin1Char('\n'));
     }
@@ -269,23 +287,21 @@ int diffSettingsCommand(const Arguments& arguments)
     if (first == QLatin1String("-") && second == first)
         throw arguments.usageFault();
     const auto values = [](const QString& name) {
-        return valuesByPath(SettingsList(readSettings(name).elements()));
+        return valuesByPath(SettingsList(readSettings(name)));
     };
     const QMap<QString, QVariant> before = values(first);
     const QMap<QString, QVariant> after = values(second);
     QStringList paths = before.keys() + after.keys();
     paths.sort();
     paths.removeDuplicates();
-    QJsonArray differences;
+    QList<JsonText> differences;
     QString text;
     for (const QString& path : std::as_const(paths)) {
         const QVariant a = before.value(path);
         const QVariant b = after.value(path);
         if (a == b && a.isValid() == b.isValid())
             continue;
-        differences += QJsonObject{{QStringLiteral("path"), path},
-                                   {QStringLiteral("a"), QJsonValue::fromVariant(a)},
-                                   {QStringLiteral("b"), QJsonValue::fromVariant(b)}};
+        differences += JsonText::object({{"a", jsonOf(a)}, {"b", jsonOf(b)}, {"path", path}});
         text += QStringLiteral("%1: %2 -> %3\n").arg(path, shown(a), shown(b));
     }
     if (arguments.isSet(options::json))
@@ -305,10 +321,10 @@ int settingsFiltersCommand(const Arguments& arguments)
         return exitSuccess;
     }
     FilterChain chain;
-    QJsonArray list;
+    QList<JsonText> list;
     for (const AbstractFilter* const filter : filters.addTo(chain)) {
-        list += QJsonObject{{QStringLiteral("name"), filterName(*filter)},
-                            {QStringLiteral("params"), filterParams(*filter)}};
+        list += JsonText::object(
+            {{"name", filterName(*filter)}, {"params", JsonText::of(filterParams(*filter))}});
     }
     printList(list);
     return exitSuccess;
@@ -317,7 +333,7 @@ int settingsFiltersCommand(const Arguments& arguments)
 int showRoutesCommand(const Arguments& arguments)
 {
     const ArrayFile file = readSettings(arguments.operands().constFirst());
-    const SettingsList list(file.elements());
+    const SettingsList list(file);
     print(routesTable(
         list.used(ServiceSetting::find(S::DISPENSER_SECTION, S::ROUTE_MAP)).value.toString()));
     return exitSuccess;

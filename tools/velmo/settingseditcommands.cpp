@@ -6,48 +6,67 @@
 #include "output.h"
 #include "settingsedit.h"
 #include "settingsinput.h"
+#include "textoutput.h"
 
+#include <QFileInfo>
 #include <QProcess>
-#include <QSaveFile>
 #include <QTemporaryFile>
+#include <QThread>
 
+#include <cerrno>
+#include <optional>
+#include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
 const QString standardStream = QStringLiteral("-");
 
-// A file that is replaced keeps its owner, as far as who writes it may give it to others.
-void keepOwner(const QString& fileName, int descriptor)
+// Whether two names lead to one file.
+bool areSame(const QString& a, const QString& b)
 {
-    struct stat old
-    {
-    };
-    struct stat made
-    {
-    };
-    if (stat(QFile::encodeName(fileName).constData(), &old) != 0 || fstat(descriptor, &made) != 0
-        || (old.st_uid == made.st_uid && old.st_gid == made.st_gid))
-        return;
-    if (fchown(descriptor, old.st_uid, old.st_gid) != 0)
-        printError(Velmo::tr("%1: has another owner now").arg(fileName));
+    return a == b || (QFileInfo::exists(a) && QFileInfo(a) == QFileInfo(b));
 }
 
-void save(const QByteArray& text, const QString& fileName)
+// Keeps others of this tool from editing a list until it is written.
+class EditLock
 {
-    if (fileName == standardStream) {
-        Output output;
-        output.write(text);
-        return output.flush();
+public:
+    explicit EditLock(const QString& fileName)
+        : m_file(fileName)
+    {
+        constexpr int mostTries = 1000;
+        for (int i = 0; i < mostTries; ++i) {
+            if (!QFileInfo(fileName).isFile() && QFileInfo::exists(fileName)) {
+                throw Fault{Velmo::tr("%1: is no regular file to change; --output says where the "
+                                      "changed list goes")
+                                .arg(fileName)};
+            }
+            if (!m_file.open(QIODevice::ReadOnly))
+                throw Fault{QStringLiteral("%1: %2").arg(fileName, m_file.errorString())};
+            const bool isLocked = flock(m_file.handle(), LOCK_EX | LOCK_NB) == 0;
+            // Where there are no locks, changes are noticed later.
+            if (isLocked ? isStillThere() : errno != EWOULDBLOCK)
+                return;
+            m_file.close();
+            QThread::msleep(10);
+        }
+        throw Fault{Velmo::tr("%1: another program is changing it").arg(fileName)};
     }
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush())
-        throw Fault{QStringLiteral("%1: %2").arg(fileName, file.errorString())};
-    keepOwner(fileName, file.handle());
-    if (!file.commit())
-        throw Fault{QStringLiteral("%1: %2").arg(fileName, file.errorString())};
-}
+
+private:
+    // Whoever had the lock before may have replaced the file.
+    bool isStillThere() const
+    {
+        struct stat locked = {};
+        struct stat named = {};
+        return fstat(m_file.handle(), &locked) == 0
+            && stat(QFile::encodeName(m_file.fileName()).constData(), &named) == 0
+            && locked.st_dev == named.st_dev && locked.st_ino == named.st_ino;
+    }
+
+    QFile m_file;
+};
 
 // As diff -u shows it.
 QByteArray difference(const QString& name, const QByteArray& before, const QByteArray& after)
@@ -73,7 +92,9 @@ QString changesText(const SettingsEdit& edit)
     for (const SettingsEdit::Change& change : changes) {
         const QString before = change.before.toString().simplified();
         const QString after = change.after.toString().simplified();
-        if (!change.before.isValid())
+        if (!change.from.isEmpty())
+            text += Velmo::tr("carried over %1: %2 (from %3)").arg(change.path, after, change.from);
+        else if (!change.before.isValid())
             text += Velmo::tr("added %1: %2").arg(change.path, after);
         else if (!change.after.isValid())
             text += Velmo::tr("removed %1: %2").arg(change.path, before);
@@ -104,6 +125,14 @@ void tellNewFindings(const Arguments& arguments, const SettingsEdit& edit)
     }
 }
 
+// Where the changed list goes: under any of its names, the list itself is changed in place.
+QString outputOf(const Arguments& arguments)
+{
+    const QString input = arguments.operands().constFirst();
+    const QString output = arguments.value(options::output);
+    return output.isEmpty() || (input != standardStream && areSame(input, output)) ? input : output;
+}
+
 int finish(const Arguments& arguments, const ArrayFile& original, const SettingsEdit& edit)
 {
     tellNewFindings(arguments, edit);
@@ -111,19 +140,25 @@ int finish(const Arguments& arguments, const ArrayFile& original, const Settings
     for (const QString& note : notes)
         printError(note);
     const QString input = arguments.operands().constFirst();
-    const QString output =
-        arguments.isSet(options::output) ? arguments.value(options::output) : input;
+    const QString output = outputOf(arguments);
+    const bool toOutput = OutputFile::isStandardOutput(output);
     const QByteArray text = edit.file().text();
     if (arguments.isSet(options::dryRun)) {
         print(QString::fromUtf8(difference(original.name(), original.text(), text)));
         return exitSuccess;
     }
-    if (output != input || output == standardStream || text != original.text())
-        save(text, output);
+    if (output != input || toOutput || text != original.text()) {
+        const bool inPlace = output == input && !toOutput;
+        OutputFile file(output, inPlace ? QStringList() : QStringList(input));
+        writeText(file.device(), text);
+        if (inPlace && readSettings(input).text() != original.text())
+            throw Fault{Velmo::tr("%1: was changed meanwhile; not written").arg(input)};
+        file.commit();
+    }
     if (arguments.isSet(options::quiet))
         return exitSuccess;
     const QString changes = changesText(edit);
-    if (output != standardStream)
+    if (!toOutput)
         print(changes);
     else
         fputs(qUtf8Printable(changes), stderr);
@@ -133,7 +168,12 @@ int finish(const Arguments& arguments, const ArrayFile& original, const Settings
 template <typename Action>
 int runEdit(const Arguments& arguments, Action action)
 {
-    const ArrayFile file = readSettings(arguments.operands().constFirst());
+    const QString input = arguments.operands().constFirst();
+    std::optional<EditLock> lock;
+    if (input != standardStream && outputOf(arguments) == input
+        && !arguments.isSet(options::dryRun))
+        lock.emplace(input);
+    const ArrayFile file = readSettings(input);
     SettingsEdit edit(file);
     action(edit, arguments.operands().mid(1));
     return finish(arguments, file, edit);
