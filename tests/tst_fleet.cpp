@@ -19,10 +19,11 @@ KioskSummary summary(const QString& members = {}, const QString& time = {})
     StateWriter writer;
     const QString device = R"({"device_id":1,"thread_id":1,"enabled":true,"state":"idling"%1})"_s;
     const QString json = R"({%1"device_states":[%2]})"_s;
-    return KioskSummary("k1"_s,
-                        readServiceState(json.arg(time.isEmpty() ? time : "\"time\":"_s + time + ","_s,
-                                                  device.arg(members))),
-                        writer);
+    return KioskSummary(
+        "k1"_s,
+        readServiceState(
+            json.arg(time.isEmpty() ? time : "\"time\":"_s + time + ","_s, device.arg(members))),
+        writer);
 }
 
 // So many seconds from now; without a time for no number.
@@ -37,8 +38,7 @@ KioskSummary summaryAt(const QString& offset)
 
 QString shown(const KioskSummary& summary)
 {
-    return "%1 %2/%3/%4 %5"_s
-        .arg(QLatin1String(KioskSummary::name(summary.condition)))
+    return "%1 %2/%3/%4 %5"_s.arg(QLatin1String(KioskSummary::name(summary.condition)))
         .arg(summary.inserted)
         .arg(summary.rejected)
         .arg(summary.returned)
@@ -90,8 +90,8 @@ private Q_SLOTS:
         const auto counted = [&] {
             QStringList texts;
             for (int condition = 0; condition <= KioskSummary::Fine; ++condition)
-                texts += QString::number(
-                    metrics.kiosks(KioskSummary::Condition(condition)).Value());
+                texts +=
+                    QString::number(metrics.kiosks(KioskSummary::Condition(condition)).Value());
             for (const prometheus::Gauge* notes :
                  {&metrics.inserted, &metrics.rejected, &metrics.returned})
                 texts += QString::number(notes->Value());
@@ -150,9 +150,8 @@ private Q_SLOTS:
         const KioskSummary made("k\"1"_s, readServiceState(json.arg(devices)), writer);
         QCOMPARE(shown(made), expected);
         const KioskSummary silent = KioskSummary::silent(made, "k\"1"_s, "Gone."_s);
-        QCOMPARE(shown(silent), expected.section(QLatin1Char(' '), 1, 1)
-                                    .prepend("silent "_s)
-                                    .append(" Gone."_s));
+        QCOMPARE(shown(silent),
+                 expected.section(QLatin1Char(' '), 1, 1).prepend("silent "_s).append(" Gone."_s));
         for (const KioskSummary& told : {made, silent}) {
             const KioskSummary read(told.text);
             QCOMPARE(shown(read), shown(told));
