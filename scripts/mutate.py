@@ -150,8 +150,10 @@ def main():
         sample = int(names[1])
         names = names[2:]
     names = names or sorted(str(path.relative_to(ROOT)) for pattern in DEFAULT for path in ROOT.glob(pattern))
-    subprocess.run(["rm", "-rf", WORK], check=True)
-    subprocess.run(["git", "clone", "--quiet", ROOT, WORK], check=True)
+    if not WORK.exists():
+        subprocess.run(["git", "clone", "--quiet", ROOT, WORK], check=True)
+    subprocess.run(["git", "-C", WORK, "fetch", "--quiet", ROOT, "HEAD"], check=True)
+    subprocess.run(["git", "-C", WORK, "reset", "--quiet", "--hard", "FETCH_HEAD"], check=True)
     if not run("cmake", "--preset", "dev", "-DVELMOLIB_WARNINGS_AS_ERRORS=OFF"):
         sys.exit("mutate.py: the unchanged checkout does not build")
     patience = {test: how_long(test) for test in sorted({test for name in names for test in tests_of(name)})}
