@@ -14,7 +14,7 @@ if [ $# -gt 1 ] || ! [[ $kiosks =~ ^[1-9][0-9]{0,5}$ ]]; then
     exit 2
 fi
 
-require_packages "${build_packages[@]}" mosquitto python3 python3-paho-mqtt
+require_packages "${build_packages[@]}"
 cmake --preset release
 cmake --build --preset release --target velmo velmo-fleet velmolib_translations
 bin=$PWD/build/release/bin

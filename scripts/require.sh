@@ -13,14 +13,28 @@ require_packages()
     [ ${#missing[@]} -eq 0 ] && return
     [ "$(id -u)" -eq 0 ] || sudo=sudo
     echo "Installing ${missing[*]}"
-    $sudo apt-get update -q
-    $sudo env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -q -y --no-install-recommends "${missing[@]}"
+    wait_for_apt update
+    wait_for_apt install -y --no-install-recommends "${missing[@]}"
+}
+
+# Runs apt-get; while another one is at work, for ten minutes again and again. Its own option to wait
+# knows the lock of dpkg only, not those of the lists and of the archives.
+wait_for_apt()
+{
+    local end=$((SECONDS + 600)) errors
+    until errors=$($sudo env LC_ALL=C DEBIAN_FRONTEND=noninteractive apt-get -q "$@" 2>&1 >&3); do
+        if [[ $errors != *"Could not get lock"* ]] || [ "$SECONDS" -ge "$end" ]; then
+            echo "$errors" >&2
+            return 1
+        fi
+        sleep 2
+    done 3>&1
+    [ -z "$errors" ] || echo "$errors" >&2
 }
 
 build_packages=(cmake g++ ninja-build qtbase5-dev libqt5serialport5-dev qttools5-dev
     qttools5-dev-tools zlib1g-dev dbus fonts-dejavu-core
-    libmosquitto-dev prometheus-cpp-dev
+    libmosquitto-dev prometheus-cpp-dev mosquitto python3 python3-paho-mqtt
     qtdeclarative5-dev qtdeclarative5-dev-tools qml-module-qtquick2 qml-module-qtquick-controls2
     qml-module-qtquick-layouts qml-module-qtquick-window2 qml-module-qttest)
 qt6_packages=(qt6-base-dev qt6-base-dev-tools qt6-serialport-dev qt6-l10n-tools qt6-tools-dev

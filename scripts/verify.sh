@@ -4,14 +4,14 @@
 
 # Installs what is missing and shows what scripts/test.sh does not: lint, all tests under the address and
 # undefined-behaviour sanitizers, those of the library and the tool under the thread sanitizer, the page
-# of explained logs in a browser, a fleet at a broker whose members and broker die, ABI, documentation,
+# of explained logs in a browser, a fleet of many kiosks at a broker, ABI, documentation,
 # packages that are the same to the byte wherever they are built, and a few seconds of each fuzzer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
 
 require_packages "${build_packages[@]}" "${install_packages[@]}" clang libclang-rt-14-dev \
-    chromium chromium-driver python3 mosquitto python3-paho-mqtt
+    chromium chromium-driver
 scripts/lint.sh
 for preset in asan tsan; do
     cmake --preset "$preset"

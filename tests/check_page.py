@@ -56,7 +56,7 @@ class Browser:
         self.path = ""
         options = {"args": ["--headless", "--no-sandbox", "--disable-gpu", "--window-size=1000,900"]}
         capabilities = {"capabilities": {"alwaysMatch": {"goog:chromeOptions": options}}}
-        for _ in range(50):
+        for _ in range(600):
             try:
                 self.path = "/session/" + self.ask("/session", capabilities)["sessionId"]
                 return
@@ -70,7 +70,7 @@ class Browser:
             json.dumps(body).encode(),
             {"Content-Type": "application/json"},
         )
-        with urllib.request.urlopen(request, timeout=60) as answer:
+        with urllib.request.urlopen(request, timeout=300) as answer:
             return json.load(answer)["value"]
 
     def run(self, script):

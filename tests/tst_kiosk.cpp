@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr int longest = 60000; // milliseconds, for what comes at once unless the machine is busy
+
 QDBusMessage callService(const QString& method)
 {
     return QDBusConnection::sessionBus().call(QDBusMessage::createMethodCall(
@@ -117,7 +119,7 @@ private Q_SLOTS:
     void cleanup()
     {
         m_service.terminate();
-        QVERIFY(m_service.state() == QProcess::NotRunning || m_service.waitForFinished());
+        QVERIFY(m_service.state() == QProcess::NotRunning || m_service.waitForFinished(longest));
     }
 
     // The expected lines, one for each step; the folder and names of the devices' sessions.
@@ -148,7 +150,7 @@ private Q_SLOTS:
                 return kiosk.customer().trimmed() + "\n"_s + kiosk.devices() + "\n"_s
                     + kiosk.state()->property("reasons").toStringList().join(" "_s) + "\n"_s;
             };
-            QTRY_COMPARE(shown(), expected);
+            QTRY_COMPARE_WITH_TIMEOUT(shown(), expected, longest);
         }
         QVERIFY(file.atEnd());
         QCOMPARE(kiosk.warnings(), QStringList());
@@ -162,14 +164,15 @@ private Q_SLOTS:
         QCOMPARE(kiosk.customer(), lost.arg("0"_s, "Please use another kiosk."_s));
         for (int run = 0; run < 2; ++run) {
             startService("samples"_s, "plain-payment"_s);
-            QTRY_VERIFY(kiosk.state()->property("available").toBool());
+            QTRY_VERIFY_WITH_TIMEOUT(kiosk.state()->property("available").toBool(), longest);
             for (int step = 0; step < 6; ++step)
                 callService("step"_s);
-            QTRY_COMPARE(kiosk.text("sum"_s), "Paid: 100"_s);
+            QTRY_COMPARE_WITH_TIMEOUT(kiosk.text("sum"_s), "Paid: 100"_s, longest);
             m_service.kill(); // in the middle of the payment
-            QTRY_COMPARE(
+            QTRY_COMPARE_WITH_TIMEOUT(
                 kiosk.customer(),
-                lost.arg("100"_s, "What you have paid is recorded. Please call the staff."_s));
+                lost.arg("100"_s, "What you have paid is recorded. Please call the staff."_s),
+                longest);
             QCOMPARE(kiosk.state()->property("reasons").toStringList(),
                      QStringList("The service does not answer."_s));
             cleanup();
@@ -181,12 +184,13 @@ private Q_SLOTS:
         startService("samples"_s, "plain-payment"_s);
         callService("step"_s);
         Kiosk kiosk(m_language);
-        QTRY_COMPARE(kiosk.text("headline"_s), "Input money"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(kiosk.text("headline"_s), "Input money"_s, longest);
         kiosk.window()->setProperty("serviceShown", true);
-        QTRY_VERIFY(kiosk.item("reportKey"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(kiosk.item("reportKey"_s), longest);
         QMetaObject::invokeMethod(kiosk.item("languageKey"_s), "clicked");
         QCOMPARE(m_language.current(), "ru"_s);
-        QTRY_COMPARE(kiosk.item("headline"_s)->property("text").toString(), "Внесите купюры"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(kiosk.item("headline"_s)->property("text").toString(),
+                                  "Внесите купюры"_s, longest);
         QCOMPARE(kiosk.item("sum"_s)->property("text").toString(), "Внесено: 0"_s);
         QCOMPARE(kiosk.devices(), "ожидание денег (accepting,stacker) 0/0/0"_s);
         const QRegularExpression latin("[A-Za-z]{2}"_s); // the language key alone has some
@@ -197,13 +201,14 @@ private Q_SLOTS:
                          qPrintable(text));
         }
         m_language.setCurrent("en"_s);
-        QTRY_COMPARE(kiosk.item("headline"_s)->property("text").toString(), "Input money"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(kiosk.item("headline"_s)->property("text").toString(),
+                                  "Input money"_s, longest);
     }
 
     void floodLeavesTheScreenInTime()
     {
         Kiosk kiosk(m_language);
-        const auto send = [&](int number) {
+        const auto stateOf = [](int number) {
             QJsonArray devices;
             for (int device = 0; device < 3; ++device) {
                 devices += QJsonObject{{"device_id"_s, device + 1},
@@ -214,19 +219,26 @@ private Q_SLOTS:
                                        {"current_note"_s, number % 2 ? 0 : 100}};
             }
             const QJsonObject state{{"device_states"_s, devices}};
-            Q_EMIT kiosk.link().stateReceived(
-                QString::fromUtf8(QJsonDocument(state).toJson(QJsonDocument::Compact)),
-                QDateTime::currentDateTime());
+            return QString::fromUtf8(QJsonDocument(state).toJson(QJsonDocument::Compact));
+        };
+        const auto send = [&](int number) {
+            Q_EMIT kiosk.link().stateReceived(stateOf(number), QDateTime::currentDateTime());
             QCoreApplication::processEvents();
         };
         for (int i = 0; i < FLOOD / 10; ++i)
             send(i);
+        // Time of the processor, in times that it takes to write a state: whatever the machine is,
+        // and whatever else it does.
+        std::clock_t start = std::clock();
+        for (int i = 0; i < FLOOD; ++i)
+            QVERIFY(!stateOf(i).isEmpty());
+        const double writing = double(std::clock() - start);
         const qint64 before = residentPages();
-        const std::clock_t start = std::clock(); // whatever else the machine does
+        start = std::clock();
         for (int i = 0; i < FLOOD; ++i)
             send(i);
-        const qint64 milliseconds = 1000 * qint64(std::clock() - start) / CLOCKS_PER_SEC;
-        QVERIFY2(milliseconds < FLOOD * PATIENCE, qPrintable(QString::number(milliseconds)));
+        const double times = double(std::clock() - start) / writing;
+        QVERIFY2(times < 100 * PATIENCE, qPrintable(QString::number(times)));
         QCOMPARE(kiosk.state()->property("sessionSum").toInt(), 3 * (FLOOD - 1));
         QVERIFY2(residentPages() - before < 4096 * PATIENCE,
                  qPrintable(QString::number(residentPages() - before)));
@@ -239,20 +251,26 @@ private Q_SLOTS:
         QJsonArray devices;
         for (int device = 0; device < 200; ++device)
             devices += QJsonObject{{"device_id"_s, 1 + device % 7}, {"thread_id"_s, device}};
-        QElapsedTimer time;
-        time.start();
+        auto* const content = kiosk.item("devices"_s)->property("contentItem").value<QQuickItem*>();
         for (int state = 0; state < 20; ++state) {
             QJsonObject first = devices.first().toObject();
             first["notes_inserted"_s] = state;
             devices.removeFirst();
             devices += first;
             const QJsonObject published{{"device_states"_s, devices}};
+            const QList<QQuickItem*> before = content->childItems();
             Q_EMIT kiosk.link().stateReceived(QString::fromUtf8(QJsonDocument(published).toJson()),
                                               QDateTime());
             QCoreApplication::processEvents();
+            // Cards are made for what is seen of the devices, and stay while these do.
+            const QList<QQuickItem*> cards = content->childItems();
+            QVERIFY2(cards.size() < 40, qPrintable(QString::number(cards.size())));
+            const auto made = std::count_if(cards.begin(), cards.end(), [&](QQuickItem* card) {
+                return !before.contains(card);
+            });
+            QVERIFY2(state == 0 || made < 3, qPrintable(QString::number(made)));
         }
         QCOMPARE(kiosk.item("devices"_s)->property("count").toInt(), 200);
-        QVERIFY2(time.elapsed() < 10000 * PATIENCE, qPrintable(QString::number(time.elapsed())));
         QCOMPARE(kiosk.warnings(), QStringList());
     }
 
@@ -267,7 +285,7 @@ private:
         m_service.setWorkingDirectory(QStringLiteral(SOURCES));
         m_service.start(QStringLiteral(ACCEPTORSERVICE), arguments);
         const QDBusConnectionInterface* const bus = QDBusConnection::sessionBus().interface();
-        QTRY_VERIFY(bus->isServiceRegistered(acceptorBus::SERVICE));
+        QTRY_VERIFY_WITH_TIMEOUT(bus->isServiceRegistered(acceptorBus::SERVICE), longest);
     }
 
     // The service records what its devices report.
