@@ -3,9 +3,9 @@
 
 #include "brokerconnection.h"
 
-#include "fault.h"
 #include "mosquitto_p.h"
-#include "words.h"
+#include "text/diagnosis.h"
+#include "text/fault.h"
 
 #include <QFile>
 #include <QLoggingCategory>

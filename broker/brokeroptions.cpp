@@ -3,8 +3,8 @@
 
 #include "brokeroptions.h"
 
-#include "fault.h"
-#include "words.h"
+#include "text/diagnosis.h"
+#include "text/fault.h"
 
 #include <QFile>
 #include <QRegularExpression>

@@ -3,8 +3,8 @@
 
 #include "kiosktopic.h"
 
-#include "fault.h"
-#include "words.h"
+#include "text/diagnosis.h"
+#include "text/fault.h"
 
 KioskTopic::KioskTopic(const QString& pattern)
 {

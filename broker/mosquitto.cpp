@@ -3,8 +3,8 @@
 
 #include "mosquitto_p.h"
 
-#include "fault.h"
-#include "words.h"
+#include "text/diagnosis.h"
+#include "text/fault.h"
 
 const Mosquitto& Mosquitto::library()
 {

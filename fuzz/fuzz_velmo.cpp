@@ -2,14 +2,15 @@
 // SPDX-License-Identifier: MIT
 
 #include "acceptorsettings.h"
-#include "arrayfile.h"
-#include "explanation.h"
-#include "fault.h"
+#include "filtersfile.h"
 #include "fuzzing.h"
-#include "replay.h"
-#include "settingscheck.h"
-#include "settingsedit.h"
-#include "settingslist.h"
+#include "log/explanation.h"
+#include "log/replay.h"
+#include "settings/arrayfile.h"
+#include "settings/settingscheck.h"
+#include "settings/settingsedit.h"
+#include "settings/settingslist.h"
+#include "text/fault.h"
 
 #include <QBuffer>
 
@@ -120,14 +121,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QList<QByteArray> parts = input.split('\0');
     try {
         checkSession(parts.value(2),
-                     FilterSet(arrayFile(parts.value(0), "filters"), ListKind::Filters));
+                     filterSetOf(arrayFile(parts.value(0), "filters"), ListKind::Filters));
     } catch (const Fault& fault) {
         CHECK(fault.message.startsWith(QLatin1String("filters")));
     }
     try {
         const ArrayFile settings = arrayFile(parts.value(1), "settings");
         checkSettingsFile(settings);
-        CHECK(FilterSet(settings, ListKind::Settings).rules().size() > 0);
+        CHECK(filterSetOf(settings, ListKind::Settings).rules().size() > 0);
     } catch (const Fault& fault) {
         CHECK(fault.message.startsWith(QLatin1String("settings")));
     }

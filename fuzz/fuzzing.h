@@ -13,7 +13,7 @@
 #include <QString>
 #include <QVariant>
 
-#include "jsonreader_p.h"
+#include "json/jsonreader.h"
 
 #include <cstdint>
 #include <cstdio>

@@ -4,7 +4,7 @@
 #include "catalogue.h"
 
 #include "acceptors.h"
-#include "devicename.h"
+#include "text/devicename.h"
 
 Catalogue::Catalogue(QObject* parent)
     : RowModel({"modelId", "modelName", "kind", "className", "type", "canDispense"}, parent)

@@ -3,10 +3,10 @@
 
 #include "servicestate.h"
 
-#include "customeranswer.h"
-#include "devicename.h"
-#include "fault.h"
-#include "words.h"
+#include "service/customeranswer.h"
+#include "text/devicename.h"
+#include "text/diagnosis.h"
+#include "text/fault.h"
 
 #include <QCoreApplication>
 #include <QEvent>

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "lastnote.h"
 #include "rowmodel.h"
-#include "serviceanswer.h"
+#include "service/lastnote.h"
+#include "service/serviceanswer.h"
 
 #include <QDateTime>
 #include <QObject>

@@ -27,7 +27,7 @@ WORK = ROOT / "build" / "mutate"
 EQUIVALENT = set((ROOT / "scripts/mutate.equivalent").read_text().splitlines())
 
 DEFAULT = ("src/filters/*.cpp", "src/acceptorstate.cpp", "src/acceptorsettings.cpp", "src/setting*.cpp",
-           "diagnosis/**/*.cpp", "quick/**/*.cpp", "fleet/**/*.cpp", "broker/**/*.cpp")
+           "diagnosis/**/*.cpp", "quick/**/*.cpp", "tools/velmo-fleet/*.cpp", "broker/**/*.cpp")
 
 # The files whose rules say what becomes of money.
 MONEY = re.compile(r"src/filters/|.*/(acceptorstate|explanation|logplayer|lastnote|customeranswer)\.cpp")
@@ -47,7 +47,7 @@ TESTS = [
     ("diagnosis/", "tst_fleet tst_formats tst_replay tst_quick tst_velmo tst_compare tst_explain tst_settingstool "
                    "tst_kiosk"),
     ("quick/", "tst_quick tst_kiosk"),
-    (r"fleet/.*(kiosks|metrics)|broker/.*(kiosktopic|brokeroptions)", "tst_fleet fleet"),
+    (r"tools/velmo-fleet/.*(kiosks|metrics)|broker/.*(kiosktopic|brokeroptions)", "tst_fleet fleet"),
     ("", "fleet"),
 ]
 TARGETS = {"fleet": ["velmo", "velmo-fleet"]}  # of tests that are no programs

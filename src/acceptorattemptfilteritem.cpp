@@ -3,7 +3,7 @@
 
 #include "acceptorattemptfilteritem.h"
 
-#include "variants_p.h"
+#include "json/variants.h"
 
 int AcceptorAttemptFilterItem::attempts() const
 {

@@ -5,7 +5,7 @@
 
 #include "acceptorportsettingsconsts.h"
 #include "serialporttexts_p.h"
-#include "variants_p.h"
+#include "json/variants.h"
 
 using namespace acceptorportsettingsconsts;
 

@@ -6,8 +6,8 @@
 #include "acceptors.h"
 #include "settingslist_p.h"
 #include "settingstable_p.h"
-#include "variants_p.h"
 #include "wraparound_p.h"
+#include "json/variants.h"
 
 #include <QMutexLocker>
 #include <QPair>

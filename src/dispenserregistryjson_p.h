@@ -4,7 +4,7 @@
 #pragma once
 
 #include "dispenserregistryitem.h"
-#include "jsonwriter_p.h"
+#include "json/jsonwriter.h"
 
 /// Writes registry rows as a JSON array of their maps.
 void writeJson(JsonWriter& json, const QList<DispenserRegistryItem>& rows);

@@ -3,7 +3,7 @@
 
 #include "dispenserregistrymodel.h"
 
-#include "variants_p.h"
+#include "json/variants.h"
 
 #include <algorithm>
 

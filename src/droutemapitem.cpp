@@ -4,7 +4,7 @@
 #include "droutemapitem.h"
 
 #include "basefields_p.h"
-#include "variants_p.h"
+#include "json/variants.h"
 
 #include <QJsonDocument>
 

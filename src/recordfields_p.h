@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "jsonreader_p.h"
-#include "jsonwriter_p.h"
-#include "variants_p.h"
+#include "json/jsonreader.h"
+#include "json/jsonwriter.h"
+#include "json/variants.h"
 
 #include <QString>
 #include <QVariant>

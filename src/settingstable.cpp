@@ -5,8 +5,8 @@
 
 #include "acceptors.h"
 #include "droutemapitem.h"
-#include "jsonreader_p.h"
-#include "variants_p.h"
+#include "json/jsonreader.h"
+#include "json/variants.h"
 
 #include <QJsonDocument>
 

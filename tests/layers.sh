@@ -7,7 +7,7 @@
 # Usage: layers.sh SOURCE_DIR
 set -euo pipefail
 cd "$1"
-floors=(platform src diagnosis broker tools quick fleet examples bench fuzz tests)
+floors=(platform json src diagnosis broker tools quick examples bench fuzz tests)
 
 # Prints the faults of the tree in the current folder.
 faults()
@@ -86,9 +86,15 @@ cp -r --parents docs/architecture.md "${floors[@]}" "$planted"
 cd "$planted"
 echo '#include <velmolib/statitem.h>' >> platform/palx/appversion.h
 echo '#include "devicestateworker.h"' >> src/noteitem.cpp
-echo '#include "fault.h"' >> src/filters/filterchain.cpp
-echo '#include "options.h"' >> diagnosis/fault.h
-expected='diagnosis/fault.h "options.h"
+echo '#include "text/fault.h"' >> src/filters/filterchain.cpp
+echo '#include "options.h"' >> diagnosis/text/fault.h
+echo '#include "settings/arrayfile.h"' >> diagnosis/log/replay.cpp
+echo '#include "log/sessionline.h"' >> diagnosis/settings/settingslist.h
+echo '#include "recordfields_p.h"' >> json/jsonreader.h
+expected='diagnosis/log/replay.cpp "arrayfile.h"
+diagnosis/settings/settingslist.h "sessionline.h"
+diagnosis/text/fault.h "options.h"
+json/jsonreader.h "recordfields_p.h"
 platform/palx/appversion.h "statitem.h"
 src/filters/filterchain.cpp "fault.h"
 src/noteitem.cpp "devicestateworker.h"'

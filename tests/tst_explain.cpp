@@ -3,10 +3,11 @@
 
 #include "velmorun.h"
 
-#include "arrayfile.h"
-#include "explanation.h"
-#include "fault.h"
-#include "serviceanswer.h"
+#include "filtersfile.h"
+#include "log/explanation.h"
+#include "service/serviceanswer.h"
+#include "settings/arrayfile.h"
+#include "text/fault.h"
 
 #include <QBuffer>
 #include <QJsonDocument>
@@ -34,7 +35,7 @@ FilterSet filterSet(const QString& json)
 {
     TextInput text(bufferOf(json.toUtf8()), "filters"_s);
     const ArrayFile file(text, "filters"_s);
-    return {file, ListKind::Filters};
+    return filterSetOf(file, ListKind::Filters);
 }
 
 // A line of a log: JSON, "S" for a start, or a state and perhaps a note.

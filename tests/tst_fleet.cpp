@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "brokeroptions.h"
-#include "fault.h"
 #include "kiosks.h"
 #include "kiosktopic.h"
 #include "metrics.h"
 #include "testtable.h"
-#include "textinput.h"
+#include "text/fault.h"
+#include "text/textinput.h"
 
 using std::chrono::seconds;
 

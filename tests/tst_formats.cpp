@@ -3,13 +3,13 @@
 
 #include "abstractfilter.h"
 #include "acceptorsettings.h"
-#include "arrayfile.h"
 #include "dispenserregistrymodel.h"
 #include "droutemapitem.h"
 #include "filterchain.h"
-#include "filterset.h"
-#include "kiosksummary.h"
-#include "serviceanswer.h"
+#include "filtersfile.h"
+#include "service/kiosksummary.h"
+#include "service/serviceanswer.h"
+#include "settings/arrayfile.h"
 #include "statitem.h"
 #include "velmorun.h"
 
@@ -38,7 +38,7 @@ QVariantList writtenFilters(const QVariant& example)
     TextInput input(std::move(buffer), {});
     FilterChain chain;
     QVariantList written;
-    const auto filters = FilterSet(ArrayFile(input, {}), ListKind::Filters).addTo(chain);
+    const auto filters = filterSetOf(ArrayFile(input, {}), ListKind::Filters).addTo(chain);
     for (const AbstractFilter* filter : filters) {
         written += QVariantMap{{"name"_s, filterName(*filter)},
                                {"params"_s, filterParams(*filter).toVariantMap()}};

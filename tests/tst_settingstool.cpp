@@ -3,9 +3,9 @@
 
 #include "acceptors.h"
 #include "acceptorsettings.h"
-#include "nearest.h"
-#include "settingscheck.h"
-#include "settingsedit.h"
+#include "settings/settingscheck.h"
+#include "settings/settingsedit.h"
+#include "text/nearest.h"
 #include "velmorun.h"
 
 #include <QBuffer>

@@ -4,7 +4,7 @@
 #include "abstractfilter.h"
 
 #include "log_p.h"
-#include "variants_p.h"
+#include "json/variants.h"
 
 AbstractFilter::FilterResult AbstractFilter::validate()
 {

@@ -6,7 +6,7 @@
 #include "log_p.h"
 #include "settingslist_p.h"
 #include "settingstable_p.h"
-#include "variants_p.h"
+#include "json/variants.h"
 
 #include <algorithm>
 

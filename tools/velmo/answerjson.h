@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "comparison.h"
-#include "jsontext.h"
+#include "log/comparison.h"
+#include "json/jsontext.h"
 
 /// [{"what": ..., "line": ..., "text": ...}, ...]
 JsonText jsonOf(const QVector<MachineCondition>& conditions);

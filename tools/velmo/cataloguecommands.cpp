@@ -5,10 +5,10 @@
 
 #include "acceptors.h"
 #include "filterfactory.h"
-#include "filterwords.h"
 #include "options.h"
 #include "output.h"
 #include "table.h"
+#include "text/filterwords.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

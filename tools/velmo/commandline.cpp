@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "command.h"
-#include "nearest.h"
 #include "options.h"
 #include "output.h"
 #include "table.h"
-#include "translations.h"
+#include "text/nearest.h"
+#include "text/translations.h"
 
 #include <palx/appversionmanager.h>
 

@@ -7,8 +7,8 @@
 #include "filterfactory.h"
 #include "options.h"
 #include "output.h"
+#include "settings/settingslist.h"
 #include "settingsinput.h"
-#include "settingslist.h"
 
 #include <algorithm>
 

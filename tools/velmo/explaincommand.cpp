@@ -3,10 +3,10 @@
 
 #include "answerjson.h"
 #include "commands.h"
-#include "explanationpage.h"
 #include "filtersinput.h"
 #include "inputfile.h"
 #include "jsonlines.h"
+#include "log/explanationpage.h"
 #include "options.h"
 #include "output.h"
 #include "table.h"

@@ -3,12 +3,12 @@
 
 #include "filtersinput.h"
 
-#include "arrayfile.h"
 #include "command.h"
 #include "inputfile.h"
 #include "options.h"
 #include "output.h"
-#include "settingscheck.h"
+#include "settings/arrayfile.h"
+#include "settings/settingscheck.h"
 #include "settingsinput.h"
 #include "table.h"
 
@@ -16,7 +16,7 @@ namespace {
 
 FiltersInput read(const ArrayFile& file, ListKind kind)
 {
-    FilterSet filters(file, kind);
+    FilterSet filters = filterSetOf(file, kind);
     QStringList findings;
     if (kind == ListKind::Settings) {
         for (const SettingsFinding& finding : checkSettings(file))

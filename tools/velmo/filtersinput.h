@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "filterset.h"
+#include "filtersfile.h"
 
 class Arguments;
 

@@ -4,12 +4,12 @@
 #include "commands.h"
 
 #include "brokerconnection.h"
-#include "jsontext.h"
-#include "kiosksummary.h"
 #include "kiosktopic.h"
 #include "options.h"
 #include "output.h"
+#include "service/kiosksummary.h"
 #include "table.h"
+#include "json/jsontext.h"
 
 #include <QDateTime>
 #include <QMap>

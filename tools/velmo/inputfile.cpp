@@ -3,7 +3,7 @@
 
 #include "inputfile.h"
 
-#include "fault.h"
+#include "text/fault.h"
 #include "words.h"
 
 #include <QFile>

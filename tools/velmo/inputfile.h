@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "textinput.h"
+#include "text/textinput.h"
 
 /// Opens a file for reading, "-" for standard input. Throws Fault when it cannot be opened.
 TextInput openInput(const QString& fileName);

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "textinput.h"
+#include "text/textinput.h"
 
 #include <functional>
 

@@ -3,7 +3,7 @@
 
 #include "output.h"
 
-#include "textoutput.h"
+#include "text/textoutput.h"
 #include "words.h"
 
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "fault.h"
+#include "text/fault.h"
 
 #include <QByteArray>
 #include <QFile>

@@ -6,9 +6,9 @@
 #include "filtersinput.h"
 #include "inputfile.h"
 #include "jsonlines.h"
+#include "log/replay.h"
 #include "options.h"
 #include "output.h"
-#include "replay.h"
 #include "table.h"
 
 #include <iterator>

@@ -6,15 +6,16 @@
 #include "acceptors.h"
 #include "acceptorsettings.h"
 #include "commands.h"
-#include "devicename.h"
 #include "droutemapitem.h"
 #include "filterchain.h"
-#include "filterset.h"
+#include "filtersfile.h"
 #include "options.h"
 #include "output.h"
-#include "settingscheck.h"
-#include "settingslist.h"
+#include "settings/settingscheck.h"
+#include "settings/settingslist.h"
 #include "table.h"
+#include "text/devicename.h"
+#include "text/filterwords.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -314,7 +315,7 @@ int diffSettingsCommand(const Arguments& arguments)
 int settingsFiltersCommand(const Arguments& arguments)
 {
     const ArrayFile file = readSettings(arguments.operands().constFirst());
-    const FilterSet filters(file, ListKind::Settings);
+    const FilterSet filters = filterSetOf(file, ListKind::Settings);
     if (!arguments.isSet(options::json)) {
         const QStringList rules = filters.rules();
         print(rules.join(QLatin1Char('\n')) + QLatin1Char('\n'));

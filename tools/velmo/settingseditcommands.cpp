@@ -4,9 +4,9 @@
 #include "commands.h"
 #include "options.h"
 #include "output.h"
-#include "settingsedit.h"
+#include "settings/settingsedit.h"
 #include "settingsinput.h"
-#include "textoutput.h"
+#include "text/textoutput.h"
 
 #include <QFileInfo>
 #include <QProcess>

@@ -4,7 +4,7 @@
 #include "settingsinput.h"
 
 #include "inputfile.h"
-#include "settingslist.h"
+#include "settings/settingslist.h"
 
 ArrayFile readSettings(const QString& fileName)
 {

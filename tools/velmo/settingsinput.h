@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "arrayfile.h"
+#include "settings/arrayfile.h"
 
 /// Opens and reads a settings list, "-" for standard input. Throws Fault for anything else.
 ArrayFile readSettings(const QString& fileName);

@@ -4,14 +4,14 @@
 #include "commands.h"
 
 #include "acceptorstate.h"
-#include "devicename.h"
 #include "devicestate.h"
 #include "inputfile.h"
 #include "jsonlines.h"
+#include "log/sessionline.h"
 #include "options.h"
 #include "output.h"
-#include "serviceanswer.h"
-#include "sessionline.h"
+#include "service/serviceanswer.h"
+#include "text/devicename.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

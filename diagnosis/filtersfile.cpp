@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "filtersfile.h"
+
+#include "acceptorsettings.h"
+#include "filterfactory.h"
+#include "settings/settingslist.h"
+#include "text/diagnosis.h"
+#include "text/fault.h"
+#include "text/filterwords.h"
+
+#include <algorithm>
+#include <climits>
+#include <memory>
+
+namespace {
+
+const QLatin1String nameKey("name");
+const QLatin1String paramsKey("params");
+
+// A number, a text that reads as one, or a switch; the filter's property has taken it when both
+// are the same number.
+bool holds(const AbstractFilter& filter, const QString& param, const QVariant& value)
+{
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    return isNumber && number == filter.property(param.toUtf8().constData()).toDouble();
+}
+
+FilterSet::Filter checkedFilter(const QJsonValue& element)
+{
+    const QJsonObject description = element.toObject();
+    if (!description.value(nameKey).isString())
+        throw Fault{Diagnosis::tr("expected an object with the filter's \"name\"")};
+    const QStringList keys = description.keys();
+    for (const QString& key : keys) {
+        if (key != nameKey && key != paramsKey)
+            throw Fault{Diagnosis::tr("unknown key \"%1\"").arg(key)};
+    }
+    const QString name = description.value(nameKey).toString();
+    const QJsonValue paramsValue = description.value(paramsKey);
+    if (!paramsValue.isObject() && !paramsValue.isUndefined())
+        throw Fault{Diagnosis::tr("\"params\": expected an object")};
+    const QVariantMap params = paramsValue.toObject().toVariantMap();
+
+    const std::unique_ptr<AbstractFilter> filter(FilterFactory::createFilter(name, {}));
+    if (!filter) {
+        throw Fault{Diagnosis::tr("unknown filter \"%1\" (known: %2)")
+                        .arg(name, FilterFactory::getFilters().join(QStringLiteral(", ")))};
+    }
+    const QJsonObject known = filterParams(*filter);
+    for (auto param = params.keyBegin(); param != params.keyEnd(); ++param) {
+        if (!known.contains(*param)) {
+            throw Fault{Diagnosis::tr("%1: unknown parameter \"%2\" (known: %3)")
+                            .arg(name, *param, known.keys().join(QStringLiteral(", ")))};
+        }
+    }
+    filter->setParams(params);
+    for (auto param = params.begin(); param != params.end(); ++param) {
+        if (!holds(*filter, param.key(), param.value()))
+            throw Fault{Diagnosis::tr("%1: parameter \"%2\" cannot hold this value")
+                            .arg(name, param.key())};
+    }
+    return {name, params};
+}
+
+QList<FilterSet::Filter> filtersOf(const ArrayFile& file)
+{
+    QList<FilterSet::Filter> filters;
+    const QJsonArray elements = file.elements();
+    for (int i = 0; i < elements.size(); ++i) {
+        try {
+            filters.append(checkedFilter(elements.at(i)));
+        } catch (const Fault& fault) {
+            throw Fault{QStringLiteral("%1: %2").arg(file.place(i), fault.message)};
+        }
+    }
+    return filters;
+}
+
+FilterSet impliedFilters(const ArrayFile& file)
+{
+    QList<FilterSet::Filter> implied;
+    QMap<quint32, QString> names;
+    // Never read through AcceptorSettings: what the list lacks would stay as the list before it
+    // left it there.
+    const SettingsList list(file);
+    const auto valueOf = [&list](const QString& group, const QString& key) {
+        return list.used(ServiceSetting::find(group, key)).value.toString();
+    };
+    const auto common = [&valueOf](const QString& key) {
+        return valueOf(AcceptorSettings::ACCEPTOR_COMMON_SECTION, key);
+    };
+    const auto add = [&implied, &file, &list](const char* name, const QVariantMap& params) {
+        const QJsonObject description{{nameKey, QLatin1String(name)},
+                                      {paramsKey, QJsonObject::fromVariantMap(params)}};
+        try {
+            implied.append(checkedFilter(description));
+        } catch (const Fault& fault) {
+            // Of what settings say, only these limits can be too much for a filter.
+            const ServiceSetting limits = ServiceSetting::find(
+                AcceptorSettings::ACCEPTOR_COMMON_SECTION, AcceptorSettings::ATTEMPTS_FILTER);
+            const int element = list.used(limits).element;
+            throw Fault{QStringLiteral("%1: %2").arg(
+                element < 0 ? file.name() : file.place(element), fault.message)};
+        }
+    };
+    const bool acceptAll = common(AcceptorSettings::ACCEPT_ALL) == QLatin1String("1");
+    add(filters::ACCEPT_FILTER, {{QStringLiteral("acceptAll"), acceptAll}});
+    const QByteArray limits = common(AcceptorSettings::ATTEMPTS_FILTER).toUtf8();
+    for (const QJsonValue limitMap : QJsonDocument::fromJson(limits).array()) {
+        AcceptorAttemptFilterItem limit;
+        limit.loadFromMap(limitMap.toObject().toVariantMap());
+        add(filters::ATTEMPTS_FILTER,
+            {{QStringLiteral("denom"), limit.denom()},
+             {QStringLiteral("attempts"), limit.attempts()}});
+    }
+    const qint64 maxSumm = common(AcceptorSettings::MAX_SUMM).toLongLong();
+    if (maxSumm > 0) {
+        // The sums of a session have 32 bits: none exceeds this.
+        add(filters::SESSION_SUM_FILTER,
+            {{QStringLiteral("sessionSum"), qMin<qint64>(maxSumm, INT_MAX)}});
+    }
+    for (auto device = list.devices().keyBegin(); device != list.devices().keyEnd(); ++device) {
+        const QString group = deviceGroup(*device, AcceptorSettings::DEVICE_SECTION);
+        const QString model = valueOf(group, AcceptorSettings::DEVICE_ID);
+        if (model.isEmpty())
+            continue;
+        const auto id = static_cast<quint32>(model.toInt());
+        const QString name = valueOf(group, AcceptorSettings::DEVICE_NAME);
+        // Of two devices of a model, nobody knows which one the log means.
+        names.insert(id, names.contains(id) ? QString() : name);
+    }
+    return FilterSet(implied, names);
+}
+
+} // namespace
+
+ListKind kindOf(const ArrayFile& file)
+{
+    const QJsonArray elements = file.elements();
+    const auto anyHas = [&elements](const char* key) {
+        return std::any_of(elements.begin(), elements.end(), [key](const QJsonValue& element) {
+            return element.toObject().contains(QLatin1String(key));
+        });
+    };
+    if (anyHas("group"))
+        return ListKind::Settings;
+    return anyHas("name") ? ListKind::Filters : ListKind::Other;
+}
+
+void requireKind(const ArrayFile& file, ListKind wanted)
+{
+    const ListKind kind = kindOf(file);
+    if (kind == wanted || kind == ListKind::Other)
+        return;
+    const QString fault = kind == ListKind::Settings
+        ? Diagnosis::tr("%1: is a settings list, where a filters file is expected")
+        : Diagnosis::tr("%1: is a filters file, where a settings list is expected");
+    throw Fault{fault.arg(file.name())};
+}
+
+FilterSet filterSetOf(const ArrayFile& file, ListKind kind)
+{
+    requireKind(file, kind);
+    return kind == ListKind::Settings ? impliedFilters(file) : FilterSet(filtersOf(file));
+}

@@ -1,0 +1,305 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "log/explanationpage.h"
+
+#include "log/pagestyle.h"
+#include "text/diagnosis.h"
+#include "text/fault.h"
+#include "text/htmltext.h"
+#include "text/textoutput.h"
+
+#include <QCryptographicHash>
+#include <QFileDevice>
+
+#include <algorithm>
+#include <climits>
+
+namespace {
+
+// The others are folded.
+constexpr int unfoldedParts = 10;
+
+// The further links of a sentence are left out: they would lead to the same place.
+constexpr int mostLinks = 12;
+
+Fault faultOf(const QIODevice& device)
+{
+    const auto* const file = qobject_cast<const QFileDevice*>(&device);
+    return {
+        QStringLiteral("%1: %2").arg(file ? file->fileName() : QString(), device.errorString())};
+}
+
+QString element(const char* tag, const QString& text)
+{
+    return QStringLiteral("<%1>%2</%1>\n").arg(QLatin1String(tag), htmlText(text));
+}
+
+QString list(const QStringList& texts)
+{
+    QString items;
+    for (const QString& text : texts)
+        items += element("li", text);
+    return QStringLiteral("<ul>\n%1</ul>\n").arg(items);
+}
+
+QString link(const QString& anchor, const QString& text)
+{
+    return QStringLiteral("<a href=\"#%1\">%2</a>").arg(anchor, htmlText(text));
+}
+
+// The lines that a sentence speaks of, as links to their places in the pictures.
+QString evidenceLinks(const SessionRecord& session, const NoteAnswer& note,
+                      const SessionPicture& picture)
+{
+    QStringList links;
+    const auto add = [&](Anchor kind, qint64 line, const QString& what = {}) {
+        const QString to = link(anchorName(kind, session, line, note.device, note.thread, what),
+                                Diagnosis::tr("line %1").arg(line));
+        if (links.size() < mostLinks && !links.contains(to))
+            links += to;
+    };
+    for (const Objection& objection : note.objections) {
+        for (const qint64 line : objection.evidence)
+            add(Anchor::Evidence, line);
+    }
+    for (const MachineCondition& condition : note.machine) {
+        if (picture.hasAnchor(anchorName(Anchor::Condition, session, condition.line, note.device,
+                                         note.thread, condition.what)))
+            add(Anchor::Condition, condition.line, condition.what);
+    }
+    if (links.isEmpty())
+        return {};
+    return QStringLiteral(" <span class=\"see\">%1 %2</span>")
+        .arg(htmlText(Diagnosis::tr("Show:")), links.join(QStringLiteral(", ")));
+}
+
+QString answerItem(const SessionRecord& session, const NoteAnswer& note,
+                   const SessionPicture& picture)
+{
+    const auto anchor = [&](Anchor kind) {
+        return anchorName(kind, session, note.line, note.device, note.thread);
+    };
+    const bool isQuiet = note.outcome == Outcome::Taken || note.outcome == Outcome::Unknown;
+    return QStringLiteral("<li class=\"answer%1\" id=\"%2\"><a href=\"#%3\">%4%5</a> %6%7</li>\n")
+        .arg(isQuiet ? QStringLiteral(" quiet") : QString(), anchor(Anchor::Sentence),
+             anchor(Anchor::Mark), SessionPicture::glyph(note.outcome), htmlText(note.headline()),
+             htmlText(note.details().join(QLatin1Char(' '))),
+             evidenceLinks(session, note, picture));
+}
+
+// How many of the notes that are told of had which outcome, with its mark.
+QString tallies(const SessionRecord& session, const std::vector<NoteAnswer>::const_iterator& begin,
+                const std::vector<NoteAnswer>::const_iterator& end)
+{
+    static const char* const words[outcomeCount] = {QT_TRANSLATE_NOOP("Diagnosis", "%n refused"),
+                                                    QT_TRANSLATE_NOOP("Diagnosis", "%n taken"),
+                                                    QT_TRANSLATE_NOOP("Diagnosis", "%n stuck"),
+                                                    QT_TRANSLATE_NOOP("Diagnosis", "%n rejected"),
+                                                    QT_TRANSLATE_NOOP("Diagnosis", "%n returned"),
+                                                    QT_TRANSLATE_NOOP("Diagnosis", "%n unknown")};
+    QString text;
+    for (int i = 0; i < outcomeCount; ++i) {
+        const auto count = std::count_if(begin, end, [&](const NoteAnswer& note) {
+            return int(note.outcome) == i && session.isTold(note);
+        });
+        if (count > 0) {
+            text += QStringLiteral("<span>%1%2</span>\n")
+                        .arg(SessionPicture::glyph(Outcome(i)),
+                             htmlText(Diagnosis::tr(words[i], nullptr, int(count))));
+        }
+    }
+    return text;
+}
+
+QString legend()
+{
+    static const char* const words[outcomeCount] = {
+        QT_TRANSLATE_NOOP("Diagnosis", "refused by the filters"),
+        QT_TRANSLATE_NOOP("Diagnosis", "taken"),
+        QT_TRANSLATE_NOOP("Diagnosis", "stuck in the device"),
+        QT_TRANSLATE_NOOP("Diagnosis", "rejected by the device"),
+        QT_TRANSLATE_NOOP("Diagnosis", "returned"),
+        QT_TRANSLATE_NOOP("Diagnosis", "unknown")};
+    QString outcomes;
+    for (int i = 0; i < outcomeCount; ++i)
+        outcomes += QStringLiteral("<li>%1%2</li>\n")
+                        .arg(SessionPicture::glyph(Outcome(i)), htmlText(Diagnosis::tr(words[i])));
+    return QStringLiteral(
+               "<section class=\"legend\">\n<ul>\n%1</ul>\n<ul>\n%2</ul>\n%3</section>\n")
+        .arg(outcomes, SessionPicture::stateLegend(),
+             element("p",
+                     Diagnosis::tr("Where much happens at once, the pictures are stretched. A mark "
+                                   "leads to its sentence, a sentence to its mark and to what it "
+                                   "speaks of.")));
+}
+
+QByteArray head(const QString& title)
+{
+    const QByteArray style(pageStyle);
+    const QByteArray hash = QCryptographicHash::hash(style, QCryptographicHash::Sha256).toBase64();
+    //: The language of these words, for the attribute lang of HTML.
+    const QString language = Diagnosis::tr("en", "language code");
+    return "<!DOCTYPE html>\n<html lang=\"" + htmlText(language).toUtf8()
+        + "\">\n<head>\n<meta charset=\"utf-8\">\n"
+          "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src "
+          "'sha256-"
+        + hash
+        + "'; base-uri 'none'; form-action 'none'\">\n"
+          "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
+          "<meta name=\"referrer\" content=\"no-referrer\">\n"
+        + element("title", title).toUtf8() + "<style>" + style + "</style>\n</head>\n<body>\n"
+        + SessionPicture::symbols().toUtf8();
+}
+
+} // namespace
+
+ExplanationPage::ExplanationPage(Subject subject, QIODevice& sections)
+    : m_subject(std::move(subject))
+    , m_sections(sections)
+{
+}
+
+void ExplanationPage::beginLog(const QString& name)
+{
+    m_logs += name;
+    writeText(m_sections,
+              QStringLiteral("<section class=\"log\">\n%1").arg(element("h2", name)).toUtf8());
+}
+
+SessionRecord& ExplanationPage::session(int number)
+{
+    SessionRecord& session = m_open[number];
+    session.log = int(m_logs.size());
+    session.number = number;
+    return session;
+}
+
+void ExplanationPage::add(const LogDevice& device, const LogTime& time, qint64 line)
+{
+    session(device.session()).add(device, time, line);
+}
+
+void ExplanationPage::add(const NoteAnswer& answer)
+{
+    session(answer.session).answers.push_back(answer);
+}
+
+void ExplanationPage::finishSessions(int before, bool onlyRefusals)
+{
+    while (!m_open.empty() && m_open.begin()->first < before) {
+        SessionRecord session = std::move(m_open.begin()->second);
+        m_open.erase(m_open.begin());
+        session.onlyRefusals = onlyRefusals;
+        const bool anyTold =
+            std::any_of(session.answers.begin(), session.answers.end(),
+                        [&](const NoteAnswer& answer) { return session.isTold(answer); });
+        if (!session.moments.empty() && (anyTold || !onlyRefusals))
+            writeSession(session);
+    }
+}
+
+void ExplanationPage::endLog(qint64 skipped, bool onlyRefusals)
+{
+    finishSessions(INT_MAX, onlyRefusals);
+    if (skipped > 0) {
+        m_doubts += QStringLiteral("%1: %2").arg(
+            m_logs.constLast(),
+            Diagnosis::tr("%n lines could not be read and were skipped", nullptr,
+                          int(qMin<qint64>(skipped, INT_MAX))));
+    }
+    writeText(m_sections, "</section>\n");
+}
+
+void ExplanationPage::writeSession(const SessionRecord& session)
+{
+    SessionPicture picture(session, m_subject.sumLimit);
+    const std::vector<size_t> parts = picture.parts();
+    QString title = Diagnosis::tr("Session %1").arg(session.number);
+    const LogTime& start = session.moments.front().time;
+    if (start.isKnown())
+        title += QStringLiteral(", ") + start.iso().left(10) + QLatin1Char(' ') + start.clock();
+    auto note = session.answers.begin();
+    for (size_t i = 0; i + 1 < parts.size(); ++i) {
+        const bool isLast = i + 2 == parts.size();
+        const qint64 firstLine = session.moments.at(parts.at(i)).line;
+        const qint64 lastLine = session.moments.at(parts.at(i + 1) - 1).line;
+        const auto begin = note;
+        while (note != session.answers.end() && (isLast || note->line <= lastLine))
+            ++note;
+        const QString drawn = picture.draw(parts.at(i), parts.at(i + 1));
+        QString sentences;
+        for (auto shown = begin; shown != note; ++shown) {
+            if (session.isTold(*shown))
+                sentences += answerItem(session, *shown, picture);
+        }
+        const QString range = Diagnosis::tr("lines %1 to %2").arg(firstLine).arg(lastLine);
+        writeText(m_sections,
+                  QStringLiteral("<details class=\"session\"%1>\n<summary><strong>%2 <span "
+                                 "class=\"file\">%3</span></strong>\n%4</summary>\n<div "
+                                 "class=\"picture\" tabindex=\"0\" role=\"group\" "
+                                 "aria-label=\"%5\">\n%6</div>\n%7</details>\n")
+                      .arg(m_written++ < unfoldedParts ? QStringLiteral(" open") : QString(),
+                           htmlText(title), htmlText(range), tallies(session, begin, note),
+                           htmlText(Diagnosis::tr("Picture, %1").arg(range)), drawn,
+                           sentences.isEmpty()
+                               ? QStringLiteral("<p class=\"none\">%1</p>\n")
+                                     .arg(htmlText(Diagnosis::tr("No note to tell of.")))
+                               : QStringLiteral("<ol>\n%1</ol>\n").arg(sentences))
+                      .toUtf8());
+    }
+}
+
+QString ExplanationPage::totals(const Summary& summary) const
+{
+    QString rows;
+    for (const Summary::Row& row : summary.rows()) {
+        rows += QStringLiteral("<tr%1><th scope=\"row\">%2</th><td>%3</td><td>%4</td></tr>\n")
+                    .arg(row.isPart ? QStringLiteral(" class=\"part\"") : QString(),
+                         htmlText(row.what), QString::number(row.tally.count),
+                         row.hasSum ? QString::number(row.tally.sum) : QString());
+    }
+    return QStringLiteral(
+               "<section class=\"card\">\n%1<table>\n<thead><tr><th "
+               "scope=\"col\">%2</th><th scope=\"col\">%3</th><th "
+               "scope=\"col\">%4</th></tr></thead>\n<tbody>\n%5</tbody></table>\n</section>\n")
+        .arg(element("h3", Diagnosis::tr("%n sessions", nullptr, summary.sessions)),
+             htmlText(Diagnosis::tr("Notes")), htmlText(Diagnosis::tr("Number")),
+             htmlText(Diagnosis::tr("Sum")), rows);
+}
+
+QString ExplanationPage::warnings() const
+{
+    const QStringList texts = m_subject.warnings + m_doubts;
+    if (texts.isEmpty())
+        return {};
+    return QStringLiteral("<section class=\"warning\">\n%1%2</section>\n")
+        .arg(element("h3", Diagnosis::tr("The answers may be wrong")), list(texts));
+}
+
+void ExplanationPage::write(QIODevice& page, const Summary& summary)
+{
+    const QString title = Diagnosis::tr("What became of each note, and why");
+    const QStringList rules = m_subject.rules.isEmpty()
+        ? QStringList(Diagnosis::tr("None: every note is accepted."))
+        : m_subject.rules;
+    writeText(page, head(title + QStringLiteral(" - ") + m_logs.join(QStringLiteral(", "))));
+    writeText(
+        page,
+        QStringLiteral("<header>\n%1</header>\n<main>\n%2<div class=\"top\">\n%3<section "
+                       "class=\"card\">\n<h3>%4 <span class=\"file\">%5</span></h3>\n%6</section>\n"
+                       "</div>\n%7")
+            .arg(element("h1", title), warnings(), totals(summary),
+                 htmlText(Diagnosis::tr("Filters in force")), htmlText(m_subject.filtersFile),
+                 list(rules), legend())
+            .toUtf8());
+    if (!m_sections.seek(0))
+        throw faultOf(m_sections);
+    while (!m_sections.atEnd()) {
+        const QByteArray chunk = m_sections.read(1 << 20);
+        if (chunk.isEmpty())
+            throw faultOf(m_sections);
+        writeText(page, chunk);
+    }
+    writeText(page, "</main>\n</body>\n</html>\n");
+}

@@ -1,0 +1,278 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "log/logplayer.h"
+
+#include "acceptors.h"
+#include "text/devicename.h"
+#include "text/diagnosis.h"
+
+#include <QMap>
+
+#include <algorithm>
+#include <tuple>
+
+namespace {
+
+struct Condition
+{
+    const char* what;
+    const QString& key;
+    bool stopsNotes; // wherever they are in the device
+    bool (*holds)(const DeviceState& state);
+    const char* text; // %1 is the line
+};
+
+const auto& conditionTable()
+{
+    using namespace deviceStateDescConst;
+    static const std::array<Condition, 6> table{{
+        {"disabled", ENABLED, false, [](const DeviceState& s) { return !s.enabled; },
+         QT_TRANSLATE_NOOP("Diagnosis", "The device was disabled (since line %1).")},
+        {"offline", ONLINE, true, [](const DeviceState& s) { return !s.online; },
+         QT_TRANSLATE_NOOP("Diagnosis", "The device was offline (since line %1).")},
+        {"halted", HALT, true, [](const DeviceState& s) { return s.halt; },
+         QT_TRANSLATE_NOOP("Diagnosis", "The device was halted (since line %1).")},
+        {"error", ERROR_CRITICAL, true, [](const DeviceState& s) { return s.errCritical; },
+         QT_TRANSLATE_NOOP("Diagnosis", "The device had a critical error (since line %1): %2.")},
+        {"stacker_missing", STACKER_PRESENT, false,
+         [](const DeviceState& s) { return !s.stackerPresent; },
+         QT_TRANSLATE_NOOP("Diagnosis", "The stacker was missing (since line %1).")},
+        {"stacker_full", STACKER_FULL, false, [](const DeviceState& s) { return s.stackerFull; },
+         QT_TRANSLATE_NOOP("Diagnosis", "The stacker was full (since line %1).")},
+    }};
+    return table;
+}
+
+quint32 deviceBit()
+{
+    static const quint32 bit = DeviceReport::bit(deviceStateDescConst::DEVICE_ID);
+    return bit;
+}
+
+quint32 threadBit()
+{
+    static const quint32 bit = DeviceReport::bit(deviceStateDescConst::THREAD_ID);
+    return bit;
+}
+
+} // namespace
+
+LogDevice::LogDevice(const FilterSet& filters, quint32 deviceId, quint32 threadId)
+    : m_name(deviceName(int(deviceId), filters.deviceNames().value(deviceId)))
+    , m_deviceId(deviceId)
+    , m_threadId(threadId)
+    , m_worker(std::make_unique<DeviceStateWorker>())
+    , m_chain(std::make_unique<FilterChain>())
+{
+    const QList<AbstractFilter*> made = filters.addTo(*m_chain);
+    for (AbstractFilter* const filter : made)
+        m_filters.emplace_back(*filter);
+    m_worker->setDeviceId(deviceId);
+    m_worker->setThreadId(threadId);
+}
+
+QVector<const FilterMemory*> LogDevice::refusing() const
+{
+    QVector<const FilterMemory*> found;
+    for (const FilterMemory& filter : m_filters) {
+        if (filter.refuses(events()))
+            found += &filter;
+    }
+    return found;
+}
+
+QVector<MachineCondition> LogDevice::conditions() const
+{
+    QVector<MachineCondition> found;
+    for (size_t i = 0; i < m_conditionSince.size(); ++i) {
+        const qint64 since = m_conditionSince.at(i);
+        if (since == 0)
+            continue;
+        const Condition& condition = conditionTable().at(i);
+        QString text = Diagnosis::tr(condition.text).arg(since);
+        if (condition.key == deviceStateDescConst::ERROR_CRITICAL) {
+            const QString error = state().errorText;
+            text = text.arg(error.isEmpty() ? Diagnosis::tr("no description") : error);
+        }
+        found.append({QLatin1String(condition.what), since, text});
+    }
+    return found;
+}
+
+bool LogDevice::hasStoppedSince(qint64 line) const
+{
+    if (state().state == STATE_JAMMED || state().state == STATE_ERROR)
+        return true;
+    for (size_t i = 0; i < m_conditionSince.size(); ++i) {
+        if (conditionTable().at(i).stopsNotes && m_conditionSince.at(i) > line)
+            return true;
+    }
+    return false;
+}
+
+QString LogDevice::name() const
+{
+    return m_showThread ? Diagnosis::tr("%1, thread %2").arg(m_name).arg(m_threadId) : m_name;
+}
+
+void LogDevice::startSession(int number, qint64 skippedLines)
+{
+    m_session = number;
+    m_sessionStartSeen = true;
+    m_skippedBefore = skippedLines;
+    m_worker->startSession();
+    m_eventLines.clear();
+    for (FilterMemory& filter : m_filters)
+        filter.startSession();
+}
+
+void LogDevice::take(const DeviceReport& report, qint64 line)
+{
+    static const std::array<quint32, 6> bits = [] {
+        std::array<quint32, 6> found{};
+        std::transform(conditionTable().begin(), conditionTable().end(), found.begin(),
+                       [](const Condition& condition) { return DeviceReport::bit(condition.key); });
+        return found;
+    }();
+    report.applyTo(*m_worker->getState());
+    m_known |= report.reported;
+    for (size_t i = 0; i < bits.size(); ++i) {
+        // What was never reported is not known.
+        const bool holds = (m_known & bits.at(i)) != 0 && conditionTable().at(i).holds(state());
+        qint64& since = m_conditionSince.at(i);
+        since = !holds ? 0 : since == 0 ? line : since;
+    }
+}
+
+bool LogDevice::send(qint64 line)
+{
+    if (!m_worker->checkState())
+        return false;
+    m_worker->saveState();
+    m_eventLines.append(line);
+    for (FilterMemory& filter : m_filters)
+        filter.add(events());
+    return true;
+}
+
+LogPlayer::LogPlayer(const FilterSet& filters)
+    : m_filters(filters)
+{
+}
+
+const std::vector<LogStep>& LogPlayer::take(const SessionLine& line, qint64 lineNumber)
+{
+    m_steps.clear();
+    const std::vector<DeviceReport>& reports = line.reports();
+    const bool namesDevice = !line.isPublished() && reports.front().has(deviceBit() | threadBit());
+    if (line.startsSession() && !namesDevice)
+        startEverySession();
+    // Looked up before any is new, so that it makes no difference in which order they are
+    // published.
+    m_reporting.clear();
+    for (const DeviceReport& report : reports)
+        m_reporting.push_back(knownDevice(report));
+    for (size_t i = 0; i < reports.size(); ++i) {
+        const DeviceReport& report = reports.at(i);
+        // A start alone is nobody's report.
+        if (line.startsSession() && report.reported == 0)
+            continue;
+        LogDevice& device = m_reporting.at(i) ? *m_reporting.at(i) : newDevice(report);
+        if (line.startsSession() && namesDevice)
+            startSession(device);
+        else if (device.m_session == 0)
+            device.m_session = m_session = qMax(m_session, 1);
+        device.take(report, lineNumber);
+        stepOf(device).reported |= report.reported;
+        if (line.isPublished())
+            continue;
+        device.m_lastOwnLine = lineNumber;
+        m_last = &device;
+    }
+    for (LogStep& step : m_steps)
+        step.sent = step.device->send(lineNumber);
+    return m_steps;
+}
+
+LogDevice* LogPlayer::knownDevice(const DeviceReport& report) const
+{
+    const auto fits = [&](const LogDevice& device) {
+        return (!report.has(deviceBit()) || device.deviceId() == report.fields.deviceId)
+            && (!report.has(threadBit()) || device.threadId() == report.fields.threadId);
+    };
+    return m_last && fits(*m_last) ? m_last : lastDevice(fits);
+}
+
+// Of those that fit; null when none does.
+template <typename Fits>
+LogDevice* LogPlayer::lastDevice(Fits fits) const
+{
+    const auto rank = [](const LogDevice& device) {
+        return std::make_tuple(-device.m_lastOwnLine, device.deviceId(), device.threadId());
+    };
+    LogDevice* found = nullptr;
+    for (const auto& device : m_devices) {
+        if (fits(*device) && (!found || rank(*device) < rank(*found)))
+            found = device.get();
+    }
+    return found;
+}
+
+LogDevice& LogPlayer::newDevice(const DeviceReport& report)
+{
+    const LogDevice* const last =
+        m_last ? m_last : lastDevice([](const LogDevice&) { return true; });
+    const quint32 device = report.has(deviceBit()) ? report.fields.deviceId
+        : last                                     ? last->deviceId()
+                                                   : 0;
+    const quint32 thread = report.has(threadBit()) ? report.fields.threadId : 0;
+    LogDevice* const twice = lastDevice([=](const LogDevice& known) {
+        return known.deviceId() == device && known.threadId() == thread;
+    });
+    return twice ? *twice : addDevice(device, thread); // published twice in one list
+}
+
+LogDevice& LogPlayer::addDevice(quint32 deviceId, quint32 threadId)
+{
+    m_devices.push_back(std::make_unique<LogDevice>(m_filters, deviceId, threadId));
+    LogDevice& added = *m_devices.back();
+    added.m_sessionStartSeen = m_everySessionStarted;
+    added.m_skippedBefore = m_skippedBefore;
+    for (const auto& device : m_devices) {
+        if (device.get() != &added && device->deviceId() == deviceId)
+            device->m_showThread = added.m_showThread = true;
+    }
+    return added;
+}
+
+void LogPlayer::startSession(LogDevice& device)
+{
+    if (device.m_session == m_session)
+        ++m_session;
+    device.startSession(m_session, m_skippedLines);
+    stepOf(device).startsSession = true;
+}
+
+void LogPlayer::startEverySession()
+{
+    const bool isNewest =
+        std::any_of(m_devices.begin(), m_devices.end(),
+                    [this](const auto& device) { return device->m_session == m_session; });
+    if (isNewest || m_session == 0)
+        ++m_session;
+    m_everySessionStarted = true;
+    m_skippedBefore = m_skippedLines;
+    for (const auto& device : m_devices) {
+        device->startSession(m_session, m_skippedLines);
+        stepOf(*device).startsSession = true;
+    }
+}
+
+LogStep& LogPlayer::stepOf(LogDevice& device)
+{
+    const auto found = std::find_if(m_steps.begin(), m_steps.end(),
+                                    [&](const LogStep& step) { return step.device == &device; });
+    return found == m_steps.end() ? m_steps.emplace_back(LogStep{&device, false, false, 0})
+                                  : *found;
+}

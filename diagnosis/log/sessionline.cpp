@@ -1,0 +1,298 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "log/sessionline.h"
+
+#include "acceptorstate.h"
+#include "dispenserregistrymodel.h"
+#include "recordfields_p.h"
+#include "statitem.h"
+#include "text/diagnosis.h"
+#include "text/textinput.h"
+
+#include <QJsonObject>
+
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+Fault unknownKey(QStringView key)
+{
+    return {Diagnosis::tr("unknown key \"%1\"").arg(key)};
+}
+
+// How the value of a field is read: false for a text that is no JSON; throws Fault for a value that
+// the field cannot hold.
+
+bool read(JsonReader& json, bool& field)
+{
+    if (json.readPlain(field))
+        return true;
+    if (json.skipValue())
+        throw Fault{Diagnosis::tr("expected true or false")};
+    return false;
+}
+
+bool read(JsonReader& json, QString& field)
+{
+    QVariant value;
+    if (json.readPlain(field))
+        return true;
+    if (!json.readValue(value))
+        return false;
+    if (value.userType() != QMetaType::QString)
+        throw Fault{Diagnosis::tr("expected a text")};
+    field = value.toString();
+    return true;
+}
+
+template <typename Number>
+bool read(JsonReader& json, Number& field)
+{
+    constexpr Number min = std::numeric_limits<Number>::min();
+    constexpr Number max = std::numeric_limits<Number>::max();
+    QVariant value;
+    qint64 plain = 0;
+    const bool isPlain = json.readPlain(plain);
+    if (!isPlain && !json.readValue(value))
+        return false;
+    const bool isNumber = isPlain || value.userType() == QMetaType::Double
+        || value.userType() == QMetaType::LongLong; // Qt makes it of 1000.0
+    const double number = isPlain ? double(plain)
+        : isNumber                ? value.toDouble()
+                                  : std::numeric_limits<double>::quiet_NaN();
+    if (!(number >= min && number <= max) || std::trunc(number) != number)
+        throw Fault{Diagnosis::tr("expected a whole number from %1 to %2").arg(min).arg(max)};
+    field = static_cast<Number>(number);
+    return true;
+}
+
+bool read(JsonReader& json, State& field)
+{
+    QVariant value;
+    if (!json.readValue(value))
+        return false;
+    if (value.userType() != QMetaType::QString
+        || !DeviceState::stateFromString(value.toString(), field))
+        throw Fault{Diagnosis::tr("unknown state name \"%1\"").arg(value.toString())};
+    return true;
+}
+
+DispenserRegistryItem registryRow(const QVariantMap& map)
+{
+    DispenserRegistryItem row;
+    QString missingKey;
+    if (!row.fromMap(map, &missingKey))
+        throw Fault{Diagnosis::tr("key \"%1\" is missing").arg(missingKey)};
+    // The row reads leniently, but must say what the line says.
+    const QJsonObject said = QJsonObject::fromVariantMap(map);
+    const QJsonObject taken = QJsonObject::fromVariantMap(row.toMap());
+    for (auto field = said.begin(); field != said.end(); ++field) {
+        if (!taken.contains(field.key()))
+            throw unknownKey(field.key());
+        if (taken.value(field.key()) != field.value())
+            throw Fault{Diagnosis::tr("\"%1\" cannot hold this value").arg(field.key())};
+    }
+    return row;
+}
+
+bool read(JsonReader& json, QList<DispenserRegistryItem>& field)
+{
+    QVariant value;
+    if (!json.readValue(value))
+        return false;
+    if (value.userType() != QMetaType::QVariantList)
+        throw Fault{Diagnosis::tr("expected a list of registry rows")};
+    field.clear();
+    const QVariantList rows = value.toList();
+    for (const QVariant& row : rows) {
+        try {
+            field.append(registryRow(row.toMap()));
+        } catch (const Fault& fault) {
+            throw Fault{
+                Diagnosis::tr("row %1: %2").arg(QString::number(field.size() + 1), fault.message)};
+        }
+    }
+    return true;
+}
+
+struct Field
+{
+    const QString* key;
+    bool (*read)(JsonReader& json, DeviceState& state);
+    void (*copy)(DeviceState& to, const DeviceState& from);
+};
+
+template <auto Member>
+Field field(const QString& key)
+{
+    return {&key, [](JsonReader& json, DeviceState& state) { return read(json, state.*Member); },
+            [](DeviceState& to, const DeviceState& from) { to.*Member = from.*Member; }};
+}
+
+const auto& fields()
+{
+    using namespace deviceStateDescConst;
+    using D = DeviceState;
+    static const std::array table{
+        field<&D::enabled>(ENABLED),
+        field<&D::state>(STATE),
+        field<&D::stackerPresent>(STACKER_PRESENT),
+        field<&D::stackerFull>(STACKER_FULL),
+        field<&D::cash>(CASH),
+        field<&D::errorText>(ERROR_TEXT),
+        field<&D::errCritical>(ERROR_CRITICAL),
+        field<&D::halt>(HALT),
+        field<&D::stateText>(STATE_TEXT),
+        field<&D::threadId>(THREAD_ID),
+        field<&D::deviceId>(DEVICE_ID),
+        field<&D::sessionSum>(SESSION_SUM),
+        field<&D::currentNote>(CURRENT_NOTE),
+        field<&D::currentChannel>(CURRENT_CHANNEL),
+        field<&D::dispensedSum>(DISPENSED_SUM),
+        field<&D::idString>(ID_STRING),
+        field<&D::online>(ONLINE),
+        field<&D::dispenserRegistry>(DispenserRegistryModel::DISPENSER_REGISTRY),
+    };
+    return table;
+}
+
+// The keys of a line: those of the fields have the places of these.
+enum Key : size_t { DeviceStates = 18, Session, Time, Inserted, Rejected, Returned, Unknown };
+
+const auto& keys()
+{
+    static const QString session = QStringLiteral("session");
+    static const QString time = QStringLiteral("time");
+    static const KeyOrder order(
+        joined(keysOf(fields()),
+               std::array{&AcceptorState::DEVICE_STATES, &session, &time, &StatItem::NOTES_INSERTED,
+                          &StatItem::NOTES_REJECTED, &StatItem::NOTES_RETURNED}));
+    return order;
+}
+
+bool readField(JsonReader& json, size_t index, DeviceReport& report)
+{
+    const Field& known = fields().at(index);
+    report.reported |= 1U << index;
+    try {
+        return known.read(json, report.fields);
+    } catch (const Fault& fault) {
+        throw Fault{QStringLiteral("\"%1\": %2").arg(*known.key, fault.message)};
+    }
+}
+
+bool readPublishedDevice(JsonReader& json, DeviceReport& report)
+{
+    const bool isSound = json.readObject(keys(), [&](size_t index, QStringView key) {
+        if (index < DeviceStates)
+            return readField(json, index, report);
+        if (index < Inserted || index == Unknown)
+            throw unknownKey(key);
+        return json.skipValue();
+    });
+    static const quint32 deviceBit = DeviceReport::bit(deviceStateDescConst::DEVICE_ID);
+    if (isSound && !report.has(deviceBit))
+        throw Fault{Diagnosis::tr("key \"%1\" is missing").arg(deviceStateDescConst::DEVICE_ID)};
+    // A device without rows is published without the key.
+    report.reported |= DeviceReport::bit(DispenserRegistryModel::DISPENSER_REGISTRY);
+    return isSound;
+}
+
+bool readPublished(JsonReader& json, std::vector<DeviceReport>& devices)
+{
+    devices.clear(); // of doubled keys the last one counts
+    if (!json.isAtArray())
+        throw Fault{Diagnosis::tr("expected a list \"device_states\"")};
+    int element = 0;
+    return json.readArray([&] {
+        ++element;
+        try {
+            if (json.isAtObject())
+                return readPublishedDevice(json, devices.emplace_back());
+            QVariant other;
+            const bool isSound = json.readValue(other);
+            if (isSound && !other.isNull()) // which every reader passes over
+                throw Fault{Diagnosis::tr("expected a JSON object")};
+            return isSound;
+        } catch (const Fault& fault) {
+            throw Fault{Diagnosis::tr("\"device_states\": element %1: %2")
+                            .arg(QString::number(element), fault.message)};
+        }
+    });
+}
+
+LogTime readTime(const QVariant& value)
+{
+    try {
+        return LogTime(value);
+    } catch (const Fault& fault) {
+        throw Fault{QStringLiteral("\"time\": %1").arg(fault.message)};
+    }
+}
+
+} // namespace
+
+void DeviceReport::applyTo(DeviceState& state) const
+{
+    quint32 bits = reported;
+    for (size_t index = 0; bits != 0; ++index, bits >>= 1U) {
+        if ((bits & 1U) != 0)
+            ::fields().at(index).copy(state, fields);
+    }
+}
+
+quint32 DeviceReport::bit(const QString& key)
+{
+    size_t likely = 0;
+    return 1U << keys().find(key, likely);
+}
+
+SessionLine::SessionLine(const QString& text)
+{
+    JsonReader json(text);
+    DeviceReport report;
+    QString stray; // the first unknown key: those who read published states pass over such
+    const bool isSound = json.readObject(keys(), [&](size_t index, QStringView key) {
+        if (index < DeviceStates)
+            return readField(json, index, report);
+        if (index == DeviceStates) {
+            m_isPublished = true;
+            return readPublished(json, m_reports);
+        }
+        if (index > Time) {
+            stray = stray.isNull() ? key.toString() : stray;
+            return json.skipValue();
+        }
+        QVariant value;
+        if (!json.readValue(value))
+            return false;
+        if (index == Time)
+            m_time = readTime(value);
+        else if (value.userType() != QMetaType::QString
+                 || value.toString() != QLatin1String("start"))
+            throw Fault{Diagnosis::tr(R"("session": expected "start")")};
+        m_startsSession = m_startsSession || index == Session;
+        return true;
+    });
+    if (!isSound || !json.isAtEnd())
+        throw Fault{Diagnosis::tr("expected a JSON object")};
+    if (m_isPublished && report.reported != 0)
+        throw Fault{Diagnosis::tr("fields of one device beside \"device_states\"")};
+    if (!m_isPublished && !stray.isNull())
+        throw unknownKey(stray);
+    if (!m_isPublished)
+        m_reports.push_back(report);
+}
+
+SessionLine SessionLine::read(const TextInput& file, const QByteArray& text)
+{
+    try {
+        return SessionLine(decoded(text));
+    } catch (const Fault& fault) {
+        file.parseJson(text, file.lineNumber()); // says where a text is not JSON
+        throw file.faultAt(file.lineNumber(), fault.message);
+    }
+}

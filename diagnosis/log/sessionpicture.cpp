@@ -1,0 +1,591 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "log/sessionpicture.h"
+
+#include "filterfactory.h"
+#include "text/diagnosis.h"
+#include "text/htmltext.h"
+
+#include <algorithm>
+#include <climits>
+#include <cmath>
+#include <iterator>
+
+namespace {
+
+// Lengths are in units of which the picture is 1000 wide.
+constexpr double width = 1000;
+constexpr double plotLeft = 120; // what the rows are stands left of it
+constexpr double plotRight = 990;
+constexpr double headHeight = 20; // where a pin says its line
+constexpr double charWidth = 6.2; // of the small letters, about
+constexpr double markSize = 14;
+constexpr double stateHeight = 22;
+constexpr double conditionHeight = 9;
+constexpr double sumHeight = 60;
+
+// A part of a picture ends before the next note once it has so many moments, or at most so many.
+constexpr size_t partMoments = 90;
+constexpr size_t mostMoments = 130;
+
+struct StateWords
+{
+    const char* style;
+    const char* word;
+};
+
+const StateWords& wordsOf(State state)
+{
+    static const StateWords table[] = {
+        {"idle", QT_TRANSLATE_NOOP("Diagnosis", "idling")},
+        {"take", QT_TRANSLATE_NOOP("Diagnosis", "accepting")},
+        {"keep", QT_TRANSLATE_NOOP("Diagnosis", "accepted")},
+        {"back", QT_TRANSLATE_NOOP("Diagnosis", "rejected")},
+        {"keep", QT_TRANSLATE_NOOP("Diagnosis", "stacking")},
+        {"keep", QT_TRANSLATE_NOOP("Diagnosis", "stacked")},
+        {"back", QT_TRANSLATE_NOOP("Diagnosis", "returning")},
+        {"back", QT_TRANSLATE_NOOP("Diagnosis", "returned")},
+        {"bad", QT_TRANSLATE_NOOP("Diagnosis", "jammed")},
+        {"busy", QT_TRANSLATE_NOOP("Diagnosis", "busy")},
+        {"bad", QT_TRANSLATE_NOOP("Diagnosis", "error")},
+        {"busy", QT_TRANSLATE_NOOP("Diagnosis", "updating")},
+        {"pay", QT_TRANSLATE_NOOP("Diagnosis", "dispensing")},
+        {"pay", QT_TRANSLATE_NOOP("Diagnosis", "dispensed")},
+        {"pay", QT_TRANSLATE_NOOP("Diagnosis", "floating")},
+        {"pay", QT_TRANSLATE_NOOP("Diagnosis", "floated")},
+        {"pay", QT_TRANSLATE_NOOP("Diagnosis", "emptying")},
+        {"pay", QT_TRANSLATE_NOOP("Diagnosis", "emptied")},
+    };
+    static const StateWords other{"busy", QT_TRANSLATE_NOOP("Diagnosis", "unknown state")};
+    return state >= 0 && state < int(std::size(table)) ? table[state] : other;
+}
+
+struct StyleWords
+{
+    const char* style;
+    const char* meaning;
+};
+
+constexpr StyleWords styleTable[] = {
+    {"idle", QT_TRANSLATE_NOOP("Diagnosis", "idling")},
+    {"take", QT_TRANSLATE_NOOP("Diagnosis", "accepting a note")},
+    {"keep", QT_TRANSLATE_NOOP("Diagnosis", "keeping it")},
+    {"back", QT_TRANSLATE_NOOP("Diagnosis", "giving it back")},
+    {"pay", QT_TRANSLATE_NOOP("Diagnosis", "paying out")},
+    {"busy", QT_TRANSLATE_NOOP("Diagnosis", "busy")},
+    {"bad", QT_TRANSLATE_NOOP("Diagnosis", "jam, error or what else was the matter")},
+};
+
+QString conditionWord(const QString& what)
+{
+    static const std::pair<const char*, const char*> table[] = {
+        {"disabled", QT_TRANSLATE_NOOP("Diagnosis", "disabled")},
+        {"offline", QT_TRANSLATE_NOOP("Diagnosis", "offline")},
+        {"halted", QT_TRANSLATE_NOOP("Diagnosis", "halted")},
+        {"error", QT_TRANSLATE_NOOP("Diagnosis", "critical error")},
+        {"stacker_missing", QT_TRANSLATE_NOOP("Diagnosis", "stacker missing")},
+        {"stacker_full", QT_TRANSLATE_NOOP("Diagnosis", "stacker full")},
+    };
+    const auto* const found =
+        std::find_if(std::begin(table), std::end(table),
+                     [&](const auto& row) { return what == QLatin1String(row.first); });
+    return found == std::end(table) ? what : Diagnosis::tr(found->second);
+}
+
+QString number(double value)
+{
+    return QString::number(std::round(value * 10) / 10);
+}
+
+double textWidth(const QString& text)
+{
+    return charWidth * double(text.size());
+}
+
+// Cut where it would cover what stands beside it.
+QString shortened(const QString& text, double room)
+{
+    const int fitting = qMax(1, int(room / charWidth));
+    return text.size() <= fitting ? text : text.left(fitting - 1) + QChar(0x2026);
+}
+
+QString svgText(double x, double y, const char* style, const QString& text)
+{
+    return QStringLiteral("<text x=\"%1\" y=\"%2\" class=\"%3\">%4</text>\n")
+        .arg(number(x), number(y), QLatin1String(style), htmlText(text));
+}
+
+// The pointer brings up the title.
+QString svgPath(const QString& style, const QString& path, const QString& title = {})
+{
+    const QString inside =
+        title.isEmpty() ? QString() : QStringLiteral("<title>%1</title>").arg(htmlText(title));
+    return QStringLiteral("<path class=\"%1\" d=\"%2\">%3</path>\n").arg(style, path, inside);
+}
+
+QString rectangle(double left, double top, double right, double bottom)
+{
+    return QStringLiteral("M%1 %2H%3V%4H%1z")
+        .arg(number(left), number(top), number(right), number(bottom));
+}
+
+bool isOverSum(const NoteAnswer& answer)
+{
+    return std::any_of(answer.objections.begin(), answer.objections.end(), [](const Objection& o) {
+        return o.filter == QLatin1String(filters::SESSION_SUM_FILTER);
+    });
+}
+
+bool isOf(const NoteAnswer& answer, const SessionRecord::Lane& lane)
+{
+    return answer.device == lane.device && answer.thread == lane.thread;
+}
+
+} // namespace
+
+void SessionRecord::add(const LogDevice& device, const LogTime& time, qint64 line)
+{
+    if (moments.empty() || moments.back().line != line)
+        moments.push_back({line, time});
+    auto lane = std::find_if(lanes.begin(), lanes.end(), [&](const Lane& known) {
+        return known.device == device.deviceId() && known.thread == device.threadId();
+    });
+    if (lane == lanes.end())
+        lane = lanes.insert(lane, {device.deviceId(), device.threadId(), {}, {}});
+    lane->name = device.name(); // a thread is named once there is another one
+    const DeviceState& state = device.state();
+    lane->events.push_back({line, state.state, state.sessionSum, device.conditions()});
+}
+
+bool SessionRecord::hasTimes() const
+{
+    qint64 last = 0;
+    for (const Moment& moment : moments) {
+        const std::optional<qint64> time = moment.time.wallClock();
+        if (!time || (&moment != &moments.front() && *time < last))
+            return false;
+        last = *time;
+    }
+    return !moments.empty();
+}
+
+QString anchorName(Anchor kind, const SessionRecord& session, qint64 line, quint32 device,
+                   quint32 thread, const QString& what)
+{
+    static constexpr char letters[] = {'m', 'n', 'e', 'c'};
+    const QString name = QStringLiteral("%1%2-%3-%4.%5")
+                             .arg(QLatin1Char(letters[int(kind)]))
+                             .arg(session.log)
+                             .arg(line)
+                             .arg(device)
+                             .arg(thread);
+    // A condition outlives sessions, its place does not.
+    return kind == Anchor::Condition
+        ? QStringLiteral("%1-%2-%3").arg(name, what).arg(session.number)
+        : name;
+}
+
+SessionPicture::SessionPicture(const SessionRecord& session, std::optional<int> sumLimit)
+    : m_session(session)
+    , m_sumLimit(sumLimit)
+    , m_hasTimes(session.hasTimes())
+{
+    for (const NoteAnswer& answer : session.answers) {
+        for (const Objection& objection : answer.objections) {
+            for (const qint64 line : objection.evidence)
+                m_evidence.insert({{line, {answer.device, answer.thread}}, answer.line});
+        }
+    }
+    for (const SessionRecord::Lane& lane : session.lanes) {
+        double most = sumLimit ? double(*sumLimit) : 0;
+        for (const SessionRecord::Event& event : lane.events)
+            most = qMax(most, double(event.sum));
+        const bool anyExceeds = std::any_of(
+            session.answers.begin(), session.answers.end(),
+            [&](const NoteAnswer& answer) { return isOf(answer, lane) && isOverSum(answer); });
+        m_mostSum[&lane] = anyExceeds ? 1.3 * most : most;
+    }
+}
+
+std::vector<size_t> SessionPicture::parts() const
+{
+    std::vector<size_t> begins{0};
+    auto note = m_session.answers.begin();
+    for (size_t i = 0; i < m_session.moments.size(); ++i) {
+        const qint64 line = m_session.moments.at(i).line;
+        while (note != m_session.answers.end() && note->line < line)
+            ++note;
+        const bool isNote = note != m_session.answers.end() && note->line == line;
+        const size_t length = i - begins.back();
+        if (length >= mostMoments || (isNote && length >= partMoments))
+            begins.push_back(i);
+    }
+    if (m_session.moments.size() > begins.back())
+        begins.push_back(m_session.moments.size());
+    return begins;
+}
+
+// A share of the width is every moment's own, so that none covers the next one; the rest goes by
+// the time between them.
+void SessionPicture::place(size_t first, size_t end)
+{
+    const auto& moments = m_session.moments;
+    m_first = first;
+    m_end = end;
+    m_firstLine = moments.at(first).line;
+    m_lastLine = moments.at(end - 1).line;
+    const auto isBefore = [](const NoteAnswer& answer, qint64 line) { return answer.line < line; };
+    m_firstAnswer =
+        std::lower_bound(m_session.answers.begin(), m_session.answers.end(), m_firstLine, isBefore);
+    m_endAnswer =
+        std::lower_bound(m_firstAnswer, m_session.answers.end(), m_lastLine + 1, isBefore);
+
+    const auto timeOf = [&](size_t i) { return m_hasTimes ? *moments.at(i).time.wallClock() : 0; };
+    const auto count = double(end - first);
+    const double whole = plotRight - plotLeft;
+    const auto total = double(timeOf(end - 1) - timeOf(first));
+    const double own = total > 0 ? qMin(30.0, 0.6 * whole / count) : whole / count;
+    const double perUnit = total > 0 ? (whole - own * count) / total : 0;
+    m_x.assign(1, plotLeft);
+    for (size_t i = first + 1; i < end; ++i)
+        m_x.push_back(m_x.back() + own + perUnit * double(timeOf(i) - timeOf(i - 1)));
+    m_x.push_back(plotRight);
+}
+
+// Where a line of this part is, or an earlier or later one would stick out.
+double SessionPicture::xOf(qint64 line) const
+{
+    const auto begin = m_session.moments.begin();
+    const auto found = std::lower_bound(
+        begin + qint64(m_first), begin + qint64(m_end), line,
+        [](const SessionRecord::Moment& moment, qint64 l) { return moment.line < l; });
+    return m_x.at(size_t(found - begin) - m_first);
+}
+
+std::vector<SessionPicture::Segment>
+SessionPicture::segmentsOf(const SessionRecord::Lane& lane) const
+{
+    auto event =
+        std::lower_bound(lane.events.begin(), lane.events.end(), m_firstLine,
+                         [](const SessionRecord::Event& e, qint64 line) { return e.line < line; });
+    if (event != lane.events.begin() && (event == lane.events.end() || event->line > m_firstLine))
+        --event; // how it stood when the part begins
+    std::vector<Segment> segments;
+    for (; event != lane.events.end() && event->line <= m_lastLine; ++event) {
+        const double begin = event->line < m_firstLine ? plotLeft : xOf(event->line);
+        if (!segments.empty())
+            segments.back().end = begin;
+        segments.push_back({&*event, begin, plotRight});
+    }
+    return segments;
+}
+
+QString SessionPicture::draw(size_t first, size_t end)
+{
+    place(first, end);
+    m_body.clear();
+    m_y = headHeight;
+    for (const SessionRecord::Lane& lane : m_session.lanes)
+        drawLane(lane);
+    const double bottom = m_y;
+    const QString head = axis();
+    const QString name = Diagnosis::tr("Session %1 from line %2 to line %3")
+                             .arg(m_session.number)
+                             .arg(m_firstLine)
+                             .arg(m_lastLine);
+    return QStringLiteral("<svg viewBox=\"0 0 %1 %2\" role=\"group\" aria-label=\"%3\">\n")
+               .arg(number(width), number(m_y), htmlText(name))
+        + head + m_body + pins(bottom) + QStringLiteral("</svg>\n");
+}
+
+// The grid and, below the lanes, its times or lines.
+QString SessionPicture::axis()
+{
+    const double bottom = m_y + 2;
+    m_y += 20;
+    QString drawn;
+    QString zone;
+    double free = 0;
+    QString last;
+    for (size_t i = m_first; i < m_end; ++i) {
+        const SessionRecord::Moment& moment = m_session.moments.at(i);
+        const QString text =
+            m_hasTimes ? moment.time.clock().left(8) : QString::number(moment.line);
+        const double x = m_x.at(i - m_first);
+        if (x < free || text == last || x > plotRight - textWidth(text) / 2)
+            continue;
+        zone = moment.time.clock().mid(8);
+        drawn +=
+            svgPath(QStringLiteral("grid"),
+                    QStringLiteral("M%1 %2V%3").arg(number(x), number(headHeight), number(bottom)));
+        drawn += svgText(x, bottom + 13, "tick", text);
+        free = x + textWidth(text) + 12;
+        last = text;
+    }
+    // Left of the first tick, which is centered below where the plot begins.
+    const double tickWidth = m_hasTimes ? textWidth(QStringLiteral("00:00:00")) : 0;
+    drawn += svgText(plotLeft - 10 - tickWidth / 2, bottom + 13, "row",
+                     m_hasTimes ? Diagnosis::tr("time") + zone : Diagnosis::tr("line"));
+    return drawn;
+}
+
+void SessionPicture::label(const QString& text, double y)
+{
+    m_body += svgText(plotLeft - 10, y, "row", shortened(text, plotLeft - 14));
+}
+
+void SessionPicture::drawLane(const SessionRecord::Lane& lane)
+{
+    const std::vector<Segment> segments = segmentsOf(lane);
+    m_y += 16;
+    m_body += svgText(0, m_y, "name", shortened(lane.name, 0.8 * width));
+    drawMarks(lane);
+    drawStates(segments);
+    drawConditions(lane, segments);
+    drawSum(lane, segments);
+    m_y += 12;
+}
+
+// The line of the note whose sentence speaks of an answer; 0 without one.
+qint64 SessionPicture::sentenceOf(const NoteAnswer& answer) const
+{
+    if (m_session.isTold(answer))
+        return answer.line;
+    const auto end =
+        m_evidence.upper_bound({qMax(answer.line, answer.lastLine), {UINT_MAX, UINT_MAX}});
+    for (auto it = m_evidence.lower_bound({answer.line, {0, 0}}); it != end; ++it) {
+        if (it->first.second == std::pair(answer.device, answer.thread))
+            return it->second;
+    }
+    return 0;
+}
+
+void SessionPicture::drawMarks(const SessionRecord::Lane& lane)
+{
+    const double middle = m_y + 26;
+    label(Diagnosis::tr("notes"), middle + 4);
+    double free = plotLeft;
+    for (auto note = m_firstAnswer; note != m_endAnswer; ++note) {
+        const NoteAnswer& answer = *note;
+        const qint64 toldOn = sentenceOf(answer);
+        if (!isOf(answer, lane) || toldOn == 0)
+            continue;
+        const QString mark =
+            anchorName(Anchor::Mark, m_session, answer.line, answer.device, answer.thread);
+        const QString sentence =
+            anchorName(Anchor::Sentence, m_session, toldOn, answer.device, answer.thread);
+        m_anchors.insert(mark);
+        const double x = xOf(answer.line) + markSize / 2;
+        const QString outcome = outcomeKey(answer.outcome);
+        const QString halo = answer.isTaken() && answer.outcome == Outcome::Refused
+            ? QStringLiteral("<use href=\"#ring\" x=\"%1\" y=\"%2\"/>")
+                  .arg(number(x), number(middle))
+            : QString();
+        m_body += QStringLiteral("<a id=\"%1\" class=\"mark %2\" href=\"#%3\" tabindex=\"-1\">"
+                                 "<title>%4</title><use href=\"#%2\" x=\"%5\" y=\"%6\"/>%7"
+                                 "<circle class=\"halo\" cx=\"%5\" cy=\"%6\" r=\"11\"/></a>\n")
+                      .arg(mark, outcome, sentence, htmlText(answer.headline()), number(x),
+                           number(middle), halo);
+        const QString value = answer.hasValue() ? QString::number(answer.note) : QString();
+        const double half = textWidth(value) / 2;
+        if (x - half < free)
+            continue;
+        m_body += svgText(x, middle - markSize / 2 - 4, "value", value);
+        free = x + half + 3;
+    }
+    m_y = middle + markSize / 2 + 5;
+}
+
+void SessionPicture::drawStates(const std::vector<Segment>& segments)
+{
+    label(Diagnosis::tr("state"), m_y + 15);
+    const auto clockOf = [this](qint64 line) {
+        const auto moment =
+            std::lower_bound(m_session.moments.begin(), m_session.moments.end(), line,
+                             [](const SessionRecord::Moment& m, qint64 l) { return m.line < l; });
+        return moment->time.isKnown() ? QStringLiteral(", ") + moment->time.clock() : QString();
+    };
+    for (size_t i = 0; i < segments.size();) {
+        const Segment& begin = segments.at(i);
+        double end = begin.end;
+        while (++i < segments.size() && segments.at(i).event->state == begin.event->state)
+            end = segments.at(i).end;
+        const StateWords& words = wordsOf(begin.event->state);
+        const QString style = QLatin1String(words.style);
+        const QString word = Diagnosis::tr(words.word);
+        // Thin where nothing goes on.
+        const double inset = style == QLatin1String("idle") ? 4 : 0;
+        m_body +=
+            svgPath(style, rectangle(begin.begin, m_y + inset, end, m_y + stateHeight - inset),
+                    Diagnosis::tr("line %1").arg(begin.event->line) + clockOf(begin.event->line)
+                        + QStringLiteral(": ") + word);
+        if (end - begin.begin > textWidth(word) + 5)
+            m_body += svgText(begin.begin + 3, m_y + 15,
+                              qPrintable(QStringLiteral("on on-") + style), word);
+    }
+    m_y += stateHeight + 3;
+}
+
+void SessionPicture::drawConditions(const SessionRecord::Lane& lane,
+                                    const std::vector<Segment>& segments)
+{
+    std::vector<QString> rows; // what was the matter, in the order in which it began
+    std::vector<QString> drawn;
+    for (size_t i = 0; i < segments.size(); ++i) {
+        for (const MachineCondition& condition : segments.at(i).event->conditions) {
+            const auto same = [&](size_t event) {
+                const QVector<MachineCondition>& others = segments.at(event).event->conditions;
+                return std::any_of(
+                    others.begin(), others.end(), [&](const MachineCondition& other) {
+                        return other.what == condition.what && other.line == condition.line;
+                    });
+            };
+            if (i > 0 && same(i - 1))
+                continue;
+            size_t last = i;
+            while (last + 1 < segments.size() && same(last + 1))
+                ++last;
+            auto row = std::find(rows.begin(), rows.end(), condition.what);
+            if (row == rows.end()) {
+                row = rows.insert(row, condition.what);
+                label(conditionWord(condition.what), m_y + 13.0 * double(rows.size()) - 4);
+            }
+            const double top = m_y + 13.0 * double(row - rows.begin());
+            const QString name = anchorName(Anchor::Condition, m_session, condition.line,
+                                            lane.device, lane.thread, condition.what);
+            const QString id =
+                m_anchors.insert(name).second ? QStringLiteral(" id=\"%1\"").arg(name) : QString();
+            m_body += QStringLiteral("<path%1 class=\"matter\" d=\"%2\"><title>%3</title></path>\n")
+                          .arg(id,
+                               rectangle(segments.at(i).begin, top + 2, segments.at(last).end,
+                                         top + 2 + conditionHeight),
+                               htmlText(condition.text));
+        }
+    }
+    m_y += 13.0 * double(rows.size());
+}
+
+// What a refused note would have led to: from the sum before it up to the one with it.
+QString SessionPicture::excesses(const SessionRecord::Lane& lane,
+                                 const std::vector<Segment>& segments, double perUnit) const
+{
+    QString drawn;
+    for (auto note = m_firstAnswer; note != m_endAnswer; ++note) {
+        const NoteAnswer& answer = *note;
+        const auto segment = std::find_if(segments.begin(), segments.end(), [&](const Segment& s) {
+            return s.event->line == answer.line;
+        });
+        if (!isOverSum(answer) || !isOf(answer, lane) || segment == segments.end())
+            continue;
+        const double x = segment->begin + markSize / 2;
+        const double from = m_y + sumHeight - perUnit * double(segment->event->sum);
+        const double to = qMax(m_y, from - perUnit * double(answer.note));
+        drawn +=
+            svgPath(QStringLiteral("excess"),
+                    QStringLiteral("M%1 %2V%3M%4 %3H%5")
+                        .arg(number(x), number(from), number(to), number(x - 4), number(x + 4)));
+    }
+    return drawn;
+}
+
+void SessionPicture::drawSum(const SessionRecord::Lane& lane, const std::vector<Segment>& segments)
+{
+    const double most = m_mostSum.at(&lane);
+    if (segments.empty() || most <= 0)
+        return;
+    m_y += 16;
+    const double bottom = m_y + sumHeight;
+    const double perUnit = sumHeight / most;
+    label(Diagnosis::tr("session sum"), bottom);
+    m_body += svgPath(
+        QStringLiteral("base"),
+        QStringLiteral("M%1 %2H%3").arg(number(plotLeft), number(bottom), number(plotRight)));
+    if (m_sumLimit) {
+        const double y = bottom - perUnit * double(*m_sumLimit);
+        m_body += svgPath(
+            QStringLiteral("limit"),
+            QStringLiteral("M%1 %2H%3").arg(number(plotLeft), number(y), number(plotRight)));
+        m_body += svgText(plotRight, y - 4, "limit", Diagnosis::tr("limit %1").arg(*m_sumLimit));
+    }
+    m_body += excesses(lane, segments, perUnit);
+    QString path;
+    double free = 0;
+    int sum = 0;
+    for (const Segment& segment : segments) {
+        const double y = bottom - perUnit * double(qMax(0, segment.event->sum));
+        if (path.isEmpty())
+            path = QStringLiteral("M%1 %2").arg(number(segment.begin), number(y));
+        else if (segment.event->sum != sum)
+            path += QStringLiteral("H%1V%2").arg(number(segment.begin), number(y));
+        const QString value = QString::number(segment.event->sum);
+        if (segment.event->sum != sum && segment.begin > free
+            && segment.begin < plotRight - textWidth(value)) {
+            m_body += svgText(segment.begin + 3, y - 4, "sum", value);
+            free = segment.begin + textWidth(value) + 6;
+        }
+        sum = segment.event->sum;
+    }
+    m_body += svgPath(QStringLiteral("sum"), path + QStringLiteral("H%1").arg(number(plotRight)));
+    m_y = bottom + 2;
+}
+
+// What links lead to: a line through the picture, which shows when it is the target.
+QString SessionPicture::pins(double height) const
+{
+    QString drawn;
+    for (auto it = m_evidence.lower_bound({m_firstLine, {0, 0}});
+         it != m_evidence.end() && it->first.first <= m_lastLine; ++it) {
+        const auto& [line, device] = it->first;
+        const double x = xOf(line);
+        const QString text = Diagnosis::tr("line %1").arg(line);
+        const double half = textWidth(text) / 2;
+        drawn +=
+            QStringLiteral("<g id=\"%1\" class=\"pin\"><path d=\"M%2 %3V%4\"/>")
+                .arg(anchorName(Anchor::Evidence, m_session, line, device.first, device.second),
+                     number(x), number(headHeight - 4), number(height))
+            + svgText(qBound(half, x, width - half), headHeight - 8, "", text)
+            + QStringLiteral("</g>\n");
+    }
+    return drawn;
+}
+
+QString SessionPicture::symbols()
+{
+    // A crossed square, a disc with a tick, a note in a slot, a triangle, a diamond, a ring with a
+    // dot.
+    return QStringLiteral("<svg width=\"0\" height=\"0\" aria-hidden=\"true\"><defs>\n"
+                          "<path id=\"refused\" fill-rule=\"evenodd\" "
+                          "d=\"M-7-7H7V7H-7zM-4.5-3L-1.5 0-4.5 3-3 4.5 0 1.5 "
+                          "3 4.5 4.5 3 1.5 0 4.5-3 3-4.5 0-1.5-3-4.5z\"/>\n"
+                          "<path id=\"taken\" fill-rule=\"evenodd\" d=\"M-7 0A7 7 0 1 1 7 0A7 7 0 "
+                          "1 1-7 0zM-4.3.4L-1.2 "
+                          "3.6 4.3-2.4 3-3.6-1.2 1-3-1z\"/>\n"
+                          "<path id=\"stuck\" d=\"M-7-7H7V-2.5H3L6 7H-6L-3-2.5H-7z\"/>\n"
+                          "<path id=\"rejected\" d=\"M0-7.5L8 6.5H-8z\"/>\n"
+                          "<path id=\"returned\" d=\"M0-8L8 0 0 8-8 0z\"/>\n"
+                          "<path id=\"unknown\" fill-rule=\"evenodd\" d=\"M-7 0A7 7 0 1 1 7 0A7 7 "
+                          "0 1 1-7 0zM-5 0A5 5 0 1 "
+                          "0 5 0A5 5 0 1 0-5 0zM-2 0A2 2 0 1 1 2 0A2 2 0 1 1-2 0z\"/>\n"
+                          "<path id=\"ring\" fill-rule=\"evenodd\" d=\"M-11 0A11 11 0 1 1 11 0A11 "
+                          "11 0 1 1-11 0zM-9.5 "
+                          "0A9.5 9.5 0 1 0 9.5 0A9.5 9.5 0 1 0-9.5 0z\"/>\n"
+                          "</defs></svg>\n");
+}
+
+QString SessionPicture::glyph(Outcome outcome)
+{
+    return QStringLiteral("<svg class=\"glyph %1\" viewBox=\"-9 -9 18 18\" aria-hidden=\"true\">"
+                          "<use href=\"#%1\"/></svg>")
+        .arg(outcomeKey(outcome));
+}
+
+QString SessionPicture::stateLegend()
+{
+    QString items;
+    for (const StyleWords& words : styleTable) {
+        items += QStringLiteral("<li><span class=\"key %1\"></span>%2</li>\n")
+                     .arg(QLatin1String(words.style), htmlText(Diagnosis::tr(words.meaning)));
+    }
+    return items;
+}

@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "service/lastnote.h"
+
+#include "devicestatesconst.h"
+#include "filterfactory.h"
+#include "service/customeranswer.h"
+#include "text/diagnosis.h"
+
+#include <algorithm>
+
+using namespace deviceStatesConst;
+
+namespace {
+
+// Said of a note and of a coin; %1 is the face value.
+struct Words
+{
+    const char* note;
+    const char* coin;
+
+    QString of(int model) const
+    {
+        return Diagnosis::tr(moneyOf(model) == Money::Coin ? coin : note);
+    }
+};
+
+constexpr Words checkedWords{QT_TRANSLATE_NOOP("Diagnosis", "Checking a note of %1..."),
+                             QT_TRANSLATE_NOOP("Diagnosis", "Checking a coin of %1...")};
+constexpr Words takenWords{QT_TRANSLATE_NOOP("Diagnosis", "A note of %1 was accepted."),
+                           QT_TRANSLATE_NOOP("Diagnosis", "A coin of %1 was accepted.")};
+constexpr Words rejectedWords{
+    QT_TRANSLATE_NOOP("Diagnosis", "Your note was not recognised. Please try another one."),
+    QT_TRANSLATE_NOOP("Diagnosis", "Your coin was not recognised. Please try another one.")};
+constexpr Words returnedWords{
+    QT_TRANSLATE_NOOP("Diagnosis", "Your note of %1 was returned. Please take it."),
+    QT_TRANSLATE_NOOP("Diagnosis", "Your coin of %1 was returned. Please take it.")};
+constexpr Words stuckWords{
+    QT_TRANSLATE_NOOP("Diagnosis",
+                      "The device failed with your note of %1 in it. Please call the staff."),
+    QT_TRANSLATE_NOOP("Diagnosis",
+                      "The device failed with your coin of %1 in it. Please call the staff.")};
+
+// Said when a filter of the name refuses; %2 is the parameter.
+const struct
+{
+    const char* const& filter;
+    const char* parameter;
+    Words words;
+} refusals[] = {
+    {filters::ACCEPT_FILTER,
+     "",
+     {QT_TRANSLATE_NOOP("Diagnosis", "Notes are not accepted at the moment. It comes back to you."),
+      QT_TRANSLATE_NOOP("Diagnosis",
+                        "Coins are not accepted at the moment. It comes back to you.")}},
+    {filters::ATTEMPTS_FILTER,
+     "",
+     {QT_TRANSLATE_NOOP("Diagnosis",
+                        "After several rejections no note of %1 is accepted. It comes back to you; "
+                        "please try another value."),
+      QT_TRANSLATE_NOOP("Diagnosis",
+                        "After several rejections no coin of %1 is accepted. It comes back to you; "
+                        "please try another value.")}},
+    {filters::DENOM_COUNT_FILTER,
+     "",
+     {QT_TRANSLATE_NOOP("Diagnosis",
+                        "No more notes of %1 are accepted in this payment. It comes back to you."),
+      QT_TRANSLATE_NOOP(
+          "Diagnosis", "No more coins of %1 are accepted in this payment. It comes back to you.")}},
+    {filters::SESSION_SUM_FILTER,
+     "sessionSum",
+     {QT_TRANSLATE_NOOP("Diagnosis", "This note would pass the limit of %2. It comes back to you."),
+      QT_TRANSLATE_NOOP("Diagnosis",
+                        "This coin would pass the limit of %2. It comes back to you.")}},
+};
+constexpr Words refusedWords{
+    QT_TRANSLATE_NOOP("Diagnosis", "This note cannot be accepted. It comes back to you."),
+    QT_TRANSLATE_NOOP("Diagnosis", "This coin cannot be accepted. It comes back to you.")};
+
+std::pair<int, int> keyOf(const AcceptorStateItem& device)
+{
+    return {device.deviceId(), device.threadId()};
+}
+
+bool isOf(const QVariantMap& refusal, const AcceptorStateItem& device)
+{
+    return refusal.value(deviceStateDescConst::DEVICE_ID).toInt() == device.deviceId()
+        && refusal.value(deviceStateDescConst::THREAD_ID, device.threadId()).toInt()
+        == device.threadId();
+}
+
+} // namespace
+
+void LastNote::take(const PublishedState& state)
+{
+    const qint64 sum = state.sessionSum();
+    if (sum < m_sum)
+        m_outcome = None; // of a session before
+    m_sum = sum;
+    auto details = state.details.begin();
+    const QList<AcceptorStateItem> devices = state.service.deviceStates();
+    for (const AcceptorStateItem& device : devices)
+        follow(device, (details++)->currentNote, state.refusals);
+    m_isFirst = false;
+}
+
+void LastNote::follow(const AcceptorStateItem& device, qint32 note, const QVariantList& refused)
+{
+    const std::pair<int, int> key = keyOf(device);
+    const QString state = device.state();
+    const Event before = std::exchange(m_events[key], {state, note});
+    const bool isNew = before.state != state || (state == DS_ACCEPTING && before.note != note);
+    if (isNew && !m_isFirst && state == DS_ACCEPTING && note > 0) {
+        m_device = key;
+        m_note = note;
+        m_outcome = Checked;
+    }
+    if (m_outcome == None || m_device != key) {
+        if (isNew && !m_isFirst && state == DS_REJECTED) {
+            m_device = key;
+            m_note = 0;
+            m_outcome = Rejected;
+        }
+        return;
+    }
+    const bool isHeld = state == DS_ACCEPTING || state == DS_RETURNING;
+    for (const QVariant& refusal : refused) {
+        if (m_outcome == Checked && isHeld && isOf(refusal.toMap(), device)) {
+            m_outcome = Refused;
+            m_refusal = refusal.toMap();
+        }
+    }
+    const bool isResting = state == DS_IDLING || state == DS_BUSY;
+    const bool wasIn = before.state == DS_ACCEPTED || before.state == DS_STACKING;
+    if (state == DS_STACKED || (wasIn && isResting))
+        m_outcome = Taken;
+    else if (m_outcome == Checked && isResting)
+        m_outcome = None; // nobody says what became of it
+    else if (m_outcome == Checked
+             && (device.errorCritical() || state == DS_JAMMED || state == DS_ERROR))
+        m_outcome = Stuck;
+    else if (m_outcome != Refused && isNew && state == DS_REJECTED)
+        m_outcome = Rejected;
+    else if (m_outcome != Refused && isNew && (state == DS_RETURNING || state == DS_RETURNED))
+        m_outcome = Returned;
+}
+
+QString LastNote::text() const
+{
+    const int model = m_device.first;
+    switch (m_outcome) {
+    case None:
+        return {};
+    case Checked:
+        return checkedWords.of(model).arg(m_note);
+    case Taken:
+        return takenWords.of(model).arg(m_note);
+    case Refused:
+        return refusalText();
+    case Rejected:
+        return rejectedWords.of(model);
+    case Returned:
+        return returnedWords.of(model).arg(m_note);
+    case Stuck:
+        return stuckWords.of(model).arg(m_note);
+    }
+    return {};
+}
+
+QString LastNote::refusalText() const
+{
+    const QString filter = m_refusal.value(QStringLiteral("name")).toString();
+    const auto known =
+        std::find_if(std::begin(refusals), std::end(refusals),
+                     [&](const auto& refusal) { return filter == QLatin1String(refusal.filter); });
+    if (known == std::end(refusals))
+        return refusedWords.of(m_device.first);
+    const QVariantMap params = m_refusal.value(QStringLiteral("params")).toMap();
+    QString text = known->words.of(m_device.first);
+    text.replace(QLatin1String("%1"), QString::number(m_note));
+    return text.replace(QLatin1String("%2"),
+                        params.value(QLatin1String(known->parameter)).toString());
+}

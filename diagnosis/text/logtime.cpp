@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "text/logtime.h"
+
+#include "text/diagnosis.h"
+#include "text/fault.h"
+
+#include <QDateTime>
+
+namespace {
+
+constexpr int timeOfDay = 11; // where it begins in yyyy-MM-ddThh:mm:ss
+
+int twoDigits(const QString& text, int at)
+{
+    return (text.at(at).unicode() - u'0') * 10 + text.at(at + 1).unicode() - u'0';
+}
+
+// The form that services write, on a day that every month has. Qt decides on every other, and takes
+// ten times as long.
+bool isPlain(const QString& text)
+{
+    const QLatin1String form("dddd-dd-ddTdd:dd:dd.ddd");
+    const int size = int(text.size()) - (text.endsWith(QLatin1Char('Z')) ? 1 : 0);
+    if (size != 19 && size != 23)
+        return false;
+    for (int i = 0; i < size; ++i) {
+        const QChar c = text.at(i);
+        if (form.at(i) == QLatin1Char('d') ? c < QLatin1Char('0') || c > QLatin1Char('9')
+                                           : c != form.at(i))
+            return false;
+    }
+    const int month = twoDigits(text, 5);
+    const int day = twoDigits(text, 8);
+    return month >= 1 && month <= 12 && day >= 1 && day <= 28 && twoDigits(text, 11) < 24
+        && twoDigits(text, 14) < 60 && twoDigits(text, 17) < 60;
+}
+
+bool isTime(const QString& text)
+{
+    return isPlain(text)
+        || (text.size() > timeOfDay && QDateTime::fromString(text, Qt::ISODate).isValid());
+}
+
+} // namespace
+
+LogTime::LogTime(const QVariant& value)
+{
+    // The years that an ISO 8601 text can say: 1 to 9999.
+    constexpr double least = -62135596800000;
+    constexpr double most = 253402300799999;
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    if (value.userType() == QMetaType::QString && isTime(value.toString())) {
+        m_text = value.toString();
+    } else if (value.userType() != QMetaType::QString && value.userType() != QMetaType::Bool
+               && isNumber && number >= least && number <= most) {
+        m_hasMilliseconds = true;
+        m_milliseconds = static_cast<qint64>(number);
+    } else {
+        throw Fault{Diagnosis::tr(
+            "expected an ISO 8601 time or milliseconds since 1970, in a year from 1 to 9999")};
+    }
+}
+
+QString LogTime::iso() const
+{
+    if (!m_hasMilliseconds)
+        return m_text;
+    return QDateTime::fromMSecsSinceEpoch(m_milliseconds, Qt::UTC).toString(Qt::ISODateWithMs);
+}
+
+QDateTime LogTime::toDateTime() const
+{
+    return m_hasMilliseconds ? QDateTime::fromMSecsSinceEpoch(m_milliseconds, Qt::UTC)
+                             : QDateTime::fromString(m_text, Qt::ISODateWithMs);
+}
+
+QString LogTime::clock() const
+{
+    const QString text = iso();
+    const QString time = text.mid(timeOfDay, 8);
+    return text.endsWith(QLatin1Char('Z')) ? time + QLatin1String(" UTC") : time;
+}
+
+std::optional<qint64> LogTime::wallClock() const
+{
+    if (m_hasMilliseconds)
+        return m_milliseconds;
+    const QDateTime shown = QDateTime::fromString(m_text, Qt::ISODateWithMs);
+    if (!shown.isValid())
+        return {};
+    return QDateTime(shown.date(), shown.time(), Qt::UTC).toMSecsSinceEpoch();
+}
