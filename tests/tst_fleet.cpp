@@ -139,6 +139,9 @@ private Q_SLOTS:
             {"device_id":1,"enabled":true,"state":"idling","notes_inserted":7,"notes_rejected":2,"notes_returned":1} | fine 7/2/1
             {"device_id":1,"enabled":true,"state":"idling","notes_inserted":7},{"device_id":100,"enabled":true,"state":"jammed","notes_inserted":5} | faulty 12/0/0 Coin acceptor (CCTalk): The device does not work; its state: jamming.
             {"device_id":1,"enabled":true,"state":"idling","halt":true} | out_of_order 0/0/0 Bill validator (CCNet): The device is halted.
+            {"device_id":99,"enabled":true,"state":"idling"},{"device_id":1,"enabled":true,"state":"idling","halt":true} | faulty 0/0/0 Bill validator (CCNet): The device is halted.
+            {"device_id":199,"enabled":true,"state":"idling"},{"device_id":1,"enabled":true,"state":"idling","halt":true} | faulty 0/0/0 Bill validator (CCNet): The device is halted.
+            {"device_id":200,"enabled":true,"state":"idling"},{"device_id":1,"enabled":true,"state":"idling","halt":true} | faulty 0/0/0 Bill validator (CCNet): The device is halted.
             | out_of_order 0/0/0 The service tells of no device.)"_s);
     }
 
