@@ -11,6 +11,7 @@
 #include "service/serviceanswer.h"
 #include "settings/arrayfile.h"
 #include "statitem.h"
+#include "text/filterwords.h"
 #include "velmorun.h"
 
 #include <QBuffer>
