@@ -277,11 +277,12 @@ private Q_SLOTS:
         explainer.finish();
         QStringList rows;
         for (const Summary::Row& row : summary.rows())
-            rows += "%1 %2 %3"_s.arg(row.what).arg(row.tally.count).arg(row.tally.sum);
+            rows += (row.isPart ? "- "_s : QString())
+                + "%1 %2 %3"_s.arg(row.what).arg(row.tally.count).arg(row.tally.sum);
         QCOMPARE(rows.mid(0, 6),
-                 (QStringList{"Offered 4 350"_s, "Taken 2 150"_s, "taken although refused 1 100"_s,
-                              "Refused by the filters 3 300"_s, "AttemptsFilter 3 0"_s,
-                              "Stuck in the device 1 100"_s}));
+                 (QStringList{"Offered 4 350"_s, "Taken 2 150"_s,
+                              "- taken although refused 1 100"_s, "Refused by the filters 3 300"_s,
+                              "- AttemptsFilter 3 0"_s, "Stuck in the device 1 100"_s}));
     }
 
     // Random logs of two devices. Cut where sessions begin, the parts give the answers of the
