@@ -3,58 +3,14 @@
 
 #pragma once
 
+#include "json/jsonwriter.h"
+
 #include <QByteArray>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QString>
-#include <QVarLengthArray>
+#include <QVariant>
 
 #include <initializer_list>
 #include <type_traits>
-
-/// JSON text that grows at its end.
-class JsonBuffer
-{
-public:
-    template <std::size_t Size>
-    JsonBuffer& operator<<(const char (&literal)[Size])
-    {
-        m_text.append(literal, int(Size) - 1);
-        return *this;
-    }
-    JsonBuffer& operator<<(char character)
-    {
-        m_text.append(character);
-        return *this;
-    }
-    JsonBuffer& operator<<(const QByteArray& json)
-    {
-        m_text.append(json.constData(), int(json.size()));
-        return *this;
-    }
-
-    /// Appends the key of a member, plain ASCII, after @p before.
-    void appendKey(char before, const char* key);
-
-    /// Appends a text, a number, or true or false as JSON.
-    void append(const QString& text);
-    template <typename Number, typename = std::enable_if_t<std::is_integral_v<Number>>>
-    void append(Number number)
-    {
-        if constexpr (std::is_same_v<Number, bool>)
-            *this << (number ? QByteArrayLiteral("true") : QByteArrayLiteral("false"));
-        else
-            appendNumber(number);
-    }
-
-    QByteArray text() const { return {m_text.constData(), int(m_text.size())}; }
-
-private:
-    void appendNumber(qint64 number);
-
-    QVarLengthArray<char, 1024> m_text;
-};
 
 /// A JSON value as compact text. Unlike a QJsonObject, an object keeps its members in the order in
 /// which they were given, which is that of their meaning.
@@ -72,11 +28,7 @@ public:
         append(json.text());
     }
 
-    static JsonText of(const QJsonValue& value)
-    {
-        const QByteArray array = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-        return JsonText(array.mid(1, array.size() - 2));
-    }
+    static JsonText of(const QVariant& value);
 
     static JsonText null();
 
