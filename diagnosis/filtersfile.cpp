@@ -19,13 +19,14 @@ namespace {
 const QLatin1String nameKey("name");
 const QLatin1String paramsKey("params");
 
-// A number, a text that reads as one, or a switch; the filter's property has taken it when both
-// are the same number.
+// A number from 0 on, a text that reads as one, or a switch; the filter's property has taken it
+// when both are the same number.
 bool holds(const AbstractFilter& filter, const QString& param, const QVariant& value)
 {
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
-    return isNumber && number == filter.property(param.toUtf8().constData()).toDouble();
+    return isNumber && number >= 0
+        && number == filter.property(param.toUtf8().constData()).toDouble();
 }
 
 FilterSet::Filter checkedFilter(const QJsonValue& element)

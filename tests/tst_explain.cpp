@@ -186,7 +186,21 @@ private Q_SLOTS:
     {
         addRows(R"(
             S;accepting 100;stacking;{"state":"jammed","error_critical":true};idling | 100 stuck error@4
-            S;accepting 100;jammed;idling;stacked                   | 100 stuck
+            S;accepting 100;jammed;idling;stacked                   | 100 taken
+            S;accepting 100;jammed;idling;returned                  | 100 returned
+            S;accepting 100;jammed;idling;rejected                  | 100 stuck, ? rejected
+            S;accepting 100;{"online":false};accepted;{"online":true};idling | 100 taken
+            S;accepting 100;{"halt":true};stacking;idling           | 100 taken
+            S;accepting 100;accepted;returning;idling               | 100 unknown
+            S;accepting 100;accepted;stacking                       | 100 unknown
+            S;accepting 100;{"session":"start"};accepting 100;stacked | 100 taken
+            S;accepting 100;{"session":"start"};accepting 50;stacked | 100 unknown, 50 taken
+            S;accepting 100;idling;{"session":"start"};accepting 100;stacked | 100 unknown, 100 taken
+            S;accepting;stacked;{"current_note":100};idling         | 100 taken !
+            S;accepting;stacked;idling;{"current_note":100}         | ? taken
+            S;accepting;returned;rejected;idling                    | ? returned, ? rejected
+            S;accepting 100;stacked;idling;accepting;{"current_note":500};stacked | 100 taken, 500 taken
+            S;accepting 100;accepted 500;stacked                    | 100 taken !
             S;accepting 100;jammed;stacked                          | 100 taken
             S;accepting 100;jammed;returned                         | 100 returned
             S;accepting 100;accepted;jammed;stacking;idling         | 100 taken
@@ -406,13 +420,15 @@ private Q_SLOTS:
                                                  "rejected",  "stacked",   "idling"};
             for (int line = 1; line <= 40; ++line) {
                 QJsonObject report{{"state"_s, QString::fromUtf8(states[pick(7)])}};
-                if (pick(2) == 0)
+                if (pick(2) == 0 || report["state"_s] == QJsonValue("accepting"_s))
                     report["current_note"_s] =
                         QVector<int>{0, 100, 100, 500, 500, 1000}.at(pick(6));
                 if (pick(4) == 0)
                     report["session_sum"_s] = 100 * pick(30);
-                if (pick(15) == 0)
+                if (pick(15) == 0) {
                     report["session"_s] = "start"_s;
+                    report["state"_s] = "idling"_s; // a note in hand would be followed on
+                }
                 const SessionLine said(QString::fromUtf8(QJsonDocument(report).toJson()));
                 if (said.startsSession()) {
                     worker.startSession();
@@ -518,6 +534,8 @@ private Q_SLOTS:
             {"time":"2026-11-16T24:05:12Z"}             | "time": expected an ISO 8601 time
             {"time":253402300800000}                    | "time": expected an ISO 8601 time or milliseconds since 1970, in a year from 1 to 9999
             {"time":-62135596800001}                    | "time": expected an ISO 8601 time
+            {"time":1000.5}                             | "time": expected an ISO 8601 time
+            {"time":"0000-01-01T00:00:00"}              | "time": expected an ISO 8601 time
             {"current_note":"100"}                      | "current_note": expected a whole number from -2147483648 to 2147483647
             {"current_note":100.5}                      | "current_note": expected a whole number
             {"device_id":1} x                           | not JSON: garbage at the end of the document (column 17)

@@ -104,6 +104,7 @@ private Q_SLOTS:
             {"name":"AcceptFilter","params":{"all":1}}         | unknown parameter "all"
             {"name":"AttemptsFilter","params":{"attempts":128}}| "attempts" cannot hold
             {"name":"DenomCountFilter","params":{"count":"x"}} | "count" cannot hold
+            {"name":"DenomCountFilter","params":{"count":-1}}  | "count" cannot hold
             {"name":"AcceptFilter","parms":{}}                 | unknown key "parms"
             {"name":"AcceptFilter","params":[]}                | expected an object
             "AcceptFilter"                                     | expected an object

@@ -1225,5 +1225,9 @@
         <source>stuck in the device</source>
         <translation>застряла в устройстве</translation>
     </message>
+    <message>
+        <source>its value became %1 in line %2</source>
+        <translation>её номинал в строке %2 стал %1</translation>
+    </message>
 </context>
 </TS>

@@ -195,18 +195,26 @@ LogExplainer::LogExplainer(const FilterSet& filters, Receiver receiver)
 
 void LogExplainer::take(const SessionLine& line, qint64 lineNumber)
 {
-    for (const LogStep& step : m_player.take(line, lineNumber)) {
+    std::vector<const LogStep*> steps;
+    for (const LogStep& step : m_player.take(line, lineNumber))
+        steps.push_back(&step);
+    // In whatever order they are published.
+    std::sort(steps.begin(), steps.end(), [](const LogStep* a, const LogStep* b) {
+        return std::make_pair(a->device->deviceId(), a->device->threadId())
+            < std::make_pair(b->device->deviceId(), b->device->threadId());
+    });
+    for (const LogStep* const step : steps) {
         // A note that the device has in hand goes on into the next session.
         const auto closeAtStart = [&] {
-            const Note* const note = m_trails[step.device].note;
-            if (step.startsSession && note && !note->isInHand)
-                close(*step.device);
+            const Note* const note = m_trails[step->device].note;
+            if (step->startsSession && note && note->phase != InHand)
+                close(*step->device);
         };
         closeAtStart();
-        if (step.sent)
-            takeEvent(step, line, lineNumber);
-        else if (Note* const note = m_trails[step.device].note)
-            watch(*step.device, *note, lineNumber); // a first report may tell of what is no event
+        if (step->sent)
+            takeEvent(*step, line, lineNumber);
+        else if (Note* const note = m_trails[step->device].note)
+            watch(*step->device, *note, lineNumber); // a first report may tell of what is no event
         closeAtStart();
     }
     giveAway();
@@ -214,8 +222,12 @@ void LogExplainer::take(const SessionLine& line, qint64 lineNumber)
 
 void LogExplainer::finish()
 {
-    for (const auto& device : m_player.devices())
+    for (const auto& device : m_player.devices()) {
+        Note* const note = m_trails[device.get()].note;
+        if (note && note->phase == InHand)
+            note->answer.end = Outcome::Unknown; // it is on its way still
         close(*device);
+    }
     giveAway();
 }
 
@@ -244,25 +256,53 @@ void LogExplainer::takeEvent(const LogStep& step, const SessionLine& line, qint6
             || (!line.isPublished() && (step.reported & noteBit()) != 0));
     trail.state = event.state;
     trail.value = event.currentNote;
+    trail.isValueNew = event.currentNote > 0 && (trail.isValueNew || isNewValue);
+    if (trail.note && trail.note->phase == Ended && isNewState)
+        close(device);
 
+    // Told once more in the next session.
+    const bool isCarriedOver = trail.note && !isNewState && trail.note->phase == InHand
+        && trail.note->answer.end == Outcome::Unknown
+        && trail.note->answer.session != device.session()
+        && trail.note->answer.note == event.currentNote;
     const bool isSameOffer = before && isOffer(*before) && before->currentNote == event.currentNote;
-    if (isOffer(event) && !isSameOffer) {
+    if (isOffer(event) && !isSameOffer && !isCarriedOver) {
+        if (trail.note && trail.note->isValuePresumed && !isNewState)
+            drop(*trail.note);
         addNote(device, line, lineNumber);
+        trail.note->isValuePresumed = !std::exchange(trail.isValueNew, false);
         return judge(device, *trail.note);
     }
-    // Which has gone on from accepting, or is gone.
-    const bool isLastDone =
-        !trail.note || !trail.note->isInHand || trail.note->answer.end != Outcome::Unknown;
-    const bool isNext =
-        event.state == STATE_ACCEPTING ? isLastDone : event.state == STATE_REJECTED && !trail.note;
-    if (isNewState && isNext)
+    if (isNewState && beginsNote(event, trail.note))
         addNote(device, line, lineNumber);
     if (!trail.note)
         return;
     NoteAnswer& answer = trail.note->answer;
-    if (!answer.hasValue() && isNewValue && event.state != STATE_IDLING)
-        answer.note = event.currentNote;
+    if (event.state != STATE_IDLING && std::exchange(trail.isValueNew, false)) {
+        if (!answer.hasValue())
+            answer.note = event.currentNote;
+        else if (answer.note != event.currentNote)
+            answer.uncertain += Diagnosis::tr("its value became %1 in line %2")
+                                    .arg(event.currentNote)
+                                    .arg(lineNumber);
+    }
     follow(device, *trail.note, isNewState, lineNumber);
+}
+
+// Whether a new state without a value is of a note after the one that is open, if any.
+bool LogExplainer::beginsNote(const DeviceState& event, const Note* open)
+{
+    if (event.state == STATE_ACCEPTING)
+        return !open || open->phase != InHand || open->answer.end != Outcome::Unknown;
+    return event.state == STATE_REJECTED
+        && (!open || (open->phase != InHand && open->stoppedLine > 0));
+}
+
+// Takes back a note that there was not: its value was that of the note before.
+void LogExplainer::drop(Note& note)
+{
+    note.answer = {};
+    note.stoppedLine = 0;
 }
 
 void LogExplainer::addNote(const LogDevice& device, const SessionLine& line, qint64 lineNumber)
@@ -297,10 +337,10 @@ void LogExplainer::judge(const LogDevice& device, Note& note)
 // Sees what is the matter with a device while it has a note in hand.
 void LogExplainer::watch(const LogDevice& device, Note& note, qint64 lineNumber)
 {
-    if (!note.isInHand)
+    if (note.phase != InHand)
         return;
     addConditions(note.answer.machine, device.conditions());
-    if (note.stoppedLine == 0 && device.hasStoppedSince(note.answer.line))
+    if (note.stoppedLine == 0 && device.stopsOn(lineNumber))
         note.stoppedLine = lineNumber;
 }
 
@@ -310,12 +350,15 @@ void LogExplainer::follow(const LogDevice& device, Note& note, bool isNewState, 
     NoteAnswer& answer = note.answer;
     const State state = device.state().state;
     const Outcome before = answer.end;
-    if (state == STATE_ACCEPTED || state == STATE_STACKING || state == STATE_STACKED)
+    const bool isKept = state == STATE_ACCEPTED || state == STATE_STACKING;
+    if (isKept || state == STATE_STACKED)
         answer.end = Outcome::Taken;
     else if (state == STATE_REJECTED)
         answer.end = Outcome::Rejected;
     else if (state == STATE_RETURNED)
         answer.end = Outcome::Returned;
+    else if (state == STATE_RETURNING)
+        answer.end = Outcome::Unknown;
     if (answer.end != before)
         answer.lastLine = lineNumber;
     if (device.state().sessionSum > note.sumBefore && answer.creditLine.value_or(0) == 0)
@@ -323,16 +366,21 @@ void LogExplainer::follow(const LogDevice& device, Note& note, bool isNewState, 
 
     const bool isAtEnd =
         state == STATE_REJECTED || state == STATE_RETURNED || state == STATE_STACKED;
-    watch(device, note, lineNumber);
-    const bool goesOn = isNewState && (state == STATE_ACCEPTED || state == STATE_STACKING)
-        && !device.hasStoppedSince(answer.line);
-    if (isAtEnd || goesOn)
+    if (isAtEnd || (isNewState && isKept))
         note.stoppedLine = 0;
-    note.isInHand = note.isInHand && state != STATE_IDLING;
-    // Out of the escrow a note may still come back.
-    const bool cameToRest =
-        !note.isInHand && (answer.end != Outcome::Unknown || note.stoppedLine > 0);
-    if (isAtEnd || cameToRest)
+    const bool isJam = isNewState && (state == STATE_JAMMED || state == STATE_ERROR);
+    if (isJam && note.phase == InHand && note.stoppedLine == 0)
+        note.stoppedLine = lineNumber;
+    watch(device, note, lineNumber);
+    if (isAtEnd) {
+        note.phase = Ended;
+        note.stoppedLine = 0;
+    } else if (state == STATE_IDLING) {
+        note.phase = Idle;
+    }
+    // Its value may come yet, or, where the device stopped, where it went.
+    if (isAtEnd ? answer.hasValue()
+                : note.phase == Idle && answer.end != Outcome::Unknown && note.stoppedLine == 0)
         close(device);
 }
 

@@ -114,9 +114,10 @@ struct Summary
 /// Explains a session log. A note is offered by an event in state accepting with a note above 0,
 /// unless the device's event before it was the same. It is refused when a filter objects then;
 /// otherwise what follows decides, up to the device's next note, or to a session that begins when
-/// the device idles: a stacked, rejected or returned event, or else an accepted or stacking one
-/// before the device idles, unless it stopped in between. A note whose value comes after it was
-/// accepting, or with the end, is followed likewise; the filters are not asked about it.
+/// the device has no note in hand: a stacked, rejected or returned event; or else an accepted or
+/// stacking one, when the device idles or its next note comes and it did not stop in between. A
+/// note whose value comes after it was accepting, or with the end, is followed likewise; the
+/// filters are not asked about it.
 class LogExplainer
 {
 public:
@@ -142,13 +143,20 @@ public:
     const LogPlayer& player() const { return m_player; }
 
 private:
+    enum Phase {
+        InHand, // of the device
+        Ended, // stacked, rejected or returned
+        Idle // the device idles, and the log did not say
+    };
+
     struct Note
     {
         NoteAnswer answer; // its end: so far
         qint64 stoppedLine = 0; // on which the device stopped with it; 0 while it works
         int sumBefore = 0; // of the session
+        Phase phase = InHand;
         bool isOpen = true;
-        bool isInHand = true; // of the device, until it idles
+        bool isValuePresumed = false; // the log did not tell it of this note
         bool startSeen = false; // of the session
         qint64 skippedBefore = 0; // the session
     };
@@ -159,11 +167,14 @@ private:
         Note* note = nullptr;
         std::optional<State> state;
         int value = 0;
+        bool isValueNew = false; // and not yet that of a note
     };
 
     void takeEvent(const LogStep& step, const SessionLine& line, qint64 lineNumber);
     void addNote(const LogDevice& device, const SessionLine& line, qint64 lineNumber);
-    void judge(const LogDevice& device, Note& note);
+    static bool beginsNote(const DeviceState& event, const Note* open);
+    static void drop(Note& note);
+    static void judge(const LogDevice& device, Note& note);
     static void watch(const LogDevice& device, Note& note, qint64 lineNumber);
     void follow(const LogDevice& device, Note& note, bool isNewState, qint64 lineNumber);
     void close(const LogDevice& device);

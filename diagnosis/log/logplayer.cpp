@@ -100,12 +100,10 @@ QVector<MachineCondition> LogDevice::conditions() const
     return found;
 }
 
-bool LogDevice::hasStoppedSince(qint64 line) const
+bool LogDevice::stopsOn(qint64 line) const
 {
-    if (state().state == STATE_JAMMED || state().state == STATE_ERROR)
-        return true;
     for (size_t i = 0; i < m_conditionSince.size(); ++i) {
-        if (conditionTable().at(i).stopsNotes && m_conditionSince.at(i) > line)
+        if (conditionTable().at(i).stopsNotes && m_conditionSince.at(i) == line)
             return true;
     }
     return false;

@@ -50,9 +50,9 @@ public:
     /// Whether it ever reported the field with this bit of DeviceReport.
     bool hasReported(quint32 bit) const { return (m_known & bit) != 0; }
 
-    /// Whether it is jammed or in error, or went offline, halted or got a critical error after a
-    /// line, and is so still: where its money is then, its states do not say.
-    bool hasStoppedSince(qint64 line) const;
+    /// Whether it went offline, halted or got a critical error on this line: where its money is
+    /// then, its states do not say.
+    bool stopsOn(qint64 line) const;
 
     /// What it sent in its session, and the line of each.
     const StatesList& events() const { return *m_worker->getStatesList(); }

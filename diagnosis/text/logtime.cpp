@@ -8,6 +8,8 @@
 
 #include <QDateTime>
 
+#include <cmath>
+
 namespace {
 
 constexpr int timeOfDay = 11; // where it begins in yyyy-MM-ddThh:mm:ss
@@ -52,10 +54,11 @@ LogTime::LogTime(const QVariant& value)
     constexpr double most = 253402300799999;
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
-    if (value.userType() == QMetaType::QString && isTime(value.toString())) {
+    if (value.userType() == QMetaType::QString && isTime(value.toString())
+        && !value.toString().startsWith(QLatin1String("0000"))) {
         m_text = value.toString();
     } else if (value.userType() != QMetaType::QString && value.userType() != QMetaType::Bool
-               && isNumber && number >= least && number <= most) {
+               && isNumber && number >= least && number <= most && number == std::trunc(number)) {
         m_hasMilliseconds = true;
         m_milliseconds = static_cast<qint64>(number);
     } else {
