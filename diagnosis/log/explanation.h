@@ -4,7 +4,7 @@
 #pragma once
 
 #include "log/logplayer.h"
-#include "text/filterwords.h"
+#include "text/filtermemory.h"
 
 #include <QMap>
 #include <QStringList>
