@@ -6,6 +6,8 @@
 #include "filterfactory.h"
 #include "filtersfile.h"
 #include "log/explanation.h"
+#include "log/pagestyle.h"
+#include "log/sessionlook.h"
 #include "service/serviceanswer.h"
 #include "settings/arrayfile.h"
 #include "text/fault.h"
@@ -765,6 +767,23 @@ private Q_SLOTS:
         QCOMPARE(objection.filter, "SilentFilter"_s);
         QCOMPARE(objection.text, "Silence: Says nothing."_s);
         QCOMPARE(filterPurpose("SilentFilter"_s), QString());
+    }
+
+    // A new state or outcome has its words, its colour and its place in the legend.
+    void everyStateAndOutcomeHasItsLook()
+    {
+        const QString style = QString::fromUtf8(pageStyle);
+        DeviceState state;
+        for (state.state = State(0); !state.stateAsString().isNull();
+             state.state = State(state.state + 1)) {
+            const StateLook& look = lookOf(state.state);
+            QCOMPARE(QString::fromUtf8(look.word), state.stateAsString());
+            QVERIFY2(style.contains(".%1 { fill"_s.arg(QString::fromUtf8(look.style))), look.style);
+            QVERIFY2(stateLegend().contains("key %1"_s.arg(QString::fromUtf8(look.style))),
+                     look.style);
+        }
+        for (const OutcomeWords& words : outcomeWords())
+            QVERIFY2(style.contains(".%1 { color"_s.arg(QString::fromUtf8(words.key))), words.key);
     }
 
     void pageShowsTextsAsTexts()
