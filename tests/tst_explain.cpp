@@ -776,12 +776,13 @@ private Q_SLOTS:
         DeviceState state;
         for (state.state = State(0); !state.stateAsString().isNull();
              state.state = State(state.state + 1)) {
-            const StateLook& look = lookOf(state.state);
+            const StateLook look = lookOf(state.state);
             QCOMPARE(QString::fromUtf8(look.word), state.stateAsString());
             QVERIFY2(style.contains(".%1 { fill"_s.arg(QString::fromUtf8(look.style))), look.style);
             QVERIFY2(stateLegend().contains("key %1"_s.arg(QString::fromUtf8(look.style))),
                      look.style);
         }
+        QCOMPARE(lookOf(state.state).word, lookOf(State(-1)).word); // else it has no name
         for (const OutcomeWords& words : outcomeWords())
             QVERIFY2(style.contains(".%1 { color"_s.arg(QString::fromUtf8(words.key))), words.key);
     }

@@ -6,43 +6,7 @@
 #include "text/diagnosis.h"
 #include "text/htmltext.h"
 
-#include <iterator>
-
 namespace {
-
-constexpr StateLook states[] = {
-    {STATE_IDLING, "idle", QT_TRANSLATE_NOOP("Diagnosis", "idling")},
-    {STATE_ACCEPTING, "take", QT_TRANSLATE_NOOP("Diagnosis", "accepting")},
-    {STATE_ACCEPTED, "keep", QT_TRANSLATE_NOOP("Diagnosis", "accepted")},
-    {STATE_REJECTED, "back", QT_TRANSLATE_NOOP("Diagnosis", "rejected")},
-    {STATE_STACKING, "keep", QT_TRANSLATE_NOOP("Diagnosis", "stacking")},
-    {STATE_STACKED, "keep", QT_TRANSLATE_NOOP("Diagnosis", "stacked")},
-    {STATE_RETURNING, "back", QT_TRANSLATE_NOOP("Diagnosis", "returning")},
-    {STATE_RETURNED, "back", QT_TRANSLATE_NOOP("Diagnosis", "returned")},
-    {STATE_JAMMED, "bad", QT_TRANSLATE_NOOP("Diagnosis", "jammed")},
-    {STATE_BUSY, "busy", QT_TRANSLATE_NOOP("Diagnosis", "busy")},
-    {STATE_ERROR, "bad", QT_TRANSLATE_NOOP("Diagnosis", "error")},
-    {STATE_UPDATING, "busy", QT_TRANSLATE_NOOP("Diagnosis", "updating")},
-    {STATE_DISPENSING, "pay", QT_TRANSLATE_NOOP("Diagnosis", "dispensing")},
-    {STATE_DISPENSED, "pay", QT_TRANSLATE_NOOP("Diagnosis", "dispensed")},
-    {STATE_FLOATING, "pay", QT_TRANSLATE_NOOP("Diagnosis", "floating")},
-    {STATE_FLOATED, "pay", QT_TRANSLATE_NOOP("Diagnosis", "floated")},
-    {STATE_EMPTYING, "pay", QT_TRANSLATE_NOOP("Diagnosis", "emptying")},
-    {STATE_EMPTIED, "pay", QT_TRANSLATE_NOOP("Diagnosis", "emptied")},
-};
-
-constexpr bool isByState()
-{
-    for (const StateLook& look : states) {
-        if (&states[look.state] != &look)
-            return false;
-    }
-    return std::size(states) == STATE_EMPTIED + 1;
-}
-static_assert(isByState(), "a row for each State, in its order");
-
-constexpr StateLook unknownState{STATE_BUSY, "busy",
-                                 QT_TRANSLATE_NOOP("Diagnosis", "unknown state")};
 
 struct StyleWords
 {
@@ -62,9 +26,48 @@ constexpr StyleWords styleTable[] = {
 
 } // namespace
 
-const StateLook& lookOf(State state)
+// The compiler names a state that has no case.
+StateLook lookOf(State state)
 {
-    return state >= 0 && state < int(std::size(states)) ? states[state] : unknownState;
+    switch (state) {
+    case STATE_IDLING:
+        return {"idle", QT_TRANSLATE_NOOP("Diagnosis", "idling")};
+    case STATE_ACCEPTING:
+        return {"take", QT_TRANSLATE_NOOP("Diagnosis", "accepting")};
+    case STATE_ACCEPTED:
+        return {"keep", QT_TRANSLATE_NOOP("Diagnosis", "accepted")};
+    case STATE_REJECTED:
+        return {"back", QT_TRANSLATE_NOOP("Diagnosis", "rejected")};
+    case STATE_STACKING:
+        return {"keep", QT_TRANSLATE_NOOP("Diagnosis", "stacking")};
+    case STATE_STACKED:
+        return {"keep", QT_TRANSLATE_NOOP("Diagnosis", "stacked")};
+    case STATE_RETURNING:
+        return {"back", QT_TRANSLATE_NOOP("Diagnosis", "returning")};
+    case STATE_RETURNED:
+        return {"back", QT_TRANSLATE_NOOP("Diagnosis", "returned")};
+    case STATE_JAMMED:
+        return {"bad", QT_TRANSLATE_NOOP("Diagnosis", "jammed")};
+    case STATE_BUSY:
+        return {"busy", QT_TRANSLATE_NOOP("Diagnosis", "busy")};
+    case STATE_ERROR:
+        return {"bad", QT_TRANSLATE_NOOP("Diagnosis", "error")};
+    case STATE_UPDATING:
+        return {"busy", QT_TRANSLATE_NOOP("Diagnosis", "updating")};
+    case STATE_DISPENSING:
+        return {"pay", QT_TRANSLATE_NOOP("Diagnosis", "dispensing")};
+    case STATE_DISPENSED:
+        return {"pay", QT_TRANSLATE_NOOP("Diagnosis", "dispensed")};
+    case STATE_FLOATING:
+        return {"pay", QT_TRANSLATE_NOOP("Diagnosis", "floating")};
+    case STATE_FLOATED:
+        return {"pay", QT_TRANSLATE_NOOP("Diagnosis", "floated")};
+    case STATE_EMPTYING:
+        return {"pay", QT_TRANSLATE_NOOP("Diagnosis", "emptying")};
+    case STATE_EMPTIED:
+        return {"pay", QT_TRANSLATE_NOOP("Diagnosis", "emptied")};
+    }
+    return {"busy", QT_TRANSLATE_NOOP("Diagnosis", "unknown state")};
 }
 
 QString stateLegend()

@@ -11,13 +11,12 @@
 /// How a picture shows a state of a device.
 struct StateLook
 {
-    State state;
     const char* style; ///< of the style sheet; states of one meaning share it
     const char* word;
 };
 
 /// A number that is no state looks like an unknown one.
-const StateLook& lookOf(State state);
+StateLook lookOf(State state);
 
 /// The states' colours with their meaning, as HTML list items.
 QString stateLegend();

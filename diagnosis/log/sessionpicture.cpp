@@ -257,7 +257,7 @@ void SessionPicture::drawStates(const std::vector<Segment>& segments)
         double end = begin.end;
         while (++i < segments.size() && segments.at(i).event->state == begin.event->state)
             end = segments.at(i).end;
-        const StateLook& look = lookOf(begin.event->state);
+        const StateLook look = lookOf(begin.event->state);
         const QString style = QLatin1String(look.style);
         const QString word = Diagnosis::tr(look.word);
         // Thin where nothing goes on.
