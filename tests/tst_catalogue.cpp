@@ -5,6 +5,44 @@
 #include "logcapture.h"
 #include "testtable.h"
 
+namespace {
+
+// Where a model stands in the catalogue. The compiler names one that has no case.
+int placeOf(Acceptors::Supported model)
+{
+    switch (model) {
+    case Acceptors::ArdacEliteId003:
+        return 0;
+    case Acceptors::JcmIproId003:
+        return 1;
+    case Acceptors::Id003:
+        return 2;
+    case Acceptors::CCNet:
+        return 3;
+    case Acceptors::Ebds:
+        return 4;
+    case Acceptors::EsspPayout:
+        return 5;
+    case Acceptors::Ssp:
+        return 6;
+    case Acceptors::Ict:
+        return 7;
+    case Acceptors::PuloonLcdm2:
+        return 8;
+    case Acceptors::CCTalk:
+        return 9;
+    case Acceptors::SmartHopper:
+        return 10;
+    case Acceptors::Uniteller:
+        return 11;
+    case Acceptors::PosD200:
+        return 12;
+    }
+    return -1;
+}
+
+} // namespace
+
 class tst_Catalogue : public QObject
 {
     Q_OBJECT
@@ -20,7 +58,9 @@ private Q_SLOTS:
             QCOMPARE(map.value("type"_s).userType(), QMetaType::Int);
             ids.append(map.value("id"_s).toInt());
         }
-        QCOMPARE(ids, QList<int>({6, 7, 5, 1, 2, 50, 3, 4, 51, 100, 150, 200, 201}));
+        for (int id = 0; id < 1000; ++id)
+            QVERIFY2(ids.indexOf(id) == placeOf(Acceptors::Supported(id)),
+                     qPrintable(QString::number(id)));
         QCOMPARE(Acceptors::search(Acceptors::JcmIproId003).value("class"_s).toString(),
                  "NaJcmIproId003"_s);
     }

@@ -3,8 +3,11 @@
 
 #include "velmorun.h"
 
+#include "filterfactory.h"
 #include "filtersfile.h"
 #include "log/explanation.h"
+#include "log/pagestyle.h"
+#include "log/sessionlook.h"
 #include "service/serviceanswer.h"
 #include "settings/arrayfile.h"
 #include "text/fault.h"
@@ -88,6 +91,18 @@ const QByteArray gzipOfOneLine = QByteArray::fromHex(
     "1a1818d47201007e589d2b2a000000");
 
 } // namespace
+
+// Refuses a note that all events lead to; nobody knows it.
+class SilentFilter : public AbstractFilter
+{
+    Q_OBJECT
+
+public:
+    FilterResult validate() override { return events->size() < 3 ? FILTER_ACCEPT : FILTER_REJECT; }
+    QString getFilterName() const override { return {}; }
+    QList<FieldDescription> getFieldsDescription() const override { return {}; }
+    QString getFilterDescription() const override { return "Silence|Says nothing."_s; }
+};
 
 class tst_Explain : public QObject
 {
@@ -741,6 +756,56 @@ private Q_SLOTS:
     }
 
     // Markup in every text that a log, the settings and a file name can hold.
+    // What a new filter forgets here is said in its own words, and named by this test.
+    void everyFilterHasItsWords_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const QString& name : FilterFactory::getFilters())
+            QTest::newRow(qPrintable(name)) << name;
+    }
+
+    void everyFilterHasItsWords()
+    {
+        QFETCH(QString, name);
+        const FilterWords& words = filterWords(name);
+        const FilterWords& none = filterWords({});
+        QVERIFY2(words.filter, "no row in diagnosis/text/filterwords.cpp");
+        QVERIFY(words.purpose && words.rule != none.rule && words.count && words.find != none.find);
+        QVERIFY(words.noteRefused != none.noteRefused && words.coinRefused != none.coinRefused);
+    }
+
+    void filterWithoutWordsSpeaksForItself()
+    {
+        SilentFilter filter;
+        QCOMPARE(filterRule(filter), "Silence: Says nothing."_s);
+        FilterMemory memory(filter);
+        const StatesList events{DeviceState(), DeviceState(), DeviceState()};
+        memory.add(events);
+        QVERIFY(memory.refuses(events));
+        const Objection objection = memory.objection(events, {1, 2, 3});
+        QCOMPARE(objection.filter, "SilentFilter"_s);
+        QCOMPARE(objection.text, "Silence: Says nothing."_s);
+        QCOMPARE(filterPurpose("SilentFilter"_s), QString());
+    }
+
+    // A new state or outcome has its words, its colour and its place in the legend.
+    void everyStateAndOutcomeHasItsLook()
+    {
+        const QString style = QString::fromUtf8(pageStyle);
+        DeviceState state;
+        for (state.state = State(0); !state.stateAsString().isNull();
+             state.state = State(state.state + 1)) {
+            const StateLook look = lookOf(state.state);
+            QCOMPARE(QString::fromUtf8(look.word), state.stateAsString());
+            QVERIFY2(style.contains(".%1 { fill"_s.arg(QString::fromUtf8(look.style))), look.style);
+            QVERIFY2(stateLegend().contains("key %1"_s.arg(QString::fromUtf8(look.style))),
+                     look.style);
+        }
+        QCOMPARE(lookOf(state.state).word, lookOf(State(-1)).word); // else it has no name
+        for (const OutcomeWords& words : outcomeWords())
+            QVERIFY2(style.contains(".%1 { color"_s.arg(QString::fromUtf8(words.key))), words.key);
+    }
+
     void pageShowsTextsAsTexts()
     {
         const QString markup =

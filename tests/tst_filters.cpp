@@ -128,11 +128,14 @@ private Q_SLOTS:
 
     void everyFilterDescribesItself_data()
     {
-        addRows(R"(
+        const QString rows = R"(
             SessionSumFilter | sessionSum     | Max session sum filter    | 0 5000      | -1 x
             AcceptFilter     | acceptAll      | Accept filter             | 0 1         | 2 true
             AttemptsFilter   | denom attempts | Max attempts filter       | 1 09 10 090 | 0 11 100
-            DenomCountFilter | denom count    | Denomination count filter | 0 12        | -1 1.5)"_s);
+            DenomCountFilter | denom count    | Denomination count filter | 0 12        | -1 1.5)"_s;
+        for (const QString& name : FilterFactory::getFilters())
+            QVERIFY2(rows.contains(name), qPrintable(name));
+        addRows(rows);
     }
 
     void everyFilterDescribesItself()

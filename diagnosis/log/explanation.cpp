@@ -14,26 +14,6 @@ namespace {
 constexpr quint32 firstCoinDevice = 100;
 constexpr quint32 lastCoinDevice = 199;
 
-struct OutcomeWords
-{
-    const char* key;
-    const char* sentence; // %1 is the note
-};
-
-const OutcomeWords& wordsOf(Outcome outcome)
-{
-    static const OutcomeWords table[outcomeCount] = {
-        {"refused", QT_TRANSLATE_NOOP("Diagnosis", "%1 refused.")},
-        {"taken", QT_TRANSLATE_NOOP("Diagnosis", "%1 taken.")},
-        {"stuck",
-         QT_TRANSLATE_NOOP("Diagnosis", "%1 stuck in the device, neither taken nor returned.")},
-        {"rejected", QT_TRANSLATE_NOOP("Diagnosis", "%1 rejected.")},
-        {"returned", QT_TRANSLATE_NOOP("Diagnosis", "%1 returned.")},
-        {"unknown", QT_TRANSLATE_NOOP("Diagnosis", "%1: the log does not say what became of it.")},
-    };
-    return table[int(outcome)];
-}
-
 bool isCoin(const NoteAnswer& answer)
 {
     return answer.device >= firstCoinDevice && answer.device <= lastCoinDevice;
@@ -71,11 +51,6 @@ void addConditions(QVector<MachineCondition>& known, const QVector<MachineCondit
 }
 
 } // namespace
-
-QString outcomeKey(Outcome outcome)
-{
-    return QLatin1String(wordsOf(outcome).key);
-}
 
 QString NoteAnswer::place() const
 {
@@ -173,18 +148,20 @@ void Summary::add(const NoteAnswer& answer)
 
 QList<Summary::Row> Summary::rows() const
 {
-    QList<Row> rows{{Diagnosis::tr("Offered"), offered},
-                    {Diagnosis::tr("Taken"), of(Outcome::Taken)}};
+    const auto row = [this](Outcome outcome) {
+        return Row{Diagnosis::tr(wordsOf(outcome).total), of(outcome)};
+    };
+    QList<Row> rows{{Diagnosis::tr("Offered"), offered}, row(Outcome::Taken)};
     if (takenAlthoughRefused.count > 0)
         rows += {Diagnosis::tr("taken although refused"), takenAlthoughRefused, true, true};
-    rows += {Diagnosis::tr("Refused by the filters"), of(Outcome::Refused)};
+    rows += row(Outcome::Refused);
     for (auto filter = refusedBy.begin(); filter != refusedBy.end(); ++filter)
         rows += {filter.key(), {filter.value(), 0}, false, true};
-    return rows
-        + QList<Row>{{Diagnosis::tr("Stuck in the device"), of(Outcome::Stuck)},
-                     {Diagnosis::tr("Rejected by the device"), of(Outcome::Rejected)},
-                     {Diagnosis::tr("Returned"), of(Outcome::Returned)},
-                     {Diagnosis::tr("Unknown"), of(Outcome::Unknown)}};
+    for (const OutcomeWords& other : outcomeWords()) {
+        if (other.outcome != Outcome::Taken && other.outcome != Outcome::Refused)
+            rows += row(other.outcome);
+    }
+    return rows;
 }
 
 LogExplainer::LogExplainer(const FilterSet& filters, Receiver receiver)
@@ -331,7 +308,7 @@ void LogExplainer::judge(const LogDevice& device, Note& note)
     if (!refusing.isEmpty())
         note.answer.outcome = Outcome::Refused;
     for (const FilterMemory* const filter : refusing)
-        note.answer.objections += objectionOf(*filter, device.events(), device.eventLines());
+        note.answer.objections += filter->objection(device.events(), device.eventLines());
 }
 
 // Sees what is the matter with a device while it has a note in hand.

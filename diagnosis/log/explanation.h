@@ -4,7 +4,8 @@
 #pragma once
 
 #include "log/logplayer.h"
-#include "text/filterwords.h"
+#include "log/outcome.h"
+#include "text/filtermemory.h"
 
 #include <QMap>
 #include <QStringList>
@@ -14,20 +15,6 @@
 #include <functional>
 #include <optional>
 #include <unordered_map>
-
-/// What became of a note.
-enum class Outcome {
-    Refused, ///< by the filters
-    Taken,
-    Stuck, ///< in the device, which stopped while it had it: neither taken nor given back
-    Rejected, ///< by the device
-    Returned,
-    Unknown ///< the log does not say
-};
-constexpr int outcomeCount = 6;
-
-/// "refused", "taken", ...
-QString outcomeKey(Outcome outcome);
 
 /// What happened to one note of a log, and why.
 struct NoteAnswer

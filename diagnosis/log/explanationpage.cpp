@@ -4,6 +4,7 @@
 #include "log/explanationpage.h"
 
 #include "log/pagestyle.h"
+#include "log/sessionlook.h"
 #include "text/diagnosis.h"
 #include "text/fault.h"
 #include "text/htmltext.h"
@@ -83,7 +84,7 @@ QString answerItem(const SessionRecord& session, const NoteAnswer& note,
     const bool isQuiet = note.outcome == Outcome::Taken || note.outcome == Outcome::Unknown;
     return QStringLiteral("<li class=\"answer%1\" id=\"%2\"><a href=\"#%3\">%4%5</a> %6%7</li>\n")
         .arg(isQuiet ? QStringLiteral(" quiet") : QString(), anchor(Anchor::Sentence),
-             anchor(Anchor::Mark), SessionPicture::glyph(note.outcome), htmlText(note.headline()),
+             anchor(Anchor::Mark), markGlyph(note.outcome), htmlText(note.headline()),
              htmlText(note.details().join(QLatin1Char(' '))),
              evidenceLinks(session, note, picture));
 }
@@ -92,21 +93,15 @@ QString answerItem(const SessionRecord& session, const NoteAnswer& note,
 QString tallies(const SessionRecord& session, const std::vector<NoteAnswer>::const_iterator& begin,
                 const std::vector<NoteAnswer>::const_iterator& end)
 {
-    static const char* const words[outcomeCount] = {QT_TRANSLATE_NOOP("Diagnosis", "%n refused"),
-                                                    QT_TRANSLATE_NOOP("Diagnosis", "%n taken"),
-                                                    QT_TRANSLATE_NOOP("Diagnosis", "%n stuck"),
-                                                    QT_TRANSLATE_NOOP("Diagnosis", "%n rejected"),
-                                                    QT_TRANSLATE_NOOP("Diagnosis", "%n returned"),
-                                                    QT_TRANSLATE_NOOP("Diagnosis", "%n unknown")};
     QString text;
-    for (int i = 0; i < outcomeCount; ++i) {
+    for (const OutcomeWords& words : outcomeWords()) {
         const auto count = std::count_if(begin, end, [&](const NoteAnswer& note) {
-            return int(note.outcome) == i && session.isTold(note);
+            return note.outcome == words.outcome && session.isTold(note);
         });
         if (count > 0) {
             text += QStringLiteral("<span>%1%2</span>\n")
-                        .arg(SessionPicture::glyph(Outcome(i)),
-                             htmlText(Diagnosis::tr(words[i], nullptr, int(count))));
+                        .arg(markGlyph(words.outcome),
+                             htmlText(Diagnosis::tr(words.tally, nullptr, int(count))));
         }
     }
     return text;
@@ -114,20 +109,9 @@ QString tallies(const SessionRecord& session, const std::vector<NoteAnswer>::con
 
 QString legend()
 {
-    static const char* const words[outcomeCount] = {
-        QT_TRANSLATE_NOOP("Diagnosis", "refused by the filters"),
-        QT_TRANSLATE_NOOP("Diagnosis", "taken"),
-        QT_TRANSLATE_NOOP("Diagnosis", "stuck in the device"),
-        QT_TRANSLATE_NOOP("Diagnosis", "rejected by the device"),
-        QT_TRANSLATE_NOOP("Diagnosis", "returned"),
-        QT_TRANSLATE_NOOP("Diagnosis", "unknown")};
-    QString outcomes;
-    for (int i = 0; i < outcomeCount; ++i)
-        outcomes += QStringLiteral("<li>%1%2</li>\n")
-                        .arg(SessionPicture::glyph(Outcome(i)), htmlText(Diagnosis::tr(words[i])));
     return QStringLiteral(
                "<section class=\"legend\">\n<ul>\n%1</ul>\n<ul>\n%2</ul>\n%3</section>\n")
-        .arg(outcomes, SessionPicture::stateLegend(),
+        .arg(markLegend(), stateLegend(),
              element("p",
                      Diagnosis::tr("Where much happens at once, the pictures are stretched. A mark "
                                    "leads to its sentence, a sentence to its mark and to what it "
@@ -149,7 +133,7 @@ QByteArray head(const QString& title)
           "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
           "<meta name=\"referrer\" content=\"no-referrer\">\n"
         + element("title", title).toUtf8() + "<style>" + style + "</style>\n</head>\n<body>\n"
-        + SessionPicture::symbols().toUtf8();
+        + markShapes().toUtf8();
 }
 
 } // namespace
@@ -214,7 +198,7 @@ void ExplanationPage::endLog(qint64 skipped, bool onlyRefusals)
 void ExplanationPage::writeSession(const SessionRecord& session)
 {
     SessionPicture picture(session, m_subject.sumLimit);
-    const std::vector<size_t> parts = picture.parts();
+    const std::vector<size_t> parts = session.parts();
     QString title = Diagnosis::tr("Session %1").arg(session.number);
     const LogTime& start = session.moments.front().time;
     if (start.isKnown())

@@ -4,12 +4,13 @@
 #include "log/sessionpicture.h"
 
 #include "filterfactory.h"
+#include "log/sessionlook.h"
+#include "log/svg.h"
 #include "text/diagnosis.h"
 #include "text/htmltext.h"
 
 #include <algorithm>
 #include <climits>
-#include <cmath>
 #include <iterator>
 
 namespace {
@@ -19,63 +20,10 @@ constexpr double width = 1000;
 constexpr double plotLeft = 120; // what the rows are stands left of it
 constexpr double plotRight = 990;
 constexpr double headHeight = 20; // where a pin says its line
-constexpr double charWidth = 6.2; // of the small letters, about
 constexpr double markSize = 14;
 constexpr double stateHeight = 22;
 constexpr double conditionHeight = 9;
 constexpr double sumHeight = 60;
-
-// A part of a picture ends before the next note once it has so many moments, or at most so many.
-constexpr size_t partMoments = 90;
-constexpr size_t mostMoments = 130;
-
-struct StateWords
-{
-    const char* style;
-    const char* word;
-};
-
-const StateWords& wordsOf(State state)
-{
-    static const StateWords table[] = {
-        {"idle", QT_TRANSLATE_NOOP("Diagnosis", "idling")},
-        {"take", QT_TRANSLATE_NOOP("Diagnosis", "accepting")},
-        {"keep", QT_TRANSLATE_NOOP("Diagnosis", "accepted")},
-        {"back", QT_TRANSLATE_NOOP("Diagnosis", "rejected")},
-        {"keep", QT_TRANSLATE_NOOP("Diagnosis", "stacking")},
-        {"keep", QT_TRANSLATE_NOOP("Diagnosis", "stacked")},
-        {"back", QT_TRANSLATE_NOOP("Diagnosis", "returning")},
-        {"back", QT_TRANSLATE_NOOP("Diagnosis", "returned")},
-        {"bad", QT_TRANSLATE_NOOP("Diagnosis", "jammed")},
-        {"busy", QT_TRANSLATE_NOOP("Diagnosis", "busy")},
-        {"bad", QT_TRANSLATE_NOOP("Diagnosis", "error")},
-        {"busy", QT_TRANSLATE_NOOP("Diagnosis", "updating")},
-        {"pay", QT_TRANSLATE_NOOP("Diagnosis", "dispensing")},
-        {"pay", QT_TRANSLATE_NOOP("Diagnosis", "dispensed")},
-        {"pay", QT_TRANSLATE_NOOP("Diagnosis", "floating")},
-        {"pay", QT_TRANSLATE_NOOP("Diagnosis", "floated")},
-        {"pay", QT_TRANSLATE_NOOP("Diagnosis", "emptying")},
-        {"pay", QT_TRANSLATE_NOOP("Diagnosis", "emptied")},
-    };
-    static const StateWords other{"busy", QT_TRANSLATE_NOOP("Diagnosis", "unknown state")};
-    return state >= 0 && state < int(std::size(table)) ? table[state] : other;
-}
-
-struct StyleWords
-{
-    const char* style;
-    const char* meaning;
-};
-
-constexpr StyleWords styleTable[] = {
-    {"idle", QT_TRANSLATE_NOOP("Diagnosis", "idling")},
-    {"take", QT_TRANSLATE_NOOP("Diagnosis", "accepting a note")},
-    {"keep", QT_TRANSLATE_NOOP("Diagnosis", "keeping it")},
-    {"back", QT_TRANSLATE_NOOP("Diagnosis", "giving it back")},
-    {"pay", QT_TRANSLATE_NOOP("Diagnosis", "paying out")},
-    {"busy", QT_TRANSLATE_NOOP("Diagnosis", "busy")},
-    {"bad", QT_TRANSLATE_NOOP("Diagnosis", "jam, error or what else was the matter")},
-};
 
 QString conditionWord(const QString& what)
 {
@@ -93,43 +41,6 @@ QString conditionWord(const QString& what)
     return found == std::end(table) ? what : Diagnosis::tr(found->second);
 }
 
-QString number(double value)
-{
-    return QString::number(std::round(value * 10) / 10);
-}
-
-double textWidth(const QString& text)
-{
-    return charWidth * double(text.size());
-}
-
-// Cut where it would cover what stands beside it.
-QString shortened(const QString& text, double room)
-{
-    const int fitting = qMax(1, int(room / charWidth));
-    return text.size() <= fitting ? text : text.left(fitting - 1) + QChar(0x2026);
-}
-
-QString svgText(double x, double y, const char* style, const QString& text)
-{
-    return QStringLiteral("<text x=\"%1\" y=\"%2\" class=\"%3\">%4</text>\n")
-        .arg(number(x), number(y), QLatin1String(style), htmlText(text));
-}
-
-// The pointer brings up the title.
-QString svgPath(const QString& style, const QString& path, const QString& title = {})
-{
-    const QString inside =
-        title.isEmpty() ? QString() : QStringLiteral("<title>%1</title>").arg(htmlText(title));
-    return QStringLiteral("<path class=\"%1\" d=\"%2\">%3</path>\n").arg(style, path, inside);
-}
-
-QString rectangle(double left, double top, double right, double bottom)
-{
-    return QStringLiteral("M%1 %2H%3V%4H%1z")
-        .arg(number(left), number(top), number(right), number(bottom));
-}
-
 bool isOverSum(const NoteAnswer& answer)
 {
     return std::any_of(answer.objections.begin(), answer.objections.end(), [](const Objection& o) {
@@ -137,54 +48,7 @@ bool isOverSum(const NoteAnswer& answer)
     });
 }
 
-bool isOf(const NoteAnswer& answer, const SessionRecord::Lane& lane)
-{
-    return answer.device == lane.device && answer.thread == lane.thread;
-}
-
 } // namespace
-
-void SessionRecord::add(const LogDevice& device, const LogTime& time, qint64 line)
-{
-    if (moments.empty() || moments.back().line != line)
-        moments.push_back({line, time});
-    auto lane = std::find_if(lanes.begin(), lanes.end(), [&](const Lane& known) {
-        return known.device == device.deviceId() && known.thread == device.threadId();
-    });
-    if (lane == lanes.end())
-        lane = lanes.insert(lane, {device.deviceId(), device.threadId(), {}, {}});
-    lane->name = device.name(); // a thread is named once there is another one
-    const DeviceState& state = device.state();
-    lane->events.push_back({line, state.state, state.sessionSum, device.conditions()});
-}
-
-bool SessionRecord::hasTimes() const
-{
-    qint64 last = 0;
-    for (const Moment& moment : moments) {
-        const std::optional<qint64> time = moment.time.wallClock();
-        if (!time || (&moment != &moments.front() && *time < last))
-            return false;
-        last = *time;
-    }
-    return !moments.empty();
-}
-
-QString anchorName(Anchor kind, const SessionRecord& session, qint64 line, quint32 device,
-                   quint32 thread, const QString& what)
-{
-    static constexpr char letters[] = {'m', 'n', 'e', 'c'};
-    const QString name = QStringLiteral("%1%2-%3-%4.%5")
-                             .arg(QLatin1Char(letters[int(kind)]))
-                             .arg(session.log)
-                             .arg(line)
-                             .arg(device)
-                             .arg(thread);
-    // A condition outlives sessions, its place does not.
-    return kind == Anchor::Condition
-        ? QStringLiteral("%1-%2-%3").arg(name, what).arg(session.number)
-        : name;
-}
 
 SessionPicture::SessionPicture(const SessionRecord& session, std::optional<int> sumLimit)
     : m_session(session)
@@ -203,27 +67,9 @@ SessionPicture::SessionPicture(const SessionRecord& session, std::optional<int> 
             most = qMax(most, double(event.sum));
         const bool anyExceeds = std::any_of(
             session.answers.begin(), session.answers.end(),
-            [&](const NoteAnswer& answer) { return isOf(answer, lane) && isOverSum(answer); });
+            [&](const NoteAnswer& answer) { return lane.isOf(answer) && isOverSum(answer); });
         m_mostSum[&lane] = anyExceeds ? 1.3 * most : most;
     }
-}
-
-std::vector<size_t> SessionPicture::parts() const
-{
-    std::vector<size_t> begins{0};
-    auto note = m_session.answers.begin();
-    for (size_t i = 0; i < m_session.moments.size(); ++i) {
-        const qint64 line = m_session.moments.at(i).line;
-        while (note != m_session.answers.end() && note->line < line)
-            ++note;
-        const bool isNote = note != m_session.answers.end() && note->line == line;
-        const size_t length = i - begins.back();
-        if (length >= mostMoments || (isNote && length >= partMoments))
-            begins.push_back(i);
-    }
-    if (m_session.moments.size() > begins.back())
-        begins.push_back(m_session.moments.size());
-    return begins;
 }
 
 // A share of the width is every moment's own, so that none covers the next one; the rest goes by
@@ -369,7 +215,7 @@ void SessionPicture::drawMarks(const SessionRecord::Lane& lane)
     for (auto note = m_firstAnswer; note != m_endAnswer; ++note) {
         const NoteAnswer& answer = *note;
         const qint64 toldOn = sentenceOf(answer);
-        if (!isOf(answer, lane) || toldOn == 0)
+        if (!lane.isOf(answer) || toldOn == 0)
             continue;
         const QString mark =
             anchorName(Anchor::Mark, m_session, answer.line, answer.device, answer.thread);
@@ -411,9 +257,9 @@ void SessionPicture::drawStates(const std::vector<Segment>& segments)
         double end = begin.end;
         while (++i < segments.size() && segments.at(i).event->state == begin.event->state)
             end = segments.at(i).end;
-        const StateWords& words = wordsOf(begin.event->state);
-        const QString style = QLatin1String(words.style);
-        const QString word = Diagnosis::tr(words.word);
+        const StateLook look = lookOf(begin.event->state);
+        const QString style = QLatin1String(look.style);
+        const QString word = Diagnosis::tr(look.word);
         // Thin where nothing goes on.
         const double inset = style == QLatin1String("idle") ? 4 : 0;
         m_body +=
@@ -476,7 +322,7 @@ QString SessionPicture::excesses(const SessionRecord::Lane& lane,
         const auto segment = std::find_if(segments.begin(), segments.end(), [&](const Segment& s) {
             return s.event->line == answer.line;
         });
-        if (!isOverSum(answer) || !isOf(answer, lane) || segment == segments.end())
+        if (!isOverSum(answer) || !lane.isOf(answer) || segment == segments.end())
             continue;
         const double x = segment->begin + markSize / 2;
         const double from = m_y + sumHeight - perUnit * double(segment->event->sum);
@@ -548,44 +394,4 @@ QString SessionPicture::pins(double height) const
             + QStringLiteral("</g>\n");
     }
     return drawn;
-}
-
-QString SessionPicture::symbols()
-{
-    // A crossed square, a disc with a tick, a note in a slot, a triangle, a diamond, a ring with a
-    // dot.
-    return QStringLiteral("<svg width=\"0\" height=\"0\" aria-hidden=\"true\"><defs>\n"
-                          "<path id=\"refused\" fill-rule=\"evenodd\" "
-                          "d=\"M-7-7H7V7H-7zM-4.5-3L-1.5 0-4.5 3-3 4.5 0 1.5 "
-                          "3 4.5 4.5 3 1.5 0 4.5-3 3-4.5 0-1.5-3-4.5z\"/>\n"
-                          "<path id=\"taken\" fill-rule=\"evenodd\" d=\"M-7 0A7 7 0 1 1 7 0A7 7 0 "
-                          "1 1-7 0zM-4.3.4L-1.2 "
-                          "3.6 4.3-2.4 3-3.6-1.2 1-3-1z\"/>\n"
-                          "<path id=\"stuck\" d=\"M-7-7H7V-2.5H3L6 7H-6L-3-2.5H-7z\"/>\n"
-                          "<path id=\"rejected\" d=\"M0-7.5L8 6.5H-8z\"/>\n"
-                          "<path id=\"returned\" d=\"M0-8L8 0 0 8-8 0z\"/>\n"
-                          "<path id=\"unknown\" fill-rule=\"evenodd\" d=\"M-7 0A7 7 0 1 1 7 0A7 7 "
-                          "0 1 1-7 0zM-5 0A5 5 0 1 "
-                          "0 5 0A5 5 0 1 0-5 0zM-2 0A2 2 0 1 1 2 0A2 2 0 1 1-2 0z\"/>\n"
-                          "<path id=\"ring\" fill-rule=\"evenodd\" d=\"M-11 0A11 11 0 1 1 11 0A11 "
-                          "11 0 1 1-11 0zM-9.5 "
-                          "0A9.5 9.5 0 1 0 9.5 0A9.5 9.5 0 1 0-9.5 0z\"/>\n"
-                          "</defs></svg>\n");
-}
-
-QString SessionPicture::glyph(Outcome outcome)
-{
-    return QStringLiteral("<svg class=\"glyph %1\" viewBox=\"-9 -9 18 18\" aria-hidden=\"true\">"
-                          "<use href=\"#%1\"/></svg>")
-        .arg(outcomeKey(outcome));
-}
-
-QString SessionPicture::stateLegend()
-{
-    QString items;
-    for (const StyleWords& words : styleTable) {
-        items += QStringLiteral("<li><span class=\"key %1\"></span>%2</li>\n")
-                     .arg(QLatin1String(words.style), htmlText(Diagnosis::tr(words.meaning)));
-    }
-    return items;
 }

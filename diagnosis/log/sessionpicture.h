@@ -3,67 +3,14 @@
 
 #pragma once
 
-#include "log/explanation.h"
+#include "log/sessionrecord.h"
 
 #include <QString>
-#include <QVector>
 
 #include <map>
 #include <optional>
 #include <set>
 #include <vector>
-
-/// What a picture of a session shows.
-struct SessionRecord
-{
-    /// A line of the log on which something changed.
-    struct Moment
-    {
-        qint64 line;
-        LogTime time;
-    };
-
-    /// What a device told on a line, or how it stood when the session began.
-    struct Event
-    {
-        qint64 line;
-        State state;
-        int sum;
-        QVector<MachineCondition> conditions;
-    };
-
-    struct Lane
-    {
-        quint32 device;
-        quint32 thread;
-        QString name;
-        std::vector<Event> events; // by line
-    };
-
-    int log = 0; // numbers of the log on the page and of the session in the log
-    int number = 0;
-    std::vector<Moment> moments; // by line
-    std::vector<Lane> lanes;
-    std::vector<NoteAnswer> answers; // by line
-    bool onlyRefusals = false; // what is told
-
-    bool isTold(const NoteAnswer& answer) const
-    {
-        return !onlyRefusals || answer.outcome == Outcome::Refused;
-    }
-
-    void add(const LogDevice& device, const LogTime& time, qint64 line);
-
-    /// Whether every moment has its time, none before another's.
-    bool hasTimes() const;
-};
-
-/// The kinds of places on a page that links lead to.
-enum class Anchor { Mark, Sentence, Evidence, Condition };
-
-/// The name of a place: of a line of the log that is about a device.
-QString anchorName(Anchor kind, const SessionRecord& session, qint64 line, quint32 device,
-                   quint32 thread, const QString& what = {});
 
 /// Draws sessions as SVG: a lane for each device with its notes, its states, what was the matter
 /// with it and the sum that it took. Every colour and width of a line is left to the style sheet.
@@ -73,23 +20,11 @@ public:
     /// @param sumLimit the lowest one in force
     SessionPicture(const SessionRecord& session, std::optional<int> sumLimit);
 
-    /// The moments with which the parts begin that a long session is drawn in, and their end.
-    std::vector<size_t> parts() const;
-
     /// A part from one moment up to another one.
     QString draw(size_t first, size_t end);
 
     /// Whether the pictures have a place for it.
     bool hasAnchor(const QString& name) const { return m_anchors.count(name) > 0; }
-
-    /// The shapes of the marks, which the pages needs once.
-    static QString symbols();
-
-    /// A line of words with the mark of an outcome.
-    static QString glyph(Outcome outcome);
-
-    /// The states' colours with their meaning, as HTML list items.
-    static QString stateLegend();
 
 private:
     struct Segment

@@ -4,11 +4,11 @@
 #include "service/lastnote.h"
 
 #include "devicestatesconst.h"
-#include "filterfactory.h"
 #include "service/customeranswer.h"
 #include "text/diagnosis.h"
+#include "text/filterwords.h"
 
-#include <algorithm>
+#include <utility>
 
 using namespace deviceStatesConst;
 
@@ -41,42 +41,6 @@ constexpr Words stuckWords{
                       "The device failed with your note of %1 in it. Please call the staff."),
     QT_TRANSLATE_NOOP("Diagnosis",
                       "The device failed with your coin of %1 in it. Please call the staff.")};
-
-// Said when a filter of the name refuses; %2 is the parameter.
-const struct
-{
-    const char* const& filter;
-    const char* parameter;
-    Words words;
-} refusals[] = {
-    {filters::ACCEPT_FILTER,
-     "",
-     {QT_TRANSLATE_NOOP("Diagnosis", "Notes are not accepted at the moment. It comes back to you."),
-      QT_TRANSLATE_NOOP("Diagnosis",
-                        "Coins are not accepted at the moment. It comes back to you.")}},
-    {filters::ATTEMPTS_FILTER,
-     "",
-     {QT_TRANSLATE_NOOP("Diagnosis",
-                        "After several rejections no note of %1 is accepted. It comes back to you; "
-                        "please try another value."),
-      QT_TRANSLATE_NOOP("Diagnosis",
-                        "After several rejections no coin of %1 is accepted. It comes back to you; "
-                        "please try another value.")}},
-    {filters::DENOM_COUNT_FILTER,
-     "",
-     {QT_TRANSLATE_NOOP("Diagnosis",
-                        "No more notes of %1 are accepted in this payment. It comes back to you."),
-      QT_TRANSLATE_NOOP(
-          "Diagnosis", "No more coins of %1 are accepted in this payment. It comes back to you.")}},
-    {filters::SESSION_SUM_FILTER,
-     "sessionSum",
-     {QT_TRANSLATE_NOOP("Diagnosis", "This note would pass the limit of %2. It comes back to you."),
-      QT_TRANSLATE_NOOP("Diagnosis",
-                        "This coin would pass the limit of %2. It comes back to you.")}},
-};
-constexpr Words refusedWords{
-    QT_TRANSLATE_NOOP("Diagnosis", "This note cannot be accepted. It comes back to you."),
-    QT_TRANSLATE_NOOP("Diagnosis", "This coin cannot be accepted. It comes back to you.")};
 
 std::pair<int, int> keyOf(const AcceptorStateItem& device)
 {
@@ -171,14 +135,10 @@ QString LastNote::text() const
 QString LastNote::refusalText() const
 {
     const QString filter = m_refusal.value(QStringLiteral("name")).toString();
-    const auto known =
-        std::find_if(std::begin(refusals), std::end(refusals),
-                     [&](const auto& refusal) { return filter == QLatin1String(refusal.filter); });
-    if (known == std::end(refusals))
-        return refusedWords.of(m_device.first);
+    const FilterWords& words = filterWords(filter);
     const QVariantMap params = m_refusal.value(QStringLiteral("params")).toMap();
-    QString text = known->words.of(m_device.first);
+    QString text = Words{words.noteRefused, words.coinRefused}.of(m_device.first);
     text.replace(QLatin1String("%1"), QString::number(m_note));
     return text.replace(QLatin1String("%2"),
-                        params.value(QLatin1String(known->parameter)).toString());
+                        params.value(QLatin1String(words.refusalParameter)).toString());
 }

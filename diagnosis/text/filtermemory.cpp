@@ -4,84 +4,37 @@
 #include "text/filtermemory.h"
 
 #include "abstractfilter.h"
-#include "filterfactory.h"
 
 #include <algorithm>
-#include <iterator>
-
-struct FilterMemory::Rule
-{
-    const char* filter;
-    const char* limit; // the parameter; null for one that counts nothing
-    // Takes in an event that is not the first, which no filter looks at.
-    void (*count)(FilterMemory& memory, const StatesList& events, int event);
-};
-
-namespace {
-
-void countNothing(FilterMemory& /*memory*/, const StatesList& /*events*/, int /*event*/) { }
-
-} // namespace
 
 FilterMemory::FilterMemory(AbstractFilter& filter)
     : m_filter(&filter)
+    , m_words(&filterWords(filterName(filter)))
+    , m_limit(m_words->limit ? filter.property(m_words->limit).toInt() : 0)
+    , m_count{filter.property("denom").toInt(), {}, 0}
 {
-    static const Rule rules[] = {
-        {filters::ACCEPT_FILTER, nullptr, countNothing},
-        {filters::ATTEMPTS_FILTER, "attempts",
-         [](FilterMemory& memory, const StatesList& events, int event) {
-             if (events.at(event).state == STATE_STACKED) {
-                 memory.m_counted.clear();
-                 memory.m_since = event;
-             } else if (events.at(event).state == STATE_REJECTED) {
-                 memory.m_counted += event;
-             }
-         }},
-        {filters::DENOM_COUNT_FILTER, "count",
-         [](FilterMemory& memory, const StatesList& events, int event) {
-             const DeviceState& newest = events.at(event);
-             if (newest.state != STATE_ACCEPTED)
-                 return;
-             // Of a run the newest one counts.
-             if (events.at(event - 1).state == STATE_ACCEPTED && !memory.m_counted.isEmpty()
-                 && memory.m_counted.constLast() == event - 1)
-                 memory.m_counted.removeLast();
-             if (newest.currentNote == memory.m_denomination)
-                 memory.m_counted += event;
-         }},
-        {filters::SESSION_SUM_FILTER, nullptr,
-         [](FilterMemory& memory, const StatesList& events, int event) {
-             if (events.at(event).sessionSum != events.at(event - 1).sessionSum)
-                 memory.m_since = event;
-         }},
-    };
-    const auto* const rule = std::find_if(std::begin(rules), std::end(rules), [&](const Rule& r) {
-        return qstrcmp(filter.metaObject()->className(), r.filter) == 0;
-    });
-    m_rule = rule == std::end(rules) ? nullptr : rule;
-    m_denomination = filter.property("denom").toInt();
-    m_limit = m_rule && m_rule->limit ? filter.property(m_rule->limit).toInt() : 0;
 }
 
 void FilterMemory::startSession()
 {
-    m_counted.clear();
-    m_since = 0;
+    m_count.events.clear();
+    m_count.since = 0;
 }
 
 void FilterMemory::add(const StatesList& events)
 {
     const int newest = int(events.size()) - 1;
-    if (!m_rule || newest == 0)
+    if (!m_words->count || newest == 0)
         return;
-    m_rule->count(*this, events, newest);
-    if (!m_rule->limit)
+    m_words->count(m_count, events, newest);
+    if (!m_words->limit)
         return;
+    const QVector<int>& counted = m_count.events;
     // The event that was the newest stays when it counts.
-    if (m_counted.isEmpty() || m_counted.constFirst() == newest)
+    if (counted.isEmpty() || counted.constFirst() == newest)
         m_shown = {events.constFirst()};
-    else if (std::binary_search(m_counted.constEnd() - qMin(2, int(m_counted.size())),
-                                m_counted.constEnd(), newest - 1))
+    else if (std::binary_search(counted.constEnd() - qMin(2, int(counted.size())),
+                                counted.constEnd(), newest - 1))
         m_shown += DeviceState(); // ends a run
     else
         m_shown.removeLast();
@@ -91,12 +44,21 @@ void FilterMemory::add(const StatesList& events)
 bool FilterMemory::refuses(const StatesList& events) const
 {
     StatesList shown = events;
-    if (m_rule && m_rule->limit && m_counted.size() >= m_limit && events.size() > 1)
+    if (m_words->limit && m_count.events.size() >= m_limit && events.size() > 1)
         shown = m_shown;
-    else if (m_rule && events.size() > 1) // what there was makes no difference
+    else if (m_words->count && events.size() > 1) // what there was makes no difference
         shown = {events.constFirst(), events.constLast()};
     m_filter->setEvents(&shown);
     const bool refuses = m_filter->validate() != AbstractFilter::FILTER_ACCEPT;
     m_filter->setEvents(nullptr);
     return refuses;
+}
+
+Objection FilterMemory::objection(const StatesList& events, const QVector<qint64>& lines) const
+{
+    const Finding finding = m_words->find({*m_filter, m_count, m_limit, events, lines});
+    QVector<qint64> evidence;
+    for (const int event : finding.events)
+        evidence += lines.at(event);
+    return {filterName(*m_filter), filterParams(*m_filter), evidence, finding.text};
 }

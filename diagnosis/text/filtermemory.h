@@ -4,10 +4,22 @@
 #pragma once
 
 #include "devicestate.h"
+#include "text/filterwords.h"
 
+#include <QJsonObject>
+#include <QString>
 #include <QVector>
 
-class AbstractFilter;
+/// Why a filter refuses the newest event of a session.
+struct Objection
+{
+    QString filter; ///< name, as the filters file has it
+    QJsonObject params;
+    /// The lines of the events that counted, in their order. They are enough: the filter would
+    /// refuse the note too if all other events before it were idle ones.
+    QVector<qint64> evidence;
+    QString text; ///< what counted and what clears it
+};
 
 /// A filter and what it has counted of a session. Asked for a verdict, a filter walks over the
 /// events of the session; shown only those that count, it says the same, and a note late in a long
@@ -29,23 +41,14 @@ public:
     /// @param events those that were given
     bool refuses(const StatesList& events) const;
 
-    /// The events that count, oldest first.
-    const QVector<int>& counted() const { return m_counted; }
-
-    /// The event since which the filter counts; 0 for the one with which the session began.
-    int since() const { return m_since; }
-
-    /// So many counted events make it refuse.
-    int limit() const { return m_limit; }
+    /// Explains why it refuses the newest event.
+    /// @param lines the line of each event in the log
+    Objection objection(const StatesList& events, const QVector<qint64>& lines) const;
 
 private:
-    struct Rule;
-
     AbstractFilter* m_filter;
-    const Rule* m_rule; // null for a filter of which nothing is known
-    int m_denomination;
-    int m_limit;
-    QVector<int> m_counted;
+    const FilterWords* m_words;
+    int m_limit; // so many counted events make it refuse
+    FilterCount m_count;
     StatesList m_shown; // the first event, those that count, each the end of its run, the newest
-    int m_since = 0;
 };

@@ -6,7 +6,6 @@
 #include "abstractfilter.h"
 #include "filterfactory.h"
 #include "text/diagnosis.h"
-#include "text/filtermemory.h"
 
 #include <QStringList>
 
@@ -46,61 +45,68 @@ QString sumRule(const AbstractFilter& filter)
     return Diagnosis::tr("A session takes at most %1 in all.").arg(param(filter, "sessionSum"));
 }
 
-// What a filter found in a session, besides what it says of it.
-struct Finding
+void countNothing(FilterCount& /*count*/, const StatesList& /*events*/, int /*event*/) { }
+
+void countRejections(FilterCount& count, const StatesList& events, int event)
 {
-    QVector<int> events; // that are enough for it to refuse, oldest first
-    QString text;
-};
+    if (events.at(event).state == STATE_STACKED) {
+        count.events.clear();
+        count.since = event;
+    } else if (events.at(event).state == STATE_REJECTED) {
+        count.events += event;
+    }
+}
 
-// An event list with the lines of its events, and what a filter has counted of it.
-struct Session
+void countAccepted(FilterCount& count, const StatesList& events, int event)
 {
-    const FilterMemory& memory;
-    const StatesList& events;
-    const QVector<qint64>& lines;
+    const DeviceState& newest = events.at(event);
+    if (newest.state != STATE_ACCEPTED)
+        return;
+    // Of a run the newest one counts.
+    if (events.at(event - 1).state == STATE_ACCEPTED && !count.events.isEmpty()
+        && count.events.constLast() == event - 1)
+        count.events.removeLast();
+    if (newest.currentNote == count.denomination)
+        count.events += event;
+}
 
-    int param(const char* name) const { return ::param(memory.filter(), name); }
+void followSum(FilterCount& count, const StatesList& events, int event)
+{
+    if (events.at(event).sessionSum != events.at(event - 1).sessionSum)
+        count.since = event;
+}
 
-    const DeviceState& newest() const { return events.constLast(); }
+// Those of the counted events that are enough.
+QVector<int> enough(const RefusedSession& session)
+{
+    const QVector<int>& counted = session.count.events;
+    return counted.mid(counted.size() - qBound(0, session.limit, int(counted.size())));
+}
 
-    // Those of the counted events that are enough.
-    QVector<int> enough() const
-    {
-        const auto count = memory.counted().size();
-        return memory.counted().mid(count - qBound(0, memory.limit(), int(count)));
-    }
-
-    QVector<qint64> linesOf(const QVector<int>& found) const
-    {
-        QVector<qint64> places;
-        for (const int event : found)
-            places += lines.at(event);
-        return places;
-    }
-
-    // "lines 3 and 6", or that these are not all that there were.
-    QString place(const QVector<int>& found) const
-    {
-        const QString shown = lineList(linesOf(found));
-        return memory.counted().size() > found.size() ? Diagnosis::tr("at last in %1").arg(shown)
+// "lines 3 and 6", or that these are not all that there were.
+QString place(const RefusedSession& session, const QVector<int>& found)
+{
+    QVector<qint64> lines;
+    for (const int event : found)
+        lines += session.lines.at(event);
+    const QString shown = lineList(lines);
+    return session.count.events.size() > found.size() ? Diagnosis::tr("at last in %1").arg(shown)
                                                       : shown;
-    }
-};
+}
 
-Finding findSwitch(const Session& /*session*/)
+Finding findSwitch(const RefusedSession& /*session*/)
 {
     return {{}, Diagnosis::tr("All notes are switched off (acceptAll is 0).")};
 }
 
-Finding findAttempts(const Session& session)
+Finding findAttempts(const RefusedSession& session)
 {
-    const QString note = QString::number(session.newest().currentNote);
-    if (session.memory.limit() <= 0)
+    const QString note = QString::number(session.events.constLast().currentNote);
+    if (session.limit <= 0)
         return {{}, Diagnosis::tr("No attempts at all are allowed for %1.").arg(note)};
-    const QVector<int> found = session.enough();
-    const int count = int(session.memory.counted().size());
-    const int since = session.memory.since();
+    const QVector<int> found = enough(session);
+    const int count = int(session.count.events.size());
+    const int since = session.count.since;
     const QString sentence = since > 0
         ? Diagnosis::tr(
             "Notes were rejected %n times since the stacked note of line %4 (%1); %2 are "
@@ -109,95 +115,120 @@ Finding findAttempts(const Session& session)
         : Diagnosis::tr("Notes were rejected %n times since the session began (%1); %2 are allowed "
                         "for %3. The next stacked note or session clears this.",
                         nullptr, count);
-    QString text =
-        sentence.arg(session.place(found), QString::number(session.memory.limit()), note);
+    QString text = sentence.arg(place(session, found), QString::number(session.limit), note);
     if (since > 0)
         text = text.arg(session.lines.at(since));
     return {found, text};
 }
 
-Finding findCount(const Session& session)
+Finding findCount(const RefusedSession& session)
 {
-    const int note = session.newest().currentNote;
-    if (session.memory.limit() <= 0)
+    const int note = session.events.constLast().currentNote;
+    if (session.limit <= 0)
         return {{}, Diagnosis::tr("No notes of %1 are allowed at all.").arg(note)};
-    const QVector<int> found = session.enough();
+    const QVector<int> found = enough(session);
     const QString text =
         Diagnosis::tr("%n notes of %1 were accepted since the session began (%2); %3 are "
                       "allowed. The next session clears this.",
-                      nullptr, int(session.memory.counted().size()))
-            .arg(QString::number(note), session.place(found),
-                 QString::number(session.memory.limit()));
+                      nullptr, int(session.count.events.size()))
+            .arg(QString::number(note), place(session, found), QString::number(session.limit));
     return {found, text};
 }
 
-Finding findSum(const Session& session)
+Finding findSum(const RefusedSession& session)
 {
-    const DeviceState& newest = session.newest();
-    const int since =
-        session.memory.since(); // where the sum came from; the newest event has it too
+    const DeviceState& newest = session.events.constLast();
+    const int since = session.count.since; // where the sum came from; the newest event has it too
     Finding finding;
     if (since < session.events.size() - 1 && newest.sessionSum != 0)
         finding.events += since;
     finding.text = Diagnosis::tr("%1 taken + note %2 > limit %3. The next session clears this.")
                        .arg(QString::number(newest.sessionSum), QString::number(newest.currentNote),
-                            QString::number(session.param("sessionSum")));
+                            QString::number(param(session.filter, "sessionSum")));
     return finding;
 }
 
-struct FilterWords
+// Title and explanation, as the filter has them.
+QString ownWords(const AbstractFilter& filter)
 {
-    const char* filter;
-    const char* purpose;
-    QString (*rule)(const AbstractFilter& filter);
-    Finding (*find)(const Session& session);
+    return filter.getFilterDescription().replace(QLatin1Char('|'), QLatin1String(": "));
+}
+
+Finding findNothing(const RefusedSession& session)
+{
+    return {{}, ownWords(session.filter)};
+}
+
+const FilterWords table[] = {
+    {filters::ACCEPT_FILTER,
+     QT_TRANSLATE_NOOP("Diagnosis", "Switches the taking of all notes and coins on or off."),
+     acceptRule, nullptr, countNothing, findSwitch,
+     QT_TRANSLATE_NOOP("Diagnosis", "Notes are not accepted at the moment. It comes back to you."),
+     QT_TRANSLATE_NOOP("Diagnosis", "Coins are not accepted at the moment. It comes back to you."),
+     ""},
+    {filters::ATTEMPTS_FILTER,
+     QT_TRANSLATE_NOOP("Diagnosis",
+                       "Guards against fishing: once the device has rejected notes a number of "
+                       "times, a note of one face value is refused until a note is stacked or "
+                       "the session ends."),
+     attemptsRule, "attempts", countRejections, findAttempts,
+     QT_TRANSLATE_NOOP("Diagnosis",
+                       "After several rejections no note of %1 is accepted. It comes back to you; "
+                       "please try another value."),
+     QT_TRANSLATE_NOOP("Diagnosis",
+                       "After several rejections no coin of %1 is accepted. It comes back to you; "
+                       "please try another value."),
+     ""},
+    {filters::DENOM_COUNT_FILTER,
+     QT_TRANSLATE_NOOP("Diagnosis",
+                       "Limits how many notes or coins of one face value a session takes."),
+     countRule, "count", countAccepted, findCount,
+     QT_TRANSLATE_NOOP("Diagnosis",
+                       "No more notes of %1 are accepted in this payment. It comes back to you."),
+     QT_TRANSLATE_NOOP("Diagnosis",
+                       "No more coins of %1 are accepted in this payment. It comes back to you."),
+     ""},
+    {filters::SESSION_SUM_FILTER,
+     QT_TRANSLATE_NOOP("Diagnosis", "Limits the sum that a session takes."), sumRule, nullptr,
+     followSum, findSum,
+     QT_TRANSLATE_NOOP("Diagnosis", "This note would pass the limit of %2. It comes back to you."),
+     QT_TRANSLATE_NOOP("Diagnosis", "This coin would pass the limit of %2. It comes back to you."),
+     "sessionSum"},
 };
 
-const FilterWords* wordsOf(const QString& name)
-{
-    static const FilterWords table[] = {
-        {filters::ACCEPT_FILTER,
-         QT_TRANSLATE_NOOP("Diagnosis", "Switches the taking of all notes and coins on or off."),
-         acceptRule, findSwitch},
-        {filters::ATTEMPTS_FILTER,
-         QT_TRANSLATE_NOOP("Diagnosis",
-                           "Guards against fishing: once the device has rejected notes a number of "
-                           "times, a note of one face value is refused until a note is stacked or "
-                           "the session ends."),
-         attemptsRule, findAttempts},
-        {filters::DENOM_COUNT_FILTER,
-         QT_TRANSLATE_NOOP("Diagnosis",
-                           "Limits how many notes or coins of one face value a session takes."),
-         countRule, findCount},
-        {filters::SESSION_SUM_FILTER,
-         QT_TRANSLATE_NOOP("Diagnosis", "Limits the sum that a session takes."), sumRule, findSum},
-    };
-    const auto* const found =
-        std::find_if(std::begin(table), std::end(table),
-                     [&](const FilterWords& w) { return name == QLatin1String(w.filter); });
-    return found == std::end(table) ? nullptr : found;
-}
+const char* const noFilter = nullptr;
+
+const FilterWords noRow{
+    noFilter,
+    nullptr,
+    ownWords,
+    nullptr,
+    nullptr,
+    findNothing,
+    QT_TRANSLATE_NOOP("Diagnosis", "This note cannot be accepted. It comes back to you."),
+    QT_TRANSLATE_NOOP("Diagnosis", "This coin cannot be accepted. It comes back to you."),
+    ""};
 
 } // namespace
 
+const FilterWords& filterWords(const QString& name)
+{
+    const auto* const found =
+        std::find_if(std::begin(table), std::end(table),
+                     [&](const FilterWords& w) { return name == QLatin1String(w.filter); });
+    return found == std::end(table) ? noRow : *found;
+}
+
 QString filterPurpose(const QString& name)
 {
-    const FilterWords* const words = wordsOf(name);
-    return words ? Diagnosis::tr(words->purpose) : QString();
+    const char* const purpose = filterWords(name).purpose;
+    return purpose ? Diagnosis::tr(purpose)
+                   : FilterFactory::getFilterDesc(name).section(QLatin1Char('|'), 1);
 }
 
 QString filterRule(const AbstractFilter& filter)
 {
-    return wordsOf(filterName(filter))->rule(filter);
-}
-
-Objection objectionOf(const FilterMemory& filter, const StatesList& events,
-                      const QVector<qint64>& lines)
-{
-    const Session session{filter, events, lines};
-    const QString name = filterName(filter.filter());
-    const Finding finding = wordsOf(name)->find(session);
-    return {name, filterParams(filter.filter()), session.linesOf(finding.events), finding.text};
+    return filterWords(filterName(filter)).rule(filter);
 }
 
 QString lineList(const QVector<qint64>& lines)

@@ -10,29 +10,58 @@
 #include <QVector>
 
 class AbstractFilter;
-class FilterMemory;
 
-/// Why a filter refuses the newest event of a session.
-struct Objection
+/// What a filter has counted of a session.
+struct FilterCount
 {
-    QString filter; ///< name, as the filters file has it
-    QJsonObject params;
-    /// The lines of the events that counted, in their order. They are enough: the filter would
-    /// refuse the note too if all other events before it were idle ones.
-    QVector<qint64> evidence;
-    QString text; ///< what counted and what clears it
+    int denomination; ///< that the filter is about, if it is about one
+    QVector<int> events; ///< those that count, oldest first
+    int since; ///< the event since which it counts; 0 for the one with which the session began
 };
+
+/// A session whose newest event a filter refuses.
+struct RefusedSession
+{
+    const AbstractFilter& filter;
+    const FilterCount& count;
+    int limit; ///< so many counted events make it refuse
+    const StatesList& events;
+    const QVector<qint64>& lines; ///< of the events in the log
+};
+
+/// Why a filter refuses.
+struct Finding
+{
+    QVector<int> events; ///< that are enough for it to refuse, oldest first
+    QString text;
+};
+
+/// What is known of a filter besides what it says of itself: one row of a table.
+struct FilterWords
+{
+    const char* const& filter; ///< name, as the filters file has it; null for one that has no row
+    const char* purpose; ///< in a sentence; null likewise
+    QString (*rule)(const AbstractFilter& filter);
+    const char* limit; ///< the parameter that limits how many events count; null without one
+    /// Takes in an event that is not the first, which no filter looks at; null when it is not known
+    /// which events a filter looks at.
+    void (*count)(FilterCount& count, const StatesList& events, int event);
+    Finding (*find)(const RefusedSession& session);
+    /// Said to the customer; %1 is the face value, %2 the parameter below.
+    const char* noteRefused;
+    const char* coinRefused;
+    const char* refusalParameter;
+};
+
+/// The row of the filter of that name; where there is none, one that leaves the words to the
+/// filter.
+const FilterWords& filterWords(const QString& name);
 
 /// What the filter of that name is for, in a sentence; empty for an unknown name.
 QString filterPurpose(const QString& name);
 
 /// What a filter does with the parameters that it holds, in a sentence.
 QString filterRule(const AbstractFilter& filter);
-
-/// Explains a filter that refuses the newest event.
-/// @param lines the line of each event in the log
-Objection objectionOf(const FilterMemory& filter, const StatesList& events,
-                      const QVector<qint64>& lines);
 
 /// "line 3", "lines 3 and 6"; of many lines the first ones and the last one.
 QString lineList(const QVector<qint64>& lines);

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "devicestate.h"
+#include "log/outcome.h"
+
+#include <QString>
+
+/// How a picture shows a state of a device.
+struct StateLook
+{
+    const char* style; ///< of the style sheet; states of one meaning share it
+    const char* word;
+};
+
+/// A number that is no state looks like an unknown one.
+StateLook lookOf(State state);
+
+/// The states' colours with their meaning, as HTML list items.
+QString stateLegend();
+
+/// The shapes of the marks, which a page needs once.
+QString markShapes();
+
+/// A line of words with the mark of an outcome.
+QString markGlyph(Outcome outcome);
+
+/// The marks with their meaning, as HTML list items.
+QString markLegend();

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "log/explanation.h"
+
+#include <QString>
+#include <QVector>
+
+#include <vector>
+
+/// What a picture of a session shows.
+struct SessionRecord
+{
+    /// A line of the log on which something changed.
+    struct Moment
+    {
+        qint64 line;
+        LogTime time;
+    };
+
+    /// What a device told on a line, or how it stood when the session began.
+    struct Event
+    {
+        qint64 line;
+        State state;
+        int sum;
+        QVector<MachineCondition> conditions;
+    };
+
+    struct Lane
+    {
+        quint32 device;
+        quint32 thread;
+        QString name;
+        std::vector<Event> events; // by line
+
+        bool isOf(const NoteAnswer& answer) const
+        {
+            return answer.device == device && answer.thread == thread;
+        }
+    };
+
+    int log = 0; // numbers of the log on the page and of the session in the log
+    int number = 0;
+    std::vector<Moment> moments; // by line
+    std::vector<Lane> lanes;
+    std::vector<NoteAnswer> answers; // by line
+    bool onlyRefusals = false; // what is told
+
+    bool isTold(const NoteAnswer& answer) const
+    {
+        return !onlyRefusals || answer.outcome == Outcome::Refused;
+    }
+
+    void add(const LogDevice& device, const LogTime& time, qint64 line);
+
+    /// Whether every moment has its time, none before another's.
+    bool hasTimes() const;
+
+    /// The moments with which the parts begin that a long session is drawn in, and their end.
+    std::vector<size_t> parts() const;
+};
+
+/// The kinds of places on a page that links lead to.
+enum class Anchor { Mark, Sentence, Evidence, Condition };
+
+/// The name of a place: of a line of the log that is about a device.
+QString anchorName(Anchor kind, const SessionRecord& session, qint64 line, quint32 device,
+                   quint32 thread, const QString& what = {});
