@@ -11,14 +11,6 @@
 
 namespace {
 
-constexpr quint32 firstCoinDevice = 100;
-constexpr quint32 lastCoinDevice = 199;
-
-bool isCoin(const NoteAnswer& answer)
-{
-    return answer.device >= firstCoinDevice && answer.device <= lastCoinDevice;
-}
-
 bool isOffer(const DeviceState& event)
 {
     return event.state == STATE_ACCEPTING && event.currentNote > 0;
@@ -51,118 +43,6 @@ void addConditions(QVector<MachineCondition>& known, const QVector<MachineCondit
 }
 
 } // namespace
-
-QString NoteAnswer::place() const
-{
-    QStringList place{Diagnosis::tr("Session %1").arg(session), Diagnosis::tr("line %1").arg(line)};
-    if (time.isKnown())
-        place += time.clock();
-    place += deviceName;
-    return place.join(QStringLiteral(", "));
-}
-
-QString NoteAnswer::what() const
-{
-    if (!hasValue())
-        return isCoin(*this) ? Diagnosis::tr("coin of unknown value")
-                             : Diagnosis::tr("note of unknown value");
-    return (isCoin(*this) ? Diagnosis::tr("coin of %1") : Diagnosis::tr("note of %1")).arg(note);
-}
-
-QString NoteAnswer::headline() const
-{
-    return QStringLiteral("%1: %2").arg(place(),
-                                        Diagnosis::tr(wordsOf(outcome).sentence).arg(what()));
-}
-
-QStringList NoteAnswer::doubts() const
-{
-    QStringList sentences;
-    for (const QString& doubt : uncertain)
-        sentences += Diagnosis::tr("Uncertain: %1.").arg(doubt);
-    return sentences;
-}
-
-QStringList NoteAnswer::details() const
-{
-    QStringList sentences;
-    for (const Objection& objection : objections)
-        sentences += objection.text;
-    if (outcome == Outcome::Refused && isTaken())
-        sentences += Diagnosis::tr("It was taken although refused (line %1).").arg(lastLine);
-    if (end == Outcome::Stuck) {
-        sentences +=
-            (outcome == Outcome::Refused
-                 ? Diagnosis::tr("It got stuck in the device (line %1).")
-                 : Diagnosis::tr("It was last seen on its way through the device (line %1)."))
-                .arg(lastLine);
-    }
-    if (creditLine && *creditLine > 0)
-        sentences += Diagnosis::tr("It was credited all the same (line %1).").arg(*creditLine);
-    else if (creditLine)
-        sentences += Diagnosis::tr("It was not credited.");
-    for (const MachineCondition& condition : machine)
-        sentences += condition.text;
-    if (machine.isEmpty() && (outcome == Outcome::Rejected || outcome == Outcome::Returned)) {
-        sentences += isJudged ? Diagnosis::tr("By the device itself; no filter objected.")
-                              : Diagnosis::tr("By the device itself.");
-    }
-    return sentences + doubts();
-}
-
-QString NoteAnswer::text() const
-{
-    return (QStringList(headline()) + details()).join(QLatin1Char(' '));
-}
-
-void Tally::add(int note)
-{
-    ++count;
-    sum += note;
-}
-
-void Tally::add(const Tally& other)
-{
-    count += other.count;
-    sum += other.sum;
-}
-
-void Summary::add(const NoteAnswer& answer)
-{
-    if (answer.hasValue())
-        offered.add(answer.note);
-    outcomes.at(size_t(answer.outcome)).add(answer.note);
-    if (answer.outcome != Outcome::Refused)
-        return;
-    if (answer.isTaken())
-        takenAlthoughRefused.add(answer.note);
-    if (answer.isTaken() || answer.end == Outcome::Stuck)
-        outcomes.at(size_t(answer.end)).add(answer.note);
-    QStringList names;
-    for (const Objection& objection : answer.objections) {
-        if (!names.contains(objection.filter))
-            ++refusedBy[objection.filter];
-        names += objection.filter;
-    }
-}
-
-QList<Summary::Row> Summary::rows() const
-{
-    const auto row = [this](Outcome outcome) {
-        return Row{Diagnosis::tr(wordsOf(outcome).total), of(outcome)};
-    };
-    QList<Row> rows{{Diagnosis::tr("Offered"), offered}, row(Outcome::Taken)};
-    if (takenAlthoughRefused.count > 0)
-        rows += {Diagnosis::tr("taken although refused"), takenAlthoughRefused, true, true};
-    rows += row(Outcome::Refused);
-    for (auto filter = refusedBy.begin(); filter != refusedBy.end(); ++filter)
-        rows += {filter.key(), {filter.value(), 0}, false, true};
-    for (const OutcomeWords& other : outcomeWords()) {
-        if (other.outcome != Outcome::Taken && other.outcome != Outcome::Refused)
-            rows += row(other.outcome);
-    }
-    return rows;
-}
 
 LogExplainer::LogExplainer(const FilterSet& filters, Receiver receiver)
     : m_player(filters)

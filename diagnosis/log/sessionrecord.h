@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "log/explanation.h"
+#include "log/noteanswer.h"
 
 #include <QString>
 #include <QVector>

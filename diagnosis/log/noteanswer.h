@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "log/logplayer.h"
+#include "log/outcome.h"
+#include "text/filterwords.h"
+#include "text/logtime.h"
+
+#include <QMap>
+#include <QStringList>
+
+#include <array>
+#include <optional>
+
+/// What happened to one note of a log, and why.
+struct NoteAnswer
+{
+    int session = 0;
+    quint32 device = 0;
+    quint32 thread = 0;
+    QString deviceName;
+    qint64 line = 0; ///< on which it was offered, or rejected without having been
+    LogTime time; ///< of that line
+    int note = 0; ///< face value; 0 when the log never says
+    Outcome outcome = Outcome::Unknown;
+    Outcome end = Outcome::Unknown; ///< the same, but of a refused note what became of it then
+    qint64 lastLine = 0; ///< on which it became clear what became of it; 0 when it did not
+    QVector<Objection> objections; ///< of every filter that refused it
+    /// What was the matter while the device had the note, unless it took it or the filters refused
+    /// it and it did not get stuck.
+    QVector<MachineCondition> machine;
+    /// Of a stuck note: the line on which the session's sum rose, 0 when it did not; nothing when
+    /// the log does not tell the sum.
+    std::optional<qint64> creditLine;
+    QStringList uncertain; ///< what may make this answer wrong
+
+    bool isJudged = false; ///< whether the filters were asked about it
+
+    bool isTaken() const { return end == Outcome::Taken; }
+    bool hasValue() const { return note > 0; }
+
+    /// "Session 1, line 8, 10:05:12, Bill validator (CCNet)"
+    QString place() const;
+
+    /// "note of 1000" or "coin of 10"
+    QString what() const;
+
+    /// "Session 1, line 8, 10:05:12, Bill validator (CCNet): note of 1000 refused."
+    QString headline() const;
+
+    /// What makes it uncertain, a sentence each.
+    QStringList doubts() const;
+
+    /// The reasons and doubts, a sentence or two each.
+    QStringList details() const;
+
+    /// All of it in one line.
+    QString text() const;
+};
+
+/// Notes and their sum.
+struct Tally
+{
+    qint64 count = 0;
+    qint64 sum = 0;
+
+    void add(int note);
+    void add(const Tally& other);
+};
+
+/// The answers of a log together.
+struct Summary
+{
+    struct Row
+    {
+        QString what;
+        Tally tally;
+        bool hasSum = true;
+        bool isPart = false; ///< of the row before it that is none
+    };
+
+    int sessions = 0;
+    Tally offered; ///< those of known value
+    std::array<Tally, outcomeCount> outcomes; ///< by Outcome; of refused notes by what became of
+                                              ///< them too, if they were taken or got stuck
+    Tally takenAlthoughRefused;
+    QMap<QString, qint64> refusedBy; ///< notes that a filter of that name refused
+
+    void add(const NoteAnswer& answer);
+
+    /// What people read.
+    QList<Row> rows() const;
+
+    const Tally& of(Outcome outcome) const { return outcomes.at(size_t(outcome)); }
+};
