@@ -203,7 +203,10 @@ private Q_SLOTS:
             S;accepting 100;stacking;{"state":"jammed","error_critical":true};idling | 100 stuck error@4
             S;accepting 100;jammed;idling;stacked                   | 100 taken
             S;accepting 100;jammed;idling;returned                  | 100 returned
-            S;accepting 100;jammed;idling;rejected                  | 100 stuck, ? rejected
+            S;accepting 100;jammed;idling;rejected                  | 100 rejected
+            S;accepting 100;accepted;{"session":"start"};idling     | 100 unknown
+            S;accepting 100;accepted;{"session":"start","state":"stacking"};idling | 100 taken
+            S;accepting 100;jammed;{"session":"start"};idling       | 100 stuck
             S;accepting 100;{"online":false};accepted;{"online":true};idling | 100 taken
             S;accepting 100;{"halt":true};stacking;idling           | 100 taken
             S;accepting 100;accepted;returning;idling               | 100 unknown

@@ -61,18 +61,22 @@ void LogExplainer::take(const SessionLine& line, qint64 lineNumber)
             < std::make_pair(b->device->deviceId(), b->device->threadId());
     });
     for (const LogStep* const step : steps) {
-        // A note that the device has in hand goes on into the next session.
-        const auto closeAtStart = [&] {
-            const Note* const note = m_trails[step->device].note;
-            if (step->startsSession && note && note->phase != InHand)
-                close(*step->device);
+        const LogDevice& device = *step->device;
+        const Trail& trail = m_trails[&device];
+        const auto closeUnlessInHand = [&] {
+            if (step->startsSession && trail.note && trail.note->phase != InHand)
+                close(device);
         };
-        closeAtStart();
+        closeUnlessInHand();
+        // What the device has in hand goes on into the next session, where only what is told there
+        // says what becomes of it.
+        if (step->startsSession && trail.note)
+            trail.note->answer.end = Outcome::Unknown;
         if (step->sent)
             takeEvent(*step, line, lineNumber);
-        else if (Note* const note = m_trails[step->device].note)
-            watch(*step->device, *note, lineNumber); // a first report may tell of what is no event
-        closeAtStart();
+        else if (trail.note)
+            watch(device, *trail.note, lineNumber); // a first report may tell of what is no event
+        closeUnlessInHand();
     }
     giveAway();
 }
@@ -151,8 +155,7 @@ bool LogExplainer::beginsNote(const DeviceState& event, const Note* open)
 {
     if (event.state == STATE_ACCEPTING)
         return !open || open->phase != InHand || open->answer.end != Outcome::Unknown;
-    return event.state == STATE_REJECTED
-        && (!open || (open->phase != InHand && open->stoppedLine > 0));
+    return event.state == STATE_REJECTED && !open;
 }
 
 // Takes back a note that there was not: its value was that of the note before.
@@ -207,7 +210,7 @@ void LogExplainer::follow(const LogDevice& device, Note& note, bool isNewState, 
     NoteAnswer& answer = note.answer;
     const State state = device.state().state;
     const Outcome before = answer.end;
-    const bool isKept = state == STATE_ACCEPTED || state == STATE_STACKING;
+    const bool isKept = isNewState && (state == STATE_ACCEPTED || state == STATE_STACKING);
     if (isKept || state == STATE_STACKED)
         answer.end = Outcome::Taken;
     else if (state == STATE_REJECTED)
@@ -223,7 +226,7 @@ void LogExplainer::follow(const LogDevice& device, Note& note, bool isNewState, 
 
     const bool isAtEnd =
         state == STATE_REJECTED || state == STATE_RETURNED || state == STATE_STACKED;
-    if (isAtEnd || (isNewState && isKept))
+    if (isAtEnd || isKept)
         note.stoppedLine = 0;
     const bool isJam = isNewState && (state == STATE_JAMMED || state == STATE_ERROR);
     if (isJam && note.phase == InHand && note.stoppedLine == 0)
