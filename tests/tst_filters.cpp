@@ -133,9 +133,9 @@ private Q_SLOTS:
             AcceptFilter     | acceptAll      | Accept filter             | 0 1         | 2 true
             AttemptsFilter   | denom attempts | Max attempts filter       | 1 09 10 090 | 0 11 100
             DenomCountFilter | denom count    | Denomination count filter | 0 12        | -1 1.5)"_s;
+        addRows(rows);
         for (const QString& name : FilterFactory::getFilters())
             QVERIFY2(rows.contains(name), qPrintable(name));
-        addRows(rows);
     }
 
     void everyFilterDescribesItself()
