@@ -3,6 +3,7 @@
 
 #include "log/explanation.h"
 
+#include "text/devicename.h"
 #include "text/diagnosis.h"
 
 #include <algorithm>
@@ -10,9 +11,6 @@
 #include <utility>
 
 namespace {
-
-constexpr quint32 firstCoinDevice = 100;
-constexpr quint32 lastCoinDevice = 199;
 
 struct OutcomeWords
 {
@@ -36,7 +34,7 @@ const OutcomeWords& wordsOf(Outcome outcome)
 
 bool isCoin(const NoteAnswer& answer)
 {
-    return answer.device >= firstCoinDevice && answer.device <= lastCoinDevice;
+    return moneyOf(int(answer.device)) == Money::Coin;
 }
 
 bool isOffer(const DeviceState& event)

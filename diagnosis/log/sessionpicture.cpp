@@ -4,6 +4,7 @@
 #include "log/sessionpicture.h"
 
 #include "filterfactory.h"
+#include "text/conditions.h"
 #include "text/diagnosis.h"
 #include "text/htmltext.h"
 
@@ -76,22 +77,6 @@ constexpr StyleWords styleTable[] = {
     {"busy", QT_TRANSLATE_NOOP("Diagnosis", "busy")},
     {"bad", QT_TRANSLATE_NOOP("Diagnosis", "jam, error or what else was the matter")},
 };
-
-QString conditionWord(const QString& what)
-{
-    static const std::pair<const char*, const char*> table[] = {
-        {"disabled", QT_TRANSLATE_NOOP("Diagnosis", "disabled")},
-        {"offline", QT_TRANSLATE_NOOP("Diagnosis", "offline")},
-        {"halted", QT_TRANSLATE_NOOP("Diagnosis", "halted")},
-        {"error", QT_TRANSLATE_NOOP("Diagnosis", "critical error")},
-        {"stacker_missing", QT_TRANSLATE_NOOP("Diagnosis", "stacker missing")},
-        {"stacker_full", QT_TRANSLATE_NOOP("Diagnosis", "stacker full")},
-    };
-    const auto* const found =
-        std::find_if(std::begin(table), std::end(table),
-                     [&](const auto& row) { return what == QLatin1String(row.first); });
-    return found == std::end(table) ? what : Diagnosis::tr(found->second);
-}
 
 QString number(double value)
 {
