@@ -33,13 +33,14 @@ auto fields(Record& record)
         [&](auto... field) { return std::tie(record.*decltype(field)::member...); });
 }
 
-template <auto Member>
-RecordField<DeviceState> tableRow(DeviceStateField<Member> field)
+template <auto Member, auto... Entry>
+RecordField<DeviceState> tableRow(DeviceStateField<Member, Entry...> field)
 {
     return recordField<DeviceState, Member>(*field.key);
 }
 
-RecordField<DeviceState> tableRow(DeviceStateField<&DeviceState::state> field)
+template <auto... Entry>
+RecordField<DeviceState> tableRow(DeviceStateField<&DeviceState::state, Entry...> field)
 {
     return {field.key,
             [](const DeviceState& record) { return QVariant(record.stateAsString()); },

@@ -3,9 +3,7 @@
 
 #pragma once
 
-#include "acceptorstate.h"
-#include "devicestatesconst.h"
-#include "dispenserregistrymodel.h"
+#include "devicestatefields_p.h"
 #include "recordfields_p.h"
 #include "statitem.h"
 
@@ -100,9 +98,9 @@ struct DeviceField
 };
 
 template <typename Reader, typename Device, auto Getter, auto Setter>
-DeviceField<Reader, Device> deviceField(const QString& key)
+DeviceField<Reader, Device> deviceField(const QString* key)
 {
-    return {&key, [](Reader& reader, Device& device, const Device& before) {
+    return {key, [](Reader& reader, Device& device, const Device& before) {
                 const AcceptorStateItem& entryBefore = before;
                 AcceptorStateItem& entry = device;
                 auto value = (entryBefore.*Getter)();
@@ -134,41 +132,41 @@ bool readRegistry(Reader& reader, Device& device, const Device& /*before*/)
     return complete;
 }
 
-/// Every key of a published device in ascending order, in which devices mostly come. Those that are
-/// not read stand here too: the key after them is then the likely one.
+template <typename Reader, typename Device, auto Member>
+DeviceField<Reader, Device> publishedField(DeviceStateField<Member> field)
+{
+    return {field.key, nullptr};
+}
+
+template <typename Reader, typename Device, auto Member, auto Getter, auto Setter>
+DeviceField<Reader, Device> publishedField(DeviceStateField<Member, Getter, Setter> field)
+{
+    return deviceField<Reader, Device, Getter, Setter>(field.key);
+}
+
+template <typename Reader, typename Device>
+DeviceField<Reader, Device> publishedField(DeviceStateField<&DeviceState::dispenserRegistry> field)
+{
+    return {field.key, readRegistry<Reader, Device>};
+}
+
+/// The fields of a device's state and the counters. Those that are not read are among them: the key
+/// that is likely to come after them is then known.
 template <typename Reader, typename Device>
 auto deviceFields()
 {
-    using namespace deviceStateDescConst;
-    using Item = AcceptorStateItem;
-    using Field = DeviceField<Reader, Device>;
-    return std::array{
-        Field{&CASH, nullptr},
-        Field{&CURRENT_CHANNEL, nullptr},
-        Field{&CURRENT_NOTE, nullptr},
-        deviceField<Reader, Device, &Item::deviceId, &Item::setDeviceId>(DEVICE_ID),
-        Field{&DISPENSED_SUM, nullptr},
-        Field{&DispenserRegistryModel::DISPENSER_REGISTRY, readRegistry<Reader, Device>},
-        deviceField<Reader, Device, &Item::enabled, &Item::setEnabled>(ENABLED),
-        deviceField<Reader, Device, &Item::errorCritical, &Item::setErrorCritical>(ERROR_CRITICAL),
-        deviceField<Reader, Device, &Item::errorText, &Item::setErrorText>(ERROR_TEXT),
-        deviceField<Reader, Device, &Item::halt, &Item::setHalt>(HALT),
-        deviceField<Reader, Device, &Item::idString, &Item::setIdString>(ID_STRING),
-        deviceField<Reader, Device, &Item::notesInserted, &Item::setNotesInserted>(
-            StatItem::NOTES_INSERTED),
-        deviceField<Reader, Device, &Item::notesRejected, &Item::setNotesRejected>(
-            StatItem::NOTES_REJECTED),
-        deviceField<Reader, Device, &Item::notesReturned, &Item::setNotesReturned>(
-            StatItem::NOTES_RETURNED),
-        Field{&ONLINE, nullptr},
-        Field{&SESSION_SUM, nullptr},
-        deviceField<Reader, Device, &Item::stackerFull, &Item::setStackerFull>(STACKER_FULL),
-        deviceField<Reader, Device, &Item::stackerPresent, &Item::setStackerPresent>(
-            STACKER_PRESENT),
-        deviceField<Reader, Device, &Item::state, &Item::setState>(STATE),
-        deviceField<Reader, Device, &Item::stateText, &Item::setStateText>(STATE_TEXT),
-        deviceField<Reader, Device, &Item::threadId, &Item::setThreadId>(THREAD_ID),
-    };
+    using E = AcceptorStateItem;
+    return withDeviceStateFields([](auto... field) {
+        return std::array{
+            publishedField<Reader, Device>(field)...,
+            deviceField<Reader, Device, &E::notesInserted, &E::setNotesInserted>(
+                &StatItem::NOTES_INSERTED),
+            deviceField<Reader, Device, &E::notesRejected, &E::setNotesRejected>(
+                &StatItem::NOTES_REJECTED),
+            deviceField<Reader, Device, &E::notesReturned, &E::setNotesReturned>(
+                &StatItem::NOTES_RETURNED),
+        };
+    });
 }
 
 /// Reads the devices of a published state, from text or from a map.

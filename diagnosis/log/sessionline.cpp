@@ -128,8 +128,8 @@ struct Field
     void (*copy)(DeviceState& to, const DeviceState& from);
 };
 
-template <auto Member>
-Field tableRow(DeviceStateField<Member> field)
+template <auto Member, auto... Entry>
+Field tableRow(DeviceStateField<Member, Entry...> field)
 {
     return {field.key,
             [](JsonReader& json, DeviceState& state) { return read(json, state.*Member); },
