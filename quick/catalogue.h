@@ -5,9 +5,9 @@
 
 #include "rowmodel.h"
 
-/// The catalogue of device models, in its order. Roles: model (the number by which settings and
-/// states name it), protocol, kind (for people, in the language of the moment when it was made),
-/// className, type (Acceptors::AcceptorType) and canDispense.
+/// The catalogue of device models, in its order. Roles: modelId (the number by which settings and
+/// states name it), modelName (that of its protocol), kind (for people, in the language of the
+/// moment when it was made), className, type (Acceptors::AcceptorType) and canDispense.
 class Catalogue : public RowModel
 {
     Q_OBJECT

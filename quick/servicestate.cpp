@@ -4,6 +4,7 @@
 #include "servicestate.h"
 
 #include "service/customeranswer.h"
+#include "text/conditions.h"
 #include "text/devicename.h"
 #include "text/diagnosis.h"
 #include "text/fault.h"
@@ -22,19 +23,22 @@ QVariantMap lamp(const char* name, const QString& label, bool isLit, bool isAlar
 }
 
 // Only what takes notes has a stacker, and only what takes money can be accepting.
-QVariantList lampsOf(const AcceptorStateItem& device, bool isOffline, bool isAccepting)
+QVariantList lampsOf(const PublishedDevice& device, bool isAccepting)
 {
     const Money money = moneyOf(device.deviceId());
     QVariantList lamps;
     if (money != Money::None)
         lamps += lamp("accepting", Diagnosis::tr("Accepting"), isAccepting, false);
-    if (money == Money::Note) {
-        lamps += lamp("stacker", Diagnosis::tr("Stacker"), device.stackerPresent(), false);
-        lamps += lamp("stackerFull", Diagnosis::tr("Stacker full"), device.stackerFull(), true);
+    for (const Condition::Kind kind : Condition::lampOrder) {
+        const bool isOfStacker =
+            kind == Condition::StackerMissing || kind == Condition::StackerFull;
+        if (isOfStacker && money != Money::Note)
+            continue;
+        const Condition& condition = Condition::of(kind);
+        const bool isAlarm = kind != Condition::StackerMissing; // lit while it is there
+        lamps += lamp(condition.lamp, Diagnosis::tr(condition.lampLabel),
+                      condition.holds(device) == isAlarm, isAlarm);
     }
-    lamps += lamp("error", Diagnosis::tr("Critical error"), device.errorCritical(), true);
-    lamps += lamp("halted", Diagnosis::tr("Halted"), device.halt(), true);
-    lamps += lamp("offline", Diagnosis::tr("Offline"), isOffline, true);
     return lamps;
 }
 
@@ -133,7 +137,7 @@ QMap<int, QString> ServiceState::displayNames() const
     QMap<int, QString> given;
     for (auto name = m_names.begin(); name != m_names.end(); ++name)
         given.insert(name.key().toInt(), name.value().toString());
-    return deviceNames(m_state.service, given);
+    return deviceNames(m_state, given);
 }
 
 void ServiceState::show()
@@ -154,7 +158,7 @@ void ServiceState::show()
         shown.customerText = customer.text;
         shown.acceptingAllowed = m_state.service.isAcceptingAllowed();
         shown.reasons = m_fault.isEmpty()
-            ? whyNotAccepting(m_state.service)
+            ? whyNotAccepting(m_state)
             : QStringList{Diagnosis::tr("The service's state cannot be read: %1.").arg(m_fault)};
         shown.noteAccepted = customer.note;
         shown.coinAccepted = customer.coin;
@@ -188,23 +192,19 @@ void ServiceState::showDevices(const QMap<int, QString>& names)
     QVector<RowModel::Row> rows;
     QHash<QString, int> seen;
     QHash<QString, RowModel*> gone = m_registries;
-    auto details = m_state.details.begin();
-    const QList<AcceptorStateItem> devices = m_state.service.deviceStates();
-    for (const AcceptorStateItem& device : devices) {
-        const PublishedState::Details& told = *details++;
-        const bool isOffline = told.isOffline;
-        const bool isAccepting = m_available && takesMoney(device, isOffline);
+    for (const PublishedDevice& device : m_state.devices) {
+        const bool isAccepting = m_available && takesMoney(device);
         const int model = device.deviceId();
         QString key = QStringLiteral("%1/%2").arg(model).arg(device.threadId());
         key += QStringLiteral("/%1").arg(seen[key]++); // the same device may be told of twice
         gone.remove(key);
-        rows += RowModel::Row{key,
-                              {model, device.threadId(), modelName(model), kindName(model),
-                               names.value(model), device.idString(), device.enabled(),
-                               device.state(), AcceptorState::stateDescr(device.state()),
-                               device.stateText(), deviceFaults(device, isOffline), isAccepting,
-                               lampsOf(device, isOffline, isAccepting), told.notesInserted,
-                               told.notesRejected, told.notesReturned, registryOf(key, device)}};
+        rows += RowModel::Row{
+            key,
+            {model, device.threadId(), modelName(model), kindName(model), names.value(model),
+             device.idString(), device.enabled(), device.state(),
+             AcceptorState::stateDescr(device.state()), device.stateText(), deviceFaults(device),
+             isAccepting, lampsOf(device, isAccepting), device.insertedInFull,
+             device.rejectedInFull, device.returnedInFull, registryOf(key, device)}};
     }
     m_devices.setRows(rows);
     for (auto registry = gone.begin(); registry != gone.end(); ++registry) {

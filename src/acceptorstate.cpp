@@ -4,16 +4,13 @@
 #include "acceptorstate.h"
 
 #include "devicestatesconst.h"
-#include "dispenserregistrymodel.h"
-#include "recordfields_p.h"
-#include "statitem.h"
+#include "publisheddevices_p.h"
 
 #include <QLocale>
 #include <QObject>
 #include <QStringList>
 
 #include <algorithm>
-#include <charconv>
 
 const QString AcceptorState::ACCEPTOR_STATE_BUSY = QStringLiteral("busy");
 const QString AcceptorState::DEVICE_STATES = QStringLiteral("device_states");
@@ -104,190 +101,23 @@ bool readJson(VariantReader& reader, T& value)
     return true;
 }
 
-// A registry row on its way from either reader into an entry's map.
-class RegistryRow
-{
-public:
-    // Where the value of a key belongs; null when it is not kept.
-    QVariant* place(std::size_t i, QStringView key, const QVariant& likelyCurrency)
-    {
-        m_isEmpty = false;
-        if (i == DeviceId || i == ThreadId)
-            return nullptr;
-        if (i == Channel)
-            return &m_channel;
-        // A constant and a text that is shared cost no memory in each row.
-        const QString kept = i == keys.size() ? key.toString() : *keys[i];
-        QVariant* const value =
-            &*m_values.insert(m_values.cend(), kept, i == Currency ? likelyCurrency : QVariant());
-        if (i < keys.size())
-            m_places[i] = value;
-        return value;
-    }
-
-    // Stores the row under its kind and channel.
-    void file(QVariantMap& registry) const
-    {
-        if (m_isEmpty)
-            return;
-        QVarLengthArray<QChar, 64> key;
-        append(key, at(BillType));
-        key.append(u'_');
-        append(key, m_channel);
-        key.append(u'_');
-        append(key, at(Denomination));
-        key.append(u'_');
-        append(key, currency());
-        registry.insert(registry.cend(), QString(key.constData(), key.size()), m_values);
-    }
-
-    QVariant currency() const { return at(Currency); }
-
-    static const auto& order()
-    {
-        static const KeyOrder order(keys);
-        return order;
-    }
-
-private:
-    using Row = DispenserRegistryItem;
-    enum Key : std::size_t { BillType, Channel, Currency, Denomination, DeviceId, ThreadId };
-    static constexpr std::array keys{&Row::BILL_TYPE,    &Row::CHANNEL,   &Row::CURRENCY,
-                                     &Row::DENOMINATION, &Row::DEVICE_ID, &Row::THREAD_ID,
-                                     &Row::COUNT,        &Row::REJECTED};
-
-    QVariant at(Key key) const { return m_places[key] ? *m_places[key] : QVariant(); }
-
-    static void append(QVarLengthArray<QChar, 64>& key, const QVariant& part)
-    {
-        if (part.userType() != QMetaType::LongLong) {
-            const QString text = Variants::toString(part);
-            key.append(text.constData(), text.size());
-            return;
-        }
-        char digits[20];
-        const char* const end = std::to_chars(digits, digits + 20, part.toLongLong()).ptr;
-        for (const char* digit = digits; digit != end; ++digit)
-            key.append(QLatin1Char(*digit));
-    }
-
-    QVariantMap m_values;
-    std::array<const QVariant*, keys.size()> m_places{}; // of those that are kept
-    QVariant m_channel;
-    bool m_isEmpty = true;
-};
-
 template <typename Reader>
-bool readRegistry(Reader& reader, AcceptorStateItem& device, const AcceptorStateItem& /*before*/)
+const auto& deviceTable()
 {
-    QVariantMap registry;
-    QVariant currency; // mostly the same in every row
-    const auto readRow = [&] {
-        RegistryRow row;
-        const auto readMember = [&](std::size_t i, QStringView key) {
-            QVariant* const value = row.place(i, key, currency);
-            return value ? reader.readValue(*value) : reader.skipValue();
-        };
-        const bool complete = reader.readObject(RegistryRow::order(), readMember);
-        row.file(registry);
-        currency = row.currency();
-        return complete;
-    };
-    const auto readElement = [&] { return reader.isAtObject() ? readRow() : reader.skipValue(); };
-    const bool complete = reader.isAtArray() ? reader.readArray(readElement) : reader.skipValue();
-    device.setDispRegistry(registry);
-    return complete;
-}
-
-// A field of a device's map.
-template <typename Reader>
-struct DeviceField
-{
-    const QString* key;
-    // Null when it is not read.
-    bool (*read)(Reader& reader, AcceptorStateItem& item, const AcceptorStateItem& before);
-};
-
-template <typename Reader, auto Getter, auto Setter>
-DeviceField<Reader> deviceField(const QString& key)
-{
-    return {&key, [](Reader& reader, AcceptorStateItem& item, const AcceptorStateItem& before) {
-                auto value = (before.*Getter)(); // a text that is the same is shared
-                const bool complete = readJson(reader, value);
-                (item.*Setter)(value);
-                return complete;
-            }};
-}
-
-// Those that are not read keep the others in step with a map that has them all.
-template <typename Reader>
-const auto& deviceFields()
-{
-    using namespace deviceStateDescConst;
-    using Item = AcceptorStateItem;
-    using DeviceField = DeviceField<Reader>;
-    static const std::array fields{
-        DeviceField{&CASH, nullptr},
-        DeviceField{&CURRENT_CHANNEL, nullptr},
-        DeviceField{&CURRENT_NOTE, nullptr},
-        deviceField<Reader, &Item::deviceId, &Item::setDeviceId>(DEVICE_ID),
-        DeviceField{&DISPENSED_SUM, nullptr},
-        DeviceField{&DispenserRegistryModel::DISPENSER_REGISTRY, readRegistry<Reader>},
-        deviceField<Reader, &Item::enabled, &Item::setEnabled>(ENABLED),
-        deviceField<Reader, &Item::errorCritical, &Item::setErrorCritical>(ERROR_CRITICAL),
-        deviceField<Reader, &Item::errorText, &Item::setErrorText>(ERROR_TEXT),
-        deviceField<Reader, &Item::halt, &Item::setHalt>(HALT),
-        deviceField<Reader, &Item::idString, &Item::setIdString>(ID_STRING),
-        deviceField<Reader, &Item::notesInserted, &Item::setNotesInserted>(
-            StatItem::NOTES_INSERTED),
-        deviceField<Reader, &Item::notesRejected, &Item::setNotesRejected>(
-            StatItem::NOTES_REJECTED),
-        deviceField<Reader, &Item::notesReturned, &Item::setNotesReturned>(
-            StatItem::NOTES_RETURNED),
-        DeviceField{&ONLINE, nullptr},
-        DeviceField{&SESSION_SUM, nullptr},
-        deviceField<Reader, &Item::stackerFull, &Item::setStackerFull>(STACKER_FULL),
-        deviceField<Reader, &Item::stackerPresent, &Item::setStackerPresent>(STACKER_PRESENT),
-        deviceField<Reader, &Item::state, &Item::setState>(STATE),
-        deviceField<Reader, &Item::stateText, &Item::setStateText>(STATE_TEXT),
-        deviceField<Reader, &Item::threadId, &Item::setThreadId>(THREAD_ID),
-    };
-    return fields;
-}
-
-template <typename Reader>
-bool readDevice(Reader& reader, AcceptorStateItem& device, const AcceptorStateItem& before)
-{
-    static const auto& fields = deviceFields<Reader>();
-    static const KeyOrder order(keysOf(fields));
-    return reader.readObject(order, [&](std::size_t i, QStringView) {
-        return i < fields.size() && fields[i].read ? fields[i].read(reader, device, before)
-                                                   : reader.skipValue();
-    });
+    static const DeviceTable<Reader, AcceptorStateItem> table;
+    return table;
 }
 
 // The devices of a published state; nothing for a text that breaks off.
 template <typename Reader>
 bool readDevices(Reader& reader, QList<AcceptorStateItem>& devices)
 {
-    const AcceptorStateItem withDefaults{QVariantMap()};
-    const auto readElement = [&] {
-        if (reader.isAtObject()) {
-            const AcceptorStateItem before = devices.isEmpty() ? withDefaults : devices.last();
-            devices.append(withDefaults);
-            return readDevice(reader, devices.last(), before);
-        }
-        QVariant other;
-        const bool complete = reader.readValue(other);
-        if (!Variants::isNull(other))
-            devices.append(withDefaults);
-        return complete;
-    };
     return reader.readObject([&](QStringView key) {
         if (key != AcceptorState::DEVICE_STATES)
             return reader.skipValue();
         devices.clear(); // of doubled keys the last one counts
-        return reader.isAtArray() ? reader.readArray(readElement) : reader.skipValue();
+        return reader.isAtArray() ? deviceTable<Reader>().readList(reader, devices)
+                                  : reader.skipValue();
     });
 }
 
@@ -324,7 +154,7 @@ AcceptorStateItem::AcceptorStateItem(QVariantMap map)
 {
     const QVariant published(map);
     VariantReader reader(published);
-    readDevice(reader, *this, *this);
+    deviceTable<VariantReader>().read(reader, *this, *this);
 }
 
 int AcceptorStateItem::deviceId() const

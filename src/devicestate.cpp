@@ -3,8 +3,8 @@
 
 #include "devicestate.h"
 
+#include "devicestatefields_p.h"
 #include "dispenserregistryjson_p.h"
-#include "dispenserregistrymodel.h"
 #include "recordfields_p.h"
 
 #include <iterator>
@@ -23,20 +23,26 @@ const QString* const stateNames[] = {
     &DS_DISPENSING, &DS_DISPENSED, &DS_FLOATING, &DS_FLOATED,  &DS_EMPTYING, &DS_EMPTIED,
 };
 constexpr int stateCount = static_cast<int>(std::size(stateNames));
+static_assert(stateCount == STATE_EMPTIED + 1, "a state has no name");
 
-// Every field in declared order, for comparing and copying.
+// Every field, for comparing and copying.
 template <typename Record>
-auto fields(Record& r)
+auto fields(Record& record)
 {
-    return std::tie(r.enabled, r.state, r.stackerPresent, r.stackerFull, r.cash, r.errCritical,
-                    r.halt, r.errorText, r.stateText, r.threadId, r.deviceId, r.sessionSum,
-                    r.currentNote, r.currentChannel, r.dispensedSum, r.idString, r.online,
-                    r.dispenserRegistry);
+    return withDeviceStateFields(
+        [&](auto... field) { return std::tie(record.*decltype(field)::member...); });
 }
 
-RecordField<DeviceState> stateField()
+template <auto Member, auto... Entry>
+RecordField<DeviceState> tableRow(DeviceStateField<Member, Entry...> field)
 {
-    return {&deviceStateDescConst::STATE,
+    return recordField<DeviceState, Member>(*field.key);
+}
+
+template <auto... Entry>
+RecordField<DeviceState> tableRow(DeviceStateField<&DeviceState::state, Entry...> field)
+{
+    return {field.key,
             [](const DeviceState& record) { return QVariant(record.stateAsString()); },
             [](DeviceState& record, const QVariant& value) {
                 return DeviceState::stateFromString(Variants::toString(value), record.state);
@@ -52,9 +58,9 @@ RecordField<DeviceState> stateField()
 }
 
 // The rows travel outwards only, and only when there are any.
-RecordField<DeviceState> registryField()
+RecordField<DeviceState> tableRow(DeviceStateField<&DeviceState::dispenserRegistry> field)
 {
-    return {&DispenserRegistryModel::DISPENSER_REGISTRY,
+    return {field.key,
             [](const DeviceState& record) {
                 DispenserRegistryModel registry;
                 registry.assign(record.dispenserRegistry);
@@ -72,28 +78,8 @@ RecordField<DeviceState> registryField()
 
 const auto& table()
 {
-    using namespace deviceStateDescConst;
-    using D = DeviceState;
-    static const RecordTable table(std::array{
-        recordField<D, &D::enabled>(ENABLED),
-        stateField(),
-        recordField<D, &D::stackerPresent>(STACKER_PRESENT),
-        recordField<D, &D::stackerFull>(STACKER_FULL),
-        recordField<D, &D::cash>(CASH),
-        recordField<D, &D::errorText>(ERROR_TEXT),
-        recordField<D, &D::errCritical>(ERROR_CRITICAL),
-        recordField<D, &D::halt>(HALT),
-        recordField<D, &D::stateText>(STATE_TEXT),
-        recordField<D, &D::threadId>(THREAD_ID),
-        recordField<D, &D::deviceId>(DEVICE_ID),
-        recordField<D, &D::sessionSum>(SESSION_SUM),
-        recordField<D, &D::currentNote>(CURRENT_NOTE),
-        recordField<D, &D::currentChannel>(CURRENT_CHANNEL),
-        recordField<D, &D::dispensedSum>(DISPENSED_SUM),
-        recordField<D, &D::idString>(ID_STRING),
-        recordField<D, &D::online>(ONLINE),
-        registryField(),
-    });
+    static const RecordTable table = withDeviceStateFields(
+        [](auto... field) { return RecordTable(std::array{tableRow(field)...}); });
     return table;
 }
 

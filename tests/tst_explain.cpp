@@ -887,10 +887,12 @@ private Q_SLOTS:
                                        {"stacker_full"_s, chance(8)},
                                        {"state"_s, chance(6) ? "jammed"_s : "busy"_s}};
             }
-            AcceptorState state;
-            AcceptorState::loadFromStateMap(AcceptorState::stateMap(devices), state);
-            QCOMPARE(whyNotAccepting(state).isEmpty(), state.isAcceptingAllowed());
-            allowed += state.isAcceptingAllowed() ? 1 : 0;
+            const QJsonObject map = QJsonObject::fromVariantMap(AcceptorState::stateMap(devices));
+            const PublishedState state =
+                readServiceState(QString::fromUtf8(QJsonDocument(map).toJson()));
+            const bool isAllowed = state.service.isAcceptingAllowed();
+            QCOMPARE(whyNotAccepting(state).isEmpty(), isAllowed);
+            allowed += isAllowed ? 1 : 0;
         }
         QVERIFY(allowed > 400 && allowed < 1600);
     }

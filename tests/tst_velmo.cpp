@@ -31,7 +31,7 @@ private Q_SLOTS:
         const VelmoRun devices = velmo({"devices"_s});
         QCOMPARE(devices.outLines().size(), Acceptors::supportedDevices().size() + 1);
         QCOMPARE(devices.outLines().at(9),
-                 " 51  Puloon LCDM2               dispenser      yes"
+                 " 51  Puloon LCDM2               Note dispenser  yes"
                  "       NAPuloonLCDM2"_s);
         const QJsonArray rows =
             QJsonDocument::fromJson(velmo({"devices"_s, "--json"_s}).out.toUtf8()).array();

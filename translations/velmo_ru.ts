@@ -504,30 +504,6 @@
         <translation>Записать страницу с рисунками в PAGE.html вместо текста.</translation>
     </message>
     <message>
-        <source>note acceptor</source>
-        <translation>купюроприёмник</translation>
-    </message>
-    <message>
-        <source>coin acceptor</source>
-        <translation>монетоприёмник</translation>
-    </message>
-    <message>
-        <source>card reader</source>
-        <translation>карточный терминал</translation>
-    </message>
-    <message>
-        <source>dispenser</source>
-        <translation>диспенсер</translation>
-    </message>
-    <message>
-        <source>note recycler</source>
-        <translation>рециркулятор купюр</translation>
-    </message>
-    <message>
-        <source>coin hopper</source>
-        <translation>монетный хоппер</translation>
-    </message>
-    <message>
         <source>yes</source>
         <translation>да</translation>
     </message>

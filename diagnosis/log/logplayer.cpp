@@ -14,36 +14,6 @@
 
 namespace {
 
-struct Condition
-{
-    const char* what;
-    const QString& key;
-    bool stopsNotes; // wherever they are in the device
-    bool (*holds)(const DeviceState& state);
-    const char* text; // %1 is the line
-};
-
-const auto& conditionTable()
-{
-    using namespace deviceStateDescConst;
-    static const std::array<Condition, 6> table{{
-        {"disabled", ENABLED, false, [](const DeviceState& s) { return !s.enabled; },
-         QT_TRANSLATE_NOOP("Diagnosis", "The device was disabled (since line %1).")},
-        {"offline", ONLINE, true, [](const DeviceState& s) { return !s.online; },
-         QT_TRANSLATE_NOOP("Diagnosis", "The device was offline (since line %1).")},
-        {"halted", HALT, true, [](const DeviceState& s) { return s.halt; },
-         QT_TRANSLATE_NOOP("Diagnosis", "The device was halted (since line %1).")},
-        {"error", ERROR_CRITICAL, true, [](const DeviceState& s) { return s.errCritical; },
-         QT_TRANSLATE_NOOP("Diagnosis", "The device had a critical error (since line %1): %2.")},
-        {"stacker_missing", STACKER_PRESENT, false,
-         [](const DeviceState& s) { return !s.stackerPresent; },
-         QT_TRANSLATE_NOOP("Diagnosis", "The stacker was missing (since line %1).")},
-        {"stacker_full", STACKER_FULL, false, [](const DeviceState& s) { return s.stackerFull; },
-         QT_TRANSLATE_NOOP("Diagnosis", "The stacker was full (since line %1).")},
-    }};
-    return table;
-}
-
 quint32 deviceBit()
 {
     static const quint32 bit = DeviceReport::bit(deviceStateDescConst::DEVICE_ID);
@@ -89,13 +59,8 @@ QVector<MachineCondition> LogDevice::conditions() const
         const qint64 since = m_conditionSince.at(i);
         if (since == 0)
             continue;
-        const Condition& condition = conditionTable().at(i);
-        QString text = Diagnosis::tr(condition.text).arg(since);
-        if (condition.key == deviceStateDescConst::ERROR_CRITICAL) {
-            const QString error = state().errorText;
-            text = text.arg(error.isEmpty() ? Diagnosis::tr("no description") : error);
-        }
-        found.append({QLatin1String(condition.what), since, text});
+        const Condition& condition = Condition::table().at(i);
+        found.append({QLatin1String(condition.key), since, condition.told(state(), since)});
     }
     return found;
 }
@@ -103,7 +68,7 @@ QVector<MachineCondition> LogDevice::conditions() const
 bool LogDevice::stopsOn(qint64 line) const
 {
     for (size_t i = 0; i < m_conditionSince.size(); ++i) {
-        if (conditionTable().at(i).stopsNotes && m_conditionSince.at(i) == line)
+        if (Condition::table().at(i).stopsNotes && m_conditionSince.at(i) == line)
             return true;
     }
     return false;
@@ -127,17 +92,18 @@ void LogDevice::startSession(int number, qint64 skippedLines)
 
 void LogDevice::take(const DeviceReport& report, qint64 line)
 {
-    static const std::array<quint32, 6> bits = [] {
-        std::array<quint32, 6> found{};
-        std::transform(conditionTable().begin(), conditionTable().end(), found.begin(),
-                       [](const Condition& condition) { return DeviceReport::bit(condition.key); });
+    static const std::array<quint32, Condition::count> bits = [] {
+        std::array<quint32, Condition::count> found{};
+        std::transform(
+            Condition::table().begin(), Condition::table().end(), found.begin(),
+            [](const Condition& condition) { return DeviceReport::bit(condition.stateKey); });
         return found;
     }();
     report.applyTo(*m_worker->getState());
     m_known |= report.reported;
     for (size_t i = 0; i < bits.size(); ++i) {
         // What was never reported is not known.
-        const bool holds = (m_known & bits.at(i)) != 0 && conditionTable().at(i).holds(state());
+        const bool holds = (m_known & bits.at(i)) != 0 && Condition::table().at(i).holds(state());
         qint64& since = m_conditionSince.at(i);
         since = !holds ? 0 : since == 0 ? line : since;
     }

@@ -7,6 +7,7 @@
 #include "filterchain.h"
 #include "log/filterset.h"
 #include "log/sessionline.h"
+#include "text/conditions.h"
 #include "text/filtermemory.h"
 
 #include <QString>
@@ -16,10 +17,10 @@
 #include <memory>
 #include <vector>
 
-/// Something about a device's machine that may be why it takes no note.
+/// A condition of a device that may be why it takes no note.
 struct MachineCondition
 {
-    QString what; ///< disabled, offline, halted, error, stacker_missing or stacker_full
+    QString what; ///< the condition's key
     qint64 line; ///< since when
     QString text; ///< a sentence
 };
@@ -85,7 +86,7 @@ private:
     std::vector<FilterMemory> m_filters; // of those that the chain owns, in its order
     QVector<qint64> m_eventLines;
     quint32 m_known = 0; // bits of the fields that it has reported
-    std::array<qint64, 6> m_conditionSince{}; // 0 for one that does not hold
+    std::array<qint64, Condition::count> m_conditionSince{}; // 0 for one that does not hold
 };
 
 /// What a line of a log led to for one device.

@@ -3,19 +3,8 @@
 
 #include "log/noteanswer.h"
 
+#include "text/devicename.h"
 #include "text/diagnosis.h"
-
-namespace {
-
-constexpr quint32 firstCoinDevice = 100;
-constexpr quint32 lastCoinDevice = 199;
-
-bool isCoin(const NoteAnswer& answer)
-{
-    return answer.device >= firstCoinDevice && answer.device <= lastCoinDevice;
-}
-
-} // namespace
 
 QString NoteAnswer::place() const
 {
@@ -28,10 +17,11 @@ QString NoteAnswer::place() const
 
 QString NoteAnswer::what() const
 {
+    const bool isCoin = isCoinDevice(int(device));
     if (!hasValue())
-        return isCoin(*this) ? Diagnosis::tr("coin of unknown value")
-                             : Diagnosis::tr("note of unknown value");
-    return (isCoin(*this) ? Diagnosis::tr("coin of %1") : Diagnosis::tr("note of %1")).arg(note);
+        return isCoin ? Diagnosis::tr("coin of unknown value")
+                      : Diagnosis::tr("note of unknown value");
+    return (isCoin ? Diagnosis::tr("coin of %1") : Diagnosis::tr("note of %1")).arg(note);
 }
 
 QString NoteAnswer::headline() const

@@ -3,21 +3,33 @@
 
 #include "log/replay.h"
 
+#include "devicestatefields_p.h"
+
 #include <algorithm>
+#include <type_traits>
 
 namespace {
 
-// What a payment screen reads of a published device.
+template <auto Member>
+void publish(DeviceStateField<Member> /*field*/, const DeviceState& /*from*/,
+             AcceptorStateItem& /*to*/)
+{
+}
+
+template <auto Member, auto Getter, auto Setter>
+void publish(DeviceStateField<Member, Getter, Setter> /*field*/, const DeviceState& from,
+             AcceptorStateItem& to)
+{
+    if constexpr (std::is_same_v<std::decay_t<decltype(from.*Member)>, State>)
+        (to.*Setter)(from.stateAsString());
+    else
+        (to.*Setter)(static_cast<decltype((to.*Getter)())>(from.*Member));
+}
+
 AcceptorStateItem published(const DeviceState& state)
 {
     AcceptorStateItem item;
-    item.setDeviceId(static_cast<int>(state.deviceId));
-    item.setEnabled(state.enabled);
-    item.setState(state.stateAsString());
-    item.setStackerPresent(state.stackerPresent);
-    item.setStackerFull(state.stackerFull);
-    item.setErrorCritical(state.errCritical);
-    item.setHalt(state.halt);
+    withDeviceStateFields([&](auto... field) { (publish(field, state, item), ...); });
     return item;
 }
 

@@ -4,6 +4,7 @@
 #include "log/sessionline.h"
 
 #include "acceptorstate.h"
+#include "devicestatefields_p.h"
 #include "dispenserregistrymodel.h"
 #include "recordfields_p.h"
 #include "statitem.h"
@@ -15,6 +16,8 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <tuple>
+#include <type_traits>
 
 namespace {
 
@@ -125,42 +128,31 @@ struct Field
     void (*copy)(DeviceState& to, const DeviceState& from);
 };
 
-template <auto Member>
-Field field(const QString& key)
+template <auto Member, auto... Entry>
+Field tableRow(DeviceStateField<Member, Entry...> field)
 {
-    return {&key, [](JsonReader& json, DeviceState& state) { return read(json, state.*Member); },
+    return {field.key,
+            [](JsonReader& json, DeviceState& state) { return read(json, state.*Member); },
             [](DeviceState& to, const DeviceState& from) { to.*Member = from.*Member; }};
 }
 
 const auto& fields()
 {
-    using namespace deviceStateDescConst;
-    using D = DeviceState;
-    static const std::array table{
-        field<&D::enabled>(ENABLED),
-        field<&D::state>(STATE),
-        field<&D::stackerPresent>(STACKER_PRESENT),
-        field<&D::stackerFull>(STACKER_FULL),
-        field<&D::cash>(CASH),
-        field<&D::errorText>(ERROR_TEXT),
-        field<&D::errCritical>(ERROR_CRITICAL),
-        field<&D::halt>(HALT),
-        field<&D::stateText>(STATE_TEXT),
-        field<&D::threadId>(THREAD_ID),
-        field<&D::deviceId>(DEVICE_ID),
-        field<&D::sessionSum>(SESSION_SUM),
-        field<&D::currentNote>(CURRENT_NOTE),
-        field<&D::currentChannel>(CURRENT_CHANNEL),
-        field<&D::dispensedSum>(DISPENSED_SUM),
-        field<&D::idString>(ID_STRING),
-        field<&D::online>(ONLINE),
-        field<&D::dispenserRegistry>(DispenserRegistryModel::DISPENSER_REGISTRY),
-    };
+    static const auto table =
+        withDeviceStateFields([](auto... field) { return std::array{tableRow(field)...}; });
     return table;
 }
 
 // The keys of a line: those of the fields have the places of these.
-enum Key : size_t { DeviceStates = 18, Session, Time, Inserted, Rejected, Returned, Unknown };
+enum Key : size_t {
+    DeviceStates = std::tuple_size_v<std::decay_t<decltype(fields())>>,
+    Session,
+    Time,
+    Inserted,
+    Rejected,
+    Returned,
+    Unknown
+};
 
 const auto& keys()
 {

@@ -6,6 +6,7 @@
 #include "filterfactory.h"
 #include "log/sessionlook.h"
 #include "log/svg.h"
+#include "text/conditions.h"
 #include "text/diagnosis.h"
 #include "text/htmltext.h"
 
@@ -24,22 +25,6 @@ constexpr double markSize = 14;
 constexpr double stateHeight = 22;
 constexpr double conditionHeight = 9;
 constexpr double sumHeight = 60;
-
-QString conditionWord(const QString& what)
-{
-    static const std::pair<const char*, const char*> table[] = {
-        {"disabled", QT_TRANSLATE_NOOP("Diagnosis", "disabled")},
-        {"offline", QT_TRANSLATE_NOOP("Diagnosis", "offline")},
-        {"halted", QT_TRANSLATE_NOOP("Diagnosis", "halted")},
-        {"error", QT_TRANSLATE_NOOP("Diagnosis", "critical error")},
-        {"stacker_missing", QT_TRANSLATE_NOOP("Diagnosis", "stacker missing")},
-        {"stacker_full", QT_TRANSLATE_NOOP("Diagnosis", "stacker full")},
-    };
-    const auto* const found =
-        std::find_if(std::begin(table), std::end(table),
-                     [&](const auto& row) { return what == QLatin1String(row.first); });
-    return found == std::end(table) ? what : Diagnosis::tr(found->second);
-}
 
 bool isOverSum(const NoteAnswer& answer)
 {

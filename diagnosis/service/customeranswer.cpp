@@ -3,7 +3,6 @@
 
 #include "service/customeranswer.h"
 
-#include "acceptors.h"
 #include "devicestate.h"
 #include "text/devicename.h"
 #include "text/diagnosis.h"
@@ -11,7 +10,7 @@
 namespace {
 
 // Whether a device that works and takes money does so at this moment.
-bool isOpen(const AcceptorStateItem& device)
+bool isOpen(const PublishedDevice& device)
 {
     return moneyOf(device.deviceId()) == Money::Card
         || device.state() == deviceStatesConst::DS_IDLING;
@@ -19,21 +18,9 @@ bool isOpen(const AcceptorStateItem& device)
 
 } // namespace
 
-Money moneyOf(int model)
+QStringList whyNotWorking(const PublishedDevice& device)
 {
-    const int kind = modelKind(model);
-    if (kind == Acceptors::NoteDispenser || kind == Acceptors::OtherDispenser)
-        return Money::None;
-    if (model >= 1 && model <= 99)
-        return Money::Note;
-    if (model >= 100 && model <= 199)
-        return Money::Coin;
-    return kind == Acceptors::CardReader ? Money::Card : Money::None;
-}
-
-QStringList whyNotWorking(const AcceptorStateItem& device, bool isOffline)
-{
-    QStringList reasons = deviceFaults(device, isOffline);
+    QStringList reasons = deviceFaults(device);
     const QString name = device.state();
     const bool isStuck =
         name == deviceStatesConst::DS_JAMMED || name == deviceStatesConst::DS_ERROR;
@@ -48,15 +35,14 @@ QStringList whyNotWorking(const AcceptorStateItem& device, bool isOffline)
     return reasons;
 }
 
-bool isWorking(const AcceptorStateItem& device, bool isOffline)
+bool isWorking(const PublishedDevice& device)
 {
-    return whyNotWorking(device, isOffline).isEmpty();
+    return whyNotWorking(device).isEmpty();
 }
 
-bool takesMoney(const AcceptorStateItem& device, bool isOffline)
+bool takesMoney(const PublishedDevice& device)
 {
-    return moneyOf(device.deviceId()) != Money::None && isWorking(device, isOffline)
-        && isOpen(device);
+    return moneyOf(device.deviceId()) != Money::None && isWorking(device) && isOpen(device);
 }
 
 CustomerAnswer::CustomerAnswer(const PublishedState& state)
@@ -64,12 +50,9 @@ CustomerAnswer::CustomerAnswer(const PublishedState& state)
     QList<AcceptorStateItem> cash;
     bool hasTerminal = false;
     bool isBusy = false;
-    auto details = state.details.begin();
-    const QList<AcceptorStateItem> devices = state.service.deviceStates();
-    for (const AcceptorStateItem& device : devices) {
-        const bool isOffline = (details++)->isOffline;
+    for (const PublishedDevice& device : state.devices) {
         const Money money = moneyOf(device.deviceId());
-        if (money == Money::None || !isWorking(device, isOffline))
+        if (money == Money::None || !isWorking(device))
             continue;
         if (money == Money::Card)
             hasTerminal = true;

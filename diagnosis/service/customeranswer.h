@@ -7,22 +7,16 @@
 
 #include <QString>
 
-/// What a customer takes a device for. Dispensers and numbers outside of the catalogue's ranges
-/// take no money.
-enum class Money { None, Note, Coin, Card };
-
-Money moneyOf(int model);
-
 /// Why a device that is told of so could not take money at all, a sentence for each reason: its
 /// deviceFaults(), or that it is jammed, in error, or in a state that nobody knows.
-QStringList whyNotWorking(const AcceptorStateItem& device, bool isOffline);
+QStringList whyNotWorking(const PublishedDevice& device);
 
 /// Whether there is no such reason.
-bool isWorking(const AcceptorStateItem& device, bool isOffline);
+bool isWorking(const PublishedDevice& device);
 
 /// Whether it takes money at this moment. A device for notes or coins idles then; a terminal takes
 /// cards while it works.
-bool takesMoney(const AcceptorStateItem& device, bool isOffline);
+bool takesMoney(const PublishedDevice& device);
 
 /// What a customer may do now, in the language that is shown.
 struct CustomerAnswer

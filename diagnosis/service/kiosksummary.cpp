@@ -29,14 +29,12 @@ qint64 timeOf(const QDateTime& time)
 QStringList faultsOf(const PublishedState& state)
 {
     QStringList faults;
-    const QList<AcceptorStateItem> devices = state.service.deviceStates();
-    auto details = state.details.begin();
-    for (const AcceptorStateItem& device : devices) {
-        const QStringList reasons = whyNotWorking(device, (details++)->isOffline);
+    for (const PublishedDevice& device : state.devices) {
+        const QStringList reasons = whyNotWorking(device);
         for (const QString& reason : reasons)
             faults += QStringLiteral("%1: %2").arg(deviceName(device.deviceId()), reason);
     }
-    if (devices.isEmpty())
+    if (state.devices.empty())
         faults += Diagnosis::tr("The service tells of no device.");
     return faults;
 }
@@ -72,10 +70,10 @@ KioskSummary::KioskSummary(const QString& kiosk, const PublishedState& state, St
         condition = CustomerAnswer(state).inService ? Faulty : OutOfOrder;
     text =
         "{\"kiosk\":" + JsonText(kiosk) + ',' + writer.members(state) + ending(condition, faults);
-    for (const PublishedState::Details& device : state.details) {
-        inserted = wrappingSum(inserted, device.notesInserted);
-        rejected = wrappingSum(rejected, device.notesRejected);
-        returned = wrappingSum(returned, device.notesReturned);
+    for (const PublishedDevice& device : state.devices) {
+        inserted = wrappingSum(inserted, device.insertedInFull);
+        rejected = wrappingSum(rejected, device.rejectedInFull);
+        returned = wrappingSum(returned, device.returnedInFull);
     }
 }
 

@@ -4,7 +4,7 @@
 #include "service/lastnote.h"
 
 #include "devicestatesconst.h"
-#include "service/customeranswer.h"
+#include "text/devicename.h"
 #include "text/diagnosis.h"
 #include "text/filterwords.h"
 
@@ -62,15 +62,14 @@ void LastNote::take(const PublishedState& state)
     if (sum < m_sum)
         m_outcome = None; // of a session before
     m_sum = sum;
-    auto details = state.details.begin();
-    const QList<AcceptorStateItem> devices = state.service.deviceStates();
-    for (const AcceptorStateItem& device : devices)
-        follow(device, (details++)->currentNote, state.refusals);
+    for (const PublishedDevice& device : state.devices)
+        follow(device, state.refusals);
     m_isFirst = false;
 }
 
-void LastNote::follow(const AcceptorStateItem& device, qint32 note, const QVariantList& refused)
+void LastNote::follow(const PublishedDevice& device, const QVariantList& refused)
 {
+    const qint32 note = device.currentNote;
     const std::pair<int, int> key = keyOf(device);
     const QString state = device.state();
     const Event before = std::exchange(m_events[key], {state, note});

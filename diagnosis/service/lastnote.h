@@ -40,7 +40,7 @@ private:
         qint32 note = 0;
     };
 
-    void follow(const AcceptorStateItem& device, qint32 note, const QVariantList& refused);
+    void follow(const PublishedDevice& device, const QVariantList& refused);
     QString refusalText() const;
 
     Outcome m_outcome = None;

@@ -3,8 +3,8 @@
 
 #include "service/serviceanswer.h"
 
-#include "devicestatesconst.h"
-#include "statitem.h"
+#include "publisheddevices_p.h"
+#include "text/conditions.h"
 #include "text/devicename.h"
 #include "text/diagnosis.h"
 #include "text/fault.h"
@@ -21,26 +21,6 @@
 #include <utility>
 
 namespace {
-
-const struct
-{
-    bool (*holds)(const AcceptorStateItem& device);
-    const char* text;
-} faults[] = {
-    {[](const AcceptorStateItem& device) { return !device.enabled(); },
-     QT_TRANSLATE_NOOP("Diagnosis", "The device is disabled.")},
-    {[](const AcceptorStateItem& device) { return device.halt(); },
-     QT_TRANSLATE_NOOP("Diagnosis", "The device is halted.")},
-    {[](const AcceptorStateItem& device) { return !device.stackerPresent(); },
-     QT_TRANSLATE_NOOP("Diagnosis", "The stacker is missing.")},
-    {[](const AcceptorStateItem& device) { return device.stackerFull(); },
-     QT_TRANSLATE_NOOP("Diagnosis", "The stacker is full.")},
-};
-
-bool isValidator(const AcceptorStateItem& device)
-{
-    return device.deviceId() >= 1 && device.deviceId() <= 99;
-}
 
 // Beyond so many different ones, texts that come from outside are not remembered.
 constexpr int mostRemembered = 1000;
@@ -73,48 +53,48 @@ void append(JsonBuffer& json, const QDateTime& time)
     json << text;
 }
 
-// Reads what the entries of the devices do not keep; there is an entry for all but null.
-bool readDetails(JsonReader& reader, std::vector<PublishedState::Details>& details)
+using DevicesTable = DeviceTable<JsonReader, PublishedDevice>;
+
+template <auto Field>
+DevicesTable::Field detail(const QString& key)
+{
+    return {&key, [](JsonReader& json, PublishedDevice& device, const PublishedDevice&) {
+                return readJson(json, device.*Field);
+            }};
+}
+
+template <auto SetCounter, auto InFull>
+DevicesTable::Field counter(const QString& key)
+{
+    return {&key, [](JsonReader& json, PublishedDevice& device, const PublishedDevice&) {
+                AcceptorStateItem& entry = device;
+                QVariant value;
+                const bool isSound = json.readValue(value);
+                (entry.*SetCounter)(Variants::toInt(value));
+                device.*InFull = counterOf(value);
+                return isSound;
+            }};
+}
+
+const DevicesTable& devicesTable()
 {
     using namespace deviceStateDescConst;
-    enum Key : std::size_t { CurrentNote, Inserted, Rejected, Returned, Online, SessionSum, Other };
-    static const KeyOrder keys(std::array{&CURRENT_NOTE, &StatItem::NOTES_INSERTED,
-                                          &StatItem::NOTES_REJECTED, &StatItem::NOTES_RETURNED,
-                                          &ONLINE, &SESSION_SUM});
-    details.clear(); // of doubled keys the last one counts
-    return reader.readArray([&] {
-        QVariant value;
-        if (!reader.isAtObject()) {
-            const bool isSound = reader.readValue(value);
-            if (isSound && !value.isNull())
-                details.emplace_back();
-            return isSound;
-        }
-        PublishedState::Details& device = details.emplace_back();
-        return reader.readObject(keys, [&](std::size_t key, QStringView) {
-            if (key == Other)
-                return reader.skipValue();
-            const bool isSound = reader.readValue(value);
-            switch (key) {
-            case Inserted:
-                device.notesInserted = counterOf(value);
-                break;
-            case Rejected:
-                device.notesRejected = counterOf(value);
-                break;
-            case Returned:
-                device.notesReturned = counterOf(value);
-                break;
-            case Online:
-                device.isOffline = !Variants::toBool(value);
-                break;
-            default:
-                (key == SessionSum ? device.sessionSum : device.currentNote) =
-                    Variants::toInt(value);
-            }
-            return isSound;
-        });
+    using D = PublishedDevice;
+    static const DevicesTable table({
+        detail<&D::currentNote>(CURRENT_NOTE),
+        detail<&D::sessionSum>(SESSION_SUM),
+        {&ONLINE,
+         [](JsonReader& json, D& device, const D&) {
+             bool isOnline = true;
+             const bool isSound = readJson(json, isOnline);
+             device.isOffline = !isOnline;
+             return isSound;
+         }},
+        counter<&D::setNotesInserted, &D::insertedInFull>(StatItem::NOTES_INSERTED),
+        counter<&D::setNotesRejected, &D::rejectedInFull>(StatItem::NOTES_REJECTED),
+        counter<&D::setNotesReturned, &D::returnedInFull>(StatItem::NOTES_RETURNED),
     });
+    return table;
 }
 
 } // namespace
@@ -122,8 +102,8 @@ bool readDetails(JsonReader& reader, std::vector<PublishedState::Details>& detai
 qint64 PublishedState::sessionSum() const
 {
     return std::accumulate(
-        details.begin(), details.end(), qint64(0),
-        [](qint64 sum, const Details& device) { return sum + device.sessionSum; });
+        devices.begin(), devices.end(), qint64(0),
+        [](qint64 sum, const PublishedDevice& device) { return sum + device.sessionSum; });
 }
 
 qint64 counterOf(const QVariant& published)
@@ -136,51 +116,44 @@ qint64 counterOf(const QVariant& published)
                                     : std::numeric_limits<qint64>::max();
 }
 
-QStringList deviceFaults(const AcceptorStateItem& device, bool isOffline)
+QStringList deviceFaults(const PublishedDevice& device)
 {
     QStringList texts;
-    for (const auto& fault : faults) {
-        if (fault.holds(device))
-            texts += Diagnosis::tr(fault.text);
-    }
-    if (isOffline)
-        texts += Diagnosis::tr("The device is offline.");
-    if (device.errorCritical()) {
-        const QString error =
-            device.errorText().isEmpty() ? device.stateText() : device.errorText();
-        texts += Diagnosis::tr("The device has a critical error: %1.")
-                     .arg(error.isEmpty() ? Diagnosis::tr("no description") : error);
+    for (const Condition::Kind kind : Condition::publishedOrder) {
+        if (Condition::of(kind).holds(device))
+            texts += Condition::of(kind).told(device);
     }
     return texts;
 }
 
-QStringList whyNotAccepting(const AcceptorState& state)
+QStringList whyNotAccepting(const PublishedState& state)
 {
-    const QList<AcceptorStateItem> devices = state.deviceStates();
-    if (devices.isEmpty())
+    if (state.devices.empty())
         return {Diagnosis::tr("The service tells of no device.")};
-    if (state.allDisabled())
+    if (state.service.allDisabled())
         return {Diagnosis::tr("Every device is disabled.")};
-    if (state.isAcceptingAllowed())
+    if (state.service.isAcceptingAllowed())
         return {};
-    // Then it is the last validator that decides.
-    const auto last = std::find_if(devices.rbegin(), devices.rend(), isValidator);
-    QStringList reasons = deviceFaults(*last, false);
-    if (last->state() != AcceptorState::ACCEPTOR_STATE_BUSY) {
+    // Then it is the last validator that decides, on line or not.
+    PublishedDevice last =
+        *std::find_if(state.devices.rbegin(), state.devices.rend(),
+                      [](const PublishedDevice& d) { return isValidator(d.deviceId()); });
+    last.isOffline = false;
+    QStringList reasons = deviceFaults(last);
+    if (last.state() != AcceptorState::ACCEPTOR_STATE_BUSY) {
         reasons += Diagnosis::tr("The device is not ready for notes; its state: %1.")
-                       .arg(AcceptorState::stateDescr(last->state()));
+                       .arg(AcceptorState::stateDescr(last.state()));
     }
-    const QString name = deviceName(last->deviceId());
+    const QString name = deviceName(last.deviceId());
     for (QString& reason : reasons)
         reason = QStringLiteral("%1: %2").arg(name, reason);
     return reasons;
 }
 
-QMap<int, QString> deviceNames(const AcceptorState& state, const QMap<int, QString>& given)
+QMap<int, QString> deviceNames(const PublishedState& state, const QMap<int, QString>& given)
 {
     QMap<int, QString> names = given;
-    const QList<AcceptorStateItem> devices = state.deviceStates();
-    for (const AcceptorStateItem& device : devices) {
+    for (const PublishedDevice& device : state.devices) {
         if (!names.contains(device.deviceId()))
             names.insert(device.deviceId(), deviceName(device.deviceId()));
     }
@@ -197,7 +170,8 @@ PublishedState readServiceState(const QString& json)
     const bool isWhole = reader.readObject([&](QStringView key) {
         if (key == AcceptorState::DEVICE_STATES) {
             hasDevices = reader.isAtArray();
-            return hasDevices ? readDetails(reader, state.details) : reader.skipValue();
+            state.devices.clear(); // of doubled keys the last one counts
+            return hasDevices ? devicesTable().readList(reader, state.devices) : reader.skipValue();
         }
         if (key == QLatin1String("time"))
             return reader.readValue(time);
@@ -212,8 +186,12 @@ PublishedState readServiceState(const QString& json)
         throw Fault{Diagnosis::tr("expected a JSON object")};
     if (!hasDevices)
         throw Fault{Diagnosis::tr("expected a list \"device_states\"")};
-    const QDateTime published = time.isValid() ? LogTime(time).toDateTime() : QDateTime();
-    AcceptorState::loadFromClientState(quorbus::ClientState(json, published), state.service);
+    if (time.isValid())
+        state.service.setDt(LogTime(time).toDateTime());
+    QList<AcceptorStateItem> entries;
+    for (const PublishedDevice& device : state.devices)
+        entries += device;
+    state.service.setDeviceStates(entries);
     return state;
 }
 
@@ -232,22 +210,19 @@ QByteArray StateWriter::members(const PublishedState& state)
     json.append(service.paymentStateDescr());
     json << ",\"accepting\":";
     json.append(service.isAcceptingAllowed());
-    json << ",\"reasons\":" << JsonText::list(whyNotAccepting(service)) << ",\"devices\":";
+    json << ",\"reasons\":" << JsonText::list(whyNotAccepting(state)) << ",\"devices\":";
     char before = '[';
-    auto details = state.details.begin();
-    const QList<AcceptorStateItem> devices = service.deviceStates();
-    for (const AcceptorStateItem& device : devices) {
+    for (const PublishedDevice& device : state.devices) {
         json << std::exchange(before, ',');
-        append(json, device, *details++);
+        append(json, device);
     }
-    if (devices.isEmpty())
+    if (state.devices.empty())
         json << before;
     json << ']';
     return json.text();
 }
 
-void StateWriter::append(JsonBuffer& json, const AcceptorStateItem& device,
-                         const PublishedState::Details& details)
+void StateWriter::append(JsonBuffer& json, const PublishedDevice& device)
 {
     json << "{\"device\":";
     json.append(device.deviceId());
@@ -255,14 +230,13 @@ void StateWriter::append(JsonBuffer& json, const AcceptorStateItem& device,
     json.append(device.threadId());
     json << model(device.deviceId()) << ",\"enabled\":";
     json.append(device.enabled());
-    json << state(device.state())
-         << ",\"wrong\":" << JsonText::list(deviceFaults(device, details.isOffline));
+    json << state(device.state()) << ",\"wrong\":" << JsonText::list(deviceFaults(device));
     json << ",\"notes_inserted\":";
-    json.append(details.notesInserted);
+    json.append(device.insertedInFull);
     json << ",\"notes_rejected\":";
-    json.append(details.notesRejected);
+    json.append(device.rejectedInFull);
     json << ",\"notes_returned\":";
-    json.append(details.notesReturned);
+    json.append(device.returnedInFull);
     json << ",\"registry\":";
     const QVariantMap registry = device.dispRegistry();
     json << (registry.isEmpty() ? QByteArrayLiteral("{}")

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "acceptorstate.h"
+#include "text/publisheddevice.h"
 #include "json/jsontext.h"
 
 #include <QHash>
@@ -16,22 +17,11 @@
 // What a published service state means, for people and for programs. Texts are in the language that
 // is shown.
 
-/// A published service state: what the library keeps of it, and what is told besides.
+/// A published service state.
 struct PublishedState
 {
-    /// What the entry of a device does not keep.
-    struct Details
-    {
-        bool isOffline = false; ///< it says of itself that it is not connected
-        qint32 sessionSum = 0; ///< taken in the current session
-        qint32 currentNote = 0; ///< face value of the note or coin in hand
-        qint64 notesInserted = 0; ///< the counters in full, of which the entry keeps 32 bits
-        qint64 notesRejected = 0;
-        qint64 notesReturned = 0;
-    };
-
-    AcceptorState service;
-    std::vector<Details> details; ///< of each device of the service, in their order
+    AcceptorState service; ///< what the library answers about all devices
+    std::vector<PublishedDevice> devices; ///< in published order
 
     /// The note filters that refuse what a device has in hand, where the service tells it:
     /// {"device_id": ..., "thread_id": ..., "name": ..., "params": {...}}.
@@ -46,15 +36,15 @@ qint64 counterOf(const QVariant& published);
 
 /// Why no money may be accepted, one sentence for each reason; empty exactly when
 /// AcceptorState::isAcceptingAllowed().
-QStringList whyNotAccepting(const AcceptorState& state);
+QStringList whyNotAccepting(const PublishedState& state);
 
 /// What keeps a device from taking money, whether or not that stops the others: it is disabled,
 /// offline, halted, in a critical error, without its stacker or with a full one. A sentence for
 /// each.
-QStringList deviceFaults(const AcceptorStateItem& device, bool isOffline);
+QStringList deviceFaults(const PublishedDevice& device);
 
 /// The display name of each device of the state: the given one, else deviceName() of its model.
-QMap<int, QString> deviceNames(const AcceptorState& state, const QMap<int, QString>& given);
+QMap<int, QString> deviceNames(const PublishedState& state, const QMap<int, QString>& given);
 
 /// Reads {"device_states": [...]}, with "time" where it is known. Throws Fault for anything else.
 /// @param json a JSON object
@@ -72,8 +62,7 @@ public:
     QByteArray members(const PublishedState& state);
 
 private:
-    void append(JsonBuffer& json, const AcceptorStateItem& device,
-                const PublishedState::Details& details);
+    void append(JsonBuffer& json, const PublishedDevice& device);
     const QByteArray& model(int number);
     const QByteArray& state(const QString& name);
 

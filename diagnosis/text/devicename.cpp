@@ -44,6 +44,28 @@ int modelKind(int model)
     return modelOf(model).kind;
 }
 
+bool isValidator(int model)
+{
+    return model >= 1 && model <= 99;
+}
+
+bool isCoinDevice(int model)
+{
+    return model >= 100 && model <= 199;
+}
+
+Money moneyOf(int model)
+{
+    const int kind = modelKind(model);
+    if (kind == Acceptors::NoteDispenser || kind == Acceptors::OtherDispenser)
+        return Money::None;
+    if (isValidator(model))
+        return Money::Note;
+    if (isCoinDevice(model))
+        return Money::Coin;
+    return kind == Acceptors::CardReader ? Money::Card : Money::None;
+}
+
 QString kindName(int model)
 {
     switch (modelKind(model)) {

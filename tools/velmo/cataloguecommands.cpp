@@ -8,6 +8,7 @@
 #include "options.h"
 #include "output.h"
 #include "table.h"
+#include "text/devicename.h"
 #include "text/filterwords.h"
 
 #include <QJsonArray>
@@ -21,31 +22,11 @@ void printJson(const QJsonArray& array)
     print(QString::fromUtf8(QJsonDocument(array).toJson()));
 }
 
-QString kindName(Acceptors::AcceptorType kind)
-{
-    switch (kind) {
-    case Acceptors::NoteAcceptor:
-        return Velmo::tr("note acceptor");
-    case Acceptors::CoinAcceptor:
-        return Velmo::tr("coin acceptor");
-    case Acceptors::CardReader:
-        return Velmo::tr("card reader");
-    case Acceptors::NoteDispenser:
-    case Acceptors::OtherDispenser:
-        return Velmo::tr("dispenser");
-    case Acceptors::NoteRecycler:
-        return Velmo::tr("note recycler");
-    case Acceptors::CoinHopper:
-        return Velmo::tr("coin hopper");
-    }
-    return QString::number(kind);
-}
-
 QStringList deviceRow(const SupportedDevice& device)
 {
     const auto id = static_cast<Acceptors::Supported>(device.value(QStringLiteral("id")).toInt());
     const bool paysOut = Acceptors::canDispense(id);
-    return {QString::number(id), Acceptors::devName(id), kindName(Acceptors::devType(id)),
+    return {QString::number(id), Acceptors::devName(id), kindName(id),
             paysOut ? Velmo::tr("yes") : Velmo::tr("no"),
             device.value(QStringLiteral("class")).toString()};
 }

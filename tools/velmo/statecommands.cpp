@@ -62,10 +62,8 @@ QMap<int, QString> readNames(const QString& fileName)
 QStringList allFaults(const PublishedState& state)
 {
     QStringList texts;
-    auto details = state.details.begin();
-    const QList<AcceptorStateItem> devices = state.service.deviceStates();
-    for (const AcceptorStateItem& device : devices) {
-        const QStringList faults = deviceFaults(device, (details++)->isOffline);
+    for (const PublishedDevice& device : state.devices) {
+        const QStringList faults = deviceFaults(device);
         for (const QString& fault : faults)
             texts += QStringLiteral("%1: %2").arg(deviceName(device.deviceId()), fault);
     }
@@ -75,7 +73,7 @@ QStringList allFaults(const PublishedState& state)
 QByteArray reportText(const PublishedState& published, const QMap<int, QString>& names)
 {
     const AcceptorState& state = published.service;
-    const QStringList reasons = whyNotAccepting(state);
+    const QStringList reasons = whyNotAccepting(published);
     QString text = state.paymentStateDescr() + QLatin1Char('\n')
         + (reasons.isEmpty() ? Velmo::tr("Accepting money: allowed")
                              : Velmo::tr("Accepting money: not allowed"))
@@ -147,7 +145,7 @@ int reportCommand(const Arguments& arguments)
     StateWriter writer(given);
     const auto toText = [&](const PublishedState& state) {
         return isJson ? '{' + writer.members(state) + "}\n"
-                      : reportText(state, deviceNames(state.service, given));
+                      : reportText(state, deviceNames(state, given));
     };
     const QString fileName = arguments.operands().constFirst();
     const bool hasLines = isStateALine(fileName);
