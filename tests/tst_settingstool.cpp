@@ -531,6 +531,7 @@ private Q_SLOTS:
             {"key":"a","value":1}                                                    | error: a: is skipped: no "group"
             {"group":"other","key":"a","value":1}                                    | warning: other/a: is ignored
             {"group":"device0/hw_interface","key":"BaudRate","value":1}              | error: device0/hw_interface/BaudRate: is ignored (nearest known: device0/hw_interface/baudrate)
+            {"group":"device0","key":"x","value":1}                                  | error: device0/x: is ignored
             {"group":"device0/ict","key":"reset_timeout","value":1}                  |
             {"group":"service","key":"reset_after_empty_sessions","value":1}         |
             {"group":"device2/ict","key":"reset_timeout","value":1}                  | error: device2: is not below the device count

@@ -95,7 +95,10 @@ QString ServiceSetting::nearestKnown(const QString& path)
 
 bool ServiceSetting::isGroupKnown(const QString& group)
 {
-    const QList<ServiceSetting> settings = listed(deviceOf(group));
+    const std::optional<int> device = deviceOf(group);
+    if (device && group == deviceGroup(*device))
+        return true; // the protocol parameters are read without a sub-group, too
+    const QList<ServiceSetting> settings = listed(device);
     return std::any_of(settings.begin(), settings.end(), [&group](const ServiceSetting& setting) {
         return setting.group() == group;
     });
