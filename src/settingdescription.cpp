@@ -25,11 +25,12 @@ SettingDescription SettingDescription::find(const QString& group, const QString&
 {
     const SettingGroup asked(group);
     for (const SettingRow& row : SettingsTable::storeSettings()) {
-        const bool isOfService = SettingGroup(row.group).isOfService();
-        const QString own = isOfService
+        if (!row.isCalled(key))
+            continue;
+        const QString own = SettingGroup(row.group).isOfService()
             ? row.group
             : SettingsTable::deviceGroup(QString::number(asked.deviceIndex()), row.group);
-        if (group == own && row.isCalled(key))
+        if (group == own)
             return {&row, group};
     }
     return AcceptorSettings::settingDescription(group, key);
@@ -106,7 +107,7 @@ QVariant SettingDescription::unsetValue() const
         const AcceptorDeviceSettings unset;
         return m_row->access.value(SerialPortTexts::ListForm, &unset);
     }
-    // Whatever the configuration of this process has by now.
+    // Not what the configuration of this process has by now.
     return m_row->access.readAs(defaultValue().toString(), nullptr);
 }
 

@@ -89,16 +89,16 @@ public:
     /// model and an address.
     QVariant defaultValue() const;
 
-    /// What the settings list of a new AcceptorSettings has, with the type that the value has
-    /// there; for a device that of a new AcceptorDeviceSettings, which differs from defaultValue().
-    /// What no list has is defaultValue(), which the service takes.
+    /// What AcceptorSettings writes where nothing was ever set, with the type that its list has;
+    /// for a device that of a new AcceptorDeviceSettings, which may differ from defaultValue(). Of
+    /// a setting that no list has it is defaultValue(). It asks nothing of the configuration.
     QVariant unsetValue() const;
 
     QString label() const; ///< translated
     QString help() const; ///< translated, one line
 
-    /// Whether some settings list that AcceptorSettings writes has the setting. What it has not,
-    /// only find() describes.
+    /// Whether settings lists that AcceptorSettings writes may have the setting. Those for which it
+    /// is false only find() describes.
     bool isWritten() const;
 
     /// Whether AcceptorSettings reads the setting. It does not read a device's "port_logging": the
