@@ -4,14 +4,13 @@
 #include "acceptorsettings.h"
 
 #include "acceptors.h"
-#include "settingslist_p.h"
+#include "settingelement_p.h"
 #include "settingstable_p.h"
 #include "wraparound_p.h"
 #include "json/variants.h"
 
 #include <QMutexLocker>
 #include <QPair>
-#include <QStringBuilder>
 
 const QString AcceptorSettings::SERVICE_SECTION = QStringLiteral("service");
 const QString AcceptorSettings::DEVICE_SECTION = QStringLiteral("device");
@@ -96,11 +95,7 @@ using Device = AcceptorDeviceSettings;
 using SerialPortTexts::Form;
 using SerialPortTexts::FormattedMap;
 using SerialPortTexts::ListForm;
-
-QString deviceGroup(const QString& index, const QString& subgroup)
-{
-    return S::DEVICE % index % QLatin1Char('/') % subgroup;
-}
+using SettingsTable::deviceGroup;
 
 // Hands every setting of a form to visit(group path, key, value): first those of the service,
 // then those of each device in ascending index order.
@@ -166,11 +161,11 @@ public:
         const QVariant* name = &none;
         const QVariant* value = &none;
         for (auto entry = element.constBegin(); entry != element.constEnd(); ++entry) {
-            if (SettingRow::isEqual(entry.key(), SettingsList::groupKey))
+            if (SettingRow::isEqual(entry.key(), SettingElement::groupKey))
                 path = &*entry;
-            else if (SettingRow::isEqual(entry.key(), SettingsList::nameKey))
+            else if (SettingRow::isEqual(entry.key(), SettingElement::nameKey))
                 name = &*entry;
-            else if (SettingRow::isEqual(entry.key(), SettingsList::valueKey))
+            else if (SettingRow::isEqual(entry.key(), SettingElement::valueKey))
                 value = &*entry;
         }
         if (!path)
@@ -320,7 +315,7 @@ QVariantList AcceptorSettings::toList() const
 {
     QVariantList list;
     walk(ListForm, [&list](const QString& group, const QString& key, const QVariant& value) {
-        list.append(SettingsList::element(group, key, value));
+        list.append(SettingElement::of(group, key, value));
     });
     return list;
 }

@@ -9,6 +9,8 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <optional>
+
 struct SettingRow;
 
 /// What a configuration tool needs to know about one setting of the acceptor service to show it, to
@@ -33,6 +35,19 @@ public:
 
     SettingDescription() = default;
 
+    /// What the service reads under a group and a key. Beyond what
+    /// AcceptorSettings::settingDescription() describes these are the settings that
+    /// SettingsManager::getDefault() alone knows, "service/reset_after_empty_sessions" and of a
+    /// device "accept_on_jam" and the groups "ict" and "ssp", in this very spelling. Of most of
+    /// them the library has only the default: they accept any Text and have no label. May be called
+    /// from any thread.
+    static SettingDescription find(const QString& group, const QString& key);
+
+    /// The index of the device that a group of the settings list belongs to, whatever its
+    /// sub-group: 2 for "device2/ccnet", 0 where the rest of the name is no number. Nothing for the
+    /// service's groups and for those that nothing reads.
+    static std::optional<int> deviceOf(const QString& group);
+
     /// Whether a setting is described. Everything else is empty, false or invalid if none is.
     bool isValid() const { return m_row; }
 
@@ -40,11 +55,23 @@ public:
     /// of a device, "device2/ccnet"; "device#/ccnet" where no device was named.
     QString group() const { return m_group; }
 
+    /// The index of the device that the setting belongs to, any int; nothing for a setting of the
+    /// service and where no device was named.
+    std::optional<int> device() const;
+
+    /// The same setting of this device; one of the service stays what it is.
+    SettingDescription forDevice(int device) const;
+
     /// The key as the settings list has it, whatever the spelling that was asked for.
     QString key() const;
 
     /// The group and the key with a slash between them.
     QString path() const;
+
+    /// Where AcceptorSettings keeps the value: the path of the first setting in its list that is
+    /// kept there. Settings of one device that have the same place are read over each other, and
+    /// the last of them in a list counts. Most have a place of their own, which is their path.
+    QString place() const;
 
     Kind kind() const;
 
@@ -62,15 +89,24 @@ public:
     /// model and an address.
     QVariant defaultValue() const;
 
+    /// What AcceptorSettings writes where nothing was ever set, with the type that its list has;
+    /// for a device that of a new AcceptorDeviceSettings, which may differ from defaultValue(). Of
+    /// a setting that no list has it is defaultValue(). It asks nothing of the configuration.
+    QVariant unsetValue() const;
+
     QString label() const; ///< translated
     QString help() const; ///< translated, one line
+
+    /// Whether settings lists that AcceptorSettings writes may have the setting. Those for which it
+    /// is false only find() describes.
+    bool isWritten() const;
 
     /// Whether AcceptorSettings reads the setting. It does not read a device's "port_logging": the
     /// service does, and what AcceptorSettings writes there is the service's own switch.
     bool isRead() const;
 
     /// Whether the settings list that AcceptorSettings writes has the setting for a device of this
-    /// model; true for the settings of the service.
+    /// model; true for the settings of the service and for what no list has.
     /// @param model Acceptors::Supported, or any other number
     /// @param interfaceType "tcp"; any other text means a serial port
     bool appliesTo(int model, const QString& interfaceType) const;

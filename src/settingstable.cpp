@@ -5,6 +5,7 @@
 
 #include "acceptors.h"
 #include "droutemapitem.h"
+#include "settingsmanager.h"
 #include "json/jsonreader.h"
 #include "json/variants.h"
 
@@ -15,6 +16,7 @@
 namespace {
 
 using S = AcceptorSettings;
+using SM = acceptorSettings::SettingsManager;
 using Row = SettingRow;
 using Device = SettingRow::Device;
 using SerialPortTexts::Form;
@@ -232,9 +234,9 @@ void set(Device* device, const QString& text)
 }
 
 template <typename Kind>
-QString readAs(const QString& text, bool* isUnderstood)
+QVariant readAs(const QString& text, bool* isUnderstood)
 {
-    return Kind::written(ListForm, Kind::read(text, isUnderstood)).toString();
+    return Kind::written(ListForm, Kind::read(text, isUnderstood));
 }
 
 template <typename Kind, auto Getter, auto Setter>
@@ -263,6 +265,12 @@ struct DeviceSwitch
 
 constexpr Row::Access commonPortLogs{value<DeviceSwitch, S::portLogs>, nullptr,
                                      readAs<DeviceSwitch>};
+
+constexpr Row::Access ofService{nullptr, nullptr, readAs<Text>};
+
+// A protocol parameter is read in any sub-group.
+template <auto Setter>
+constexpr Row::Access parameterOfService{nullptr, set<Number, Setter>, readAs<Number>};
 
 // The ranges in which the service works.
 
@@ -317,13 +325,19 @@ QStringList numbers()
     return texts;
 }
 
+template <auto... Models>
+bool isOneOf(int model)
+{
+    return ((model == Models) || ...);
+}
+
 constexpr Row::Devices always{};
-constexpr Row::Devices ofSerialPort{{}, Row::SerialPort};
-constexpr Row::Devices ofTcp{{}, Row::TcpPort};
-constexpr Row::Devices ofCCNet{{Acceptors::CCNet, Acceptors::CCNet}, Row::AnyPort, true};
-constexpr Row::Devices ofId003{{Acceptors::Id003, Acceptors::ArdacEliteId003}, Row::AnyPort};
-constexpr Row::Devices ofUniteller{{Acceptors::Uniteller, Acceptors::Uniteller}, Row::AnyPort};
-constexpr Row::Devices ofPosD200{{Acceptors::PosD200, Acceptors::PosD200}, Row::AnyPort};
+constexpr Row::Devices ofSerialPort{nullptr, Row::SerialPort};
+constexpr Row::Devices ofTcp{nullptr, Row::TcpPort};
+constexpr Row::Devices ofCCNet{isOneOf<Acceptors::CCNet>, Row::AnyPort, true};
+constexpr Row::Devices ofId003{isOneOf<Acceptors::Id003, Acceptors::ArdacEliteId003>, Row::AnyPort};
+constexpr Row::Devices ofUniteller{isOneOf<Acceptors::Uniteller>, Row::AnyPort};
+constexpr Row::Devices ofPosD200{isOneOf<Acceptors::PosD200>, Row::AnyPort};
 
 constexpr Row::Keys inBoth(const QString& key)
 {
@@ -446,23 +460,24 @@ constexpr Row deviceRows[] = {
      access<Text, &Device::cardReaderQuorId, &Device::setCardReaderQuorId>, anyText, "-1",
      QT_TRANSLATE_NOOP("SettingDescription", "Terminal identifier"),
      QT_TRANSLATE_NOOP("SettingDescription", "The identifier of the card terminal.")},
+    // Of the protocol parameters this protocol has its own names.
     {S::SM_G_POSD2000, inList(S::SM_P_POSD2000_TIMEOUT_ACK), ofPosD200,
-     access<Number, &Device::timeOutAck, &Device::setTimeoutAck>, interval, "5000",
+     access<Number, &Device::response_time, &Device::setResponse_time>, interval, "5000",
      QT_TRANSLATE_NOOP("SettingDescription", "Acknowledgement timeout"),
      QT_TRANSLATE_NOOP("SettingDescription",
                        "How long an acknowledgement may take, in the protocol's own unit.")},
     {S::SM_G_POSD2000, inList(S::SM_P_POSD2000_TIMEOUT_PACKET), ofPosD200,
-     access<Number, &Device::packetTimeout, &Device::setPacketTimeout>, interval, "45000",
+     access<Number, &Device::polling_interval, &Device::setPolling_interval>, interval, "45000",
      QT_TRANSLATE_NOOP("SettingDescription", "Packet timeout"),
      QT_TRANSLATE_NOOP("SettingDescription",
                        "How long a packet may take, in the protocol's own unit.")},
     {S::SM_G_POSD2000, inList(S::SM_P_POSD2000_COUNT_NAK), ofPosD200,
-     access<Number, &Device::maxNakCount, &Device::setMaxNakCount>, interval, "3",
+     access<Number, &Device::bill_table_interval, &Device::setBill_table_interval>, interval, "3",
      QT_TRANSLATE_NOOP("SettingDescription", "Negative acknowledgements"),
      QT_TRANSLATE_NOOP("SettingDescription",
                        "After how many negative acknowledgements a packet is given up.")},
     {S::SM_G_POSD2000, inList(S::SM_P_POSD2000_PACKET_SIZE), ofPosD200,
-     access<Number, &Device::maxPackageSize, &Device::setMaxPackageSize>, number(1, intMax), "1024",
+     access<Number, &Device::reset_interval, &Device::setReset_interval>, number(1, intMax), "1024",
      QT_TRANSLATE_NOOP("SettingDescription", "Packet size"),
      QT_TRANSLATE_NOOP("SettingDescription", "The largest packet, in bytes.")},
     {S::HARDWARE_SECTION, inBoth(S::INTERFACE_TYPE), always,
@@ -510,13 +525,25 @@ constexpr Row deviceRows[] = {
                        "Stop bits of a character on the serial line; 3 means one and a half.")},
 };
 
+constexpr Row storeRows[] = {
+    {SM::SM_G_SERVICE, inList(SM::SM_P_RESET_AFTER_EMPTY_SESSIONS), always, ofService, anyText,
+     "3"},
+    {SM::SM_G_DEVICE, inList(SM::SM_P_ACCEPT_ON_JAM), always, ofService, anyText, "0"},
+    {SM::SM_G_ICT, inList(SM::SM_P_ICT_RESET_TIMEOUT), always, ofService, anyText, "0"},
+    {SM::SM_G_SSP, inList(SM::SM_P_SSP_RESPONSE_TIME), always,
+     parameterOfService<&Device::setResponse_time>, interval, "5000"},
+    {SM::SM_G_SSP, inList(SM::SM_P_SSP_REST_INTERVAL), always,
+     parameterOfService<&Device::setRest_interval>, interval, "100"},
+    {SM::SM_G_SSP, inList(SM::SM_P_SSP_GET_LEVELS_REST_TIME), always, ofService, anyText, "0"},
+    {SM::SM_G_SSP, inList(SM::SM_P_SSP_PAYOUT_REST_TIME), always, ofService, anyText, "0"},
+    {SM::SM_G_SSP, inList(SM::SM_P_SSP_LOG_DECRYPTED_MSG), always, ofService, anyText, "false"},
+};
+
 } // namespace
 
 bool SettingRow::isFor(int model, const QString& interfaceType) const
 {
-    const bool isModel =
-        devices.models[0] == 0 || model == devices.models[0] || model == devices.models[1];
-    return isModel
+    return (!devices.hasModel || devices.hasModel(model))
         && (devices.port == AnyPort
             || (devices.port == TcpPort) == (interfaceType == tcpInterface));
 }
@@ -531,6 +558,20 @@ Rows serviceSettings()
 Rows deviceSettings()
 {
     return {std::begin(deviceRows), std::end(deviceRows)};
+}
+
+Rows storeSettings()
+{
+    return {std::begin(storeRows), std::end(storeRows)};
+}
+
+const SettingRow& placeOf(const SettingRow& row)
+{
+    for (const SettingRow& other : deviceRows) {
+        if (row.access.set && other.access.set == row.access.set)
+            return other;
+    }
+    return row;
 }
 
 } // namespace SettingsTable

@@ -7,6 +7,8 @@
 #include "serialporttexts_p.h"
 #include "settingdescription.h"
 
+#include <QStringBuilder>
+
 /// One setting of the acceptor service, with all that the library knows about it.
 ///
 /// A row is a constant without constructor or destructor: its texts are references to key
@@ -33,7 +35,7 @@ struct SettingRow
     /// The devices in whose settings list it stands; the formatted map shows every device alike.
     struct Devices
     {
-        qint32 models[2]; ///< Acceptors::Supported, one of them twice; 0: any
+        bool (*hasModel)(int model); ///< Acceptors::Supported; null: any
         Port port;
         bool readInAnySubgroup = false; ///< and for any model
     };
@@ -41,11 +43,12 @@ struct SettingRow
     /// How it is written and read. The device is null for the service's settings.
     struct Access
     {
-        QVariant (*value)(Form form, const Device* device);
-        void (*set)(Device* device, const QString& text); ///< null: it is only written
+        QVariant (*value)(Form form, const Device* device); ///< null: it is never written
+        /// Null: it is never read. Settings that share it are kept in the same place.
+        void (*set)(Device* device, const QString& text);
         /// What the list form has after the text was read.
         /// @param isUnderstood set to whether it means what the text says, unless it is null
-        QString (*readAs)(const QString& text, bool* isUnderstood);
+        QVariant (*readAs)(const QString& text, bool* isUnderstood);
     };
 
     /// Which values the service can work with.
@@ -90,8 +93,8 @@ struct SettingRow
     Access access;
     Values values;
     const char* defaultText; ///< null: none
-    const char* label; ///< not translated
-    const char* help; ///< not translated
+    const char* label = nullptr; ///< not translated; null: only the service knows what it means
+    const char* help = nullptr; ///< the same
 };
 
 /// The settings of the acceptor service, each of them once. A new setting is one row.
@@ -111,6 +114,18 @@ Rows serviceSettings();
 
 /// The settings of each device, in the order of the list form.
 Rows deviceSettings();
+
+/// What only the service knows, of its own and of each device: no list form has them.
+Rows storeSettings();
+
+/// The first setting that is kept where this one is: of the two, a device has what was read last.
+const SettingRow& placeOf(const SettingRow& row);
+
+/// "device2/ccnet" for a device and a sub-group.
+inline QString deviceGroup(const QString& index, const QString& subgroup)
+{
+    return AcceptorSettings::DEVICE % index % QLatin1Char('/') % subgroup;
+}
 
 } // namespace SettingsTable
 

@@ -88,6 +88,11 @@ private:
     std::mt19937 m_engine;
 };
 
+bool isSame(const QVariant& a, const QVariant& b)
+{
+    return a.userType() == b.userType() && a == b;
+}
+
 const auto models = {-1, 0, 1, 3, 5, 6, 7, 51, 150, 200, 201, 65535};
 
 void randomise(AcceptorDeviceSettings& d, Random& random)
@@ -142,6 +147,11 @@ private Q_SLOTS:
     void initTestCase()
     {
         const AcceptorSettings settings;
+        const QVariantList list = settings.toList();
+        for (int i = 0; i < list.size(); ++i) {
+            const SettingDescription d = AcceptorSettings::settingDescriptions().at(i);
+            QVERIFY2(isSame(d.unsetValue(), list.at(i).toMap()["value"_s]), qPrintable(d.path()));
+        }
         QVERIFY(AcceptorSettings::isEmpty() && AcceptorSettings::acceptAll()
                 && !AcceptorSettings::portLogs());
         QCOMPARE(settings.toList().size(), serviceSettings());
@@ -551,6 +561,9 @@ private Q_SLOTS:
                     QCOMPARE(written, setting(group, listed.key(), written["value"_s]));
                     const SettingDescription d =
                         AcceptorSettings::settingDescription(group, listed.key());
+                    QCOMPARE(listed.forDevice(3).path(), d.path());
+                    if (d.device() && d.isRead() && !decidesOnOthers.contains(d.key()))
+                        QVERIFY2(isSame(d.unsetValue(), written["value"_s]), qPrintable(d.path()));
                     QCOMPARE(d.group() + d.key() + d.help(), group + listed.key() + listed.help());
                     for (const QString& text : texts) {
                         if (!d.isRead() || decidesOnOthers.contains(d.key()))
@@ -569,6 +582,79 @@ private Q_SLOTS:
         QCOMPARE(readAs("service"_s, "devices_count"_s, "7"_s), "7"_s);
         QCOMPARE(readAs("device3/hw_interface"_s, "interface_type"_s, "TCP"_s), "TCP"_s);
         QCOMPARE(readAs("device3/debug"_s, "port_logging"_s, "1"_s), "true"_s);
+    }
+
+    // A setting changes what is kept in its place and nothing else.
+    void placesAreTrue()
+    {
+        QList<SettingDescription> ofDevice{
+            SettingDescription::find("device3/ssp"_s, "response_time"_s),
+            SettingDescription::find("device3/ssp"_s, "rest_interval"_s)};
+        const QSet<QString> decidesOnOthers{"device_id"_s, "interface_type"_s};
+        for (const SettingDescription& d : AcceptorSettings::settingDescriptions()) {
+            if (d.group().startsWith("device#"_s) && d.isRead()
+                && !decidesOnOthers.contains(d.key()))
+                ofDevice += d.forDevice(3);
+        }
+        AcceptorSettings settings;
+        int changesOfOthers = 0;
+        for (const int model : models) {
+            for (const SettingDescription& d : std::as_const(ofDevice)) {
+                const QString interface = d.key().startsWith("tcp"_s) ? "tcp"_s : "rs232"_s;
+                settings.setList(
+                    {setting("device3/device"_s, "device_id"_s, model),
+                     setting("device3/hw_interface"_s, "interface_type"_s, interface)});
+                const QVariantList before = settings.toList();
+                const bool isChoice = d.kind() == SettingDescription::Choice;
+                const QString other = isChoice ? d.choices().at(1) : "7"_s;
+                settings.setValue(setting(d.group(), d.key(), other));
+                const QVariantList after = settings.toList();
+                for (int i = 0; i < before.size(); ++i) {
+                    const QVariantMap element = before.at(i).toMap();
+                    const SettingDescription listed = AcceptorSettings::settingDescription(
+                        element["group"_s].toString(), element["key"_s].toString());
+                    const bool isChanged = before.at(i) != after.at(i);
+                    QVERIFY2(isChanged == (listed.place() == d.place()),
+                             qPrintable(d.path() + " and "_s + listed.path()));
+                    changesOfOthers += isChanged && listed.path() != d.path();
+                }
+            }
+        }
+        QVERIFY(changesOfOthers > 0);
+    }
+
+    void whatOnlyTheServiceKnowsIsFound_data()
+    {
+        // Group, key, path, place and default.
+        addRows(R"(
+            service       | reset_after_empty_sessions | service/reset_after_empty_sessions | service/reset_after_empty_sessions | 3
+            service/x     | reset_after_empty_sessions | | |
+            device2       | reset_after_empty_sessions | | |
+            device2/service | devices_count            | | |
+            device2/device | accept_on_jam             | device2/device/accept_on_jam | device2/device/accept_on_jam | 0
+            device02/device | accept_on_jam            | | |
+            device        | accept_on_jam              | | |
+            device2/ict   | reset_timeout              | device2/ict/reset_timeout | device2/ict/reset_timeout | 0
+            device2/ssp   | log_decrypted_msg          | device2/ssp/log_decrypted_msg | device2/ssp/log_decrypted_msg | false
+            device2/ssp   | response_time              | device2/ssp/response_time | device2/ccnet/response_time | 5000
+            device2/other | response_time              | device2/ccnet/response_time | device2/ccnet/response_time | 1000)"_s);
+    }
+
+    void whatOnlyTheServiceKnowsIsFound()
+    {
+        const auto [group, key, path, place, defaultValue] = cells<5>();
+        const SettingDescription d = SettingDescription::find(group, key);
+        QCOMPARE(d.path(), path);
+        QCOMPARE(d.place(), place);
+        QCOMPARE(d.defaultValue().toString(), defaultValue);
+        QCOMPARE(d.label().isEmpty(), !d.isWritten());
+        if (d.isWritten())
+            return;
+        QCOMPARE(d.unsetValue(), d.defaultValue());
+        QCOMPARE(d.device().has_value(), path.startsWith("device"_s));
+        QCOMPARE(d.accepts("7"_s) && d.appliesTo(1, "tcp"_s), d.isValid());
+        QCOMPARE(d.accepts("x"_s), d.isValid() && !d.isRead());
+        QVERIFY(AcceptorSettings::settingDescription(group, key).path() != path || path.isEmpty());
     }
 
     // What the list does not carry: the parameters of the other protocols, the TCP endpoint of a

@@ -54,6 +54,11 @@ private Q_SLOTS:
             ccnet             | bill_table_interval        | 5000
             ssp               | response_time              | 5000
             ssp               | rest_interval              | 100
+            ssp               | get_levels_rest_time       | 0
+            ssp               | payout_rest_time           | 0
+            ssp               | log_decrypted_msg          | false
+            ict               | reset_timeout              | 0
+            device            | accept_on_jam              | 0
             dispenser         | route_map                  |
             id003             | response_time              | none
             device2/ccnet     | response_time              | none

@@ -458,6 +458,25 @@ private Q_SLOTS:
         QCOMPARE(contentOf(m_list), expected);
     }
 
+    // Also where a text names another device, or a host that is called like one.
+    void faultsOfRenumberedDevicesAreKnown()
+    {
+        QByteArray list = contentOf(located("same-host.json"_s));
+        list.replace("127.0.0.1", "device3").replace("localhost", "device3");
+        list.replace("device1/", "device2/").replace("device0/", "device1/");
+        list.replace("devices_count\", \"value\": 2", "devices_count\", \"value\": 3");
+        list.replace("[\n", R"([{"group":"device0/device","key":"device_id","value":3},)");
+        const VelmoRun before = velmo({"settings"_s, "check"_s, "-"_s}, list);
+        QVERIFY2(before.out.contains("\"device3:10400\" is where device1 is too"_s),
+                 qPrintable(before.out));
+        const VelmoRun run = velmo({"settings"_s, "remove-device"_s, "-"_s, "0"_s, "-q"_s}, list);
+        QCOMPARE(run.err, QString());
+        QCOMPARE(run.exitCode, 0);
+        const VelmoRun after = velmo({"settings"_s, "check"_s, "-"_s}, run.out.toUtf8());
+        QVERIFY2(after.out.contains("\"device3:10400\" is where device0 is too"_s),
+                 qPrintable(after.out));
+    }
+
     void filesAreWrittenOnlyWhenTold()
     {
         const QString link = m_folder.filePath("link.json"_s);
@@ -512,6 +531,7 @@ private Q_SLOTS:
             {"key":"a","value":1}                                                    | error: a: is skipped: no "group"
             {"group":"other","key":"a","value":1}                                    | warning: other/a: is ignored
             {"group":"device0/hw_interface","key":"BaudRate","value":1}              | error: device0/hw_interface/BaudRate: is ignored (nearest known: device0/hw_interface/baudrate)
+            {"group":"device0","key":"x","value":1}                                  | error: device0/x: is ignored
             {"group":"device0/ict","key":"reset_timeout","value":1}                  |
             {"group":"service","key":"reset_after_empty_sessions","value":1}         |
             {"group":"device2/ict","key":"reset_timeout","value":1}                  | error: device2: is not below the device count
@@ -594,20 +614,19 @@ private Q_SLOTS:
             SettingsEdit edit(file);
             const SettingsList::Used used = random.of(SettingsList(file).used());
             const QString path = used.setting.path();
-            if (!used.setting.description().isRead())
+            if (!used.setting.isRead())
                 continue;
             const int devices = SettingsList(file).devices().lastKey() + 1;
             const int action = isTidy ? random.below(4) : 3;
             if (action == 0)
-                edit.addDevice(
-                    random.of(used.setting.description().kind() == SettingDescription::Choice
-                                  ? QStringList{"1"_s, "5"_s, "201"_s}
-                                  : QStringList{"200"_s, "2"_s}),
-                    {});
+                edit.addDevice(random.of(used.setting.kind() == SettingDescription::Choice
+                                             ? QStringList{"1"_s, "5"_s, "201"_s}
+                                             : QStringList{"200"_s, "2"_s}),
+                               {});
             else if (action == 1)
                 edit.removeDevice(devices - 1);
             else
-                edit.set({{path, random.valueFor(used.setting.description())}});
+                edit.set({{path, random.valueFor(used.setting)}});
             const QMap<QString, QString> before = modelValues(file.values());
             const QMap<QString, QString> after = modelValues(edit.file().values());
             QStringList said;

@@ -80,9 +80,20 @@ public:
     }
 
 private:
-    void report(Finding::Level level, int element, const QString& path, const QString& text)
+    // @param device of what is not in the list; an element has its own
+    void report(Finding::Level level, int element, const QString& path, const QString& text,
+                std::optional<int> device = {})
     {
-        m_findings += Finding{level, element, path, text};
+        if (element >= 0)
+            device = m_list.elements().at(element).device;
+        m_findings += Finding{level, element, device, path, text, {}, text};
+    }
+
+    // What the last text says of devices, for a text that names any.
+    void tellDevicesOfLast(std::optional<int> otherDevice, const QString& fault)
+    {
+        m_findings.last().otherDevice = otherDevice;
+        m_findings.last().fault = fault;
     }
 
     void checkElement(int index)
@@ -102,9 +113,10 @@ private:
         }
         if (!element.setting.isValid()) {
             const bool isMeant = ServiceSetting::isGroupKnown(element.group);
-            return report(isMeant ? Finding::Error : Finding::Warning, index, element.path(),
-                          Diagnosis::tr("is ignored")
-                              + ServiceSetting::nearestKnown(element.path()));
+            const QString fault = Diagnosis::tr("is ignored");
+            report(isMeant ? Finding::Error : Finding::Warning, index, element.path(),
+                   fault + ServiceSetting::nearestKnown(element.path()));
+            return tellDevicesOfLast({}, fault);
         }
         const SettingsList::Used used = m_list.used(element.setting);
         checkPlace(index, element, used);
@@ -127,8 +139,9 @@ private:
             report(Finding::Warning, index, path,
                    Diagnosis::tr("has no effect: not for a device of this model and interface"));
         } else if (element.group != used.setting.group() || isOtherKey(element, used.setting)) {
-            report(Finding::Warning, index, path,
-                   Diagnosis::tr("is read as %1").arg(used.setting.path()));
+            const QString readAs = Diagnosis::tr("is read as %1");
+            report(Finding::Warning, index, path, readAs.arg(used.setting.path()));
+            tellDevicesOfLast({}, readAs.arg(used.setting.forDevice(0).path()));
         }
     }
 
@@ -148,12 +161,11 @@ private:
                           Diagnosis::tr("has no text or number: reads as \"%1\"").arg(read));
         }
         if (setting.accepts(text)) {
-            if (setting.description().kind() == SettingDescription::AttemptsLimits)
+            if (setting.kind() == SettingDescription::AttemptsLimits)
                 checkLimits(index, element, level);
             return;
         }
-        QString fault = Diagnosis::tr("\"%1\" is %2")
-                            .arg(shortened(text), faultOf(setting.description(), text));
+        QString fault = Diagnosis::tr("\"%1\" is %2").arg(shortened(text), faultOf(setting, text));
         if (read != text)
             fault += Diagnosis::tr(": reads as \"%1\"").arg(shortened(read));
         report(level, index, element.path(), fault);
@@ -195,12 +207,14 @@ private:
         constexpr int mostNamed = 16;
         for (const int device : missing.mid(0, mostNamed)) {
             report(Finding::Error, -1, deviceGroup(device),
-                   Diagnosis::tr("is missing, but below the device count"));
+                   Diagnosis::tr("is missing, but below the device count"), device);
         }
         if (missing.size() > mostNamed) {
+            const QString more =
+                Diagnosis::tr("and more up to %1 are missing, but below the device count");
             report(Finding::Error, -1, deviceGroup(missing.at(mostNamed)),
-                   Diagnosis::tr("and more up to %1 are missing, but below the device count")
-                       .arg(deviceGroup(missing.constLast())));
+                   more.arg(deviceGroup(missing.constLast())), missing.at(mostNamed));
+            tellDevicesOfLast(missing.constLast(), more);
         }
     }
 
@@ -237,9 +251,10 @@ private:
             m_addresses.insert(address, device);
             return;
         }
+        const QString taken = Diagnosis::tr("\"%1\" is where %2 is too");
         report(Finding::Error, place.isListed() ? place.element : firstElement,
-               place.setting.path(),
-               Diagnosis::tr("\"%1\" is where %2 is too").arg(address, deviceGroup(*other)));
+               place.setting.path(), taken.arg(address, deviceGroup(*other)));
+        tellDevicesOfLast(*other, taken.arg(address, QString()));
     }
 
     // What the list does not have and the service needs.
@@ -259,19 +274,19 @@ private:
         QString text = Diagnosis::tr("is missing");
         if (!used.value.isValid()) {
             text += Diagnosis::tr(": there is no built-in default, AcceptorSettings has \"%1\"")
-                        .arg(setting.unsetValue());
+                        .arg(setting.unsetValue().toString());
         } else if (!used.isCertain() && isDefaultSound) {
             text += Diagnosis::tr(": the built-in default is \"%1\", "
                                   "AcceptorSettings has \"%2\"")
-                        .arg(used.value.toString(), setting.unsetValue());
+                        .arg(used.value.toString(), setting.unsetValue().toString());
         }
-        report(Finding::Error, -1, setting.path(), text);
+        report(Finding::Error, -1, setting.path(), text, setting.device());
     }
 
     void checkPortLog(const SettingsList::Used& used)
     {
         const ServiceSetting& setting = used.setting;
-        if (!setting.device() || setting.isOfServiceAlone() || setting.description().isRead())
+        if (!setting.device() || setting.isOfServiceAlone() || setting.isRead())
             return;
         const ServiceSetting common =
             ServiceSetting::find(S::ACCEPTOR_COMMON_SECTION, setting.key());
@@ -279,7 +294,8 @@ private:
         if (used.value.toBool() != commonIsOn) {
             report(Finding::Warning, used.element, setting.path(),
                    Diagnosis::tr("differs from %1, which AcceptorSettings writes here")
-                       .arg(common.path()));
+                       .arg(common.path()),
+                   setting.device());
         }
     }
 

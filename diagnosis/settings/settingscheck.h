@@ -7,6 +7,8 @@
 
 #include <QList>
 
+#include <optional>
+
 /// Something in a settings list that somebody should look at.
 struct SettingsFinding
 {
@@ -17,8 +19,11 @@ struct SettingsFinding
 
     Level level;
     int element; ///< the list's; -1 for the list as a whole
+    std::optional<int> device; ///< whose setting it is about
     QString path; ///< the setting, or the device
     QString text; ///< what is wrong with it
+    std::optional<int> otherDevice; ///< that the text names besides
+    QString fault; ///< the text without what tells devices apart
 
     /// "FILE:LINE: error: PATH: TEXT"
     QString line(const ArrayFile& file) const;

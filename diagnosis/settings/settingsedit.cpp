@@ -8,8 +8,6 @@
 #include "text/diagnosis.h"
 #include "text/nearest.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 
 namespace {
@@ -17,23 +15,6 @@ namespace {
 using S = AcceptorSettings;
 
 const QString valueKey = QStringLiteral("value");
-
-// The value in the element's own type where it means the same in it, else in that of the list that
-// AcceptorSettings writes.
-JsonText valueLike(const QVariant& old, const ServiceSetting& setting, const QString& text)
-{
-    const qint64 number = text.toLongLong();
-    const bool wasNumber =
-        old.userType() == QMetaType::LongLong || old.userType() == QMetaType::Double;
-    if (old.userType() == QMetaType::QString)
-        return text;
-    if (wasNumber && QString::number(number) == text)
-        return number;
-    if (old.userType() == QMetaType::Bool
-        && (text == QLatin1String("true") || text == QLatin1String("false")))
-        return text == QLatin1String("true");
-    return setting.listValue(text);
-}
 
 QVector<ArrayFile::Member> elementOf(const ServiceSetting& setting, const QString& value)
 {
@@ -170,8 +151,9 @@ void SettingsEdit::setElement(const SettingsList& list, int element, const Servi
     // As it is read, it may be so already.
     if (old == value || (setting.accepts(old) && setting.readAs(old) == value))
         return;
-    const QVariant listed = list.elements().at(element).value;
-    m_file.setMember(element, valueKey, valueLike(listed, setting, value));
+    // Of its own type where the value means the same in it.
+    const int type = list.elements().at(element).value.userType();
+    m_file.setMember(element, valueKey, jsonOfType(type, value).value_or(setting.listValue(value)));
     record(setting.path(), old, value);
 }
 
@@ -185,13 +167,15 @@ void SettingsEdit::insert(const ServiceSetting& setting, const Start& start)
 // the service's, else behind the devices before its own.
 int SettingsEdit::positionFor(const ServiceSetting& setting) const
 {
+    const auto subgroup = [](const QString& group) { return group.section(QLatin1Char('/'), 1); };
     QStringList groups;
-    const QList<SettingDescription> descriptions = S::settingDescriptions();
-    for (const SettingDescription& row : descriptions)
-        groups += setting.device() ? row.group().section(QLatin1Char('/'), 1) : row.group();
+    const QList<ServiceSetting> listed = setting.device()
+        ? ServiceSetting::ofDevice(*setting.device())
+        : ServiceSetting::ofService();
+    for (const ServiceSetting& row : listed)
+        groups += setting.device() ? subgroup(row.group()) : row.group();
     const auto rank = [&](const QString& group) {
-        const auto known =
-            groups.indexOf(setting.device() ? group.section(QLatin1Char('/'), 1) : group);
+        const auto known = groups.indexOf(setting.device() ? subgroup(group) : group);
         return known < 0 ? groups.size() : known;
     };
     const SettingsList now = list();
@@ -231,7 +215,7 @@ void SettingsEdit::setUp(int device, const SettingsList& before)
     const int model = now.model(device);
     const QString interfaceType = now.interfaceType(device);
     const auto wasNeeded = [&](const ServiceSetting& setting) {
-        return setting.isFor(before.model(device), before.interfaceType(device));
+        return setting.appliesTo(before.model(device), before.interfaceType(device));
     };
     const QList<ServiceSetting> needed = ServiceSetting::ofDevice(device, model, interfaceType);
     QHash<QString, QString> pathOfPlace;
@@ -245,7 +229,7 @@ void SettingsEdit::setUp(int device, const SettingsList& before)
         // Kept in the place of what is needed, it would be read in its stead.
         const QString path = setting.path();
         const bool isInTheWay = pathOfPlace.value(setting.place(), path) != path;
-        if (isInTheWay || (wasNeeded(setting) && !setting.isFor(model, interfaceType)))
+        if (isInTheWay || (wasNeeded(setting) && !setting.appliesTo(model, interfaceType)))
             needless += i;
     }
     remove(now, needless);
@@ -259,12 +243,10 @@ void SettingsEdit::setUp(int device, const SettingsList& before)
 // or the built-in default, if need be that of another protocol.
 SettingsEdit::Start SettingsEdit::startOf(const ServiceSetting& setting, const SettingsList& before)
 {
-    const QList<SettingDescription> descriptions = S::settingDescriptions();
     QList<ServiceSetting> namesakes;
-    for (const SettingDescription& row : descriptions) {
-        const QString subgroup = row.group().section(QLatin1Char('/'), 1);
-        if (row.key() == setting.key() && !subgroup.isEmpty())
-            namesakes += ServiceSetting::find(deviceGroup(*setting.device(), subgroup), row.key());
+    for (const ServiceSetting& other : ServiceSetting::ofDevice(*setting.device())) {
+        if (other.key() == setting.key())
+            namesakes += other;
     }
     for (const ServiceSetting& namesake : std::as_const(namesakes)) {
         const SettingsList::Used used = before.used(namesake);
@@ -276,8 +258,8 @@ SettingsEdit::Start SettingsEdit::startOf(const ServiceSetting& setting, const S
     for (const ServiceSetting& namesake : std::as_const(namesakes)) {
         if (!namesake.defaultValue().isValid())
             continue;
-        m_notes += Diagnosis::tr("%1 has no built-in default and gets that of %2")
-                       .arg(setting.path(), namesake.path());
+        m_remarks += Diagnosis::tr("%1 has no built-in default and gets that of %2")
+                         .arg(setting.path(), namesake.path());
         return {namesake.defaultValue().toString(), {}};
     }
     return {};
@@ -295,7 +277,7 @@ void SettingsEdit::unset(const QString& path)
     }
     remove(now, elements);
     if (elements.isEmpty())
-        m_notes += Diagnosis::tr("%1 is not in the list").arg(setting.path());
+        m_remarks += Diagnosis::tr("%1 is not in the list").arg(setting.path());
 }
 
 void SettingsEdit::addDevice(const QString& model, const QList<Assignment>& assignments)
@@ -339,17 +321,14 @@ ServiceSetting SettingsEdit::settingOfDevice(int device, const QString& key) con
     const SettingsList now = list();
     const bool isThere = now.devices().contains(device);
     QStringList known;
-    const QList<SettingDescription> descriptions = S::settingDescriptions();
-    for (const SettingDescription& row : descriptions) {
-        const QString subgroup = row.group().section(QLatin1Char('/'), 1);
-        if (subgroup.isEmpty())
-            continue;
-        const QString group = deviceGroup(device, subgroup);
-        const ServiceSetting setting = ServiceSetting::find(group, key);
-        const bool isFor = !isThere || setting.isFor(now.model(device), now.interfaceType(device));
-        if (setting.isValid() && setting.group() == group && isFor)
+    const int model = now.model(device);
+    const QString interfaceType = now.interfaceType(device);
+    for (const ServiceSetting& row : ServiceSetting::ofDevice(device)) {
+        const ServiceSetting setting = ServiceSetting::find(row.group(), key);
+        const bool isFor = !isThere || setting.appliesTo(model, interfaceType);
+        if (setting.isValid() && setting.group() == row.group() && isFor)
             return setting;
-        if (row.appliesTo(now.model(device), now.interfaceType(device)))
+        if (row.appliesTo(model, interfaceType))
             known += row.key();
     }
     throw Fault{Diagnosis::tr("a device of this model has no \"%1\"").arg(key)
@@ -361,7 +340,8 @@ void SettingsEdit::removeDevice(int device)
     const SettingsList now = list();
     if (!now.devices().contains(device))
         throw Fault{Diagnosis::tr("%1: there is no %2").arg(m_file.name(), deviceGroup(device))};
-    m_removedDevice = device;
+    if (device >= 0)
+        m_removedDevice = device;
     const auto isBehind = [device](int other) { return device >= 0 && other > device; };
     QVector<int> removed;
     for (int i = 0; i < now.elements().size(); ++i) {
@@ -377,7 +357,7 @@ void SettingsEdit::removeDevice(int device)
     remove(now, removed);
     for (auto other = now.devices().keyBegin(); other != now.devices().keyEnd(); ++other) {
         if (isBehind(*other))
-            m_notes +=
+            m_remarks +=
                 Diagnosis::tr("%1 becomes %2").arg(deviceGroup(*other), deviceGroup(*other - 1));
     }
     if (now.deviceCount() > device && device >= 0) {
@@ -386,35 +366,25 @@ void SettingsEdit::removeDevice(int device)
     }
 }
 
-// A finding as it is after devices were renumbered, which keep their faults.
-QString SettingsEdit::renumbered(const SettingsFinding& finding) const
+// A finding by what tells it from others when the devices are numbered as they are now.
+SettingsEdit::Sameness SettingsEdit::sameness(const SettingsFinding& finding, int removedDevice)
 {
-    const QString text =
-        finding.levelKey() + QLatin1Char(' ') + finding.path + QLatin1Char(' ') + finding.text;
-    if (!m_removedDevice || *m_removedDevice < 0)
-        return text;
-    static const QRegularExpression anyDevice(QStringLiteral("\\bdevice(\\d+)"));
-    QString result;
-    int end = 0;
-    for (auto matches = anyDevice.globalMatch(text); matches.hasNext();) {
-        const QRegularExpressionMatch match = matches.next();
-        const int device = match.captured(1).toInt();
-        result += text.mid(end, int(match.capturedStart()) - end)
-            + deviceGroup(device > *m_removedDevice ? device - 1 : device);
-        end = int(match.capturedEnd());
-    }
-    return result + text.mid(end);
+    const auto numbered = [removedDevice](const std::optional<int>& device) {
+        return device && *device > removedDevice ? *device - 1 : device;
+    };
+    const QString path = finding.device ? finding.path.section(QLatin1Char('/'), 1) : finding.path;
+    return {finding.level, numbered(finding.device), path, finding.fault,
+            numbered(finding.otherDevice)};
 }
 
 QList<SettingsFinding> SettingsEdit::newFindings() const
 {
-    QStringList known;
+    QList<Sameness> known;
     for (const SettingsFinding& finding : checkSettings(m_original))
-        known += renumbered(finding);
-    const SettingsEdit asItIs(m_file);
+        known += sameness(finding, m_removedDevice);
     QList<SettingsFinding> added;
     for (const SettingsFinding& finding : checkSettings(m_file)) {
-        if (!known.removeOne(asItIs.renumbered(finding)))
+        if (!known.removeOne(sameness(finding, noDevice)))
             added += finding;
     }
     return added;

@@ -10,6 +10,10 @@
 #include <QMap>
 #include <QStringList>
 
+#include <limits>
+#include <optional>
+#include <tuple>
+
 /// A setting and the value that it is to have.
 struct Assignment
 {
@@ -58,7 +62,7 @@ public:
     QList<Change> changes() const;
 
     /// What else people should know, a sentence each.
-    QStringList notes() const { return m_notes; }
+    QStringList remarks() const { return m_remarks; }
 
     /// What check finds in the list that it did not find before.
     QList<SettingsFinding> newFindings() const;
@@ -71,6 +75,12 @@ private:
         QString from;
     };
 
+    /// Level, device, path and text without devices, the other device.
+    using Sameness = std::tuple<SettingsFinding::Level, std::optional<int>, QString, QString,
+                                std::optional<int>>;
+
+    static constexpr int noDevice = std::numeric_limits<int>::max();
+
     SettingsList list() const { return SettingsList(m_file); }
 
     void setValue(const ServiceSetting& asked, const QString& value);
@@ -82,7 +92,7 @@ private:
     void setUp(int device, const SettingsList& before);
     Start startOf(const ServiceSetting& setting, const SettingsList& before);
     void makeDevice(int device, int model, const QList<Assignment>& assignments);
-    QString renumbered(const SettingsFinding& finding) const;
+    static Sameness sameness(const SettingsFinding& finding, int removedDevice);
     ServiceSetting settingOfDevice(int device, const QString& key) const;
     void requireDevice(int device) const;
     void record(const QString& path, const QVariant& before, const QVariant& after,
@@ -92,6 +102,6 @@ private:
     ArrayFile m_file;
     QMap<QString, int> m_changeOfPath; // indexes into m_changes
     QList<Change> m_changes;
-    QStringList m_notes;
-    std::optional<int> m_removedDevice;
+    QStringList m_remarks;
+    int m_removedDevice = noDevice; // those behind it have the index before theirs
 };

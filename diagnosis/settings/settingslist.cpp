@@ -108,7 +108,7 @@ SettingsList::SettingsList(const ArrayFile& file)
         element.key = map.value(QStringLiteral("key")).toString();
         element.value = map.value(QStringLiteral("value"));
         if (element.hasGroup) {
-            element.device = deviceOfGroup(element.group);
+            element.device = SettingDescription::deviceOf(element.group);
             element.setting = ServiceSetting::find(element.group, element.key);
         }
         const int index = int(m_elements.size());

@@ -10,8 +10,8 @@
 #include <QMap>
 #include <QVector>
 
-/// Reads a settings list. Throws Fault for anything else, which it says what it looks like: a list
-/// in which no element is a known setting is none.
+/// Reads a settings list: a list of which at least one element is a known setting. Throws Fault for
+/// a file that is none and says what it looks like.
 ArrayFile readSettingsFile(TextInput& input);
 
 /// A settings list as the service would use it. What AcceptorSettings makes of it, with two
@@ -47,7 +47,7 @@ public:
         bool isListed() const { return element >= 0; }
         /// Whether who reads the list with SettingsManager and who reads it into AcceptorSettings
         /// have the same value.
-        bool isCertain() const { return isListed() || value == setting.unsetValue(); }
+        bool isCertain() const { return isListed() || value == setting.unsetValue().toString(); }
     };
 
     explicit SettingsList(const ArrayFile& file);

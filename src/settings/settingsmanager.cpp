@@ -4,7 +4,7 @@
 #include "settingsmanager.h"
 
 #include "log_p.h"
-#include "settingslist_p.h"
+#include "settingelement_p.h"
 #include "settingstable_p.h"
 #include "json/variants.h"
 
@@ -77,35 +77,14 @@ SettingsManager* SettingsManager::_instance = nullptr;
 
 namespace {
 
-// What only the service knows; the other defaults stand in the settings table. The groups are
-// plain: none is that of one device.
-const struct
-{
-    const QString& group;
-    const QString& param;
-    const char* value;
-} serviceDefaults[] = {
-    {SM::SM_G_DEVICE, SM::SM_P_ACCEPT_ON_JAM, "0"},
-    {SM::SM_G_SERVICE, SM::SM_P_RESET_AFTER_EMPTY_SESSIONS, "3"},
-    {SM::SM_G_ICT, SM::SM_P_ICT_RESET_TIMEOUT, "0"},
-    {SM::SM_G_SSP, SM::SM_P_SSP_RESPONSE_TIME, "5000"},
-    {SM::SM_G_SSP, SM::SM_P_SSP_REST_INTERVAL, "100"},
-    {SM::SM_G_SSP, SM::SM_P_SSP_GET_LEVELS_REST_TIME, "0"},
-    {SM::SM_G_SSP, SM::SM_P_SSP_PAYOUT_REST_TIME, "0"},
-    {SM::SM_G_SSP, SM::SM_P_SSP_LOG_DECRYPTED_MSG, "false"},
-};
-
-// Null where the store has none.
+// Null where the store has none. The groups of the table are plain: none is that of one device.
 const char* defaultText(const QString& group, const QString& param)
 {
-    for (const auto& row : serviceDefaults) {
-        if (group == row.group && param == row.param)
-            return row.value;
-    }
     // Of the common acceptance settings the model alone has defaults.
     if (group == AcceptorSettings::ACCEPTOR_COMMON_SECTION)
         return nullptr;
-    for (const auto rows : {SettingsTable::serviceSettings(), SettingsTable::deviceSettings()}) {
+    for (const auto rows : {SettingsTable::serviceSettings(), SettingsTable::deviceSettings(),
+                            SettingsTable::storeSettings()}) {
         for (const SettingRow& row : rows) {
             if (group == row.group && param == row.keys.list)
                 return row.defaultText;
@@ -236,9 +215,9 @@ bool SettingsManager::load(const quorbus::ClientSettings& settings)
     for (const QVariant& element : list) {
         const QVariantMap map = Variants::toMap(element);
         const SettingsItem* const item =
-            addItem(Variants::toString(map.value(SettingsList::groupKey)),
-                    Variants::toString(map.value(SettingsList::nameKey)),
-                    map.value(SettingsList::valueKey));
+            addItem(Variants::toString(map.value(SettingElement::groupKey)),
+                    Variants::toString(map.value(SettingElement::nameKey)),
+                    map.value(SettingElement::valueKey));
         logDebug() << QStringLiteral("Added [%1/%2 = %3]")
                           .arg(item->group, item->name, Variants::toString(item->value));
     }
@@ -250,7 +229,7 @@ QList<QVariant> SettingsManager::toList() const
 {
     QList<QVariant> list;
     for (const SettingsItem& item : std::as_const(*items))
-        list.append(SettingsList::element(item.group, item.name, item.value));
+        list.append(SettingElement::of(item.group, item.name, item.value));
     return list;
 }
 

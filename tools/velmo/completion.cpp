@@ -102,7 +102,7 @@ QStringList assignmentsTo(const QStringList& paths, const QString& current)
     }
     const int slash = int(path.lastIndexOf(QLatin1Char('/')));
     const ServiceSetting setting = ServiceSetting::find(path.left(slash), path.mid(slash + 1));
-    for (const QString& choice : setting.description().choices())
+    for (const QString& choice : setting.choices())
         words += path + QLatin1Char('=') + choice;
     return words;
 }

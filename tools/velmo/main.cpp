@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
-#include "acceptorsettings.h"
 #include "command.h"
 #include "output.h"
 
@@ -14,12 +13,10 @@ int main(int argc, char* argv[])
     // The library's progress messages, and what the answer says of a broker;
     // QT_LOGGING_RULES=default.debug=true brings the former back.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\nvelmo.broker=false"));
-    int exitCode = exitBadInput;
     try {
-        exitCode = runCommand(QByteArrayList(argv, argv + argc));
+        return runCommand(QByteArrayList(argv, argv + argc));
     } catch (const Fault& fault) {
         printError(fault.message);
+        return exitBadInput;
     }
-    AcceptorSettings().setList({}); // deletes the devices
-    return exitCode;
 }

@@ -124,7 +124,7 @@ QString indented(const QString& lines)
 QString tableOf(const Used& used)
 {
     const QString value = used.value.toString();
-    switch (used.setting.description().kind()) {
+    switch (used.setting.kind()) {
     case SettingDescription::AttemptsLimits:
         return limitsTable(value);
     case SettingDescription::RouteMap:
@@ -145,7 +145,7 @@ QString block(const QString& heading, const SettingsList& list, std::optional<in
         QString value = used.value.toString().simplified();
         const QString table = tableOf(used);
         if (table.count(QLatin1Char('\n')) > 1) {
-            const QString label = used.setting.description().label();
+            const QString label = used.setting.label();
             value = Velmo::tr("in the table below");
             tables +=
                 QStringLiteral("\n%1: %2\n").arg(label, used.setting.path()) + indented(table);
@@ -222,9 +222,12 @@ int showSettingsCommand(const Arguments& arguments)
 {
     const ArrayFile file = readSettings(arguments.operands().constFirst());
     if (arguments.isSet(options::formatted)) {
+        // Only the process's configuration can be written as a formatted map.
         S settings;
         settings.setList(file.values());
-        print(QString::fromUtf8(indentedJson(settings.toFormattedMap())) + QLatin1Char('\n'));
+        const QVariantMap map = settings.toFormattedMap();
+        settings.setList({}); // deletes the devices
+        print(QString::fromUtf8(indentedJson(map)) + QLatin1Char('\n'));
         return exitSuccess;
     }
     const SettingsList list(file);
@@ -244,10 +247,10 @@ int getSettingCommand(const Arguments& arguments)
     if (!used.value.isValid())
         throw whyNotSet(list, used, file.name());
     if (!used.isCertain()) {
-        printError(
-            Velmo::tr("%1: %2 is missing: the built-in default is \"%3\", AcceptorSettings "
-                      "has \"%4\"")
-                .arg(file.name(), asked.path(), used.value.toString(), used.setting.unsetValue()));
+        printError(Velmo::tr("%1: %2 is missing: the built-in default is \"%3\", AcceptorSettings "
+                             "has \"%4\"")
+                       .arg(file.name(), asked.path(), used.value.toString(),
+                            used.setting.unsetValue().toString()));
     }
     QString text = used.value.toString();
     if (arguments.isSet(options::source)) {

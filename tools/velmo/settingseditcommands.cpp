@@ -136,9 +136,9 @@ QString outputOf(const Arguments& arguments)
 int finish(const Arguments& arguments, const ArrayFile& original, const SettingsEdit& edit)
 {
     tellNewFindings(arguments, edit);
-    const QStringList notes = arguments.isSet(options::quiet) ? QStringList() : edit.notes();
-    for (const QString& note : notes)
-        printError(note);
+    const QStringList remarks = arguments.isSet(options::quiet) ? QStringList() : edit.remarks();
+    for (const QString& remark : remarks)
+        printError(remark);
     const QString input = arguments.operands().constFirst();
     const QString output = outputOf(arguments);
     const bool toOutput = OutputFile::isStandardOutput(output);

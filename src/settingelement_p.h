@@ -7,13 +7,13 @@
 #include <QVariant>
 
 /// An element of the settings list form: a map with exactly these keys.
-namespace SettingsList {
+namespace SettingElement {
 
 inline const QString groupKey = QStringLiteral("group");
 inline const QString nameKey = QStringLiteral("key");
 inline const QString valueKey = QStringLiteral("value");
 
-inline QVariantMap element(const QString& group, const QString& name, const QVariant& value)
+inline QVariantMap of(const QString& group, const QString& name, const QVariant& value)
 {
     // A copy of a map is made faster than a map is filled; the keys are in ascending order.
     static const auto& blank = *new QVariantMap{{groupKey, {}}, {nameKey, {}}, {valueKey, {}}};
@@ -25,4 +25,4 @@ inline QVariantMap element(const QString& group, const QString& name, const QVar
     return map;
 }
 
-} // namespace SettingsList
+} // namespace SettingElement
