@@ -6,9 +6,9 @@
 #include "brokerconnection.h"
 #include "kiosktopic.h"
 #include "options.h"
-#include "output.h"
 #include "service/kiosksummary.h"
-#include "table.h"
+#include "terminal/output.h"
+#include "terminal/table.h"
 #include "json/jsontext.h"
 
 #include <QDateTime>

@@ -71,5 +71,5 @@ bool isOutputColored();
 /// Writes a whole text to standard output.
 void print(const QString& text);
 
-/// Writes "velmo: <message>" to standard error as one printable() line.
+/// Writes the program's name and a message to standard error, as one printable() line.
 void printError(const QString& message);
