@@ -648,10 +648,6 @@
         <translation>Таблица составлена раньше.</translation>
     </message>
     <message>
-        <source>--%1: expected a number from 1 to 3600</source>
-        <translation>--%1: ожидается число от 1 до 3600</translation>
-    </message>
-    <message>
         <source>the broker does not answer</source>
         <translation>брокер не отвечает</translation>
     </message>
