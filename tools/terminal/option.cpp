@@ -4,8 +4,19 @@
 #include "terminal/option.h"
 
 #include "text/fault.h"
+#include "text/translations.h"
 
-#include <QCommandLineParser>
+#include <QDir>
+
+namespace {
+
+// The same place in the build folder and where the program is installed.
+QString translationsFolder()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../" TRANSLATIONS);
+}
+
+} // namespace
 
 QString Option::withValue() const
 {
@@ -25,42 +36,45 @@ QCommandLineOption Option::forParser() const
     return {names, Velmo::tr(help), QLatin1String(value.name), QLatin1String(usual)};
 }
 
-bool Option::isSet(const QCommandLineParser& parser) const
-{
-    return parser.isSet(QLatin1String(name));
-}
-
-QString Option::valueIn(const QCommandLineParser& parser) const
-{
-    return parser.value(QLatin1String(name));
-}
-
-qint64 Option::numberIn(const QCommandLineParser& parser) const
+qint64 GivenOptions::number(const Option& option) const
 {
     bool isNumber = false;
-    const qint64 number = valueIn(parser).toLongLong(&isNumber);
-    if (isNumber && number >= value.least && number <= value.most)
+    const qint64 number = value(option).toLongLong(&isNumber);
+    if (isNumber && number >= option.value.least && number <= option.value.most)
         return number;
-    if (value.most < Value::unlimited) {
-        throw Fault{Velmo::tr("%1: expected a number from %2 to %3")
-                        .arg(dashedName())
-                        .arg(value.least)
-                        .arg(value.most)};
-    }
-    throw Fault{Velmo::tr("%1: expected a number").arg(dashedName())};
+    throw Fault{option.value.most < Value::unlimited
+                    ? Velmo::tr("%1: expected a number from %2 to %3")
+                          .arg(option.dashedName())
+                          .arg(option.value.least)
+                          .arg(option.value.most)
+                    : Velmo::tr("%1: expected a number").arg(option.dashedName())};
 }
 
-void Option::requireValue(const QCommandLineParser& parser) const
-{
-    if (value.name && isSet(parser) && valueIn(parser).isEmpty())
-        throw Fault{Velmo::tr("%1: expected a value").arg(dashedName())};
-}
-
-BrokerOptions brokerOptions(const QCommandLineParser& parser)
+BrokerOptions GivenOptions::broker() const
 {
     BrokerOptions broker;
-    broker.take(options::broker.valueIn(parser), options::passwordFile.valueIn(parser),
-                options::tlsCa.valueIn(parser), options::tlsCert.valueIn(parser),
-                options::tlsKey.valueIn(parser));
+    broker.take(value(options::broker), value(options::passwordFile), value(options::tlsCa),
+                value(options::tlsCert), value(options::tlsKey));
     return broker;
+}
+
+void GivenOptions::requireValue(const Option& option) const
+{
+    if (isSet(option) && option.value.kind != Kind::None && value(option).isEmpty())
+        throw Fault{Velmo::tr("%1: expected a value").arg(option.dashedName())};
+}
+
+void loadLanguage(const QString& language)
+{
+    loadTranslations(translationsFolder(), {QStringLiteral("velmo")}, language);
+}
+
+QStringList translationLanguages()
+{
+    const QStringList files =
+        QDir(translationsFolder()).entryList({QStringLiteral("velmolib_*.qm")});
+    QStringList languages;
+    for (const QString& file : files)
+        languages += file.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0);
+    return languages;
 }

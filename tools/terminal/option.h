@@ -6,46 +6,44 @@
 #include "brokeroptions.h"
 #include "terminal/velmo.h"
 
-#include <QCommandLineOption>
+#include <QCommandLineParser>
 
 #include <limits>
 
-class QCommandLineParser;
+/// What may stand for an operand or for the value of an option.
+enum class Kind {
+    None, ///< for a switch
+    Text,
+    File,
+    SettingPath, ///< GROUP/KEY
+    Assignment, ///< GROUP/KEY=VALUE
+    DeviceAssignment, ///< KEY=VALUE, of one device
+    Model,
+    DeviceIndex,
+    Language,
+    FilterName,
+    Number,
+};
 
-/// What stands for an operand or for the value of an option.
+/// What an operand or the value of an option is; a switch has none.
 struct Value
 {
-    enum Kind {
-        Text,
-        File,
-        SettingPath, ///< GROUP/KEY
-        Assignment, ///< GROUP/KEY=VALUE
-        DeviceAssignment, ///< KEY=VALUE, of one device
-        Model,
-        DeviceIndex,
-        Language,
-        FilterName,
-        Number,
-    };
-
     static constexpr qint64 unlimited = std::numeric_limits<int>::max();
 
-    constexpr Value(const char* valueName = nullptr, Kind valueKind = Text, qint64 leastNumber = 0,
-                    qint64 mostNumber = unlimited)
-        : name(valueName)
-        , kind(valueKind)
-        , least(leastNumber)
-        , most(mostNumber)
+    constexpr Value() = default;
+    constexpr Value(const char* itsName, Kind itsKind, qint64 from = 0, qint64 to = unlimited)
+        : name(itsName)
+        , kind(itsKind)
+        , least(from)
+        , most(to)
     {
     }
 
-    const char* name; ///< in the usage; null where there is none
-    Kind kind;
-    qint64 least; ///< of a number
-    qint64 most; ///< the same; told where it is less than unlimited
+    const char* name = nullptr; ///< in the usage
+    Kind kind = Kind::None;
+    qint64 least = 0; ///< of a number
+    qint64 most = unlimited; ///< of a number; told where it is less
 };
-
-constexpr Value noValue; ///< of a switch
 
 /// An option of the command line. Its help is a source text of Velmo::tr().
 struct Option
@@ -54,7 +52,7 @@ struct Option
     const char* letter; ///< its short form; null without one
     Value value;
     const char* help;
-    const char* usual = ""; ///< its value where it is not given
+    const char* usual = nullptr; ///< the value where it is not given; null for none
 
     QString dashedName() const { return QStringLiteral("--") + QLatin1String(name); }
 
@@ -63,33 +61,53 @@ struct Option
 
     /// For a parser; its help is in the language that is shown now.
     QCommandLineOption forParser() const;
-
-    bool isSet(const QCommandLineParser& parser) const;
-    QString valueIn(const QCommandLineParser& parser) const;
-
-    /// Throws Fault for what is no number or out of the range.
-    qint64 numberIn(const QCommandLineParser& parser) const;
-
-    /// Throws Fault for one that is given with an empty value, as where a script's variable is not
-    /// set: it means nothing, least of all the usual value.
-    void requireValue(const QCommandLineParser& parser) const;
 };
 
-/// The options of a program that connects to a broker.
+/// The options that a program was called with.
+class GivenOptions
+{
+public:
+    explicit GivenOptions(const QCommandLineParser& parser)
+        : m_parser(parser)
+    {
+    }
+
+    bool isSet(const Option& option) const { return m_parser.isSet(QLatin1String(option.name)); }
+    QString value(const Option& option) const { return m_parser.value(QLatin1String(option.name)); }
+
+    /// Throws Fault for a value that is no number or out of the range.
+    qint64 number(const Option& option) const;
+
+    /// What the options of a connection say. Throws Fault as BrokerOptions does.
+    BrokerOptions broker() const;
+
+    /// Throws Fault for an empty value, as where a script's variable is not set: it means nothing,
+    /// least of all the usual value.
+    void requireValue(const Option& option) const;
+
+private:
+    const QCommandLineParser& m_parser;
+};
+
+/// The options of a connection to a broker.
 namespace options {
 
-constexpr Option broker{"broker", nullptr, Value("HOST:PORT"),
+constexpr Option broker{"broker", nullptr, Value("HOST:PORT", Kind::Text),
                         QT_TRANSLATE_NOOP("Velmo", "The broker; localhost:1883 without it.")};
-constexpr Option passwordFile{"password-file", nullptr, Value("FILE", Value::File),
+constexpr Option passwordFile{"password-file", nullptr, Value("FILE", Kind::File),
                               QT_TRANSLATE_NOOP("Velmo", "A file with USER:PASSWORD.")};
-constexpr Option tlsCa{"tls-ca", nullptr, Value("PEM", Value::File),
+constexpr Option tlsCa{"tls-ca", nullptr, Value("PEM", Kind::File),
                        QT_TRANSLATE_NOOP("Velmo", "Connect by TLS and trust these certificates.")};
-constexpr Option tlsCert{"tls-cert", nullptr, Value("PEM", Value::File),
+constexpr Option tlsCert{"tls-cert", nullptr, Value("PEM", Kind::File),
                          QT_TRANSLATE_NOOP("Velmo", "The client's own certificate.")};
-constexpr Option tlsKey{"tls-key", nullptr, Value("PEM", Value::File),
+constexpr Option tlsKey{"tls-key", nullptr, Value("PEM", Kind::File),
                         QT_TRANSLATE_NOOP("Velmo", "Its key.")};
 
 } // namespace options
 
-/// What these options say. Throws Fault as BrokerOptions does.
-BrokerOptions brokerOptions(const QCommandLineParser& parser);
+/// Shows the program's texts in a language, empty for the system's. Throws Fault for one that there
+/// are no texts in.
+void loadLanguage(const QString& language);
+
+/// The languages that there are translations for.
+QStringList translationLanguages();

@@ -13,6 +13,10 @@
 
 #include <sys/stat.h>
 
+constexpr int exitSuccess = 0;
+constexpr int exitFindings = 1; ///< of a check that read everything and found something
+constexpr int exitBadInput = 2;
+
 /// Standard output. Throws Fault when it cannot be written.
 class Output
 {

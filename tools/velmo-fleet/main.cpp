@@ -3,11 +3,9 @@
 
 #include "terminal/option.h"
 #include "terminal/output.h"
-#include "terminal/program.h"
 #include "text/fault.h"
 #include "worker.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QLoggingCategory>
 #include <QRegularExpression>
@@ -19,22 +17,22 @@ namespace {
 
 std::atomic<bool> stopAsked{false};
 
-constexpr Value seconds("SECONDS", Value::Number, 0, std::numeric_limits<quint32>::max());
+constexpr Value seconds("SECONDS", Kind::Number, 0, std::numeric_limits<quint32>::max());
 
-constexpr Option states{"states", nullptr, Value("TOPIC"),
+constexpr Option states{"states", nullptr, Value("TOPIC", Kind::Text),
                         QT_TRANSLATE_NOOP("Velmo", "Where kiosks publish their states."),
                         "kiosks/+/state"};
-constexpr Option summaries{"summaries", nullptr, Value("TOPIC"),
+constexpr Option summaries{"summaries", nullptr, Value("TOPIC", Kind::Text),
                            QT_TRANSLATE_NOOP("Velmo", "Where their summaries are published."),
                            usualSummaries};
 constexpr Option wills{
-    "wills", nullptr, Value("TOPIC"),
+    "wills", nullptr, Value("TOPIC", Kind::Text),
     QT_TRANSLATE_NOOP("Velmo", "Where a message, its will, says that a kiosk is gone."),
     "kiosks/+/will"};
-constexpr Option group{"group", nullptr, Value("NAME"),
+constexpr Option group{"group", nullptr, Value("NAME", Kind::Text),
                        QT_TRANSLATE_NOOP("Velmo", "The workers that share the states."), "velmo"};
 constexpr Option sessionName{
-    "name", nullptr, Value("NAME"),
+    "name", nullptr, Value("NAME", Kind::Text),
     QT_TRANSLATE_NOOP("Velmo",
                       "What its session at the broker goes by; each worker has its own, the same "
                       "at each start.")};
@@ -46,14 +44,14 @@ constexpr Option silent{
     "silent", nullptr, seconds,
     QT_TRANSLATE_NOOP("Velmo", "After how long a kiosk is told of as silent; 0 for never."), "120"};
 constexpr Option metricsAddress{
-    "metrics", nullptr, Value("ADDRESS"),
+    "metrics", nullptr, Value("ADDRESS", Kind::Text),
     QT_TRANSLATE_NOOP("Velmo", "Where Prometheus fetches the metrics.")};
 constexpr Option language{
-    "lang", nullptr, Value("LANG", Value::Language),
+    "lang", nullptr, Value("LANG", Kind::Language),
     QT_TRANSLATE_NOOP("Velmo",
                       "The language of the summaries, as \"ru\", in place of the system's.")};
 constexpr Option retire{
-    "retire", nullptr, noValue,
+    "retire", nullptr, Value(),
     QT_TRANSLATE_NOOP("Velmo",
                       "Take what waits for the session, then end it: for a worker that is not to "
                       "come back.")};
@@ -64,18 +62,18 @@ const Option* const every[] = {
     &sessionName,     &expire,           &silent,          &metricsAddress, &options::passwordFile,
     &options::tlsCa,  &options::tlsCert, &options::tlsKey, &language,       &retire};
 
-WorkerOptions workerOptions(const QCommandLineParser& parser)
+WorkerOptions workerOptions(const GivenOptions& given)
 {
-    const WorkerOptions worker{brokerOptions(parser),
-                               sessionName.isSet(parser) ? sessionName.valueIn(parser)
-                                                         : QSysInfo::machineHostName(),
-                               group.valueIn(parser),
-                               quint32(expire.numberIn(parser)),
-                               KioskTopic(states.valueIn(parser)),
-                               KioskTopic(summaries.valueIn(parser)),
-                               KioskTopic(wills.valueIn(parser)),
-                               std::chrono::seconds(silent.numberIn(parser)),
-                               retire.isSet(parser)};
+    const WorkerOptions worker{given.broker(),
+                               given.isSet(sessionName) ? given.value(sessionName)
+                                                        : QSysInfo::machineHostName(),
+                               given.value(group),
+                               quint32(given.number(expire)),
+                               KioskTopic(given.value(states)),
+                               KioskTopic(given.value(summaries)),
+                               KioskTopic(given.value(wills)),
+                               std::chrono::seconds(given.number(silent)),
+                               given.isSet(retire)};
     static const QRegularExpression separators(QStringLiteral("[/+#]"));
     if (worker.name.isEmpty() || worker.group.isEmpty() || worker.group.contains(separators))
         throw Fault{Velmo::tr("--name and --group: expected a name without /, + and #")};
@@ -87,7 +85,7 @@ void run()
     QCommandLineParser early; // the options are made in the language that is shown
     early.addOption(language.forParser());
     early.parse(QCoreApplication::arguments());
-    loadLanguage(language.valueIn(early));
+    loadLanguage(GivenOptions(early).value(language));
     QCommandLineParser parser;
     parser.setApplicationDescription(
         Velmo::tr("Makes summaries of what kiosks publish at an MQTT broker."));
@@ -96,13 +94,14 @@ void run()
     for (const Option* const option : every)
         parser.addOption(option->forParser());
     parser.process(QCoreApplication::arguments());
+    const GivenOptions given(parser);
     for (const Option* const option : every)
-        option->requireValue(parser);
+        given.requireValue(*option);
     if (!parser.positionalArguments().isEmpty())
         throw Fault{
             Velmo::tr("unknown argument \"%1\"").arg(parser.positionalArguments().constFirst())};
-    Metrics metrics(metricsAddress.valueIn(parser));
-    Worker worker(workerOptions(parser), metrics);
+    Metrics metrics(given.value(metricsAddress));
+    Worker worker(workerOptions(given), metrics);
     worker.run(stopAsked);
 }
 

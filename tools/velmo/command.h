@@ -4,15 +4,13 @@
 #pragma once
 
 #include "terminal/option.h"
-#include "terminal/program.h"
+#include "terminal/output.h"
 #include "text/fault.h"
 
 #include <QByteArrayList>
 #include <QStringList>
 
 #include <vector>
-
-class QCommandLineParser;
 
 /// What a command takes besides options.
 struct Operand
@@ -57,18 +55,12 @@ struct Command
 };
 
 /// What a command was called with.
-class Arguments
+class Arguments : public GivenOptions
 {
 public:
     Arguments(const Command& command, const QCommandLineParser& parser,
               const QStringList& operands);
 
-    bool isSet(const Option& option) const;
-    QString value(const Option& option) const;
-
-    /// Throws Fault as Option::numberIn() does.
-    qint64 number(const Option& option) const;
-    BrokerOptions broker() const;
     const QStringList& operands() const { return m_operands; }
 
     /// For operands and options that do not go together: names the command's usage.
@@ -76,7 +68,6 @@ public:
 
 private:
     const Command& m_command;
-    const QCommandLineParser& m_parser;
     const QStringList m_operands;
 };
 

@@ -9,8 +9,6 @@
 
 #include <palx/appversionmanager.h>
 
-#include <QCommandLineParser>
-
 #include <algorithm>
 #include <iterator>
 #include <memory>
@@ -197,30 +195,10 @@ const std::vector<const Option*>& everyOption()
 
 Arguments::Arguments(const Command& command, const QCommandLineParser& parser,
                      const QStringList& operands)
-    : m_command(command)
-    , m_parser(parser)
+    : GivenOptions(parser)
+    , m_command(command)
     , m_operands(operands)
 {
-}
-
-bool Arguments::isSet(const Option& option) const
-{
-    return option.isSet(m_parser);
-}
-
-QString Arguments::value(const Option& option) const
-{
-    return option.valueIn(m_parser);
-}
-
-qint64 Arguments::number(const Option& option) const
-{
-    return option.numberIn(m_parser);
-}
-
-BrokerOptions Arguments::broker() const
-{
-    return brokerOptions(m_parser);
 }
 
 Fault Arguments::usageFault() const
@@ -237,7 +215,8 @@ int runCommand(const QByteArrayList& bytes)
     for (const Option* const option : everyOption())
         parser.addOption(option->forParser());
     const bool isSound = parser.parse(arguments);
-    loadLanguage(options::language.valueIn(parser));
+    const GivenOptions asked(parser);
+    loadLanguage(asked.value(options::language));
     for (int i = 0; i < arguments.size(); ++i) {
         const QString& text = arguments.at(i);
         if (text.contains(QChar(QChar::ReplacementCharacter)) && text.toLocal8Bit() != bytes.at(i))
@@ -252,20 +231,20 @@ int runCommand(const QByteArrayList& bytes)
     if (!isSound)
         throw Fault{parser.errorText()};
     const bool asksHelp = words.value(0) == QLatin1String("help");
-    if (asksHelp || options::help.isSet(parser)) {
+    if (asksHelp || asked.isSet(options::help)) {
         print(helpOn(words.mid(asksHelp ? 1 : 0)));
         return exitSuccess;
     }
-    if (words.isEmpty() && options::version.isSet(parser))
+    if (words.isEmpty() && asked.isSet(options::version))
         return printVersion();
     if (!command)
         throw unknownCommand(words);
     const std::vector<const Option*> allowed = optionsOf(*command);
     for (const Option* const option : everyOption()) {
-        if (option->isSet(parser)
+        if (asked.isSet(*option)
             && std::find(allowed.begin(), allowed.end(), option) == allowed.end())
             throw unknownOption(QLatin1String(option->name), allowed);
-        option->requireValue(parser);
+        asked.requireValue(*option);
     }
     const Arguments given(*command, parser, words.mid(command->words().size()));
     if (!fits(*command, given))

@@ -7,21 +7,21 @@
 
 namespace operands {
 
-constexpr Operand log{{"LOG.jsonl", Value::File}};
-constexpr Operand logs{{"LOG.jsonl", Value::File}, Operand::Several};
-constexpr Operand state{{"STATE.json", Value::File}};
-constexpr Operand list{{"LIST.json", Value::File}};
-constexpr Operand a{{"A.json", Value::File}};
-constexpr Operand b{{"B.json", Value::File}};
-constexpr Operand path{{"GROUP/KEY", Value::SettingPath}};
-constexpr Operand paths{{"GROUP/KEY", Value::SettingPath}, Operand::Several};
-constexpr Operand assignments{{"GROUP/KEY=VALUE", Value::Assignment}, Operand::Several};
-constexpr Operand model{{"MODEL", Value::Model}};
-constexpr Operand deviceAssignments{{"KEY=VALUE", Value::DeviceAssignment}, Operand::AnyNumber};
-constexpr Operand device{{"INDEX", Value::DeviceIndex}};
-constexpr Operand filter{{"NAME", Value::FilterName}, Operand::Optional};
-constexpr Operand words{{"WORD"}, Operand::Several};
-constexpr Operand manual{{"TEMPLATE", Value::File}};
+constexpr Operand log{{"LOG.jsonl", Kind::File}};
+constexpr Operand logs{{"LOG.jsonl", Kind::File}, Operand::Several};
+constexpr Operand state{{"STATE.json", Kind::File}};
+constexpr Operand list{{"LIST.json", Kind::File}};
+constexpr Operand a{{"A.json", Kind::File}};
+constexpr Operand b{{"B.json", Kind::File}};
+constexpr Operand path{{"GROUP/KEY", Kind::SettingPath}};
+constexpr Operand paths{{"GROUP/KEY", Kind::SettingPath}, Operand::Several};
+constexpr Operand assignments{{"GROUP/KEY=VALUE", Kind::Assignment}, Operand::Several};
+constexpr Operand model{{"MODEL", Kind::Model}};
+constexpr Operand deviceAssignments{{"KEY=VALUE", Kind::DeviceAssignment}, Operand::AnyNumber};
+constexpr Operand device{{"INDEX", Kind::DeviceIndex}};
+constexpr Operand filter{{"NAME", Kind::FilterName}, Operand::Optional};
+constexpr Operand words{{"WORD", Kind::Text}, Operand::Several};
+constexpr Operand manual{{"TEMPLATE", Kind::File}};
 
 } // namespace operands
 

@@ -109,29 +109,29 @@ QStringList assignmentsTo(const QStringList& paths, const QString& current)
 
 // What may stand for a value.
 // @param operands those before it
-QStringList candidatesFor(Value::Kind kind, const QStringList& operands = {},
-                          const QString& current = {})
+QStringList candidatesFor(Kind kind, const QStringList& operands = {}, const QString& current = {})
 {
     const QString fileName = operands.value(0);
     switch (kind) {
-    case Value::File:
+    case Kind::File:
         return {fileMark};
-    case Value::SettingPath:
+    case Kind::SettingPath:
         return settingPaths(fileName);
-    case Value::Assignment:
+    case Kind::Assignment:
         return assignmentsTo(settingPaths(fileName), current);
-    case Value::DeviceAssignment:
+    case Kind::DeviceAssignment:
         return assignmentsTo(deviceKeys(), current);
-    case Value::Model:
+    case Kind::Model:
         return modelNames();
-    case Value::DeviceIndex:
+    case Kind::DeviceIndex:
         return devicesOf(fileName);
-    case Value::Language:
+    case Kind::Language:
         return translationLanguages();
-    case Value::FilterName:
+    case Kind::FilterName:
         return FilterFactory::getFilters();
-    case Value::Number:
-    case Value::Text:
+    case Kind::Number:
+    case Kind::Text:
+    case Kind::None:
         break;
     }
     return {};

@@ -153,17 +153,11 @@ public:
     }
 
     // Returns the exit code.
-    int explainAll()
+    int answer()
     {
         int exitCode = exitSuccess;
         for (const QString& log : m_logs)
-            exitCode = qMax(exitCode, explain(log));
-        return exitCode;
-    }
-
-    // Tells what all logs come to.
-    void finish()
-    {
+            exitCode = qMax(exitCode, answer(log));
         if (!m_isAnswered && !m_question.isAboutAll())
             throw Fault{
                 Velmo::tr("the logs have nothing of the session or device that is asked for")};
@@ -172,6 +166,7 @@ public:
         else
             print(m_json ? QString::fromUtf8(jsonOf(m_summary)) + QLatin1Char('\n')
                          : summaryText(m_summary));
+        return exitCode;
     }
 
     bool anyRefused() const { return m_summary.of(Outcome::Refused).count > 0; }
@@ -180,7 +175,7 @@ private:
     bool isText() const { return !m_json && !m_page; }
     bool listsText() const { return isText() && !m_question.summaryOnly; }
 
-    int explain(const QString& log)
+    int answer(const QString& log)
     {
         std::optional<TextInput> file;
         try {
@@ -259,8 +254,7 @@ private:
 int explainCommand(const Arguments& arguments)
 {
     Explaining explaining(arguments);
-    const int exitCode = explaining.explainAll();
-    explaining.finish();
+    const int exitCode = explaining.answer();
     if (exitCode == exitSuccess && explaining.anyRefused() && arguments.isSet(options::exitCode))
         return exitFindings;
     return exitCode;
