@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QLoggingCategory>
 
+#include <algorithm>
 #include <climits>
 #include <cstring>
 #include <netinet/in.h>
@@ -170,9 +171,8 @@ void BrokerConnection::takeConnect(int reason)
     m_pause = std::chrono::seconds(0);
     m_unanswered = 1; // this one
     // A broker that kept the session has the subscriptions; to repeat them brings what is retained.
-    const auto subscriptions = std::exchange(m_subscriptions, {});
-    for (const Subscription& subscription : subscriptions)
-        subscribe(subscription);
+    for (const Subscription& subscription : m_subscriptions)
+        request(subscription);
     takeAnswer();
 }
 
@@ -217,8 +217,12 @@ void BrokerConnection::subscribeToOthers(const QString& filter)
 void BrokerConnection::subscribe(const Subscription& subscription)
 {
     m_subscriptions.push_back(subscription);
-    if (!m_isConnected)
-        return;
+    if (m_isConnected)
+        request(subscription);
+}
+
+void BrokerConnection::request(const Subscription& subscription)
+{
     ++m_unanswered;
     int message = 0;
     require(Mosquitto::library().subscribe_v5(m_client, &message,
@@ -245,6 +249,9 @@ void BrokerConnection::unsubscribe(const QString& filter)
 void BrokerConnection::watchDropped()
 {
     subscribe(QLatin1String(droppedTopic), 0);
+    // The first to be asked for: behind what others bring, its messages might be dropped
+    // themselves.
+    std::rotate(m_subscriptions.begin(), m_subscriptions.end() - 1, m_subscriptions.end());
 }
 
 void BrokerConnection::takeDropped(const QByteArray& count)

@@ -44,9 +44,8 @@ public:
     void subscribeToOthers(const QString& filter);
     void unsubscribe(const QString& filter);
 
-    /// Listens to what mosquitto tells, every ten seconds, of the messages for its clients that it
-    /// had no room for, and warns when they grow. Brokers that tell nothing are taken as they are.
-    /// Called before what is to be watched is subscribed to: what tells of it may be dropped too.
+    /// Counts the messages that the broker has no room for, of all its clients, and warns when they
+    /// grow in number. Mosquitto tells it every ten seconds; of other brokers it is not known.
     void watchDropped();
 
     /// Publishes with QoS 1, retained; kept and repeated until the broker has it.
@@ -97,6 +96,7 @@ private:
 
     void connect();
     void subscribe(const Subscription& subscription);
+    void request(const Subscription& subscription);
     void lose(const QString& why);
     void takeConnect(int reason);
     void takeAnswer();

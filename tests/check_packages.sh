@@ -40,8 +40,11 @@ hardening-check --nocfprotection --nofortify "$root"/usr/lib/*/libvelmolib*.so.5
 for library in "$root"/usr/lib/*/libvelmolib*.so.5.*; do
     grep -qazx src/acceptors.cpp "$library" || fail "log lines do not name their file as in the tree"
 done
-LD_LIBRARY_PATH=$(echo "$root"/usr/lib/*-linux-gnu) "$root"/usr/bin/velmo-fleet --version
-zgrep -q retire "$root"/usr/share/man/man1/velmo-fleet.1.gz
+help=$(LD_LIBRARY_PATH=$(echo "$root"/usr/lib/*-linux-gnu) LC_ALL=C.UTF-8 \
+    "$root"/usr/bin/velmo-fleet --lang ru --help)
+[[ $help == *терминал* ]] || fail "velmo-fleet does not find its texts"
+manual=$(sed -n 's/^Documentation=man:\(.*\)(1)$/\1/p' "$root"/usr/lib/systemd/system/velmo-fleet.service)
+zgrep -q retire "$root/usr/share/man/man1/$manual.1.gz"
 systemd-analyze security --offline=true --threshold=20 --root="$root" velmo-fleet.service > /dev/null
 for qt_major in 5 6; do
     "$(dirname "$0")/installed.sh" "$1" "$root/usr" $qt_major

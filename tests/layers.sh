@@ -91,13 +91,17 @@ echo '#include "options.h"' >> diagnosis/text/fault.h
 echo '#include "settings/arrayfile.h"' >> diagnosis/log/replay.cpp
 echo '#include "log/sessionline.h"' >> diagnosis/settings/settingslist.h
 echo '#include "recordfields_p.h"' >> json/jsonreader.h
+echo '#include "command.h"' >> tools/terminal/output.h
+echo '#include "velmo/options.h"' >> tools/velmo-fleet/main.cpp
 expected='diagnosis/log/replay.cpp "arrayfile.h"
 diagnosis/settings/settingslist.h "sessionline.h"
 diagnosis/text/fault.h "options.h"
 json/jsonreader.h "recordfields_p.h"
 platform/palx/appversion.h "statitem.h"
 src/filters/filterchain.cpp "fault.h"
-src/noteitem.cpp "devicestateworker.h"'
+src/noteitem.cpp "devicestateworker.h"
+tools/terminal/output.h "command.h"
+tools/velmo-fleet/main.cpp "options.h"'
 noticed=$(faults | sed 's/:[0-9]*: includes \("[^"]*"\).*/ \1/' | sort)
 if [ "$noticed" != "$expected" ]; then
     printf 'layers.sh: of the planted includes it notices only\n%s\n' "$noticed" >&2

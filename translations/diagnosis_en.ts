@@ -67,13 +67,6 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>the broker did not take %n summaries; their states are kept for the next start</source>
-        <translation>
-            <numerusform>the broker did not take %n summary; its state is kept for the next start</numerusform>
-            <numerusform>the broker did not take %n summaries; their states are kept for the next start</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>The broker had no room for %n messages and dropped them. With mosquitto, max_queued_messages sets the room.</source>
         <translation>
             <numerusform>The broker had no room for %n message and dropped it. With mosquitto, max_queued_messages sets the room.</numerusform>

@@ -974,44 +974,12 @@
         <translation>ожидается сводка терминала</translation>
     </message>
     <message>
-        <source>--%1: expected a number</source>
-        <translation>--%1: ожидается число</translation>
-    </message>
-    <message>
-        <source>unknown argument &quot;%1&quot;</source>
-        <translation>неизвестный аргумент «%1»</translation>
-    </message>
-    <message>
-        <source>metrics at &quot;%1&quot;: %2</source>
-        <translation>метрики по адресу «%1»: %2</translation>
-    </message>
-    <message>
         <source>topic &quot;%1&quot;: expected one level that is + or %2</source>
         <translation>тема «%1»: ожидается один уровень + или %2</translation>
     </message>
     <message>
         <source>expected UTF-8</source>
         <translation>ожидается UTF-8</translation>
-    </message>
-    <message>
-        <source>The kiosk has been silent for more than %1 s.</source>
-        <translation>Терминал молчит больше %1 с.</translation>
-    </message>
-    <message numerus="yes">
-        <source>the broker did not take %n summaries; their states are kept for the next start</source>
-        <translation>
-            <numerusform>брокер не принял %n сводку; её состояние сохранено до следующего запуска</numerusform>
-            <numerusform>брокер не принял %n сводки; их состояния сохранены до следующего запуска</numerusform>
-            <numerusform>брокер не принял %n сводок; их состояния сохранены до следующего запуска</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>the topic is of no kiosk</source>
-        <translation>тема не относится ни к одному терминалу</translation>
-    </message>
-    <message>
-        <source>The kiosk is offline.</source>
-        <translation>Терминал не на связи.</translation>
     </message>
     <message>
         <source>The device does not work; its state: %1.</source>
@@ -1025,70 +993,6 @@
         <source>%1; next attempt in %2 s.</source>
         <translation>%1; следующая попытка через %2 с.</translation>
     </message>
-    <message>
-        <source>The broker: HOST or HOST:PORT.</source>
-        <translation>Брокер: HOST или HOST:PORT.</translation>
-    </message>
-    <message>
-        <source>Where kiosks publish their states.</source>
-        <translation>Где терминалы публикуют свои состояния.</translation>
-    </message>
-    <message>
-        <source>Where their summaries are published.</source>
-        <translation>Где публикуются сводки о них.</translation>
-    </message>
-    <message>
-        <source>Where a message, its will, says that a kiosk is gone.</source>
-        <translation>Где сообщение-завещание говорит, что терминал пропал.</translation>
-    </message>
-    <message>
-        <source>The workers that share the states.</source>
-        <translation>Обработчики, которые делят между собой состояния.</translation>
-    </message>
-    <message>
-        <source>What its session at the broker goes by; each worker has its own, the same at each start.</source>
-        <translation>Имя сеанса у брокера; у каждого обработчика своё, одно и то же при каждом запуске.</translation>
-    </message>
-    <message>
-        <source>How long the broker keeps states for it while it is away.</source>
-        <translation>Как долго брокер хранит для него состояния, пока его нет.</translation>
-    </message>
-    <message>
-        <source>After how long a kiosk is told of as silent; 0 for never.</source>
-        <translation>Через сколько терминал считается молчащим; 0 — никогда.</translation>
-    </message>
-    <message>
-        <source>Where Prometheus fetches the metrics.</source>
-        <translation>Где Prometheus забирает показатели.</translation>
-    </message>
-    <message>
-        <source>A file with USER:PASSWORD.</source>
-        <translation>Файл с USER:PASSWORD.</translation>
-    </message>
-    <message>
-        <source>Connect by TLS and trust these certificates.</source>
-        <translation>Соединяться по TLS и доверять этим сертификатам.</translation>
-    </message>
-    <message>
-        <source>The client&apos;s own certificate.</source>
-        <translation>Собственный сертификат клиента.</translation>
-    </message>
-    <message>
-        <source>Its key.</source>
-        <translation>Его ключ.</translation>
-    </message>
-    <message>
-        <source>The language of the summaries, as &quot;ru&quot;, in place of the system&apos;s.</source>
-        <translation>Язык сводок, например «ru», вместо системного.</translation>
-    </message>
-    <message>
-        <source>Take what waits for the session, then end it: for a worker that is not to come back.</source>
-        <translation>Взять то, что ждёт в сеансе, и завершить его: для обработчика, который больше не вернётся.</translation>
-    </message>
-    <message>
-        <source>Makes summaries of what kiosks publish at an MQTT broker.</source>
-        <translation>Составляет сводки о том, что терминалы публикуют у брокера MQTT.</translation>
-    </message>
     <message numerus="yes">
         <source>The broker had no room for %n messages and dropped them. With mosquitto, max_queued_messages sets the room.</source>
         <translation>
@@ -1100,18 +1004,6 @@
     <message>
         <source>It is not known whether the device works; its state: %1.</source>
         <translation>Неизвестно, работает ли устройство; его состояние: %1.</translation>
-    </message>
-    <message>
-        <source>--name and --group: expected a name without /, + and #</source>
-        <translation>--name и --group: ожидается имя без /, + и #</translation>
-    </message>
-    <message>
-        <source>--%1: expected a value</source>
-        <translation>--%1: ожидается значение</translation>
-    </message>
-    <message>
-        <source>its time is in the future</source>
-        <translation>его время в будущем</translation>
     </message>
     <message>
         <source>expected an ISO 8601 time or milliseconds since 1970, in a year from 1 to 9999</source>

@@ -24,5 +24,12 @@
             <numerusform>%n kiosks: %1</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>the broker did not take %n summaries; their states are kept for the next start</source>
+        <translation>
+            <numerusform>the broker did not take %n summary; its state is kept for the next start</numerusform>
+            <numerusform>the broker did not take %n summaries; their states are kept for the next start</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

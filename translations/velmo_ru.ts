@@ -624,10 +624,6 @@
         <translation>Таблица составлена раньше.</translation>
     </message>
     <message>
-        <source>--%1: expected a number from 1 to 3600</source>
-        <translation>--%1: ожидается число от 1 до 3600</translation>
-    </message>
-    <message>
         <source>the broker does not answer</source>
         <translation>брокер не отвечает</translation>
     </message>
@@ -722,6 +718,90 @@
     <message>
         <source>Skip bad lines and what cannot be read of a log; the exit code is still 2.</source>
         <translation>Пропускать негодные строки и то, чего в журнале не прочесть; код завершения всё равно 2.</translation>
+    </message>
+    <message>
+        <source>%1: expected a number from %2 to %3</source>
+        <translation>%1: ожидается число от %2 до %3</translation>
+    </message>
+    <message>
+        <source>Where kiosks publish their states.</source>
+        <translation>Где терминалы публикуют свои состояния.</translation>
+    </message>
+    <message>
+        <source>Where their summaries are published.</source>
+        <translation>Где публикуются сводки о них.</translation>
+    </message>
+    <message>
+        <source>Where a message, its will, says that a kiosk is gone.</source>
+        <translation>Где сообщение-завещание говорит, что терминал пропал.</translation>
+    </message>
+    <message>
+        <source>The workers that share the states.</source>
+        <translation>Обработчики, которые делят между собой состояния.</translation>
+    </message>
+    <message>
+        <source>What its session at the broker goes by; each worker has its own, the same at each start.</source>
+        <translation>Имя сеанса у брокера; у каждого обработчика своё, одно и то же при каждом запуске.</translation>
+    </message>
+    <message>
+        <source>How long the broker keeps states for it while it is away.</source>
+        <translation>Как долго брокер хранит для него состояния, пока его нет.</translation>
+    </message>
+    <message>
+        <source>After how long a kiosk is told of as silent; 0 for never.</source>
+        <translation>Через сколько терминал считается молчащим; 0 — никогда.</translation>
+    </message>
+    <message>
+        <source>Where Prometheus fetches the metrics.</source>
+        <translation>Где Prometheus забирает показатели.</translation>
+    </message>
+    <message>
+        <source>The language of the summaries, as &quot;ru&quot;, in place of the system&apos;s.</source>
+        <translation>Язык сводок, например «ru», вместо системного.</translation>
+    </message>
+    <message>
+        <source>Take what waits for the session, then end it: for a worker that is not to come back.</source>
+        <translation>Взять то, что ждёт в сеансе, и завершить его: для обработчика, который больше не вернётся.</translation>
+    </message>
+    <message>
+        <source>--name and --group: expected a name without /, + and #</source>
+        <translation>--name и --group: ожидается имя без /, + и #</translation>
+    </message>
+    <message>
+        <source>Makes summaries of what kiosks publish at an MQTT broker.</source>
+        <translation>Составляет сводки о том, что терминалы публикуют у брокера MQTT.</translation>
+    </message>
+    <message>
+        <source>unknown argument &quot;%1&quot;</source>
+        <translation>неизвестный аргумент «%1»</translation>
+    </message>
+    <message>
+        <source>metrics at &quot;%1&quot;: %2</source>
+        <translation>метрики по адресу «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The kiosk has been silent for more than %1 s.</source>
+        <translation>Терминал молчит больше %1 с.</translation>
+    </message>
+    <message numerus="yes">
+        <source>the broker did not take %n summaries; their states are kept for the next start</source>
+        <translation>
+            <numerusform>брокер не принял %n сводку; её состояние сохранено до следующего запуска</numerusform>
+            <numerusform>брокер не принял %n сводки; их состояния сохранены до следующего запуска</numerusform>
+            <numerusform>брокер не принял %n сводок; их состояния сохранены до следующего запуска</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The kiosk is offline.</source>
+        <translation>Терминал не на связи.</translation>
+    </message>
+    <message>
+        <source>the topic is of no kiosk</source>
+        <translation>тема не относится ни к одному терминалу</translation>
+    </message>
+    <message>
+        <source>its time is in the future</source>
+        <translation>его время в будущем</translation>
     </message>
 </context>
 </TS>

@@ -1,140 +1,107 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
-#include "text/diagnosis.h"
+#include "terminal/option.h"
+#include "terminal/output.h"
 #include "text/fault.h"
-#include "text/translations.h"
 #include "worker.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QLoggingCategory>
 #include <QRegularExpression>
 #include <QSysInfo>
 
 #include <csignal>
-#include <cstdio>
 
 namespace {
 
 std::atomic<bool> stopAsked{false};
 
-constexpr char languageName[] = "lang";
+constexpr Value seconds("SECONDS", Kind::Number, 0, std::numeric_limits<quint32>::max());
 
-QCommandLineOption option(const char* name, const QString& help, const char* value = nullptr,
-                          const QString& usual = {})
-{
-    return {QLatin1String(name), help, QLatin1String(value), usual};
-}
+constexpr Option states{"states", nullptr, Value("TOPIC", Kind::Text),
+                        QT_TRANSLATE_NOOP("Velmo", "Where kiosks publish their states."),
+                        "kiosks/+/state"};
+constexpr Option summaries{"summaries", nullptr, Value("TOPIC", Kind::Text),
+                           QT_TRANSLATE_NOOP("Velmo", "Where their summaries are published."),
+                           usualSummaries};
+constexpr Option wills{
+    "wills", nullptr, Value("TOPIC", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo", "Where a message, its will, says that a kiosk is gone."),
+    "kiosks/+/will"};
+constexpr Option group{"group", nullptr, Value("NAME", Kind::Text),
+                       QT_TRANSLATE_NOOP("Velmo", "The workers that share the states."), "velmo"};
+constexpr Option sessionName{
+    "name", nullptr, Value("NAME", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "What its session at the broker goes by; each worker has its own, the same "
+                      "at each start.")};
+constexpr Option expire{
+    "expire", nullptr, seconds,
+    QT_TRANSLATE_NOOP("Velmo", "How long the broker keeps states for it while it is away."),
+    "86400"};
+constexpr Option silent{
+    "silent", nullptr, seconds,
+    QT_TRANSLATE_NOOP("Velmo", "After how long a kiosk is told of as silent; 0 for never."), "120"};
+constexpr Option metricsAddress{
+    "metrics", nullptr, Value("ADDRESS", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo", "Where Prometheus fetches the metrics.")};
+constexpr Option language{
+    "lang", nullptr, Value("LANG", Kind::Language),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "The language of the summaries, as \"ru\", in place of the system's.")};
+constexpr Option retire{
+    "retire", nullptr, Value(),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "Take what waits for the session, then end it: for a worker that is not to "
+                      "come back.")};
 
-// Their words are in the language that is shown when they are made.
-struct Options
-{
-    QCommandLineOption broker = option("broker", Diagnosis::tr("The broker: HOST or HOST:PORT."),
-                                       "ADDRESS", QStringLiteral("localhost:1883"));
-    QCommandLineOption states =
-        option("states", Diagnosis::tr("Where kiosks publish their states."), "TOPIC",
-               QStringLiteral("kiosks/+/state"));
-    QCommandLineOption summaries =
-        option("summaries", Diagnosis::tr("Where their summaries are published."), "TOPIC",
-               QLatin1String(usualSummaries));
-    QCommandLineOption wills =
-        option("wills", Diagnosis::tr("Where a message, its will, says that a kiosk is gone."),
-               "TOPIC", QStringLiteral("kiosks/+/will"));
-    QCommandLineOption group = option("group", Diagnosis::tr("The workers that share the states."),
-                                      "NAME", QStringLiteral("velmo"));
-    QCommandLineOption name = option("name",
-                                     Diagnosis::tr("What its session at the broker goes by; each "
-                                                   "worker has its own, the same at each start."),
-                                     "NAME", QSysInfo::machineHostName());
-    QCommandLineOption expire =
-        option("expire", Diagnosis::tr("How long the broker keeps states for it while it is away."),
-               "SECONDS", QStringLiteral("86400"));
-    QCommandLineOption silent =
-        option("silent", Diagnosis::tr("After how long a kiosk is told of as silent; 0 for never."),
-               "SECONDS", QStringLiteral("120"));
-    QCommandLineOption metrics =
-        option("metrics", Diagnosis::tr("Where Prometheus fetches the metrics."), "ADDRESS");
-    QCommandLineOption password =
-        option("password-file", Diagnosis::tr("A file with USER:PASSWORD."), "FILE");
-    QCommandLineOption ca =
-        option("tls-ca", Diagnosis::tr("Connect by TLS and trust these certificates."), "PEM");
-    QCommandLineOption certificate =
-        option("tls-cert", Diagnosis::tr("The client's own certificate."), "PEM");
-    QCommandLineOption key = option("tls-key", Diagnosis::tr("Its key."), "PEM");
-    QCommandLineOption language =
-        option(languageName,
-               Diagnosis::tr("The language of the summaries, as \"ru\", in place of the system's."),
-               "LANG");
-    QCommandLineOption retire = option("retire",
-                                       Diagnosis::tr("Take what waits for the session, then end "
-                                                     "it: for a worker that is not to come back."));
-};
+// In the order of the help.
+const Option* const every[] = {
+    &options::broker, &states,           &summaries,       &wills,          &group,
+    &sessionName,     &expire,           &silent,          &metricsAddress, &options::passwordFile,
+    &options::tlsCa,  &options::tlsCert, &options::tlsKey, &language,       &retire};
 
-quint32 numberOf(const QCommandLineParser& parser, const QCommandLineOption& option)
+WorkerOptions workerOptions(const GivenOptions& given)
 {
-    bool isNumber = false;
-    const quint32 number = parser.value(option).toUInt(&isNumber);
-    if (!isNumber)
-        throw Fault{Diagnosis::tr("--%1: expected a number").arg(option.names().constFirst())};
-    return number;
-}
-
-WorkerOptions workerOptions(const QCommandLineParser& parser, const Options& options)
-{
-    WorkerOptions worker{{},
-                         parser.value(options.name),
-                         parser.value(options.group),
-                         numberOf(parser, options.expire),
-                         KioskTopic(parser.value(options.states)),
-                         KioskTopic(parser.value(options.summaries)),
-                         KioskTopic(parser.value(options.wills)),
-                         std::chrono::seconds(numberOf(parser, options.silent)),
-                         parser.isSet(options.retire)};
-    worker.broker.take(parser.value(options.broker), parser.value(options.password),
-                       parser.value(options.ca), parser.value(options.certificate),
-                       parser.value(options.key));
+    const WorkerOptions worker{given.broker(),
+                               given.isSet(sessionName) ? given.value(sessionName)
+                                                        : QSysInfo::machineHostName(),
+                               given.value(group),
+                               quint32(given.number(expire)),
+                               KioskTopic(given.value(states)),
+                               KioskTopic(given.value(summaries)),
+                               KioskTopic(given.value(wills)),
+                               std::chrono::seconds(given.number(silent)),
+                               given.isSet(retire)};
     static const QRegularExpression separators(QStringLiteral("[/+#]"));
     if (worker.name.isEmpty() || worker.group.isEmpty() || worker.group.contains(separators))
-        throw Fault{Diagnosis::tr("--name and --group: expected a name without /, + and #")};
+        throw Fault{Velmo::tr("--name and --group: expected a name without /, + and #")};
     return worker;
-}
-
-// Before the options are made, which are in that language.
-void loadLanguage()
-{
-    QCommandLineParser parser;
-    parser.addOption(option(languageName, {}, "LANG"));
-    parser.parse(QCoreApplication::arguments());
-    loadTranslations(QCoreApplication::applicationDirPath() + QStringLiteral("/../" TRANSLATIONS),
-                     {}, parser.value(QLatin1String(languageName)));
 }
 
 void run()
 {
-    loadLanguage();
-    const Options options;
+    QCommandLineParser early; // the options are made in the language that is shown
+    early.addOption(language.forParser());
+    early.parse(QCoreApplication::arguments());
+    loadLanguage(GivenOptions(early).value(language));
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        Diagnosis::tr("Makes summaries of what kiosks publish at an MQTT broker."));
+        Velmo::tr("Makes summaries of what kiosks publish at an MQTT broker."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QList<QCommandLineOption> every{
-        options.broker, options.states,      options.summaries, options.wills,    options.group,
-        options.name,   options.expire,      options.silent,    options.metrics,  options.password,
-        options.ca,     options.certificate, options.key,       options.language, options.retire};
-    parser.addOptions(every);
+    for (const Option* const option : every)
+        parser.addOption(option->forParser());
     parser.process(QCoreApplication::arguments());
-    for (const QCommandLineOption& given : every) {
-        // As where a script's variable is not set: it means nothing, least of all the default.
-        if (parser.isSet(given) && !given.valueName().isEmpty() && parser.value(given).isEmpty())
-            throw Fault{Diagnosis::tr("--%1: expected a value").arg(given.names().constFirst())};
-    }
+    const GivenOptions given(parser);
+    for (const Option* const option : every)
+        given.requireValue(*option);
     if (!parser.positionalArguments().isEmpty())
-        throw Fault{Diagnosis::tr("unknown argument \"%1\"")
-                        .arg(parser.positionalArguments().constFirst())};
-    Metrics metrics(parser.value(options.metrics));
-    Worker worker(workerOptions(parser, options), metrics);
+        throw Fault{
+            Velmo::tr("unknown argument \"%1\"").arg(parser.positionalArguments().constFirst())};
+    Metrics metrics(given.value(metricsAddress));
+    Worker worker(workerOptions(given), metrics);
     worker.run(stopAsked);
 }
 
@@ -143,6 +110,7 @@ void run()
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("velmo-fleet"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VERSION));
     qSetMessagePattern(QStringLiteral("velmo-fleet: %{message}"));
     const auto stop = [](int) { stopAsked = true; };
@@ -150,9 +118,9 @@ int main(int argc, char* argv[])
     std::signal(SIGINT, stop);
     try {
         run();
-        return 0;
+        return exitSuccess;
     } catch (const Fault& fault) {
-        fprintf(stderr, "velmo-fleet: %s\n", qPrintable(fault.message));
-        return 2;
+        printError(fault.message);
+        return exitBadInput;
     }
 }

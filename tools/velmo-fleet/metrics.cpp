@@ -3,7 +3,7 @@
 
 #include "metrics.h"
 
-#include "text/diagnosis.h"
+#include "terminal/velmo.h"
 #include "text/fault.h"
 
 #include <prometheus/exposer.h>
@@ -53,8 +53,8 @@ Metrics::Metrics(const QString& address)
         m_exposer = std::make_unique<prometheus::Exposer>(address.toStdString(), 1);
         m_exposer->RegisterCollectable(m_registry);
     } catch (const std::exception& error) {
-        throw Fault{Diagnosis::tr("metrics at \"%1\": %2")
-                        .arg(address, QString::fromLocal8Bit(error.what()))};
+        throw Fault{
+            Velmo::tr("metrics at \"%1\": %2").arg(address, QString::fromLocal8Bit(error.what()))};
     }
 }
 

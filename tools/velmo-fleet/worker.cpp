@@ -3,7 +3,7 @@
 
 #include "worker.h"
 
-#include "text/diagnosis.h"
+#include "terminal/velmo.h"
 #include "text/fault.h"
 #include "text/textinput.h"
 
@@ -63,7 +63,7 @@ void Worker::run(const std::atomic<bool>& isStopped)
         if (m_options.silence.count() > 0 && Kiosks::Clock::now() > nextLook) {
             for (const QString& kiosk : m_kiosks.silentFor(m_options.silence)) {
                 tellSilent(kiosk,
-                           Diagnosis::tr("The kiosk has been silent for more than %1 s.")
+                           Velmo::tr("The kiosk has been silent for more than %1 s.")
                                .arg(m_options.silence.count()));
             }
             nextLook = Kiosks::Clock::now() + seconds(1);
@@ -82,9 +82,9 @@ void Worker::finishSummaries(const std::atomic<bool>& isStopped)
     m_summaries.write();
     while (m_summaries.unacknowledged() > 0) {
         if (isStopped && Kiosks::Clock::now() > latest) {
-            throw Fault{Diagnosis::tr("the broker did not take %n summaries; their states are kept "
-                                      "for the next start",
-                                      nullptr, m_summaries.unacknowledged())};
+            throw Fault{Velmo::tr("the broker did not take %n summaries; their states are kept "
+                                  "for the next start",
+                                  nullptr, m_summaries.unacknowledged())};
         }
         BrokerConnection::wait({&m_summaries}, milliseconds(200));
         m_summaries.read(batch);
@@ -114,18 +114,18 @@ void Worker::takeState(const QString& topic, const QByteArray& text)
     const QString gone = m_options.wills.kioskOf(topic);
     if (!gone.isEmpty()) {
         if (!text.isEmpty()) // which ends a retained one
-            tellSilent(gone, Diagnosis::tr("The kiosk is offline."));
+            tellSilent(gone, Velmo::tr("The kiosk is offline."));
         return;
     }
     const QString kiosk = m_options.states.kioskOf(topic);
     try {
         if (kiosk.isEmpty())
-            throw Fault{Diagnosis::tr("the topic is of no kiosk")};
+            throw Fault{Velmo::tr("the topic is of no kiosk")};
         const KioskSummary summary(kiosk, readServiceState(decoded(text)), m_writer);
         m_metrics.states.Increment();
         if (summary.time != KioskSummary::noTime && !tellsOrder(summary))
             qCWarning(fleetLog, "%s: %s", qUtf8Printable(topic),
-                      qUtf8Printable(Diagnosis::tr("its time is in the future")));
+                      qUtf8Printable(Velmo::tr("its time is in the future")));
         if (m_kiosks.take(kiosk, summary))
             publish(kiosk, summary);
         else

@@ -6,8 +6,8 @@
 #include "acceptors.h"
 #include "filterfactory.h"
 #include "options.h"
-#include "output.h"
-#include "table.h"
+#include "terminal/output.h"
+#include "terminal/table.h"
 #include "text/devicename.h"
 #include "text/filterwords.h"
 

@@ -3,63 +3,64 @@
 
 #pragma once
 
+#include "terminal/option.h"
+#include "terminal/output.h"
 #include "text/fault.h"
-#include "words.h"
 
 #include <QByteArrayList>
 #include <QStringList>
 
 #include <vector>
 
-class QCommandLineParser;
-
-constexpr int exitSuccess = 0;
-constexpr int exitFindings = 1; ///< of a check that read everything and found something
-constexpr int exitBadInput = 2;
-
-/// An option of the command line. Its help is a source text of Velmo::tr().
-struct Option
+/// What a command takes besides options.
+struct Operand
 {
-    const char* name; ///< without dashes
-    const char* letter; ///< its short form; null without one
-    const char* value; ///< what stands for its value in help; null for a switch
-    const char* help;
+    enum Count {
+        One,
+        Optional,
+        Several, ///< one or more
+        AnyNumber,
+    };
 
-    QString dashedName() const { return QStringLiteral("--") + QLatin1String(name); }
+    Value value;
+    Count count = One;
 
-    QString withValue() const; ///< "--output OUT"
-    QString usage() const; ///< "-o, --output OUT"
+    bool isNeeded() const { return count == One || count == Several; }
+    bool isRepeated() const { return count == Several || count == AnyNumber; }
+
+    QString usage() const; ///< "LOG.jsonl..."
 };
 
 class Arguments;
 
-/// A command or an action of one. Parsing, help, usage faults and completion all take it from here.
+/// A command or an action of one. Parsing, help, usage faults, completion and the manual page all
+/// take it from here.
 struct Command
 {
     const char* name; ///< "report", or "settings show" for an action
-    const char* operands; ///< as in the usage; options that it names are needed
-    int leastOperands;
-    int mostOperands;
+    Operand operands[3]; ///< in their order, only the last one repeated; nameless after the last
     const char* summary; ///< one sentence, a source text of Velmo::tr(); null hides the command
     const char* details; ///< further ones for its own help, the same; null without
-    const Option* options[12]; ///< besides --help and --lang; null after the last
+    const Option* options[9]; ///< besides those below, --help and --lang; null after the last
     int (*run)(const Arguments& arguments);
+    const Option* eitherOf[2] = {}; ///< options of which there must be one; null without
 
     /// "velmo settings get LIST.json GROUP/KEY"
     QString usage() const;
+
+    /// The operand that stands at an index of the command line; null where none may.
+    const Operand* operandAt(int index) const;
 
     QStringList words() const { return QString(QLatin1String(name)).split(QLatin1Char(' ')); }
 };
 
 /// What a command was called with.
-class Arguments
+class Arguments : public GivenOptions
 {
 public:
     Arguments(const Command& command, const QCommandLineParser& parser,
               const QStringList& operands);
 
-    bool isSet(const Option& option) const;
-    QString value(const Option& option) const;
     const QStringList& operands() const { return m_operands; }
 
     /// For operands and options that do not go together: names the command's usage.
@@ -67,7 +68,6 @@ public:
 
 private:
     const Command& m_command;
-    const QCommandLineParser& m_parser;
     const QStringList m_operands;
 };
 
@@ -82,9 +82,6 @@ std::vector<const Option*> optionsOf(const Command& command);
 
 /// The options of all commands together.
 const std::vector<const Option*>& everyOption();
-
-/// The languages that there are translations for.
-QStringList translationLanguages();
 
 /// Runs the command that the arguments name. Throws Fault for bad ones.
 /// @param arguments the program's name, then the rest of the command line

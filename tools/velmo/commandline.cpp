@@ -3,30 +3,17 @@
 
 #include "command.h"
 #include "options.h"
-#include "output.h"
-#include "table.h"
+#include "terminal/output.h"
+#include "terminal/table.h"
 #include "text/nearest.h"
-#include "text/translations.h"
 
 #include <palx/appversionmanager.h>
-
-#include <QCommandLineParser>
-#include <QDir>
-#include <QLocale>
 
 #include <algorithm>
 #include <iterator>
 #include <memory>
 
 namespace {
-
-QCommandLineOption parserOption(const Option& option)
-{
-    QStringList names{QLatin1String(option.name)};
-    if (option.letter)
-        names.prepend(QLatin1String(option.letter));
-    return {names, QString(), QLatin1String(option.value)};
-}
 
 // A table of options as their help shows it.
 QString optionsHelp(const std::vector<const Option*>& shown)
@@ -115,10 +102,17 @@ Fault unknownOption(const QString& name, const std::vector<const Option*>& known
     return {Velmo::tr("unknown option %1").arg(dashed) + nearestKnown(dashed, names)};
 }
 
-// The same place in the build folder and where the tool is installed.
-QString translationsFolder()
+// Whether it has the operands and options that the command needs.
+bool fits(const Command& command, const Arguments& arguments)
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/../" TRANSLATIONS);
+    const auto [either, other] = command.eitherOf;
+    if (either && arguments.isSet(*either) == arguments.isSet(*other))
+        return false;
+    const int count = int(arguments.operands().size());
+    const auto needed = std::count_if(
+        std::begin(command.operands), std::end(command.operands),
+        [](const Operand& operand) { return operand.value.name && operand.isNeeded(); });
+    return count >= needed && (count == 0 || command.operandAt(count - 1));
 }
 
 int printVersion()
@@ -143,33 +137,45 @@ const Command* findCommand(const QStringList& words)
 
 std::vector<const Option*> optionsOf(const Command& command)
 {
-    std::vector<const Option*> all(
-        std::begin(command.options),
-        std::find(std::begin(command.options), std::end(command.options), nullptr));
+    std::vector<const Option*> all(std::begin(command.eitherOf), std::end(command.eitherOf));
+    all.insert(all.end(), std::begin(command.options), std::end(command.options));
+    all.erase(std::remove(all.begin(), all.end(), nullptr), all.end());
     all.insert(all.end(), {&options::help, &options::language});
     return all;
 }
 
-QString Option::usage() const
+QString Operand::usage() const
 {
-    return (letter ? QStringLiteral("-%1, ").arg(QLatin1String(letter)) : QString()) + withValue();
-}
-
-QString Option::withValue() const
-{
-    return dashedName() + (value ? QLatin1Char(' ') + QLatin1String(value) : QString());
+    const QString text = QLatin1String(value.name) + QLatin1String(isRepeated() ? "..." : "");
+    return isNeeded() ? text : QStringLiteral("[%1]").arg(text);
 }
 
 QString Command::usage() const
 {
     QStringList parts{QStringLiteral("velmo"), QLatin1String(name)};
-    if (*operands)
-        parts += QLatin1String(operands);
+    for (const Operand& operand : operands) {
+        if (operand.value.name)
+            parts += operand.usage();
+    }
+    const auto [either, other] = eitherOf;
+    if (either)
+        parts += QStringLiteral("(%1 | %2)").arg(either->withValue(), other->withValue());
     for (const Option* const option : options) {
-        if (option && !QString(QLatin1String(operands)).contains(option->dashedName()))
+        if (option)
             parts += QStringLiteral("[%1]").arg(option->withValue());
     }
     return parts.join(QLatin1Char(' '));
+}
+
+const Operand* Command::operandAt(int index) const
+{
+    const Operand* const end =
+        std::find_if(std::begin(operands), std::end(operands),
+                     [](const Operand& operand) { return !operand.value.name; });
+    const int count = int(end - std::begin(operands));
+    if (index < count)
+        return &operands[index];
+    return count > 0 && operands[count - 1].isRepeated() ? &operands[count - 1] : nullptr;
 }
 
 const std::vector<const Option*>& everyOption()
@@ -187,32 +193,12 @@ const std::vector<const Option*>& everyOption()
     return all;
 }
 
-QStringList translationLanguages()
-{
-    const QStringList files =
-        QDir(translationsFolder()).entryList({QStringLiteral("velmolib_*.qm")});
-    QStringList languages;
-    for (const QString& file : files)
-        languages += file.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0);
-    return languages;
-}
-
 Arguments::Arguments(const Command& command, const QCommandLineParser& parser,
                      const QStringList& operands)
-    : m_command(command)
-    , m_parser(parser)
+    : GivenOptions(parser)
+    , m_command(command)
     , m_operands(operands)
 {
-}
-
-bool Arguments::isSet(const Option& option) const
-{
-    return m_parser.isSet(QLatin1String(option.name));
-}
-
-QString Arguments::value(const Option& option) const
-{
-    return m_parser.value(QLatin1String(option.name));
 }
 
 Fault Arguments::usageFault() const
@@ -227,14 +213,10 @@ int runCommand(const QByteArrayList& bytes)
         arguments += QString::fromLocal8Bit(argument);
     QCommandLineParser parser;
     for (const Option* const option : everyOption())
-        parser.addOption(parserOption(*option));
+        parser.addOption(option->forParser());
     const bool isSound = parser.parse(arguments);
-    const auto isSet = [&parser](const Option& option) {
-        return parser.isSet(QLatin1String(option.name));
-    };
-
-    loadTranslations(translationsFolder(), {QStringLiteral("velmo")},
-                     parser.value(QLatin1String(options::language.name)));
+    const GivenOptions asked(parser);
+    loadLanguage(asked.value(options::language));
     for (int i = 0; i < arguments.size(); ++i) {
         const QString& text = arguments.at(i);
         if (text.contains(QChar(QChar::ReplacementCharacter)) && text.toLocal8Bit() != bytes.at(i))
@@ -249,25 +231,23 @@ int runCommand(const QByteArrayList& bytes)
     if (!isSound)
         throw Fault{parser.errorText()};
     const bool asksHelp = words.value(0) == QLatin1String("help");
-    if (asksHelp || isSet(options::help)) {
+    if (asksHelp || asked.isSet(options::help)) {
         print(helpOn(words.mid(asksHelp ? 1 : 0)));
         return exitSuccess;
     }
-    if (words.isEmpty() && isSet(options::version))
+    if (words.isEmpty() && asked.isSet(options::version))
         return printVersion();
     if (!command)
         throw unknownCommand(words);
     const std::vector<const Option*> allowed = optionsOf(*command);
     for (const Option* const option : everyOption()) {
-        if (isSet(*option) && std::find(allowed.begin(), allowed.end(), option) == allowed.end())
+        if (asked.isSet(*option)
+            && std::find(allowed.begin(), allowed.end(), option) == allowed.end())
             throw unknownOption(QLatin1String(option->name), allowed);
-        // As where a script's variable is not set: it means nothing, least of all the default.
-        if (isSet(*option) && option->value && parser.value(QLatin1String(option->name)).isEmpty())
-            throw Fault{Velmo::tr("%1: expected a value").arg(option->dashedName())};
+        asked.requireValue(*option);
     }
     const Arguments given(*command, parser, words.mid(command->words().size()));
-    const int operands = int(given.operands().size());
-    if (operands < command->leastOperands || operands > command->mostOperands)
+    if (!fits(*command, given))
         throw given.usageFault();
     return command->run(given);
 }

@@ -5,16 +5,32 @@
 
 #include "options.h"
 
-#include <limits>
+namespace operands {
+
+constexpr Operand log{{"LOG.jsonl", Kind::File}};
+constexpr Operand logs{{"LOG.jsonl", Kind::File}, Operand::Several};
+constexpr Operand state{{"STATE.json", Kind::File}};
+constexpr Operand list{{"LIST.json", Kind::File}};
+constexpr Operand a{{"A.json", Kind::File}};
+constexpr Operand b{{"B.json", Kind::File}};
+constexpr Operand path{{"GROUP/KEY", Kind::SettingPath}};
+constexpr Operand paths{{"GROUP/KEY", Kind::SettingPath}, Operand::Several};
+constexpr Operand assignments{{"GROUP/KEY=VALUE", Kind::Assignment}, Operand::Several};
+constexpr Operand model{{"MODEL", Kind::Model}};
+constexpr Operand deviceAssignments{{"KEY=VALUE", Kind::DeviceAssignment}, Operand::AnyNumber};
+constexpr Operand device{{"INDEX", Kind::DeviceIndex}};
+constexpr Operand filter{{"NAME", Kind::FilterName}, Operand::Optional};
+constexpr Operand words{{"WORD", Kind::Text}, Operand::Several};
+constexpr Operand manual{{"TEMPLATE", Kind::File}};
+
+} // namespace operands
 
 const std::vector<Command>& commands()
 {
-    constexpr int anyNumber = std::numeric_limits<int>::max();
+    using namespace operands;
     static const std::vector<Command> table{
         {"explain",
-         "LOG.jsonl... (--filters FILTERS.json | --settings SETTINGS.json)",
-         1,
-         anyNumber,
+         {logs},
          QT_TRANSLATE_NOOP("Velmo", "Why notes were refused: one answer for every note of a log."),
          QT_TRANSLATE_NOOP(
              "Velmo",
@@ -23,14 +39,12 @@ const std::vector<Command>& commands()
              "session log has one JSON object a line, plain or compressed by gzip: what a device "
              "reported, or a published state {\"device_states\": [...]}, with \"time\" and "
              "\"session\": \"start\" where known."),
-         {&options::filters, &options::settings, &options::session, &options::device,
-          &options::refusals, &options::summary, &options::exitCode, &options::json, &options::html,
-          &options::keepGoing},
-         explainCommand},
+         {&options::session, &options::device, &options::refusals, &options::summary,
+          &options::exitCode, &options::json, &options::html, &options::keepGoing},
+         explainCommand,
+         {&options::filters, &options::settings}},
         {"compare",
-         "A.json B.json LOG.jsonl...",
-         3,
-         anyNumber,
+         {a, b, logs},
          QT_TRANSLATE_NOOP("Velmo", "What other filters would have decided."),
          QT_TRANSLATE_NOOP(
              "Velmo",
@@ -41,20 +55,17 @@ const std::vector<Command>& commands()
          {&options::json, &options::keepGoing},
          compareCommand},
         {"replay",
-         "LOG.jsonl (--filters FILTERS.json | --settings SETTINGS.json)",
-         1,
-         1,
+         {log},
          QT_TRANSLATE_NOOP("Velmo", "What happened in a session log, event by event."),
          QT_TRANSLATE_NOOP(
              "Velmo",
              "Plays what the devices reported through the worker, the note filters and the "
              "published state, and shows for every line what came of it."),
-         {&options::filters, &options::settings, &options::json, &options::keepGoing},
-         replayCommand},
+         {&options::json, &options::keepGoing},
+         replayCommand,
+         {&options::filters, &options::settings}},
         {"report",
-         "STATE.json",
-         1,
-         1,
+         {state},
          QT_TRANSLATE_NOOP("Velmo", "What a published service state means."),
          QT_TRANSLATE_NOOP(
              "Velmo",
@@ -64,9 +75,7 @@ const std::vector<Command>& commands()
          {&options::names, &options::json, &options::watch, &options::keepGoing},
          reportCommand},
         {"fleet",
-         "",
-         0,
-         0,
+         {},
          QT_TRANSLATE_NOOP("Velmo", "The kiosks that need somebody, and why."),
          QT_TRANSLATE_NOOP(
              "Velmo",
@@ -77,9 +86,7 @@ const std::vector<Command>& commands()
           &options::passwordFile, &options::tlsCa, &options::tlsCert, &options::tlsKey},
          fleetCommand},
         {"state",
-         "STATE.json",
-         1,
-         1,
+         {state},
          QT_TRANSLATE_NOOP("Velmo", "Checks a device state and rewrites it."),
          QT_TRANSLATE_NOOP(
              "Velmo",
@@ -88,9 +95,7 @@ const std::vector<Command>& commands()
          {&options::map},
          stateCommand},
         {"settings show",
-         "LIST.json",
-         1,
-         1,
+         {list},
          QT_TRANSLATE_NOOP("Velmo", "The settings as the service would use them."),
          QT_TRANSLATE_NOOP("Velmo",
                            "Marks what is at its default, and what the list lacks. With --json a "
@@ -98,17 +103,13 @@ const std::vector<Command>& commands()
          {&options::json, &options::formatted},
          showSettingsCommand},
         {"settings get",
-         "LIST.json GROUP/KEY",
-         2,
-         2,
+         {list, path},
          QT_TRANSLATE_NOOP("Velmo", "One value as the service would use it."),
          nullptr,
          {&options::source},
          getSettingCommand},
         {"settings set",
-         "LIST.json GROUP/KEY=VALUE...",
-         2,
-         anyNumber,
+         {list, assignments},
          QT_TRANSLATE_NOOP("Velmo", "Changes values, in the list or into another file."),
          QT_TRANSLATE_NOOP(
              "Velmo",
@@ -118,17 +119,13 @@ const std::vector<Command>& commands()
          {&options::dryRun, &options::output, &options::force, &options::quiet},
          setSettingsCommand},
         {"settings unset",
-         "LIST.json GROUP/KEY...",
-         2,
-         anyNumber,
+         {list, paths},
          QT_TRANSLATE_NOOP("Velmo", "Removes settings, so that their defaults apply."),
          nullptr,
          {&options::dryRun, &options::output, &options::force, &options::quiet},
          unsetSettingsCommand},
         {"settings add-device",
-         "LIST.json MODEL [KEY=VALUE...]",
-         2,
-         anyNumber,
+         {list, model, deviceAssignments},
          QT_TRANSLATE_NOOP("Velmo", "Adds a device with the defaults of its model."),
          QT_TRANSLATE_NOOP("Velmo",
                            "MODEL is the number or name of velmo devices. The device gets the "
@@ -136,17 +133,13 @@ const std::vector<Command>& commands()
          {&options::dryRun, &options::output, &options::force, &options::quiet},
          addDeviceCommand},
         {"settings remove-device",
-         "LIST.json INDEX",
-         2,
-         2,
+         {list, device},
          QT_TRANSLATE_NOOP("Velmo", "Removes a device and moves up those behind it."),
          nullptr,
          {&options::dryRun, &options::output, &options::force, &options::quiet},
          removeDeviceCommand},
         {"settings check",
-         "LIST.json",
-         1,
-         1,
+         {list},
          QT_TRANSLATE_NOOP("Velmo", "What the service would ignore, miss or read differently."),
          QT_TRANSLATE_NOOP("Velmo",
                            "An error is where the service would do something else than the list "
@@ -155,41 +148,31 @@ const std::vector<Command>& commands()
          {&options::json},
          checkSettingsCommand},
         {"settings diff",
-         "A.json B.json",
-         2,
-         2,
+         {a, b},
          QT_TRANSLATE_NOOP("Velmo", "What the service would do differently with another list."),
          QT_TRANSLATE_NOOP("Velmo", "The exit code is 1 when the lists differ."),
          {&options::json},
          diffSettingsCommand},
         {"settings filters",
-         "LIST.json",
-         1,
-         1,
+         {list},
          QT_TRANSLATE_NOOP("Velmo", "The note filters that the settings imply."),
          QT_TRANSLATE_NOOP("Velmo", "With --json a filters file."),
          {&options::json},
          settingsFiltersCommand},
         {"settings routes",
-         "LIST.json",
-         1,
-         1,
+         {list},
          QT_TRANSLATE_NOOP("Velmo", "The route map."),
          nullptr,
          {},
          showRoutesCommand},
         {"devices",
-         "",
-         0,
-         0,
+         {},
          QT_TRANSLATE_NOOP("Velmo", "The catalogue of device models."),
          nullptr,
          {&options::json},
          devicesCommand},
         {"filters",
-         "[NAME]",
-         0,
-         1,
+         {filter},
          QT_TRANSLATE_NOOP("Velmo", "The note filters and their parameters."),
          QT_TRANSLATE_NOOP("Velmo",
                            "What each filter does, and its parameters with the pattern of a valid "
@@ -197,9 +180,9 @@ const std::vector<Command>& commands()
          {&options::json},
          filtersCommand},
         // What the shell asks for; the last word is the one that is being typed.
-        {"complete", "WORD...", 1, anyNumber, nullptr, nullptr, {}, completeCommand},
+        {"complete", {words}, nullptr, nullptr, {}, completeCommand},
         // The manual page, of a template with the places for what these rows say.
-        {"manual", "TEMPLATE", 1, 1, nullptr, nullptr, {}, manualCommand},
+        {"manual", {manual}, nullptr, nullptr, {}, manualCommand},
     };
     return table;
 }

@@ -7,8 +7,8 @@
 #include "inputfile.h"
 #include "jsonlines.h"
 #include "options.h"
-#include "output.h"
-#include "table.h"
+#include "terminal/output.h"
+#include "terminal/table.h"
 
 #include <atomic>
 #include <future>

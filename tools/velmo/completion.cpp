@@ -6,9 +6,9 @@
 #include "commands.h"
 #include "filterfactory.h"
 #include "options.h"
-#include "output.h"
 #include "settings/settingslist.h"
 #include "settingsinput.h"
+#include "terminal/output.h"
 
 #include <algorithm>
 
@@ -107,29 +107,34 @@ QStringList assignmentsTo(const QStringList& paths, const QString& current)
     return words;
 }
 
-// What may stand for a word of a usage.
+// What may stand for a value.
 // @param operands those before it
-QStringList candidatesFor(const QString& usageWord, const QStringList& operands = {},
-                          const QString& current = {})
+QStringList candidatesFor(Kind kind, const QStringList& operands = {}, const QString& current = {})
 {
     const QString fileName = operands.value(0);
-    if (usageWord.startsWith(QLatin1String("GROUP/KEY=")))
-        return assignmentsTo(settingPaths(fileName), current);
-    if (usageWord.startsWith(QLatin1String("GROUP/KEY")))
+    switch (kind) {
+    case Kind::File:
+        return {fileMark};
+    case Kind::SettingPath:
         return settingPaths(fileName);
-    if (usageWord.startsWith(QLatin1String("[KEY=VALUE")))
+    case Kind::Assignment:
+        return assignmentsTo(settingPaths(fileName), current);
+    case Kind::DeviceAssignment:
         return assignmentsTo(deviceKeys(), current);
-    if (usageWord == QLatin1String("MODEL"))
+    case Kind::Model:
         return modelNames();
-    if (usageWord == QLatin1String("INDEX"))
+    case Kind::DeviceIndex:
         return devicesOf(fileName);
-    if (usageWord == QLatin1String("LANG"))
+    case Kind::Language:
         return translationLanguages();
-    if (usageWord == QLatin1String("[NAME]"))
+    case Kind::FilterName:
         return FilterFactory::getFilters();
-    const bool isFile =
-        usageWord.contains(QLatin1String(".json")) || usageWord == QLatin1String("OUT");
-    return isFile ? QStringList(fileMark) : QStringList();
+    case Kind::Number:
+    case Kind::Text:
+    case Kind::None:
+        break;
+    }
+    return {};
 }
 
 // The next word of the names of commands that begin with these words.
@@ -153,10 +158,10 @@ QStringList candidates(const QStringList& before, const QString& current)
         const Option* const option = optionOf(word, everyOption());
         if (!option && !open)
             words += word;
-        open = option && option->value ? option : nullptr;
+        open = option && option->value.name ? option : nullptr;
     }
     if (open)
-        return candidatesFor(QLatin1String(open->value));
+        return candidatesFor(open->value.kind);
     const Command* const command = findCommand(words);
     if (current.startsWith(QLatin1Char('-'))) {
         QStringList names;
@@ -166,12 +171,9 @@ QStringList candidates(const QStringList& before, const QString& current)
     }
     if (!command)
         return nextWords(words);
-    const QStringList usage = QString(QLatin1String(command->operands)).split(QLatin1Char(' '));
     const QStringList operands = words.mid(command->words().size());
-    const bool isRepeated = usage.constLast().contains(QLatin1String("..."));
-    const int last = int(usage.size()) - 1;
-    const int index = int(operands.size());
-    return candidatesFor(usage.value(isRepeated ? qMin(index, last) : index), operands, current);
+    const Operand* const operand = command->operandAt(int(operands.size()));
+    return operand ? candidatesFor(operand->value.kind, operands, current) : QStringList();
 }
 
 } // namespace

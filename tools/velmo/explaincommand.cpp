@@ -8,8 +8,8 @@
 #include "jsonlines.h"
 #include "log/explanationpage.h"
 #include "options.h"
-#include "output.h"
-#include "table.h"
+#include "terminal/output.h"
+#include "terminal/table.h"
 
 #include <QTemporaryFile>
 
@@ -43,11 +43,7 @@ std::optional<int> numberOf(const Arguments& arguments, const Option& option)
 {
     if (!arguments.isSet(option))
         return {};
-    bool isNumber = false;
-    const int number = arguments.value(option).toInt(&isNumber);
-    if (!isNumber || number < 0)
-        throw Fault{Velmo::tr("%1: expected a number").arg(option.dashedName())};
-    return number;
+    return int(arguments.number(option));
 }
 
 QByteArray textLine(const NoteAnswer& answer)
@@ -130,99 +126,136 @@ private:
     ExplanationPage m_page;
 };
 
+// Answers for the notes of the logs, one log after the other: as text, as JSON or on a page.
+class Explaining
+{
+public:
+    explicit Explaining(const Arguments& arguments)
+        : m_keepGoing(arguments.isSet(options::keepGoing))
+        , m_logs(arguments.operands())
+        , m_input(readFilters(arguments, m_logs))
+        , m_question{numberOf(arguments, options::session), numberOf(arguments, options::device),
+                     arguments.isSet(options::refusals), arguments.isSet(options::summary)}
+        , m_json(arguments.isSet(options::json))
+    {
+        if (arguments.isSet(options::html)) {
+            if (m_json)
+                throw Fault{Velmo::tr("--json and --html do not go together")};
+            // Of the two options, one has no value: it names no file.
+            m_page.emplace(arguments.value(options::html),
+                           m_logs
+                               + QStringList{arguments.value(options::filters),
+                                             arguments.value(options::settings)},
+                           m_input, m_question);
+        }
+        if (isText())
+            print(m_input.rulesText(Velmo::tr("Filters in force (%1):").arg(m_input.fileName)));
+    }
+
+    // Returns the exit code.
+    int answer()
+    {
+        int exitCode = exitSuccess;
+        for (const QString& log : m_logs)
+            exitCode = qMax(exitCode, answer(log));
+        if (!m_isAnswered && !m_question.isAboutAll())
+            throw Fault{
+                Velmo::tr("the logs have nothing of the session or device that is asked for")};
+        if (m_page)
+            m_page->finish(m_summary);
+        else
+            print(m_json ? QString::fromUtf8(jsonOf(m_summary)) + QLatin1Char('\n')
+                         : summaryText(m_summary));
+        return exitCode;
+    }
+
+    bool anyRefused() const { return m_summary.of(Outcome::Refused).count > 0; }
+
+private:
+    bool isText() const { return !m_json && !m_page; }
+    bool listsText() const { return isText() && !m_question.summaryOnly; }
+
+    int answer(const QString& log)
+    {
+        std::optional<TextInput> file;
+        try {
+            file.emplace(openInput(log));
+        } catch (const Fault& fault) {
+            if (!m_keepGoing)
+                throw;
+            printError(fault.message);
+            if (m_page)
+                m_page->page().addDoubt(fault.message);
+            return exitBadInput;
+        }
+        LogExplainer explainer(m_input.filters,
+                               [&](const NoteAnswer& answer) { take(log, answer); });
+        if (listsText() && m_logs.size() > 1)
+            print(file->name() + QStringLiteral(":\n"));
+        if (m_page)
+            m_page->page().beginLog(file->name());
+        std::set<int> asked; // the sessions that are asked for, where not all are
+        const int exitCode = processLines(
+            *file, m_keepGoing,
+            [&](const QByteArray& line) {
+                takeLine(explainer, *file, line, asked);
+                return std::exchange(m_text, {});
+            },
+            [&] { explainer.skipLine(); });
+        explainer.finish();
+        m_summary.sessions += m_question.isAboutAll() ? explainer.sessions() : int(asked.size());
+        m_isAnswered = m_isAnswered || !asked.empty();
+        if (m_page)
+            m_page->endLog(explainer);
+        if (listsText())
+            m_text += '\n';
+        print(QString::fromUtf8(std::exchange(m_text, {})));
+        return exitCode;
+    }
+
+    void takeLine(LogExplainer& explainer, const TextInput& file, const QByteArray& bytes,
+                  std::set<int>& asked)
+    {
+        const SessionLine line = SessionLine::read(file, bytes);
+        explainer.take(line, file.lineNumber());
+        for (const LogStep& step : explainer.player().steps()) {
+            const int session = step.device->session();
+            if (!m_question.isAboutAll() && m_question.isAbout(session, step.device->deviceId()))
+                asked.insert(session);
+        }
+        if (m_page)
+            m_page->follow(explainer, line.time(), file.lineNumber());
+    }
+
+    void take(const QString& log, const NoteAnswer& answer)
+    {
+        if (!m_question.isAbout(answer.session, answer.device))
+            return;
+        m_summary.add(answer);
+        if (m_page && !m_question.summaryOnly)
+            m_page->page().add(answer);
+        else if (!m_page && m_question.shows(answer))
+            m_text += m_json ? jsonOf(log, answer) + '\n' : textLine(answer);
+    }
+
+    const bool m_keepGoing;
+    const QStringList m_logs;
+    const FiltersInput m_input;
+    const Question m_question;
+    const bool m_json;
+    std::optional<PageFile> m_page;
+    QByteArray m_text; // of the answers that a line led to
+    Summary m_summary;
+    bool m_isAnswered = false; // something of what is asked for was there
+};
+
 } // namespace
 
 int explainCommand(const Arguments& arguments)
 {
-    const QStringList& logs = arguments.operands();
-    const FiltersInput input = readFilters(arguments, logs);
-    const Question question{numberOf(arguments, options::session),
-                            numberOf(arguments, options::device),
-                            arguments.isSet(options::refusals), arguments.isSet(options::summary)};
-    const bool json = arguments.isSet(options::json);
-    const bool html = arguments.isSet(options::html);
-    if (json && html)
-        throw Fault{Velmo::tr("--json and --html do not go together")};
-    const bool asText = !json && !html;
-    std::optional<PageFile> page;
-    if (html) {
-        // Of the two options, one has no value: it names no file.
-        page.emplace(arguments.value(options::html),
-                     logs
-                         + QStringList{arguments.value(options::filters),
-                                       arguments.value(options::settings)},
-                     input, question);
-    }
-    if (asText)
-        print(input.rulesText(Velmo::tr("Filters in force (%1):").arg(input.fileName)));
-
-    Summary summary;
-    bool isAnswered = question.isAboutAll();
-    const bool keepGoing = arguments.isSet(options::keepGoing);
-    int exitCode = exitSuccess;
-    for (const QString& log : logs) {
-        std::optional<TextInput> opened;
-        try {
-            opened.emplace(openInput(log));
-        } catch (const Fault& fault) {
-            if (!keepGoing)
-                throw;
-            printError(fault.message);
-            if (page)
-                page->page().addDoubt(fault.message);
-            exitCode = exitBadInput;
-            continue;
-        }
-        TextInput& file = *opened;
-        QByteArray text; // of the answers that a line led to
-        std::set<int> asked; // the sessions that are asked for, where not all are
-        LogExplainer explainer(input.filters, [&](const NoteAnswer& answer) {
-            if (!question.isAbout(answer.session, answer.device))
-                return;
-            summary.add(answer);
-            if (page && !question.summaryOnly)
-                page->page().add(answer);
-            else if (!page && question.shows(answer))
-                text += json ? jsonOf(log, answer) + '\n' : textLine(answer);
-        });
-        if (asText && !question.summaryOnly && logs.size() > 1)
-            print(file.name() + QStringLiteral(":\n"));
-        if (page)
-            page->page().beginLog(file.name());
-        const int result = processLines(
-            file, keepGoing,
-            [&](const QByteArray& bytes) {
-                const SessionLine line = SessionLine::read(file, bytes);
-                explainer.take(line, file.lineNumber());
-                if (!question.isAboutAll()) {
-                    for (const LogStep& step : explainer.player().steps()) {
-                        if (question.isAbout(step.device->session(), step.device->deviceId()))
-                            asked.insert(step.device->session());
-                    }
-                }
-                if (page)
-                    page->follow(explainer, line.time(), file.lineNumber());
-                return std::exchange(text, {});
-            },
-            [&] { explainer.skipLine(); });
-        explainer.finish();
-        summary.sessions += question.isAboutAll() ? explainer.sessions() : int(asked.size());
-        isAnswered = isAnswered || !asked.empty();
-        if (page)
-            page->endLog(explainer);
-        if (asText && !question.summaryOnly)
-            text += '\n';
-        print(QString::fromUtf8(text));
-        exitCode = qMax(exitCode, result);
-    }
-    if (!isAnswered)
-        throw Fault{Velmo::tr("the logs have nothing of the session or device that is asked for")};
-    if (page)
-        page->finish(summary);
-    else
-        print(json ? QString::fromUtf8(jsonOf(summary)) + QLatin1Char('\n') : summaryText(summary));
-    const bool isRefusal = summary.of(Outcome::Refused).count > 0;
-    if (exitCode == exitSuccess && isRefusal && arguments.isSet(options::exitCode))
+    Explaining explaining(arguments);
+    const int exitCode = explaining.answer();
+    if (exitCode == exitSuccess && explaining.anyRefused() && arguments.isSet(options::exitCode))
         return exitFindings;
     return exitCode;
 }

@@ -6,11 +6,11 @@
 #include "command.h"
 #include "inputfile.h"
 #include "options.h"
-#include "output.h"
 #include "settings/arrayfile.h"
 #include "settings/settingscheck.h"
 #include "settingsinput.h"
-#include "table.h"
+#include "terminal/output.h"
+#include "terminal/table.h"
 
 namespace {
 
@@ -46,8 +46,6 @@ QString FiltersInput::rulesText(const QString& heading) const
 FiltersInput readFilters(const Arguments& arguments, const QStringList& logs)
 {
     const bool ofSettings = arguments.isSet(options::settings);
-    if (ofSettings == arguments.isSet(options::filters))
-        throw arguments.usageFault();
     const QString fileName = arguments.value(ofSettings ? options::settings : options::filters);
     if (fileName == QLatin1String("-") && logs.contains(fileName))
         throw Fault{Velmo::tr("log and filters cannot both come from standard input")};

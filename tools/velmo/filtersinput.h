@@ -18,7 +18,7 @@ struct FiltersInput
     QString rulesText(const QString& heading) const;
 };
 
-/// Reads --filters or --settings, one of which there must be, and says on standard error what the
+/// Reads --filters or --settings, whichever there is, and says on standard error what the
 /// service would read differently in the settings. Throws Fault for bad ones.
 /// @param logs operands, of which none may then be standard input if the filters are
 FiltersInput readFilters(const Arguments& arguments, const QStringList& logs);

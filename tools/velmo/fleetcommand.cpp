@@ -6,9 +6,9 @@
 #include "brokerconnection.h"
 #include "kiosktopic.h"
 #include "options.h"
-#include "output.h"
 #include "service/kiosksummary.h"
-#include "table.h"
+#include "terminal/output.h"
+#include "terminal/table.h"
 #include "json/jsontext.h"
 
 #include <QDateTime>
@@ -204,86 +204,102 @@ QString screen(const Fleet& fleet, const BrokerConnection& broker)
         + state;
 }
 
-seconds waiting(const Arguments& arguments)
+// Follows what the broker has of the kiosks.
+class FleetWatch
 {
-    if (!arguments.isSet(options::wait))
-        return seconds(1);
-    bool isNumber = false;
-    const uint number = arguments.value(options::wait).toUInt(&isNumber);
-    if (!isNumber || number < 1 || number > 3600)
-        throw Fault{Velmo::tr("--%1: expected a number from 1 to 3600")
-                        .arg(QLatin1String(options::wait.name))};
-    return seconds(number);
-}
+public:
+    explicit FleetWatch(const Arguments& arguments)
+        : m_isJson(arguments.isSet(options::json))
+        , m_isWatched(arguments.isSet(options::watch))
+        , m_pause(arguments.number(options::wait))
+        , m_summaries(arguments.value(options::summaries))
+        , m_broker(arguments.broker(), {}, 0,
+                   [this](const QString& topic, const QByteArray& text, bool isRetained) {
+                       take(topic, text, isRetained);
+                   })
+    {
+        m_broker.watchDropped();
+        m_broker.subscribe(m_summaries.filter(), 1);
+    }
+
+    // Until all summaries have come; for ever where they are watched.
+    void gather()
+    {
+        const auto begin = Clock::now();
+        while (!m_broker.isSubscribed()) {
+            work();
+            if (Clock::now() - begin > longestConnecting && !m_isWatched)
+                throw Fault{Velmo::tr("the broker does not answer")};
+        }
+        m_lastKept = Clock::now();
+        while (m_isWatched || Clock::now() - m_lastKept < m_pause)
+            work();
+        const bool mayMiss = m_fleet.size() > alwaysRoomFor && m_broker.tellsDropped();
+        while (mayMiss && m_broker.dropped() == 0 && Clock::now() - m_lastKept < droppedPause)
+            work();
+        m_broker.disconnect(true);
+    }
+
+    // Returns the exit code.
+    int tell() const
+    {
+        if (m_fleet.isEmpty())
+            throw Fault{Velmo::tr("no kiosk has a summary at \"%1\"").arg(m_summaries.filter())};
+        print(m_isJson ? QString::fromUtf8(json(m_fleet))
+                       : table(m_fleet.toSeeTo(), outputWidth()) + totals(m_fleet));
+        if (m_broker.dropped() > 0)
+            printError(missingText());
+        return m_fleet.count(unknown) > 0 || m_broker.dropped() > 0 ? exitBadInput : exitSuccess;
+    }
+
+private:
+    void take(const QString& topic, const QByteArray& text, bool isRetained)
+    {
+        const QString kiosk = m_summaries.kioskOf(topic);
+        // A new connection brings all that are kept once more, and tells nothing of those that are
+        // gone.
+        if (isRetained && std::exchange(m_isFromBefore, false))
+            m_fleet = Fleet();
+        if (!kiosk.isEmpty())
+            m_fleet.take(kiosk, text);
+        if (isRetained)
+            m_lastKept = Clock::now();
+    }
+
+    void work()
+    {
+        BrokerConnection::wait({&m_broker}, milliseconds(200));
+        m_broker.read(batch);
+        m_broker.write();
+        const bool isLost = !m_broker.fault().isEmpty();
+        m_isFromBefore = m_isFromBefore || isLost;
+        if (isLost && !m_isWatched)
+            throw Fault{m_broker.fault()};
+        const bool isKnown = isLost || m_broker.isSubscribed();
+        if (m_isWatched && isKnown && Clock::now() - m_drawn >= seconds(1)) {
+            m_drawn = Clock::now();
+            print(screen(m_fleet, m_broker));
+        }
+    }
+
+    const bool m_isJson;
+    const bool m_isWatched;
+    const seconds m_pause;
+    const KioskTopic m_summaries;
+    BrokerConnection m_broker;
+    Fleet m_fleet;
+    bool m_isFromBefore = false; // the connection was lost since
+    Clock::time_point m_lastKept; // when a summary came that the broker had kept
+    Clock::time_point m_drawn;
+};
 
 } // namespace
 
 int fleetCommand(const Arguments& arguments)
 {
-    const bool isJson = arguments.isSet(options::json);
-    const bool isWatched = arguments.isSet(options::watch);
-    if (isJson && isWatched)
+    if (arguments.isSet(options::json) && arguments.isSet(options::watch))
         throw arguments.usageFault();
-    const seconds pause = waiting(arguments);
-    BrokerOptions where;
-    where.take(arguments.value(options::broker), arguments.value(options::passwordFile),
-               arguments.value(options::tlsCa), arguments.value(options::tlsCert),
-               arguments.value(options::tlsKey));
-    const KioskTopic summaries(arguments.isSet(options::summaries)
-                                   ? arguments.value(options::summaries)
-                                   : QLatin1String(usualSummaries));
-
-    Fleet fleet;
-    bool isFromBefore = false; // the connection was lost since
-    auto lastKept = Clock::now(); // of the summaries that the broker had kept
-    BrokerConnection broker(where, {}, 0,
-                            [&](const QString& topic, const QByteArray& text, bool isRetained) {
-                                const QString kiosk = summaries.kioskOf(topic);
-                                // A new connection brings all that are kept once more, and tells
-                                // nothing of those that are gone.
-                                if (isRetained && std::exchange(isFromBefore, false))
-                                    fleet = Fleet();
-                                if (!kiosk.isEmpty())
-                                    fleet.take(kiosk, text);
-                                if (isRetained)
-                                    lastKept = Clock::now();
-                            });
-    broker.watchDropped();
-    broker.subscribe(summaries.filter(), 1);
-    auto drawn = Clock::time_point();
-    const auto work = [&] {
-        BrokerConnection::wait({&broker}, milliseconds(200));
-        broker.read(batch);
-        broker.write();
-        const bool isLost = !broker.fault().isEmpty();
-        isFromBefore = isFromBefore || isLost;
-        if (isLost && !isWatched)
-            throw Fault{broker.fault()};
-        const bool isKnown = isLost || broker.isSubscribed();
-        if (isWatched && isKnown && Clock::now() - drawn >= seconds(1)) {
-            drawn = Clock::now();
-            print(screen(fleet, broker));
-        }
-    };
-
-    const auto begin = Clock::now();
-    while (!broker.isSubscribed()) {
-        work();
-        if (Clock::now() - begin > longestConnecting && !isWatched)
-            throw Fault{Velmo::tr("the broker does not answer")};
-    }
-    lastKept = Clock::now();
-    while (isWatched || Clock::now() - lastKept < pause)
-        work();
-    const bool mayMiss = fleet.size() > alwaysRoomFor && broker.tellsDropped();
-    while (mayMiss && broker.dropped() == 0 && Clock::now() - lastKept < droppedPause)
-        work();
-    broker.disconnect(true);
-    if (fleet.isEmpty())
-        throw Fault{Velmo::tr("no kiosk has a summary at \"%1\"").arg(summaries.filter())};
-    print(isJson ? QString::fromUtf8(json(fleet))
-                 : table(fleet.toSeeTo(), outputWidth()) + totals(fleet));
-    if (broker.dropped() > 0)
-        printError(missingText());
-    return fleet.count(unknown) > 0 || broker.dropped() > 0 ? exitBadInput : exitSuccess;
+    FleetWatch fleet(arguments);
+    fleet.gather();
+    return fleet.tell();
 }

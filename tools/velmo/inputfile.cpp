@@ -3,8 +3,8 @@
 
 #include "inputfile.h"
 
+#include "terminal/velmo.h"
 #include "text/fault.h"
-#include "words.h"
 
 #include <QFile>
 

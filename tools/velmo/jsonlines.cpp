@@ -4,7 +4,7 @@
 #include "jsonlines.h"
 
 #include "command.h"
-#include "output.h"
+#include "terminal/output.h"
 
 #include <QElapsedTimer>
 #include <QJsonDocument>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "command.h"
-#include "output.h"
+#include "terminal/output.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -10,6 +10,7 @@
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("velmo"));
     // The library's progress messages, and what the answer says of a broker;
     // QT_LOGGING_RULES=default.debug=true brings the former back.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\nvelmo.broker=false"));

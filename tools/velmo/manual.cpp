@@ -4,7 +4,7 @@
 #include "commands.h"
 #include "inputfile.h"
 #include "options.h"
-#include "output.h"
+#include "terminal/output.h"
 
 #include <palx/appversionmanager.h>
 

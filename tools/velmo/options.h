@@ -4,83 +4,77 @@
 #pragma once
 
 #include "command.h"
+#include "kiosktopic.h"
 
 /// Every option, under one name and with one meaning in every command.
 namespace options {
 
-constexpr Option help{"help", "h", nullptr, QT_TRANSLATE_NOOP("Velmo", "Print this help.")};
+constexpr Option help{"help", "h", Value(), QT_TRANSLATE_NOOP("Velmo", "Print this help.")};
 constexpr Option language{
-    "lang", nullptr, "LANG",
+    "lang", nullptr, Value("LANG", Kind::Language),
     QT_TRANSLATE_NOOP("Velmo", "The language of the texts, as \"ru\", in place of the system's.")};
 constexpr Option version{
-    "version", "v", nullptr,
+    "version", "v", Value(),
     QT_TRANSLATE_NOOP("Velmo", "Print the version of the library and the time of its build.")};
 constexpr Option filters{
-    "filters", nullptr, "FILTERS.json",
+    "filters", nullptr, Value("FILTERS.json", Kind::File),
     QT_TRANSLATE_NOOP(
         "Velmo",
         R"(The note filters: [{"name":"AttemptsFilter","params":{"denom":1000,"attempts":2}}, ...])")};
 constexpr Option settings{
-    "settings", nullptr, "SETTINGS.json",
+    "settings", nullptr, Value("SETTINGS.json", Kind::File),
     QT_TRANSLATE_NOOP("Velmo",
                       "In place of --filters: the filters that the service's settings imply.")};
-constexpr Option json{"json", nullptr, nullptr,
+constexpr Option json{"json", nullptr, Value(),
                       QT_TRANSLATE_NOOP("Velmo", "Print JSON in place of text.")};
 constexpr Option keepGoing{
-    "keep-going", nullptr, nullptr,
+    "keep-going", nullptr, Value(),
     QT_TRANSLATE_NOOP(
         "Velmo", "Skip bad lines and what cannot be read of a log; the exit code is still 2.")};
-constexpr Option session{"session", nullptr, "N",
+constexpr Option session{"session", nullptr, Value("N", Kind::Number),
                          QT_TRANSLATE_NOOP("Velmo", "Only session N, counted from 1 in each log.")};
-constexpr Option device{"device", nullptr, "ID",
+constexpr Option device{"device", nullptr, Value("ID", Kind::Number),
                         QT_TRANSLATE_NOOP("Velmo", "Only the device with that identifier.")};
-constexpr Option refusals{"refusals", nullptr, nullptr,
+constexpr Option refusals{"refusals", nullptr, Value(),
                           QT_TRANSLATE_NOOP("Velmo", "Show only what the filters refused.")};
-constexpr Option summary{"summary", nullptr, nullptr,
+constexpr Option summary{"summary", nullptr, Value(),
                          QT_TRANSLATE_NOOP("Velmo", "Show only the summary.")};
 constexpr Option exitCode{
-    "exit-code", nullptr, nullptr,
+    "exit-code", nullptr, Value(),
     QT_TRANSLATE_NOOP("Velmo", "Make the exit code 1 when the filters refused something.")};
 constexpr Option html{
-    "html", nullptr, "PAGE.html",
+    "html", nullptr, Value("PAGE.html", Kind::File),
     QT_TRANSLATE_NOOP("Velmo", "Write a page with pictures to PAGE.html in place of text.")};
 constexpr Option names{
-    "names", nullptr, "NAMES.json",
+    "names", nullptr, Value("NAMES.json", Kind::File),
     QT_TRANSLATE_NOOP("Velmo", R"(Display names by device identifier: {"1": "Validator"}.)")};
 constexpr Option watch{
-    "watch", nullptr, nullptr,
+    "watch", nullptr, Value(),
     QT_TRANSLATE_NOOP("Velmo", "Show what is new as it comes, on a cleared terminal.")};
-constexpr Option broker{"broker", nullptr, "HOST:PORT",
-                        QT_TRANSLATE_NOOP("Velmo", "The broker; localhost:1883 without it.")};
 constexpr Option summaries{
-    "summaries", nullptr, "TOPIC",
-    QT_TRANSLATE_NOOP("Velmo", "Where the summaries are; kiosks/+/summary without it.")};
+    "summaries", nullptr, Value("TOPIC", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo", "Where the summaries are; kiosks/+/summary without it."),
+    usualSummaries};
 constexpr Option wait{
-    "wait", nullptr, "SECONDS",
+    "wait", nullptr, Value("SECONDS", Kind::Number, 1, 3600),
     QT_TRANSLATE_NOOP("Velmo",
                       "How long no further summary comes before all are taken to have "
-                      "come; 1 without it.")};
-constexpr Option passwordFile{"password-file", nullptr, "FILE",
-                              QT_TRANSLATE_NOOP("Velmo", "A file with USER:PASSWORD.")};
-constexpr Option tlsCa{"tls-ca", nullptr, "PEM",
-                       QT_TRANSLATE_NOOP("Velmo", "Connect by TLS and trust these certificates.")};
-constexpr Option tlsCert{"tls-cert", nullptr, "PEM",
-                         QT_TRANSLATE_NOOP("Velmo", "The client's own certificate.")};
-constexpr Option tlsKey{"tls-key", nullptr, "PEM", QT_TRANSLATE_NOOP("Velmo", "Its key.")};
-constexpr Option map{"map", nullptr, nullptr,
+                      "come; 1 without it."),
+    "1"};
+constexpr Option map{"map", nullptr, Value(),
                      QT_TRANSLATE_NOOP("Velmo", "Write the state as an indented map.")};
-constexpr Option formatted{"formatted", nullptr, nullptr,
+constexpr Option formatted{"formatted", nullptr, Value(),
                            QT_TRANSLATE_NOOP("Velmo", "Print the formatted map.")};
 constexpr Option source{
-    "source", nullptr, nullptr,
+    "source", nullptr, Value(),
     QT_TRANSLATE_NOOP("Velmo", "Say whether the value is from the list or a default.")};
-constexpr Option dryRun{"dry-run", "n", nullptr,
+constexpr Option dryRun{"dry-run", "n", Value(),
                         QT_TRANSLATE_NOOP("Velmo", "Write nothing; print what would change.")};
-constexpr Option force{"force", "f", nullptr,
+constexpr Option force{"force", "f", Value(),
                        QT_TRANSLATE_NOOP("Velmo", "Write it with the errors that it will have.")};
-constexpr Option quiet{"quiet", "q", nullptr,
+constexpr Option quiet{"quiet", "q", Value(),
                        QT_TRANSLATE_NOOP("Velmo", "Do not tell what was changed.")};
-constexpr Option output{"output", "o", "OUT",
+constexpr Option output{"output", "o", Value("OUT", Kind::File),
                         QT_TRANSLATE_NOOP("Velmo", "Write to OUT, \"-\" for standard output.")};
 
 } // namespace options

@@ -8,8 +8,8 @@
 #include "jsonlines.h"
 #include "log/replay.h"
 #include "options.h"
-#include "output.h"
-#include "table.h"
+#include "terminal/output.h"
+#include "terminal/table.h"
 
 #include <iterator>
 #include <optional>

@@ -10,10 +10,10 @@
 #include "filterchain.h"
 #include "filtersfile.h"
 #include "options.h"
-#include "output.h"
 #include "settings/settingscheck.h"
 #include "settings/settingslist.h"
-#include "table.h"
+#include "terminal/output.h"
+#include "terminal/table.h"
 #include "text/devicename.h"
 #include "text/filterwords.h"
 

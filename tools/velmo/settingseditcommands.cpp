@@ -3,9 +3,9 @@
 
 #include "commands.h"
 #include "options.h"
-#include "output.h"
 #include "settings/settingsedit.h"
 #include "settingsinput.h"
+#include "terminal/output.h"
 #include "text/textoutput.h"
 
 #include <QFileInfo>

@@ -9,8 +9,8 @@
 #include "jsonlines.h"
 #include "log/sessionline.h"
 #include "options.h"
-#include "output.h"
 #include "service/serviceanswer.h"
+#include "terminal/output.h"
 #include "text/devicename.h"
 
 #include <QJsonDocument>

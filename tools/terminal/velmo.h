@@ -5,7 +5,7 @@
 
 #include <QCoreApplication>
 
-/// The tool's own words, in the language that is shown: Velmo::tr("...").
+/// The programs' own words, in the language that is shown: Velmo::tr("...").
 class Velmo
 {
     Q_DECLARE_TR_FUNCTIONS(Velmo)

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
-#include "output.h"
+#include "terminal/output.h"
 
+#include "terminal/velmo.h"
 #include "text/textoutput.h"
-#include "words.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
@@ -164,5 +164,6 @@ void print(const QString& text)
 
 void printError(const QString& message)
 {
-    fprintf(stderr, "velmo: %s\n", qUtf8Printable(printable(message)));
+    fprintf(stderr, "%s: %s\n", qUtf8Printable(QCoreApplication::applicationName()),
+            qUtf8Printable(printable(message)));
 }

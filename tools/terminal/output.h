@@ -13,6 +13,10 @@
 
 #include <sys/stat.h>
 
+constexpr int exitSuccess = 0;
+constexpr int exitFindings = 1; ///< of a check that read everything and found something
+constexpr int exitBadInput = 2;
+
 /// Standard output. Throws Fault when it cannot be written.
 class Output
 {
@@ -71,5 +75,5 @@ bool isOutputColored();
 /// Writes a whole text to standard output.
 void print(const QString& text);
 
-/// Writes "velmo: <message>" to standard error as one printable() line.
+/// Writes the program's name and a message to standard error, as one printable() line.
 void printError(const QString& message);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
-#include "table.h"
+#include "terminal/table.h"
 
 #include <QVector>
 

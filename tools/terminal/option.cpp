@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "terminal/option.h"
+
+#include "text/fault.h"
+#include "text/translations.h"
+
+#include <QDir>
+
+namespace {
+
+// The same place in the build folder and where the program is installed.
+QString translationsFolder()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../" TRANSLATIONS);
+}
+
+} // namespace
+
+QString Option::withValue() const
+{
+    return dashedName() + (value.name ? QLatin1Char(' ') + QLatin1String(value.name) : QString());
+}
+
+QString Option::usage() const
+{
+    return (letter ? QStringLiteral("-%1, ").arg(QLatin1String(letter)) : QString()) + withValue();
+}
+
+QCommandLineOption Option::forParser() const
+{
+    QStringList names{QLatin1String(name)};
+    if (letter)
+        names.prepend(QLatin1String(letter));
+    return {names, Velmo::tr(help), QLatin1String(value.name), QLatin1String(usual)};
+}
+
+qint64 GivenOptions::number(const Option& option) const
+{
+    bool isNumber = false;
+    const qint64 number = value(option).toLongLong(&isNumber);
+    if (isNumber && number >= option.value.least && number <= option.value.most)
+        return number;
+    throw Fault{option.value.most < Value::unlimited
+                    ? Velmo::tr("%1: expected a number from %2 to %3")
+                          .arg(option.dashedName())
+                          .arg(option.value.least)
+                          .arg(option.value.most)
+                    : Velmo::tr("%1: expected a number").arg(option.dashedName())};
+}
+
+BrokerOptions GivenOptions::broker() const
+{
+    BrokerOptions broker;
+    broker.take(value(options::broker), value(options::passwordFile), value(options::tlsCa),
+                value(options::tlsCert), value(options::tlsKey));
+    return broker;
+}
+
+void GivenOptions::requireValue(const Option& option) const
+{
+    if (isSet(option) && option.value.kind != Kind::None && value(option).isEmpty())
+        throw Fault{Velmo::tr("%1: expected a value").arg(option.dashedName())};
+}
+
+void loadLanguage(const QString& language)
+{
+    loadTranslations(translationsFolder(), {QStringLiteral("velmo")}, language);
+}
+
+QStringList translationLanguages()
+{
+    const QStringList files =
+        QDir(translationsFolder()).entryList({QStringLiteral("velmolib_*.qm")});
+    QStringList languages;
+    for (const QString& file : files)
+        languages += file.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0);
+    return languages;
+}
