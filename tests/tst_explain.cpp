@@ -219,6 +219,17 @@ private Q_SLOTS:
             S;accepting;returned;rejected;idling                    | ? returned, ? rejected
             S;accepting 100;stacked;idling;accepting;{"current_note":500};stacked | 100 taken, 500 taken
             S;accepting 100;accepted 500;stacked                    | 100 taken !
+            S;accepting 100;jammed;idling;accepted;returned         | 100 returned
+            S;accepting 100;idling;stacking;rejected                | 100 rejected
+            S;accepting 100;idling;stacking;jammed;idling           | 100 stuck
+            S;accepting 100;idling;accepted                         | 100 unknown
+            S;accepting;{"halt":true};{"current_note":500};accepted;stacked | 500 taken
+            S;accepting;{"halt":true};{"current_note":500};idling   | 500 stuck halted@3
+            S;accepting 1000;stacked;idling;accepting;{"halt":true};{"current_note":500};idling | 1000 taken, 500 stuck halted@6
+            S;accepting 100;stacked;idling 100;accepting;accepting 1000;stacked | 100 taken, 1000 taken
+            S;accepting 100;stacked;idling 100;rejected             | 100 taken, ? rejected
+            S;accepting 1000;stacked;idling;accepting;accepted 100;stacked | 1000 taken, 100 taken !
+            S;{"state":"accepting","online":false};idling           |
             S;accepting 100;jammed;stacked                          | 100 taken
             S;accepting 100;jammed;returned                         | 100 returned
             S;accepting 100;accepted;jammed;stacking;idling         | 100 taken

@@ -42,6 +42,15 @@ void addConditions(QVector<MachineCondition>& known, const QVector<MachineCondit
     }
 }
 
+// It was that of the note before; the filters were not asked about this one.
+void takeBackValue(NoteAnswer& answer)
+{
+    answer.note = 0;
+    answer.outcome = Outcome::Unknown;
+    answer.objections.clear();
+    answer.isJudged = false;
+}
+
 } // namespace
 
 LogExplainer::LogExplainer(const FilterSet& filters, Receiver receiver)
@@ -107,14 +116,14 @@ void LogExplainer::takeEvent(const LogStep& step, const SessionLine& line, qint6
     const LogDevice& device = *step.device;
     const StatesList& events = device.events();
     const DeviceState& event = events.constLast();
-    const DeviceState* const before = events.size() > 1 ? &events.at(events.size() - 2) : nullptr;
+    const DeviceState* const last = events.size() > 1 ? &events.at(events.size() - 2) : nullptr;
     Trail& trail = m_trails[&device];
     // A session does not make news of how the device stands.
     const bool isNewState = trail.state != event.state;
-    // What is published repeats the value of a note that is long gone.
+    // What is published, or told of an idle device, repeats the value of a note that is long gone.
+    const bool isTold = !line.isPublished() && (step.reported & noteBit()) != 0;
     const bool isNewValue = event.currentNote > 0
-        && (event.currentNote != trail.value
-            || (!line.isPublished() && (step.reported & noteBit()) != 0));
+        && (event.currentNote != trail.value || (isTold && event.state != STATE_IDLING));
     trail.state = event.state;
     trail.value = event.currentNote;
     trail.isValueNew = event.currentNote > 0 && (trail.isValueNew || isNewValue);
@@ -126,12 +135,15 @@ void LogExplainer::takeEvent(const LogStep& step, const SessionLine& line, qint6
         && trail.note->answer.end == Outcome::Unknown
         && trail.note->answer.session != device.session()
         && trail.note->answer.note == event.currentNote;
-    const bool isSameOffer = before && isOffer(*before) && before->currentNote == event.currentNote;
+    const bool isSameOffer = last && isOffer(*last) && last->currentNote == event.currentNote;
     if (isOffer(event) && !isSameOffer && !isCarriedOver) {
-        if (trail.note && trail.note->isValuePresumed && !isNewState)
-            drop(*trail.note);
+        const bool isLate = trail.note && !isNewState && trail.note->phase == InHand
+            && (!trail.note->answer.hasValue() || trail.note->isValuePresumed);
+        const Note before = isLate ? std::exchange(*trail.note, Note()) : Note();
         addNote(device, line, lineNumber);
         trail.note->isValuePresumed = !std::exchange(trail.isValueNew, false);
+        trail.note->stoppedLine = before.stoppedLine;
+        trail.note->answer.machine = before.answer.machine;
         return judge(device, *trail.note);
     }
     if (isNewState && beginsNote(event, trail.note))
@@ -140,6 +152,8 @@ void LogExplainer::takeEvent(const LogStep& step, const SessionLine& line, qint6
         return;
     NoteAnswer& answer = trail.note->answer;
     if (event.state != STATE_IDLING && std::exchange(trail.isValueNew, false)) {
+        if (std::exchange(trail.note->isValuePresumed, false))
+            takeBackValue(answer);
         if (!answer.hasValue())
             answer.note = event.currentNote;
         else if (answer.note != event.currentNote)
@@ -156,13 +170,6 @@ bool LogExplainer::beginsNote(const DeviceState& event, const Note* open)
     if (event.state == STATE_ACCEPTING)
         return !open || open->phase != InHand || open->answer.end != Outcome::Unknown;
     return event.state == STATE_REJECTED && !open;
-}
-
-// Takes back a note that there was not: its value was that of the note before.
-void LogExplainer::drop(Note& note)
-{
-    note.answer = {};
-    note.stoppedLine = 0;
 }
 
 void LogExplainer::addNote(const LogDevice& device, const SessionLine& line, qint64 lineNumber)
@@ -185,7 +192,7 @@ void LogExplainer::addNote(const LogDevice& device, const SessionLine& line, qin
 void LogExplainer::judge(const LogDevice& device, Note& note)
 {
     note.answer.note = device.state().currentNote;
-    note.answer.machine = device.conditions();
+    addConditions(note.answer.machine, device.conditions());
     note.answer.isJudged = true;
     const QVector<const FilterMemory*> refusing = device.refusing();
     if (!refusing.isEmpty())
@@ -200,7 +207,7 @@ void LogExplainer::watch(const LogDevice& device, Note& note, qint64 lineNumber)
     if (note.phase != InHand)
         return;
     addConditions(note.answer.machine, device.conditions());
-    if (note.stoppedLine == 0 && device.stopsOn(lineNumber))
+    if (note.stoppedLine == 0 && lineNumber > note.answer.line && device.stopsOn(lineNumber))
         note.stoppedLine = lineNumber;
 }
 
@@ -228,6 +235,8 @@ void LogExplainer::follow(const LogDevice& device, Note& note, bool isNewState, 
         state == STATE_REJECTED || state == STATE_RETURNED || state == STATE_STACKED;
     if (isAtEnd || isKept)
         note.stoppedLine = 0;
+    if (isKept && note.phase == Idle)
+        note.phase = InHand; // once more
     const bool isJam = isNewState && (state == STATE_JAMMED || state == STATE_ERROR);
     if (isJam && note.phase == InHand && note.stoppedLine == 0)
         note.stoppedLine = lineNumber;

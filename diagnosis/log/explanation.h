@@ -73,7 +73,6 @@ private:
     void takeEvent(const LogStep& step, const SessionLine& line, qint64 lineNumber);
     void addNote(const LogDevice& device, const SessionLine& line, qint64 lineNumber);
     static bool beginsNote(const DeviceState& event, const Note* open);
-    static void drop(Note& note);
     static void judge(const LogDevice& device, Note& note);
     static void watch(const LogDevice& device, Note& note, qint64 lineNumber);
     void follow(const LogDevice& device, Note& note, bool isNewState, qint64 lineNumber);
