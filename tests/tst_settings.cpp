@@ -160,9 +160,9 @@ private Q_SLOTS:
         QCOMPARE(AcceptorSettings::maxSumm(), qint64(0));
         const QVariantMap map = settings.toFormattedMap();
         QCOMPARE(map.keys(), QStringList({"acceptor_common"_s, "dispenser"_s, "service"_s}));
-        QCOMPARE(
-            map.value("service"_s).toMap(),
-            QVariantMap({{"devices_count"_s, -1}, {"reset_idle_timeout"_s, qlonglong(3600000)}}));
+        const QVariantMap service = map.value("service"_s).toMap();
+        QCOMPARE(service["devices_count"_s], QVariant(-1));
+        QCOMPARE(service["reset_idle_timeout"_s], QVariant(qlonglong(3600000)));
     }
 
     void init()
