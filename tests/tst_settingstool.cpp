@@ -521,6 +521,12 @@ private Q_SLOTS:
         const QByteArray added = R"({"group":"acceptor_common","key":"acceptAll","value":0},)";
         const QByteArray next = R"({"group":"service")";
         QCOMPARE(run.out.toUtf8(), QByteArray(list).replace(next, added + "\n    " + next));
+        // What a device has without a sub-group stays before its other settings.
+        const VelmoRun behind = velmo(
+            {"settings"_s, "set"_s, "-"_s, "device0/debug/port_logging=0"_s, "-f"_s},
+            R"([{"group":"device0","key":"x"},{"group":"device0/device","key":"device_id","value":1}])");
+        QVERIFY2(behind.out.indexOf("port_logging"_s) > behind.out.indexOf("\"x\""_s),
+                 qPrintable(behind.out));
     }
 
     // An element behind a sound list, the level and the text of what is found.

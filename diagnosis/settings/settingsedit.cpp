@@ -168,7 +168,7 @@ void SettingsEdit::insert(const ServiceSetting& setting, const Start& start)
 int SettingsEdit::positionFor(const ServiceSetting& setting) const
 {
     const auto subgroup = [](const QString& group) { return group.section(QLatin1Char('/'), 1); };
-    QStringList groups;
+    QStringList groups{QString()}; // a device without sub-group
     const QList<ServiceSetting> listed = setting.device()
         ? ServiceSetting::ofDevice(*setting.device())
         : ServiceSetting::ofService();
