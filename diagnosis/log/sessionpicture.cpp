@@ -4,7 +4,6 @@
 #include "log/sessionpicture.h"
 
 #include "filterfactory.h"
-#include "text/conditions.h"
 #include "text/diagnosis.h"
 #include "text/htmltext.h"
 
@@ -434,7 +433,7 @@ void SessionPicture::drawConditions(const SessionRecord::Lane& lane,
             auto row = std::find(rows.begin(), rows.end(), condition.what);
             if (row == rows.end()) {
                 row = rows.insert(row, condition.what);
-                label(conditionWord(condition.what), m_y + 13.0 * double(rows.size()) - 4);
+                label(Diagnosis::tr(condition.word), m_y + 13.0 * double(rows.size()) - 4);
             }
             const double top = m_y + 13.0 * double(row - rows.begin());
             const QString name = anchorName(Anchor::Condition, m_session, condition.line,
