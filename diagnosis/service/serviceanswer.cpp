@@ -53,10 +53,10 @@ void append(JsonBuffer& json, const QDateTime& time)
     json << text;
 }
 
-using Field = DeviceField<JsonReader, PublishedDevice>;
+using PublishedField = DeviceField<JsonReader, PublishedDevice>;
 
 template <auto Member>
-Field detail(const QString& key)
+PublishedField detail(const QString& key)
 {
     return {&key, [](JsonReader& json, PublishedDevice& device, const PublishedDevice&) {
                 return readJson(json, device.*Member);
@@ -64,7 +64,7 @@ Field detail(const QString& key)
 }
 
 template <auto SetCounter, auto InFull>
-Field counter(const QString& key)
+PublishedField counter(const QString& key)
 {
     return {&key, [](JsonReader& json, PublishedDevice& device, const PublishedDevice&) {
                 AcceptorStateItem& entry = device;
