@@ -34,7 +34,7 @@ QVariantList lampsOf(const PublishedDevice& device, bool isAccepting)
             kind == Condition::StackerMissing || kind == Condition::StackerFull;
         if (isOfStacker && money != Money::Note)
             continue;
-        const Condition& condition = Condition::of(kind);
+        const Condition& condition = Condition::table[kind];
         const bool isAlarm = kind != Condition::StackerMissing; // lit while it is there
         lamps += lamp(condition.lamp, Diagnosis::tr(condition.lampLabel),
                       condition.holds(device) == isAlarm, isAlarm);

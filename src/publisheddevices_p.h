@@ -9,7 +9,6 @@
 
 #include <QVarLengthArray>
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <initializer_list>
@@ -97,19 +96,6 @@ struct DeviceField
     bool (*read)(Reader& reader, Device& device, const Device& before);
 };
 
-template <typename Reader, typename Device, auto Getter, auto Setter>
-DeviceField<Reader, Device> deviceField(const QString* key)
-{
-    return {key, [](Reader& reader, Device& device, const Device& before) {
-                const AcceptorStateItem& entryBefore = before;
-                AcceptorStateItem& entry = device;
-                auto value = (entryBefore.*Getter)();
-                const bool complete = readJson(reader, value);
-                (entry.*Setter)(value);
-                return complete;
-            }};
-}
-
 template <typename Reader, typename Device>
 bool readRegistry(Reader& reader, Device& device, const Device& /*before*/)
 {
@@ -133,19 +119,26 @@ bool readRegistry(Reader& reader, Device& device, const Device& /*before*/)
 }
 
 template <typename Reader, typename Device, auto Member>
-DeviceField<Reader, Device> publishedField(DeviceStateField<Member> field)
+DeviceField<Reader, Device> deviceField(DeviceStateField<Member> field)
 {
     return {field.key, nullptr};
 }
 
 template <typename Reader, typename Device, auto Member, auto Getter, auto Setter>
-DeviceField<Reader, Device> publishedField(DeviceStateField<Member, Getter, Setter> field)
+DeviceField<Reader, Device> deviceField(DeviceStateField<Member, Getter, Setter> field)
 {
-    return deviceField<Reader, Device, Getter, Setter>(field.key);
+    return {field.key, [](Reader& reader, Device& device, const Device& before) {
+                const AcceptorStateItem& entryBefore = before;
+                AcceptorStateItem& entry = device;
+                auto value = (entryBefore.*Getter)();
+                const bool complete = readJson(reader, value);
+                (entry.*Setter)(value);
+                return complete;
+            }};
 }
 
 template <typename Reader, typename Device>
-DeviceField<Reader, Device> publishedField(DeviceStateField<&DeviceState::dispenserRegistry> field)
+DeviceField<Reader, Device> deviceField(DeviceStateField<&DeviceState::dispenserRegistry> field)
 {
     return {field.key, readRegistry<Reader, Device>};
 }
@@ -156,17 +149,17 @@ template <typename Reader, typename Device>
 auto deviceFields()
 {
     using E = AcceptorStateItem;
-    return withDeviceStateFields([](auto... field) {
-        return std::array{
-            publishedField<Reader, Device>(field)...,
-            deviceField<Reader, Device, &E::notesInserted, &E::setNotesInserted>(
-                &StatItem::NOTES_INSERTED),
-            deviceField<Reader, Device, &E::notesRejected, &E::setNotesRejected>(
-                &StatItem::NOTES_REJECTED),
-            deviceField<Reader, Device, &E::notesReturned, &E::setNotesReturned>(
-                &StatItem::NOTES_RETURNED),
-        };
-    });
+    const auto toArray = [](auto... field) {
+        return std::array{deviceField<Reader, Device>(field)...};
+    };
+    return joined(withDeviceStateFields(toArray),
+                  toArray(
+                      DeviceStateField<nullptr, &E::notesInserted, &E::setNotesInserted>{
+                          &StatItem::NOTES_INSERTED},
+                      DeviceStateField<nullptr, &E::notesRejected, &E::setNotesRejected>{
+                          &StatItem::NOTES_REJECTED},
+                      DeviceStateField<nullptr, &E::notesReturned, &E::setNotesReturned>{
+                          &StatItem::NOTES_RETURNED}));
 }
 
 /// Reads the devices of a published state, from text or from a map.
@@ -174,17 +167,14 @@ template <typename Reader, typename Device>
 class DeviceTable
 {
 public:
-    using Field = DeviceField<Reader, Device>;
-
-    /// @param own fields that are read in another way than those of the entry
-    explicit DeviceTable(std::initializer_list<Field> own = {})
+    /// @param own fields that are read in another way than the entry's
+    explicit DeviceTable(std::initializer_list<DeviceField<Reader, Device>> own = {})
         : m_fields(deviceFields<Reader, Device>())
         , m_order(keysOf(m_fields))
     {
-        for (const Field& field : own) {
-            std::find_if(m_fields.begin(), m_fields.end(), [&](const Field& known) {
-                return *known.key == *field.key;
-            })->read = field.read;
+        for (const auto& field : own) {
+            std::size_t likely = 0;
+            m_fields[m_order.find(*field.key, likely)] = field;
         }
     }
 

@@ -14,17 +14,8 @@
 
 namespace {
 
-quint32 deviceBit()
-{
-    static const quint32 bit = DeviceReport::bit(deviceStateDescConst::DEVICE_ID);
-    return bit;
-}
-
-quint32 threadBit()
-{
-    static const quint32 bit = DeviceReport::bit(deviceStateDescConst::THREAD_ID);
-    return bit;
-}
+const quint32 deviceBit = DeviceReport::bit(deviceStateDescConst::DEVICE_ID);
+const quint32 threadBit = DeviceReport::bit(deviceStateDescConst::THREAD_ID);
 
 } // namespace
 
@@ -59,8 +50,9 @@ QVector<MachineCondition> LogDevice::conditions() const
         const qint64 since = m_conditionSince.at(i);
         if (since == 0)
             continue;
-        const Condition& condition = Condition::table().at(i);
-        found.append({QLatin1String(condition.key), since, condition.told(state(), since)});
+        const Condition& condition = Condition::table[i];
+        found.append(
+            {QLatin1String(condition.key), condition.word, since, condition.told(state(), since)});
     }
     return found;
 }
@@ -68,7 +60,7 @@ QVector<MachineCondition> LogDevice::conditions() const
 bool LogDevice::stopsOn(qint64 line) const
 {
     for (size_t i = 0; i < m_conditionSince.size(); ++i) {
-        if (Condition::table().at(i).stopsNotes && m_conditionSince.at(i) == line)
+        if (Condition::table[i].stopsNotes && m_conditionSince.at(i) == line)
             return true;
     }
     return false;
@@ -95,7 +87,7 @@ void LogDevice::take(const DeviceReport& report, qint64 line)
     static const std::array<quint32, Condition::count> bits = [] {
         std::array<quint32, Condition::count> found{};
         std::transform(
-            Condition::table().begin(), Condition::table().end(), found.begin(),
+            std::begin(Condition::table), std::end(Condition::table), found.begin(),
             [](const Condition& condition) { return DeviceReport::bit(condition.stateKey); });
         return found;
     }();
@@ -103,7 +95,7 @@ void LogDevice::take(const DeviceReport& report, qint64 line)
     m_known |= report.reported;
     for (size_t i = 0; i < bits.size(); ++i) {
         // What was never reported is not known.
-        const bool holds = (m_known & bits.at(i)) != 0 && Condition::table().at(i).holds(state());
+        const bool holds = (m_known & bits.at(i)) != 0 && Condition::table[i].holds(state());
         qint64& since = m_conditionSince.at(i);
         since = !holds ? 0 : since == 0 ? line : since;
     }
@@ -129,7 +121,7 @@ const std::vector<LogStep>& LogPlayer::take(const SessionLine& line, qint64 line
 {
     m_steps.clear();
     const std::vector<DeviceReport>& reports = line.reports();
-    const bool namesDevice = !line.isPublished() && reports.front().has(deviceBit() | threadBit());
+    const bool namesDevice = !line.isPublished() && reports.front().has(deviceBit | threadBit);
     if (line.startsSession() && !namesDevice)
         startEverySession();
     // Looked up before any is new, so that it makes no difference in which order they are
@@ -162,8 +154,8 @@ const std::vector<LogStep>& LogPlayer::take(const SessionLine& line, qint64 line
 LogDevice* LogPlayer::knownDevice(const DeviceReport& report) const
 {
     const auto fits = [&](const LogDevice& device) {
-        return (!report.has(deviceBit()) || device.deviceId() == report.fields.deviceId)
-            && (!report.has(threadBit()) || device.threadId() == report.fields.threadId);
+        return (!report.has(deviceBit) || device.deviceId() == report.fields.deviceId)
+            && (!report.has(threadBit) || device.threadId() == report.fields.threadId);
     };
     return m_last && fits(*m_last) ? m_last : lastDevice(fits);
 }
@@ -187,10 +179,10 @@ LogDevice& LogPlayer::newDevice(const DeviceReport& report)
 {
     const LogDevice* const last =
         m_last ? m_last : lastDevice([](const LogDevice&) { return true; });
-    const quint32 device = report.has(deviceBit()) ? report.fields.deviceId
-        : last                                     ? last->deviceId()
-                                                   : 0;
-    const quint32 thread = report.has(threadBit()) ? report.fields.threadId : 0;
+    const quint32 device = report.has(deviceBit) ? report.fields.deviceId
+        : last                                   ? last->deviceId()
+                                                 : 0;
+    const quint32 thread = report.has(threadBit) ? report.fields.threadId : 0;
     LogDevice* const twice = lastDevice([=](const LogDevice& known) {
         return known.deviceId() == device && known.threadId() == thread;
     });

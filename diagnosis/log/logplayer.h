@@ -21,6 +21,7 @@
 struct MachineCondition
 {
     QString what; ///< the condition's key
+    const char* word; ///< in short, to be translated
     qint64 line; ///< since when
     QString text; ///< a sentence
 };

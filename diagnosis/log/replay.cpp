@@ -10,9 +10,8 @@
 
 namespace {
 
-template <auto Member>
-void publish(DeviceStateField<Member> /*field*/, const DeviceState& /*from*/,
-             AcceptorStateItem& /*to*/)
+template <typename... Unkept>
+void publish(const Unkept&...)
 {
 }
 

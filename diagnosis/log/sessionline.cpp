@@ -185,8 +185,8 @@ bool readPublishedDevice(JsonReader& json, DeviceReport& report)
             throw unknownKey(key);
         return json.skipValue();
     });
-    static const quint32 deviceBit = DeviceReport::bit(deviceStateDescConst::DEVICE_ID);
-    if (isSound && !report.has(deviceBit))
+    static const quint32 identifier = DeviceReport::bit(deviceStateDescConst::DEVICE_ID);
+    if (isSound && !report.has(identifier))
         throw Fault{Diagnosis::tr("key \"%1\" is missing").arg(deviceStateDescConst::DEVICE_ID)};
     // A device without rows is published without the key.
     report.reported |= DeviceReport::bit(DispenserRegistryModel::DISPENSER_REGISTRY);

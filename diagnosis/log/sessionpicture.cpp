@@ -6,7 +6,6 @@
 #include "filterfactory.h"
 #include "log/sessionlook.h"
 #include "log/svg.h"
-#include "text/conditions.h"
 #include "text/diagnosis.h"
 #include "text/htmltext.h"
 
@@ -280,7 +279,7 @@ void SessionPicture::drawConditions(const SessionRecord::Lane& lane,
             auto row = std::find(rows.begin(), rows.end(), condition.what);
             if (row == rows.end()) {
                 row = rows.insert(row, condition.what);
-                label(conditionWord(condition.what), m_y + 13.0 * double(rows.size()) - 4);
+                label(Diagnosis::tr(condition.word), m_y + 13.0 * double(rows.size()) - 4);
             }
             const double top = m_y + 13.0 * double(row - rows.begin());
             const QString name = anchorName(Anchor::Condition, m_session, condition.line,

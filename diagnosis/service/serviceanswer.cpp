@@ -53,18 +53,18 @@ void append(JsonBuffer& json, const QDateTime& time)
     json << text;
 }
 
-using DevicesTable = DeviceTable<JsonReader, PublishedDevice>;
+using PublishedField = DeviceField<JsonReader, PublishedDevice>;
 
-template <auto Field>
-DevicesTable::Field detail(const QString& key)
+template <auto Member>
+PublishedField detail(const QString& key)
 {
     return {&key, [](JsonReader& json, PublishedDevice& device, const PublishedDevice&) {
-                return readJson(json, device.*Field);
+                return readJson(json, device.*Member);
             }};
 }
 
 template <auto SetCounter, auto InFull>
-DevicesTable::Field counter(const QString& key)
+PublishedField counter(const QString& key)
 {
     return {&key, [](JsonReader& json, PublishedDevice& device, const PublishedDevice&) {
                 AcceptorStateItem& entry = device;
@@ -76,20 +76,14 @@ DevicesTable::Field counter(const QString& key)
             }};
 }
 
-const DevicesTable& devicesTable()
+const auto& deviceTable()
 {
     using namespace deviceStateDescConst;
     using D = PublishedDevice;
-    static const DevicesTable table({
+    static const DeviceTable<JsonReader, PublishedDevice> table({
         detail<&D::currentNote>(CURRENT_NOTE),
         detail<&D::sessionSum>(SESSION_SUM),
-        {&ONLINE,
-         [](JsonReader& json, D& device, const D&) {
-             bool isOnline = true;
-             const bool isSound = readJson(json, isOnline);
-             device.isOffline = !isOnline;
-             return isSound;
-         }},
+        detail<&D::isOnline>(ONLINE),
         counter<&D::setNotesInserted, &D::insertedInFull>(StatItem::NOTES_INSERTED),
         counter<&D::setNotesRejected, &D::rejectedInFull>(StatItem::NOTES_REJECTED),
         counter<&D::setNotesReturned, &D::returnedInFull>(StatItem::NOTES_RETURNED),
@@ -120,8 +114,8 @@ QStringList deviceFaults(const PublishedDevice& device)
 {
     QStringList texts;
     for (const Condition::Kind kind : Condition::publishedOrder) {
-        if (Condition::of(kind).holds(device))
-            texts += Condition::of(kind).told(device);
+        if (Condition::table[kind].holds(device))
+            texts += Condition::table[kind].told(device);
     }
     return texts;
 }
@@ -134,11 +128,11 @@ QStringList whyNotAccepting(const PublishedState& state)
         return {Diagnosis::tr("Every device is disabled.")};
     if (state.service.isAcceptingAllowed())
         return {};
-    // Then it is the last validator that decides, on line or not.
+    // Then it is the last validator that decides, whether it is online or not.
     PublishedDevice last =
         *std::find_if(state.devices.rbegin(), state.devices.rend(),
                       [](const PublishedDevice& d) { return isValidator(d.deviceId()); });
-    last.isOffline = false;
+    last.isOnline = true;
     QStringList reasons = deviceFaults(last);
     if (last.state() != AcceptorState::ACCEPTOR_STATE_BUSY) {
         reasons += Diagnosis::tr("The device is not ready for notes; its state: %1.")
@@ -171,7 +165,7 @@ PublishedState readServiceState(const QString& json)
         if (key == AcceptorState::DEVICE_STATES) {
             hasDevices = reader.isAtArray();
             state.devices.clear(); // of doubled keys the last one counts
-            return hasDevices ? devicesTable().readList(reader, state.devices) : reader.skipValue();
+            return hasDevices ? deviceTable().readList(reader, state.devices) : reader.skipValue();
         }
         if (key == QLatin1String("time"))
             return reader.readValue(time);

@@ -24,9 +24,7 @@ struct Condition
     static constexpr std::array lampOrder{StackerMissing, StackerFull, CriticalError, Halted,
                                           Offline};
 
-    /// One of each kind.
-    static const std::array<Condition, count>& table();
-    static const Condition& of(Kind kind) { return table().at(kind); }
+    static const Condition table[count]; ///< indexed by Kind
 
     bool holds(const DeviceState& device) const { return device.*field == value; }
     bool holds(const PublishedDevice& device) const { return (device.*published)() == value; }
@@ -49,6 +47,3 @@ struct Condition
     const char* lamp; ///< the name of its lamp; null without one
     const char* lampLabel;
 };
-
-/// The condition of a key in short, for example "stacker full".
-QString conditionWord(const QString& key);

@@ -10,9 +10,9 @@ struct PublishedDevice : AcceptorStateItem
 {
     using AcceptorStateItem::AcceptorStateItem;
 
-    bool isOnline() const { return !isOffline; }
+    bool online() const { return isOnline; }
 
-    bool isOffline = false; ///< it says of itself that it is not connected
+    bool isOnline = true; ///< false when it says of itself that it is not connected
     qint32 sessionSum = 0; ///< taken in the current session
     qint32 currentNote = 0; ///< face value of the note or coin in hand
     qint64 insertedInFull = 0; ///< the counters, of which the entry keeps 32 bits
