@@ -312,6 +312,17 @@ def check_silence(fleet, workers):
     fleet.newest.pop("k9")
 
 
+def check_options(fleet):
+    for options, fault in (("--states=", "--states: expected a value"),
+                           ("--silent=-1", "--silent: expected a number"),
+                           ("--expire=1d --lang=ru", "--expire: ожидается число"),
+                           ("kiosks", 'unknown argument "kiosks"')):
+        run = subprocess.run([os.path.join(fleet.bin, "velmo-fleet"), "--lang", "en",
+                              *options.split()], capture_output=True, text=True, timeout=60)
+        if run.returncode != 2 or run.stderr != f"velmo-fleet: {fault}\n":
+            raise SystemExit(f"check_fleet.py: velmo-fleet {options}: {run.stderr}")
+
+
 def table(fleet, *options):
     return subprocess.run([os.path.join(fleet.bin, "velmo"), "fleet", "--broker",
                            f"127.0.0.1:{fleet.broker.port}", "--lang", "en", *options],
@@ -474,6 +485,7 @@ def main():
                 drain(fleet, ["one", "two"], 60000, 10000)
                 latency(fleet, 2500, 10)
             else:
+                check_options(fleet)
                 workers = check_deaths(fleet)
                 check_garbage(fleet, workers)
                 check_clocks(fleet)

@@ -298,6 +298,9 @@ private Q_SLOTS:
             report --nmes x     |                            | unknown option --nmes (nearest known: --names)
             devices --map       |                            | unknown option --map (nearest known: --
             report - --names    |                            | Missing value after '--names'.
+            fleet --wait 3601   |                            | --wait: expected a number from 1 to 3600
+            fleet --wait x      |                            | --wait: expected a number from 1 to 3600
+            fleet --tls-ca=     |                            | --tls-ca: expected a value
             help nothing        |                            | unknown command "nothing"
             devices x           |                            | usage: velmo devices)"_s);
     }

@@ -13,9 +13,7 @@
 
 #include <csignal>
 
-namespace {
-
-std::atomic<bool> stopAsked{false};
+namespace options {
 
 constexpr Value seconds("SECONDS", Kind::Number, 0, std::numeric_limits<quint32>::max());
 
@@ -31,7 +29,7 @@ constexpr Option wills{
     "kiosks/+/will"};
 constexpr Option group{"group", nullptr, Value("NAME", Kind::Text),
                        QT_TRANSLATE_NOOP("Velmo", "The workers that share the states."), "velmo"};
-constexpr Option sessionName{
+constexpr Option name{
     "name", nullptr, Value("NAME", Kind::Text),
     QT_TRANSLATE_NOOP("Velmo",
                       "What its session at the broker goes by; each worker has its own, the same "
@@ -43,9 +41,8 @@ constexpr Option expire{
 constexpr Option silent{
     "silent", nullptr, seconds,
     QT_TRANSLATE_NOOP("Velmo", "After how long a kiosk is told of as silent; 0 for never."), "120"};
-constexpr Option metricsAddress{
-    "metrics", nullptr, Value("ADDRESS", Kind::Text),
-    QT_TRANSLATE_NOOP("Velmo", "Where Prometheus fetches the metrics.")};
+constexpr Option metrics{"metrics", nullptr, Value("ADDRESS", Kind::Text),
+                         QT_TRANSLATE_NOOP("Velmo", "Where Prometheus fetches the metrics.")};
 constexpr Option language{
     "lang", nullptr, Value("LANG", Kind::Language),
     QT_TRANSLATE_NOOP("Velmo",
@@ -57,23 +54,28 @@ constexpr Option retire{
                       "come back.")};
 
 // In the order of the help.
-const Option* const every[] = {
-    &options::broker, &states,           &summaries,       &wills,          &group,
-    &sessionName,     &expire,           &silent,          &metricsAddress, &options::passwordFile,
-    &options::tlsCa,  &options::tlsCert, &options::tlsKey, &language,       &retire};
+const Option* const every[] = {&broker, &states,  &summaries, &wills,    &group,
+                               &name,   &expire,  &silent,    &metrics,  &passwordFile,
+                               &tlsCa,  &tlsCert, &tlsKey,    &language, &retire};
+
+} // namespace options
+
+namespace {
+
+std::atomic<bool> stopAsked{false};
 
 WorkerOptions workerOptions(const GivenOptions& given)
 {
     const WorkerOptions worker{given.broker(),
-                               given.isSet(sessionName) ? given.value(sessionName)
-                                                        : QSysInfo::machineHostName(),
-                               given.value(group),
-                               quint32(given.number(expire)),
-                               KioskTopic(given.value(states)),
-                               KioskTopic(given.value(summaries)),
-                               KioskTopic(given.value(wills)),
-                               std::chrono::seconds(given.number(silent)),
-                               given.isSet(retire)};
+                               given.isSet(options::name) ? given.value(options::name)
+                                                          : QSysInfo::machineHostName(),
+                               given.value(options::group),
+                               quint32(given.number(options::expire)),
+                               KioskTopic(given.value(options::states)),
+                               KioskTopic(given.value(options::summaries)),
+                               KioskTopic(given.value(options::wills)),
+                               std::chrono::seconds(given.number(options::silent)),
+                               given.isSet(options::retire)};
     static const QRegularExpression separators(QStringLiteral("[/+#]"));
     if (worker.name.isEmpty() || worker.group.isEmpty() || worker.group.contains(separators))
         throw Fault{Velmo::tr("--name and --group: expected a name without /, + and #")};
@@ -83,24 +85,24 @@ WorkerOptions workerOptions(const GivenOptions& given)
 void run()
 {
     QCommandLineParser early; // the options are made in the language that is shown
-    early.addOption(language.forParser());
+    early.addOption(options::language.forParser());
     early.parse(QCoreApplication::arguments());
-    loadLanguage(GivenOptions(early).value(language));
+    loadLanguage(GivenOptions(early).value(options::language));
     QCommandLineParser parser;
     parser.setApplicationDescription(
         Velmo::tr("Makes summaries of what kiosks publish at an MQTT broker."));
     parser.addHelpOption();
     parser.addVersionOption();
-    for (const Option* const option : every)
+    for (const Option* const option : options::every)
         parser.addOption(option->forParser());
     parser.process(QCoreApplication::arguments());
     const GivenOptions given(parser);
-    for (const Option* const option : every)
+    for (const Option* const option : options::every)
         given.requireValue(*option);
     if (!parser.positionalArguments().isEmpty())
         throw Fault{
             Velmo::tr("unknown argument \"%1\"").arg(parser.positionalArguments().constFirst())};
-    Metrics metrics(given.value(metricsAddress));
+    Metrics metrics(given.value(options::metrics));
     Worker worker(workerOptions(given), metrics);
     worker.run(stopAsked);
 }

@@ -7,8 +7,8 @@
 
 namespace operands {
 
-constexpr Operand log{{"LOG.jsonl", Kind::File}};
-constexpr Operand logs{{"LOG.jsonl", Kind::File}, Operand::Several};
+constexpr Operand sessionLog{{"LOG.jsonl", Kind::File}};
+constexpr Operand sessionLogs{{"LOG.jsonl", Kind::File}, Operand::Several};
 constexpr Operand state{{"STATE.json", Kind::File}};
 constexpr Operand list{{"LIST.json", Kind::File}};
 constexpr Operand a{{"A.json", Kind::File}};
@@ -30,7 +30,7 @@ const std::vector<Command>& commands()
     using namespace operands;
     static const std::vector<Command> table{
         {"explain",
-         {logs},
+         {sessionLogs},
          QT_TRANSLATE_NOOP("Velmo", "Why notes were refused: one answer for every note of a log."),
          QT_TRANSLATE_NOOP(
              "Velmo",
@@ -44,7 +44,7 @@ const std::vector<Command>& commands()
          explainCommand,
          {&options::filters, &options::settings}},
         {"compare",
-         {a, b, logs},
+         {a, b, sessionLogs},
          QT_TRANSLATE_NOOP("Velmo", "What other filters would have decided."),
          QT_TRANSLATE_NOOP(
              "Velmo",
@@ -55,7 +55,7 @@ const std::vector<Command>& commands()
          {&options::json, &options::keepGoing},
          compareCommand},
         {"replay",
-         {log},
+         {sessionLog},
          QT_TRANSLATE_NOOP("Velmo", "What happened in a session log, event by event."),
          QT_TRANSLATE_NOOP(
              "Velmo",
