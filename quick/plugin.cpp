@@ -1,14 +1,24 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
-#include "plugin.h"
+#include <QQmlEngineExtensionPlugin>
 
 // Made by qmltyperegistrar; whoever loads the plugin wants the types.
 void qml_register_types_Velmolib();
 
-VelmolibPlugin::VelmolibPlugin(QObject* parent)
-    : QQmlEngineExtensionPlugin(parent)
+/// The QML module Velmolib.
+class VelmolibPlugin : public QQmlEngineExtensionPlugin
 {
-    volatile auto registration = &qml_register_types_Velmolib;
-    Q_UNUSED(registration)
-}
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QQmlEngineExtensionInterface_iid)
+
+public:
+    explicit VelmolibPlugin(QObject* parent = nullptr)
+        : QQmlEngineExtensionPlugin(parent)
+    {
+        volatile auto registration = &qml_register_types_Velmolib;
+        Q_UNUSED(registration)
+    }
+};
+
+#include "plugin.moc"

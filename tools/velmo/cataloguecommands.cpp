@@ -5,8 +5,6 @@
 
 #include "acceptors.h"
 #include "filterfactory.h"
-#include "options.h"
-#include "terminal/output.h"
 #include "terminal/table.h"
 #include "text/devicename.h"
 #include "text/filterwords.h"

@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
-#include "command.h"
 #include "options.h"
-#include "terminal/output.h"
 #include "terminal/table.h"
 #include "text/nearest.h"
 

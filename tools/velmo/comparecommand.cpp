@@ -3,11 +3,8 @@
 
 #include "answerjson.h"
 #include "commands.h"
-#include "filtersinput.h"
-#include "inputfile.h"
+#include "input.h"
 #include "jsonlines.h"
-#include "options.h"
-#include "terminal/output.h"
 #include "terminal/table.h"
 
 #include <atomic>

@@ -5,9 +5,7 @@
 
 #include "brokerconnection.h"
 #include "kiosktopic.h"
-#include "options.h"
 #include "service/kiosksummary.h"
-#include "terminal/output.h"
 #include "terminal/table.h"
 #include "json/jsontext.h"
 

@@ -4,7 +4,6 @@
 #include "jsonlines.h"
 
 #include "command.h"
-#include "terminal/output.h"
 
 #include <QElapsedTimer>
 #include <QJsonDocument>

@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "commands.h"
-#include "inputfile.h"
-#include "options.h"
-#include "terminal/output.h"
+#include "input.h"
 
 #include <palx/appversionmanager.h>
 

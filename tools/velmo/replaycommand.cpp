@@ -3,12 +3,9 @@
 
 #include "answerjson.h"
 #include "commands.h"
-#include "filtersinput.h"
-#include "inputfile.h"
+#include "input.h"
 #include "jsonlines.h"
 #include "log/replay.h"
-#include "options.h"
-#include "terminal/output.h"
 #include "terminal/table.h"
 
 #include <iterator>

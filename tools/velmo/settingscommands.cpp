@@ -1,18 +1,15 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
-#include "settingsinput.h"
+#include "commands.h"
 
 #include "acceptors.h"
 #include "acceptorsettings.h"
-#include "commands.h"
 #include "droutemapitem.h"
 #include "filterchain.h"
-#include "filtersfile.h"
-#include "options.h"
+#include "input.h"
 #include "settings/settingscheck.h"
 #include "settings/settingslist.h"
-#include "terminal/output.h"
 #include "terminal/table.h"
 #include "text/devicename.h"
 #include "text/filterwords.h"

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "commands.h"
-#include "options.h"
+#include "input.h"
 #include "settings/settingsedit.h"
-#include "settingsinput.h"
-#include "terminal/output.h"
 #include "text/textoutput.h"
 
 #include <QFileInfo>

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
-#include "filtersinput.h"
+#include "input.h"
 
-#include "command.h"
-#include "inputfile.h"
 #include "options.h"
-#include "settings/arrayfile.h"
 #include "settings/settingscheck.h"
-#include "settingsinput.h"
-#include "terminal/output.h"
+#include "settings/settingslist.h"
 #include "terminal/table.h"
+
+#include <QFile>
+
+#include <unistd.h>
 
 namespace {
 
@@ -30,6 +30,24 @@ FiltersInput read(const ArrayFile& file, ListKind kind)
 }
 
 } // namespace
+
+TextInput openInput(const QString& fileName)
+{
+    auto file = std::make_unique<QFile>(fileName);
+    const bool isStandardInput = fileName == QLatin1String("-");
+    const QString name = isStandardInput ? Velmo::tr("standard input") : fileName;
+    const bool opened = isStandardInput ? file->open(STDIN_FILENO, QIODevice::ReadOnly)
+                                        : file->open(QIODevice::ReadOnly);
+    if (!opened)
+        throw Fault{QStringLiteral("%1: %2").arg(name, file->errorString())};
+    return {std::move(file), name};
+}
+
+ArrayFile readSettings(const QString& fileName)
+{
+    TextInput input = openInput(fileName);
+    return readSettingsFile(input);
+}
 
 QString FiltersInput::rulesText(const QString& heading) const
 {
