@@ -198,21 +198,11 @@ void BrokerConnection::lose(const QString& why)
              .arg(std::max<qint64>(0, pause.count())));
 }
 
-void BrokerConnection::subscribe(const QString& filter, int qos)
+void BrokerConnection::subscribe(const QString& filter, int qos, bool ownToo)
 {
-    subscribe({filter, qos, 0});
-}
-
-void BrokerConnection::subscribeToOthers(const QString& filter)
-{
-    subscribe({filter, 0, MQTT_SUB_OPT_NO_LOCAL});
-}
-
-void BrokerConnection::subscribe(const Subscription& subscription)
-{
-    m_subscriptions.push_back(subscription);
+    m_subscriptions.push_back({filter, qos, ownToo ? 0 : MQTT_SUB_OPT_NO_LOCAL});
     if (m_isConnected)
-        request(subscription);
+        request(m_subscriptions.back());
 }
 
 void BrokerConnection::request(const Subscription& subscription)

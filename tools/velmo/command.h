@@ -58,8 +58,12 @@ struct Command
 class Arguments : public GivenOptions
 {
 public:
-    Arguments(const Command& command, const QCommandLineParser& parser,
-              const QStringList& operands);
+    Arguments(const Command& command, const QCommandLineParser& parser, const QStringList& operands)
+        : GivenOptions(parser)
+        , m_command(command)
+        , m_operands(operands)
+    {
+    }
 
     const QStringList& operands() const { return m_operands; }
 

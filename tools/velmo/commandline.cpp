@@ -191,14 +191,6 @@ const std::vector<const Option*>& everyOption()
     return all;
 }
 
-Arguments::Arguments(const Command& command, const QCommandLineParser& parser,
-                     const QStringList& operands)
-    : GivenOptions(parser)
-    , m_command(command)
-    , m_operands(operands)
-{
-}
-
 Fault Arguments::usageFault() const
 {
     return {Velmo::tr("usage: %1").arg(m_command.usage())};

@@ -19,11 +19,11 @@ FiltersInput read(const ArrayFile& file, ListKind kind)
     FilterSet filters = filterSetOf(file, kind);
     QStringList findings;
     if (kind == ListKind::Settings) {
-        for (const SettingsFinding& finding : checkSettings(file))
+        for (const SettingsFinding& finding : checkSettings(file)) {
             findings += finding.line(file);
+            printError(findings.constLast());
+        }
     }
-    for (const QString& finding : std::as_const(findings))
-        printError(finding);
     if (!findings.isEmpty())
         printError(Velmo::tr("%1: answers may differ from the service's").arg(file.name()));
     return {std::move(filters), file.name(), findings};

@@ -121,14 +121,10 @@ QString indented(const QString& lines)
 QString tableOf(const Used& used)
 {
     const QString value = used.value.toString();
-    switch (used.setting.kind()) {
-    case SettingDescription::AttemptsLimits:
+    const SettingDescription::Kind kind = used.setting.kind();
+    if (kind == SettingDescription::AttemptsLimits)
         return limitsTable(value);
-    case SettingDescription::RouteMap:
-        return routesTable(value);
-    default:
-        return {};
-    }
+    return kind == SettingDescription::RouteMap ? routesTable(value) : QString();
 }
 
 // The settings of the service or of one device; tables of their own go to @p tables.

@@ -120,9 +120,9 @@ DeviceState checkedState(const QByteArray& text)
 
 int reportCommand(const Arguments& arguments)
 {
-    QMap<int, QString> given;
-    if (arguments.isSet(options::names))
-        given = readNames(arguments.value(options::names));
+    const QMap<int, QString> given = arguments.isSet(options::names)
+        ? readNames(arguments.value(options::names))
+        : QMap<int, QString>();
     const bool isJson = arguments.isSet(options::json);
     const bool isWatched = arguments.isSet(options::watch);
     if (isJson && isWatched)
