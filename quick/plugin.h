@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
+#pragma once
+
 #include <QQmlEngineExtensionPlugin>
 
 // Made by qmltyperegistrar; whoever loads the plugin wants the types.
@@ -20,5 +22,3 @@ public:
         Q_UNUSED(registration)
     }
 };
-
-#include "plugin.moc"
