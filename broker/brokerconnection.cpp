@@ -23,8 +23,7 @@ namespace {
 Q_LOGGING_CATEGORY(brokerLog, "velmo.broker")
 
 constexpr int keepAlive = 30; // seconds
-constexpr int inFlight =
-    1000; // messages without an acknowledgement, where the broker allows so many
+constexpr int inFlight = 1000; // messages without an acknowledgement, where the broker allows it
 constexpr std::chrono::seconds longestPause{30};
 constexpr char droppedTopic[] = "$SYS/broker/publish/messages/dropped";
 
@@ -36,11 +35,6 @@ void warn(const QString& text)
 BrokerConnection* connectionOf(void* object)
 {
     return static_cast<BrokerConnection*>(object);
-}
-
-QByteArray pathOf(const QString& file)
-{
-    return QFile::encodeName(file);
 }
 
 const char* textOrNull(const QByteArray& text)
@@ -99,9 +93,9 @@ BrokerConnection::BrokerConnection(const BrokerOptions& options, const QString& 
                 options.user);
     }
     if (!options.caFile.isEmpty()) {
-        require(library.tls_set(m_client, pathOf(options.caFile).constData(), nullptr,
-                                textOrNull(pathOf(options.certificateFile)),
-                                textOrNull(pathOf(options.keyFile)), nullptr),
+        require(library.tls_set(m_client, QFile::encodeName(options.caFile).constData(), nullptr,
+                                textOrNull(QFile::encodeName(options.certificateFile)),
+                                textOrNull(QFile::encodeName(options.keyFile)), nullptr),
                 QStringLiteral("TLS"));
     }
     library.connect_v5_callback_set(
@@ -204,21 +198,11 @@ void BrokerConnection::lose(const QString& why)
              .arg(std::max<qint64>(0, pause.count())));
 }
 
-void BrokerConnection::subscribe(const QString& filter, int qos)
+void BrokerConnection::subscribe(const QString& filter, int qos, bool ownToo)
 {
-    subscribe({filter, qos, 0});
-}
-
-void BrokerConnection::subscribeToOthers(const QString& filter)
-{
-    subscribe({filter, 0, MQTT_SUB_OPT_NO_LOCAL});
-}
-
-void BrokerConnection::subscribe(const Subscription& subscription)
-{
-    m_subscriptions.push_back(subscription);
+    m_subscriptions.push_back({filter, qos, ownToo ? 0 : MQTT_SUB_OPT_NO_LOCAL});
     if (m_isConnected)
-        request(subscription);
+        request(m_subscriptions.back());
 }
 
 void BrokerConnection::request(const Subscription& subscription)

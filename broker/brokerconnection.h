@@ -37,11 +37,8 @@ public:
 
     /// Subscribes now, or once it is connected, and again after every loss of the connection.
     /// @param qos 0, or 1 for messages that are given again until they are acknowledged
-    void subscribe(const QString& filter, int qos);
-
-    /// The same, with QoS 0, for what others publish: what this connection publishes itself does
-    /// not come back.
-    void subscribeToOthers(const QString& filter);
+    /// @param ownToo whether what this connection publishes itself comes back
+    void subscribe(const QString& filter, int qos, bool ownToo = true);
     void unsubscribe(const QString& filter);
 
     /// Counts the messages that the broker has no room for, of all its clients, and warns when they
@@ -95,7 +92,6 @@ private:
     };
 
     void connect();
-    void subscribe(const Subscription& subscription);
     void request(const Subscription& subscription);
     void lose(const QString& why);
     void takeConnect(int reason);

@@ -5,6 +5,9 @@
 
 #include <QQmlEngineExtensionPlugin>
 
+// Made by qmltyperegistrar; whoever loads the plugin wants the types.
+void qml_register_types_Velmolib();
+
 /// The QML module Velmolib.
 class VelmolibPlugin : public QQmlEngineExtensionPlugin
 {
@@ -12,5 +15,10 @@ class VelmolibPlugin : public QQmlEngineExtensionPlugin
     Q_PLUGIN_METADATA(IID QQmlEngineExtensionInterface_iid)
 
 public:
-    explicit VelmolibPlugin(QObject* parent = nullptr);
+    explicit VelmolibPlugin(QObject* parent = nullptr)
+        : QQmlEngineExtensionPlugin(parent)
+    {
+        volatile auto registration = &qml_register_types_Velmolib;
+        Q_UNUSED(registration)
+    }
 };

@@ -132,18 +132,13 @@ bool ServiceState::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-QMap<int, QString> ServiceState::displayNames() const
-{
-    QMap<int, QString> given;
-    for (auto name = m_names.begin(); name != m_names.end(); ++name)
-        given.insert(name.key().toInt(), name.value().toString());
-    return deviceNames(m_state, given);
-}
-
 void ServiceState::show()
 {
     const CustomerAnswer customer(m_state);
-    const QMap<int, QString> names = displayNames();
+    QMap<int, QString> given;
+    for (auto name = m_names.begin(); name != m_names.end(); ++name)
+        given.insert(name.key().toInt(), name.value().toString());
+    const QMap<int, QString> names = deviceNames(m_state, given);
     Shown shown;
     shown.sessionSum = m_sessionSum;
     shown.lastNoteText = m_lastNote.text();

@@ -166,7 +166,6 @@ private:
     void show();
     void showDevices(const QMap<int, QString>& names);
     QVariant registryOf(const QString& key, const AcceptorStateItem& device);
-    QMap<int, QString> displayNames() const;
 
     QString m_text;
     QDateTime m_timestamp;

@@ -14,11 +14,6 @@ QString kindName(SettingDescription::Kind kind)
     return QLatin1String(names[kind]);
 }
 
-bool isOfDevice(const SettingDescription& setting)
-{
-    return setting.group().startsWith(QLatin1String("device#"));
-}
-
 } // namespace
 
 SettingDescriptions::SettingDescriptions(QObject* parent)
@@ -29,42 +24,15 @@ SettingDescriptions::SettingDescriptions(QObject* parent)
     list();
 }
 
-void SettingDescriptions::setDevice(int device)
-{
-    if (device == m_device)
-        return;
-    m_device = device;
-    list();
-    Q_EMIT deviceChanged();
-}
-
-void SettingDescriptions::setModel(int model)
-{
-    if (model == m_model)
-        return;
-    m_model = model;
-    list();
-    Q_EMIT modelChanged();
-}
-
-void SettingDescriptions::setInterfaceType(const QString& type)
-{
-    if (type == m_interfaceType)
-        return;
-    m_interfaceType = type;
-    list();
-    Q_EMIT interfaceTypeChanged();
-}
-
 void SettingDescriptions::list()
 {
     QVector<Row> rows;
     const QList<SettingDescription> settings = AcceptorSettings::settingDescriptions();
     for (const SettingDescription& setting : settings) {
-        if (isOfDevice(setting) != (m_device >= 0) || !setting.appliesTo(m_model, m_interfaceType))
+        const QString group = setting.forDevice(m_device).group();
+        const bool isOfDevice = group != setting.group();
+        if (isOfDevice != (m_device >= 0) || !setting.appliesTo(m_model, m_interfaceType))
             continue;
-        QString group = setting.group();
-        group.replace(QLatin1Char('#'), QString::number(m_device));
         rows +=
             Row{setting.path(),
                 {group, setting.key(), setting.label(), setting.help(), kindName(setting.kind()),

@@ -29,11 +29,14 @@ public:
     explicit SettingDescriptions(QObject* parent = nullptr);
 
     int device() const { return m_device; }
-    void setDevice(int device);
+    void setDevice(int device) { set(m_device, device, &SettingDescriptions::deviceChanged); }
     int model() const { return m_model; }
-    void setModel(int model);
+    void setModel(int model) { set(m_model, model, &SettingDescriptions::modelChanged); }
     QString interfaceType() const { return m_interfaceType; }
-    void setInterfaceType(const QString& type);
+    void setInterfaceType(const QString& type)
+    {
+        set(m_interfaceType, type, &SettingDescriptions::interfaceTypeChanged);
+    }
 
     /// Whether the service can work with the value; false for a setting that there is none of.
     Q_INVOKABLE bool accepts(const QString& group, const QString& key, const QString& value) const;
@@ -48,6 +51,16 @@ Q_SIGNALS:
     void interfaceTypeChanged();
 
 private:
+    template <typename Value>
+    void set(Value& field, const Value& value, void (SettingDescriptions::*changed)())
+    {
+        if (value == field)
+            return;
+        field = value;
+        list();
+        Q_EMIT(this->*changed)();
+    }
+
     void list();
 
     int m_device = -1;

@@ -97,20 +97,10 @@ void OutputFile::commit()
         throw fault();
 }
 
-Output::Output()
+void openOutput(QFile& file)
 {
-    if (!m_file.open(STDOUT_FILENO, QIODevice::WriteOnly))
-        throw Fault{Velmo::tr("standard output: %1").arg(m_file.errorString())};
-}
-
-void Output::write(const QByteArray& text)
-{
-    writeText(m_file, text);
-}
-
-void Output::flush()
-{
-    flushText(m_file);
+    if (!file.open(STDOUT_FILENO, QIODevice::WriteOnly))
+        throw Fault{Velmo::tr("standard output: %1").arg(file.errorString())};
 }
 
 int outputWidth()
@@ -157,9 +147,10 @@ bool isOutputColored()
 
 void print(const QString& text)
 {
-    Output output;
-    output.write(text.toUtf8());
-    output.flush();
+    QFile output;
+    openOutput(output);
+    writeText(output, text.toUtf8());
+    flushText(output);
 }
 
 void printError(const QString& message)

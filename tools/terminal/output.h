@@ -5,7 +5,6 @@
 
 #include "text/fault.h"
 
-#include <QByteArray>
 #include <QFile>
 #include <QStringList>
 
@@ -17,18 +16,8 @@ constexpr int exitSuccess = 0;
 constexpr int exitFindings = 1; ///< of a check that read everything and found something
 constexpr int exitBadInput = 2;
 
-/// Standard output. Throws Fault when it cannot be written.
-class Output
-{
-public:
-    Output();
-
-    void write(const QByteArray& text);
-    void flush();
-
-private:
-    QFile m_file;
-};
+/// Opens standard output. Throws Fault when it cannot be written.
+void openOutput(QFile& file);
 
 /// A file that a command writes, "-" for standard output. A regular file is replaced when all is
 /// written, or stays as it is; it keeps its owner and mode. Anything else, as a device or a pipe,

@@ -41,7 +41,7 @@ Worker::Worker(const WorkerOptions& options, Metrics& metrics)
           [this](const QString& topic, const QByteArray& text, bool) { takeState(topic, text); })
 {
     m_summaries.watchDropped();
-    m_summaries.subscribeToOthers(options.summaries.filter());
+    m_summaries.subscribe(options.summaries.filter(), 0, /*ownToo=*/false);
     if (!options.isRetiring) {
         m_states.subscribe(shared(options, options.states), 1);
         m_states.subscribe(shared(options, options.wills), 1);

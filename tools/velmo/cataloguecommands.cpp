@@ -5,8 +5,6 @@
 
 #include "acceptors.h"
 #include "filterfactory.h"
-#include "options.h"
-#include "terminal/output.h"
 #include "terminal/table.h"
 #include "text/devicename.h"
 #include "text/filterwords.h"
@@ -22,33 +20,17 @@ void printJson(const QJsonArray& array)
     print(QString::fromUtf8(QJsonDocument(array).toJson()));
 }
 
-QStringList deviceRow(const SupportedDevice& device)
-{
-    const auto id = static_cast<Acceptors::Supported>(device.value(QStringLiteral("id")).toInt());
-    const bool paysOut = Acceptors::canDispense(id);
-    return {QString::number(id), Acceptors::devName(id), kindName(id),
-            paysOut ? Velmo::tr("yes") : Velmo::tr("no"),
-            device.value(QStringLiteral("class")).toString()};
-}
-
-// Title and explanation of a filter.
-QPair<QString, QString> texts(const QString& filter)
-{
-    const QString description = FilterFactory::getFilterDesc(filter);
-    return {description.section(QLatin1Char('|'), 0, 0), description.section(QLatin1Char('|'), 1)};
-}
-
 QJsonObject filterObject(const QString& name)
 {
     QJsonArray params;
     const QList<FieldDescription> fields = FilterFactory::getFieldsDesc(name);
     for (const FieldDescription& field : fields)
         params.append(QJsonObject::fromVariantMap(field.toMap()));
-    const auto [title, explanation] = texts(name);
+    const QString description = FilterFactory::getFilterDesc(name); // "title|explanation"
     return {{QStringLiteral("name"), name},
             {QStringLiteral("purpose"), filterPurpose(name)},
-            {QStringLiteral("title"), title},
-            {QStringLiteral("explanation"), explanation},
+            {QStringLiteral("title"), description.section(QLatin1Char('|'), 0, 0)},
+            {QStringLiteral("explanation"), description.section(QLatin1Char('|'), 1)},
             {QStringLiteral("params"), params}};
 }
 
@@ -76,8 +58,12 @@ int devicesCommand(const Arguments& arguments)
     }
     QList<QStringList> rows;
     const QList<SupportedDevice> devices = Acceptors::supportedDevices();
-    for (const SupportedDevice& device : devices)
-        rows += deviceRow(device);
+    for (const SupportedDevice& device : devices) {
+        const auto id = Acceptors::Supported(device.value(QStringLiteral("id")).toInt());
+        rows += QStringList{QString::number(id), Acceptors::devName(id), kindName(id),
+                            Acceptors::canDispense(id) ? Velmo::tr("yes") : Velmo::tr("no"),
+                            device.value(QStringLiteral("class")).toString()};
+    }
     print(formatTable({QStringLiteral(">Id"), Velmo::tr("Model"), Velmo::tr("Kind"),
                        Velmo::tr("Pays out"), Velmo::tr("Class")},
                       rows));

@@ -39,10 +39,10 @@ struct Command
 {
     const char* name; ///< "report", or "settings show" for an action
     Operand operands[3]; ///< in their order, only the last one repeated; nameless after the last
-    const char* summary; ///< one sentence, a source text of Velmo::tr(); null hides the command
-    const char* details; ///< further ones for its own help, the same; null without
     const Option* options[9]; ///< besides those below, --help and --lang; null after the last
     int (*run)(const Arguments& arguments);
+    const char* summary = nullptr; ///< one sentence of Velmo::tr(); null hides the command
+    const char* details = nullptr; ///< further ones for its own help; null without
     const Option* eitherOf[2] = {}; ///< options of which there must be one; null without
 
     /// "velmo settings get LIST.json GROUP/KEY"
@@ -58,8 +58,12 @@ struct Command
 class Arguments : public GivenOptions
 {
 public:
-    Arguments(const Command& command, const QCommandLineParser& parser,
-              const QStringList& operands);
+    Arguments(const Command& command, const QCommandLineParser& parser, const QStringList& operands)
+        : GivenOptions(parser)
+        , m_command(command)
+        , m_operands(operands)
+    {
+    }
 
     const QStringList& operands() const { return m_operands; }
 

@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
-#include "command.h"
 #include "options.h"
-#include "terminal/output.h"
 #include "terminal/table.h"
 #include "text/nearest.h"
 
@@ -191,14 +189,6 @@ const std::vector<const Option*>& everyOption()
         return found;
     }();
     return all;
-}
-
-Arguments::Arguments(const Command& command, const QCommandLineParser& parser,
-                     const QStringList& operands)
-    : GivenOptions(parser)
-    , m_command(command)
-    , m_operands(operands)
-{
 }
 
 Fault Arguments::usageFault() const

@@ -3,25 +3,13 @@
 
 #include "commands.h"
 
-#include "options.h"
-
 namespace operands {
 
-constexpr Operand sessionLog{{"LOG.jsonl", Kind::File}};
 constexpr Operand sessionLogs{{"LOG.jsonl", Kind::File}, Operand::Several};
 constexpr Operand state{{"STATE.json", Kind::File}};
 constexpr Operand list{{"LIST.json", Kind::File}};
 constexpr Operand a{{"A.json", Kind::File}};
 constexpr Operand b{{"B.json", Kind::File}};
-constexpr Operand path{{"GROUP/KEY", Kind::SettingPath}};
-constexpr Operand paths{{"GROUP/KEY", Kind::SettingPath}, Operand::Several};
-constexpr Operand assignments{{"GROUP/KEY=VALUE", Kind::Assignment}, Operand::Several};
-constexpr Operand model{{"MODEL", Kind::Model}};
-constexpr Operand deviceAssignments{{"KEY=VALUE", Kind::DeviceAssignment}, Operand::AnyNumber};
-constexpr Operand device{{"INDEX", Kind::DeviceIndex}};
-constexpr Operand filter{{"NAME", Kind::FilterName}, Operand::Optional};
-constexpr Operand words{{"WORD", Kind::Text}, Operand::Several};
-constexpr Operand manual{{"TEMPLATE", Kind::File}};
 
 } // namespace operands
 
@@ -31,6 +19,9 @@ const std::vector<Command>& commands()
     static const std::vector<Command> table{
         {"explain",
          {sessionLogs},
+         {&options::session, &options::device, &options::refusals, &options::summary,
+          &options::exitCode, &options::json, &options::html, &options::keepGoing},
+         explainCommand,
          QT_TRANSLATE_NOOP("Velmo", "Why notes were refused: one answer for every note of a log."),
          QT_TRANSLATE_NOOP(
              "Velmo",
@@ -39,150 +30,144 @@ const std::vector<Command>& commands()
              "session log has one JSON object a line, plain or compressed by gzip: what a device "
              "reported, or a published state {\"device_states\": [...]}, with \"time\" and "
              "\"session\": \"start\" where known."),
-         {&options::session, &options::device, &options::refusals, &options::summary,
-          &options::exitCode, &options::json, &options::html, &options::keepGoing},
-         explainCommand,
          {&options::filters, &options::settings}},
         {"compare",
          {a, b, sessionLogs},
+         {&options::json, &options::keepGoing},
+         compareCommand,
          QT_TRANSLATE_NOOP("Velmo", "What other filters would have decided."),
          QT_TRANSLATE_NOOP(
              "Velmo",
              "Tells every note of the logs that A accepts and B refuses, or the reverse, why, and "
              "what each refused in all. A and B are filters or settings, told apart by what they "
              "hold. Both judge what happened: what would have followed another verdict, a log does "
-             "not say. The exit code is 1 when they differ."),
-         {&options::json, &options::keepGoing},
-         compareCommand},
+             "not say. The exit code is 1 when they differ.")},
         {"replay",
-         {sessionLog},
+         {{{"LOG.jsonl", Kind::File}}},
+         {&options::json, &options::keepGoing},
+         replayCommand,
          QT_TRANSLATE_NOOP("Velmo", "What happened in a session log, event by event."),
          QT_TRANSLATE_NOOP(
              "Velmo",
              "Plays what the devices reported through the worker, the note filters and the "
              "published state, and shows for every line what came of it."),
-         {&options::json, &options::keepGoing},
-         replayCommand,
          {&options::filters, &options::settings}},
         {"report",
          {state},
+         {&options::names, &options::json, &options::watch, &options::keepGoing},
+         reportCommand,
          QT_TRANSLATE_NOOP("Velmo", "What a published service state means."),
          QT_TRANSLATE_NOOP(
              "Velmo",
              "What the customer is told, whether money may be accepted and why not, and the "
              "service report, for a published service state {\"device_states\": [...]}, with "
-             "\"time\" where known, or for many, one a line."),
-         {&options::names, &options::json, &options::watch, &options::keepGoing},
-         reportCommand},
+             "\"time\" where known, or for many, one a line.")},
         {"fleet",
          {},
+         {&options::broker, &options::summaries, &options::watch, &options::json, &options::wait,
+          &options::passwordFile, &options::tlsCa, &options::tlsCert, &options::tlsKey},
+         fleetCommand,
          QT_TRANSLATE_NOOP("Velmo", "The kiosks that need somebody, and why."),
          QT_TRANSLATE_NOOP(
              "Velmo",
              "Shows the kiosks of which nothing is heard, those where no device could take money, "
              "and those where some device does not work, worst first, of the summaries that "
-             "velmo-fleet keeps at an MQTT broker."),
-         {&options::broker, &options::summaries, &options::watch, &options::json, &options::wait,
-          &options::passwordFile, &options::tlsCa, &options::tlsCert, &options::tlsKey},
-         fleetCommand},
+             "velmo-fleet keeps at an MQTT broker.")},
         {"state",
          {state},
+         {&options::map},
+         stateCommand,
          QT_TRANSLATE_NOOP("Velmo", "Checks a device state and rewrites it."),
          QT_TRANSLATE_NOOP(
              "Velmo",
              "Checks every key and value of a device state, and writes it as the compact "
-             "text that the service sends."),
-         {&options::map},
-         stateCommand},
+             "text that the service sends.")},
         {"settings show",
          {list},
+         {&options::json, &options::formatted},
+         showSettingsCommand,
          QT_TRANSLATE_NOOP("Velmo", "The settings as the service would use them."),
          QT_TRANSLATE_NOOP("Velmo",
                            "Marks what is at its default, and what the list lacks. With --json a "
-                           R"(list of {"path", "value", "default", "source"}.)"),
-         {&options::json, &options::formatted},
-         showSettingsCommand},
+                           R"(list of {"path", "value", "default", "source"}.)")},
         {"settings get",
-         {list, path},
-         QT_TRANSLATE_NOOP("Velmo", "One value as the service would use it."),
-         nullptr,
+         {list, {{"GROUP/KEY", Kind::SettingPath}}},
          {&options::source},
-         getSettingCommand},
+         getSettingCommand,
+         QT_TRANSLATE_NOOP("Velmo", "One value as the service would use it.")},
         {"settings set",
-         {list, assignments},
+         {list, {{"GROUP/KEY=VALUE", Kind::Assignment}, Operand::Several}},
+         {&options::dryRun, &options::output, &options::force, &options::quiet},
+         setSettingsCommand,
          QT_TRANSLATE_NOOP("Velmo", "Changes values, in the list or into another file."),
          QT_TRANSLATE_NOOP(
              "Velmo",
              "Changes what it is told to, and what a device needs whose model or interface "
              "changes; every other byte stays. What would leave new errors is refused. A file "
-             "that cannot be written whole is left as it was."),
-         {&options::dryRun, &options::output, &options::force, &options::quiet},
-         setSettingsCommand},
+             "that cannot be written whole is left as it was.")},
         {"settings unset",
-         {list, paths},
-         QT_TRANSLATE_NOOP("Velmo", "Removes settings, so that their defaults apply."),
-         nullptr,
+         {list, {{"GROUP/KEY", Kind::SettingPath}, Operand::Several}},
          {&options::dryRun, &options::output, &options::force, &options::quiet},
-         unsetSettingsCommand},
+         unsetSettingsCommand,
+         QT_TRANSLATE_NOOP("Velmo", "Removes settings, so that their defaults apply.")},
         {"settings add-device",
-         {list, model, deviceAssignments},
+         {list,
+          {{"MODEL", Kind::Model}},
+          {{"KEY=VALUE", Kind::DeviceAssignment}, Operand::AnyNumber}},
+         {&options::dryRun, &options::output, &options::force, &options::quiet},
+         addDeviceCommand,
          QT_TRANSLATE_NOOP("Velmo", "Adds a device with the defaults of its model."),
          QT_TRANSLATE_NOOP("Velmo",
                            "MODEL is the number or name of velmo devices. The device gets the "
-                           "first free index, and the device count is raised to have it in."),
-         {&options::dryRun, &options::output, &options::force, &options::quiet},
-         addDeviceCommand},
+                           "first free index, and the device count is raised to have it in.")},
         {"settings remove-device",
-         {list, device},
-         QT_TRANSLATE_NOOP("Velmo", "Removes a device and moves up those behind it."),
-         nullptr,
+         {list, {{"INDEX", Kind::DeviceIndex}}},
          {&options::dryRun, &options::output, &options::force, &options::quiet},
-         removeDeviceCommand},
+         removeDeviceCommand,
+         QT_TRANSLATE_NOOP("Velmo", "Removes a device and moves up those behind it.")},
         {"settings check",
          {list},
+         {&options::json},
+         checkSettingsCommand,
          QT_TRANSLATE_NOOP("Velmo", "What the service would ignore, miss or read differently."),
          QT_TRANSLATE_NOOP("Velmo",
                            "An error is where the service would do something else than the list "
                            "says, or a device would not work; a warning is odd, but harmless. The "
-                           "exit code is 1 when it finds something."),
-         {&options::json},
-         checkSettingsCommand},
+                           "exit code is 1 when it finds something.")},
         {"settings diff",
          {a, b},
-         QT_TRANSLATE_NOOP("Velmo", "What the service would do differently with another list."),
-         QT_TRANSLATE_NOOP("Velmo", "The exit code is 1 when the lists differ."),
          {&options::json},
-         diffSettingsCommand},
+         diffSettingsCommand,
+         QT_TRANSLATE_NOOP("Velmo", "What the service would do differently with another list."),
+         QT_TRANSLATE_NOOP("Velmo", "The exit code is 1 when the lists differ.")},
         {"settings filters",
          {list},
-         QT_TRANSLATE_NOOP("Velmo", "The note filters that the settings imply."),
-         QT_TRANSLATE_NOOP("Velmo", "With --json a filters file."),
          {&options::json},
-         settingsFiltersCommand},
+         settingsFiltersCommand,
+         QT_TRANSLATE_NOOP("Velmo", "The note filters that the settings imply."),
+         QT_TRANSLATE_NOOP("Velmo", "With --json a filters file.")},
         {"settings routes",
          {list},
-         QT_TRANSLATE_NOOP("Velmo", "The route map."),
-         nullptr,
          {},
-         showRoutesCommand},
+         showRoutesCommand,
+         QT_TRANSLATE_NOOP("Velmo", "The route map.")},
         {"devices",
          {},
-         QT_TRANSLATE_NOOP("Velmo", "The catalogue of device models."),
-         nullptr,
          {&options::json},
-         devicesCommand},
+         devicesCommand,
+         QT_TRANSLATE_NOOP("Velmo", "The catalogue of device models.")},
         {"filters",
-         {filter},
+         {{{"NAME", Kind::FilterName}, Operand::Optional}},
+         {&options::json},
+         filtersCommand,
          QT_TRANSLATE_NOOP("Velmo", "The note filters and their parameters."),
          QT_TRANSLATE_NOOP("Velmo",
                            "What each filter does, and its parameters with the pattern of a valid "
-                           "value."),
-         {&options::json},
-         filtersCommand},
+                           "value.")},
         // What the shell asks for; the last word is the one that is being typed.
-        {"complete", {words}, nullptr, nullptr, {}, completeCommand},
+        {"complete", {{{"WORD", Kind::Text}, Operand::Several}}, {}, completeCommand},
         // The manual page, of a template with the places for what these rows say.
-        {"manual", {manual}, nullptr, nullptr, {}, manualCommand},
+        {"manual", {{{"TEMPLATE", Kind::File}}}, {}, manualCommand},
     };
     return table;
 }

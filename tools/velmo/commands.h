@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "command.h"
+#include "options.h"
 
 // What the commands run; each returns the exit code.
 

@@ -3,11 +3,8 @@
 
 #include "answerjson.h"
 #include "commands.h"
-#include "filtersinput.h"
-#include "inputfile.h"
+#include "input.h"
 #include "jsonlines.h"
-#include "options.h"
-#include "terminal/output.h"
 #include "terminal/table.h"
 
 #include <atomic>
@@ -35,10 +32,13 @@ public:
         , m_keepGoing(arguments.isSet(options::keepGoing))
         , m_a(std::move(a))
         , m_b(std::move(b))
-        , m_results(size_t(m_logs.size()))
     {
+        for (const QString& log : m_logs) {
+            m_tasks.emplace_back([this, log] { return resultOf(log); });
+            m_results.push_back(m_tasks.back().get_future());
+        }
         const size_t cores = std::max(1U, std::thread::hardware_concurrency());
-        for (size_t i = 0; i < std::min(cores, m_results.size()); ++i)
+        for (size_t i = 0; i < std::min(cores, m_tasks.size()); ++i)
             m_workers.push_back(std::async(std::launch::async, [this] { work(); }));
     }
 
@@ -48,24 +48,25 @@ public:
     template <typename Receiver>
     void forEachResult(Receiver receive)
     {
-        for (std::promise<LogResult>& result : m_results)
-            receive(result.get_future().get());
+        for (std::future<LogResult>& result : m_results)
+            receive(result.get());
     }
 
 private:
     void work()
     {
-        for (size_t i = m_next++; i < m_results.size() && !m_stopped; i = m_next++) {
-            try {
-                m_results.at(i).set_value(compare(m_logs.at(int(i))));
-            } catch (const Fault& fault) {
-                if (m_keepGoing) // the log cannot be opened
-                    m_results.at(i).set_value({{}, {fault.message}, 0, {}});
-                else
-                    m_results.at(i).set_exception(std::current_exception());
-            } catch (...) {
-                m_results.at(i).set_exception(std::current_exception());
-            }
+        for (size_t i = m_next++; i < m_tasks.size() && !m_stopped; i = m_next++)
+            m_tasks.at(i)();
+    }
+
+    LogResult resultOf(const QString& log) const
+    {
+        try {
+            return compare(log);
+        } catch (const Fault& fault) {
+            if (!m_keepGoing)
+                throw;
+            return {{}, {fault.message}, 0, {}}; // the log cannot be opened
         }
     }
 
@@ -99,7 +100,8 @@ private:
     const bool m_keepGoing;
     const FilterSet m_a;
     const FilterSet m_b;
-    std::vector<std::promise<LogResult>> m_results;
+    std::vector<std::packaged_task<LogResult()>> m_tasks; // one a log
+    std::vector<std::future<LogResult>> m_results;
     std::atomic<size_t> m_next{0};
     std::atomic<bool> m_stopped{false};
     std::vector<std::future<void>> m_workers; // the first to go: waits for them

@@ -5,10 +5,8 @@
 #include "acceptorsettings.h"
 #include "commands.h"
 #include "filterfactory.h"
-#include "options.h"
+#include "input.h"
 #include "settings/settingslist.h"
-#include "settingsinput.h"
-#include "terminal/output.h"
 
 #include <algorithm>
 

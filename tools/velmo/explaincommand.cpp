@@ -3,12 +3,9 @@
 
 #include "answerjson.h"
 #include "commands.h"
-#include "filtersinput.h"
-#include "inputfile.h"
+#include "input.h"
 #include "jsonlines.h"
 #include "log/explanationpage.h"
-#include "options.h"
-#include "terminal/output.h"
 #include "terminal/table.h"
 
 #include <QTemporaryFile>

@@ -5,9 +5,7 @@
 
 #include "brokerconnection.h"
 #include "kiosktopic.h"
-#include "options.h"
 #include "service/kiosksummary.h"
-#include "terminal/output.h"
 #include "terminal/table.h"
 #include "json/jsontext.h"
 
@@ -42,8 +40,8 @@ const char* const conditionTexts[] = {
 struct Kiosk
 {
     QString name;
-    int condition = unknown;
-    qint64 time = KioskSummary::noTime;
+    int condition;
+    qint64 time;
     QStringList faults;
 
     const char* conditionName() const
@@ -73,17 +71,12 @@ public:
             m_kiosks.remove(name);
             return;
         }
-        Kiosk kiosk;
-        kiosk.name = name;
         try {
             const KioskSummary summary(text);
-            kiosk.condition = summary.condition;
-            kiosk.time = summary.time;
-            kiosk.faults = summary.faults;
+            m_kiosks.insert(name, {name, summary.condition, summary.time, summary.faults});
         } catch (const Fault& fault) {
-            kiosk.faults += fault.message;
+            m_kiosks.insert(name, {name, unknown, KioskSummary::noTime, {fault.message}});
         }
-        m_kiosks.insert(name, kiosk);
     }
 
     bool isEmpty() const { return m_kiosks.isEmpty(); }

@@ -4,7 +4,7 @@
 #include "jsonlines.h"
 
 #include "command.h"
-#include "terminal/output.h"
+#include "text/textoutput.h"
 
 #include <QElapsedTimer>
 #include <QJsonDocument>
@@ -93,7 +93,8 @@ int processLines(TextInput& file, bool keepGoing,
                  const std::function<QByteArray(const QByteArray& line)>& toText,
                  const std::function<void()>& skipLine)
 {
-    Output output;
+    QFile output;
+    openOutput(output);
     const bool flushLines = file.isLive() || isatty(STDOUT_FILENO);
     Progress progress;
     qint64 skipped = 0;
@@ -111,11 +112,11 @@ int processLines(TextInput& file, bool keepGoing,
     while (takeLine(file, keepGoing, take, skip)) {
         if (result.isEmpty())
             continue;
-        output.write(std::exchange(result, {}));
+        writeText(output, std::exchange(result, {}));
         if (flushLines)
-            output.flush();
+            flushText(output);
     }
-    output.flush();
+    flushText(output);
     progress.erase();
     if (skipped == 0)
         return exitSuccess;

@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "command.h"
-#include "terminal/output.h"
 
-#include <QCoreApplication>
 #include <QLoggingCategory>
 
 int main(int argc, char* argv[])

@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "commands.h"
-#include "inputfile.h"
-#include "options.h"
-#include "terminal/output.h"
+#include "input.h"
 
 #include <palx/appversionmanager.h>
 
@@ -24,48 +22,30 @@ QString entry(const QString& term, const QString& meaning)
     return QStringLiteral(".TP\n.B %1\n%2\n").arg(escaped(term), escaped(meaning));
 }
 
-QString synopsis()
-{
-    QString lines = QStringLiteral(".nf\n");
-    for (const Command& command : commands()) {
-        if (command.summary)
-            lines += escaped(command.usage()) + QLatin1Char('\n');
-    }
-    return lines + QStringLiteral(".fi\n");
-}
-
-QString commandEntries()
-{
-    QString entries;
-    for (const Command& command : commands()) {
-        if (!command.summary)
-            continue;
-        QString meaning = QLatin1String(command.summary);
-        if (command.details)
-            meaning += QLatin1Char(' ') + QLatin1String(command.details);
-        entries += entry(QLatin1String(command.name), meaning);
-    }
-    return entries;
-}
-
-QString optionEntries()
-{
-    QString entries;
-    for (const Option* const option : everyOption())
-        entries += entry(option->usage(), QLatin1String(option->help));
-    return entries;
-}
-
 } // namespace
 
 int manualCommand(const Arguments& arguments)
 {
     QString page = QString::fromUtf8(openInput(arguments.operands().constFirst()).readAll());
     const QString version = palx::AppVersionManager::version(QStringLiteral("velmolib")).version();
+    QString usages;
+    QString entries;
+    for (const Command& command : commands()) {
+        if (!command.summary)
+            continue;
+        usages += escaped(command.usage()) + QLatin1Char('\n');
+        QString meaning = QLatin1String(command.summary);
+        if (command.details)
+            meaning += QLatin1Char(' ') + QLatin1String(command.details);
+        entries += entry(QLatin1String(command.name), meaning);
+    }
+    QString optionEntries;
+    for (const Option* const option : everyOption())
+        optionEntries += entry(option->usage(), QLatin1String(option->help));
     page.replace(QStringLiteral("@VERSION@"), version);
-    page.replace(QStringLiteral("@SYNOPSIS@\n"), synopsis());
-    page.replace(QStringLiteral("@COMMANDS@\n"), commandEntries());
-    page.replace(QStringLiteral("@OPTIONS@\n"), optionEntries());
+    page.replace(QStringLiteral("@SYNOPSIS@\n"), QStringLiteral(".nf\n%1.fi\n").arg(usages));
+    page.replace(QStringLiteral("@COMMANDS@\n"), entries);
+    page.replace(QStringLiteral("@OPTIONS@\n"), optionEntries);
     print(page);
     return exitSuccess;
 }

@@ -3,12 +3,9 @@
 
 #include "answerjson.h"
 #include "commands.h"
-#include "filtersinput.h"
-#include "inputfile.h"
+#include "input.h"
 #include "jsonlines.h"
 #include "log/replay.h"
-#include "options.h"
-#include "terminal/output.h"
 #include "terminal/table.h"
 
 #include <iterator>
@@ -19,17 +16,14 @@ namespace {
 QByteArray jsonLine(qint64 lineNumber, const LogTime& time, const ReplayStep& step)
 {
     const DeviceState& state = step.device->state();
-    const auto verdict = [&step] {
-        if (step.verdict == ReplayStep::NoNote)
-            return JsonText::null();
-        return JsonText(step.refusedBy ? QStringLiteral("reject") : QStringLiteral("accept"));
-    };
-    const auto refusedBy = [&step] {
-        return step.refusedBy
-            ? JsonText::object({{"name", filterName(*step.refusedBy)},
-                                {"params", JsonText::of(filterParams(*step.refusedBy))}})
-            : JsonText::null();
-    };
+    JsonText verdict = JsonText::null();
+    JsonText refusedBy = JsonText::null();
+    if (step.verdict != ReplayStep::NoNote)
+        verdict = step.refusedBy ? QStringLiteral("reject") : QStringLiteral("accept");
+    if (step.refusedBy) {
+        refusedBy = JsonText::object({{"name", filterName(*step.refusedBy)},
+                                      {"params", JsonText::of(filterParams(*step.refusedBy))}});
+    }
     QByteArray text = JsonText::object({
         {"line", lineNumber},
         {"time", time.isKnown() ? JsonText(time.iso()) : JsonText::null()},
@@ -41,8 +35,8 @@ QByteArray jsonLine(qint64 lineNumber, const LogTime& time, const ReplayStep& st
         {"note", state.currentNote},
         {"session_sum", state.sessionSum},
         {"sent", step.sent},
-        {"verdict", verdict()},
-        {"refused_by", refusedBy()},
+        {"verdict", verdict},
+        {"refused_by", refusedBy},
         {"machine", jsonOf(step.device->conditions())},
         {"payment_text", step.paymentText},
         {"accepting_allowed", step.acceptingAllowed},

@@ -1,18 +1,15 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
-#include "settingsinput.h"
+#include "commands.h"
 
 #include "acceptors.h"
 #include "acceptorsettings.h"
-#include "commands.h"
 #include "droutemapitem.h"
 #include "filterchain.h"
-#include "filtersfile.h"
-#include "options.h"
+#include "input.h"
 #include "settings/settingscheck.h"
 #include "settings/settingslist.h"
-#include "terminal/output.h"
 #include "terminal/table.h"
 #include "text/devicename.h"
 #include "text/filterwords.h"
@@ -124,14 +121,10 @@ QString indented(const QString& lines)
 QString tableOf(const Used& used)
 {
     const QString value = used.value.toString();
-    switch (used.setting.kind()) {
-    case SettingDescription::AttemptsLimits:
+    const SettingDescription::Kind kind = used.setting.kind();
+    if (kind == SettingDescription::AttemptsLimits)
         return limitsTable(value);
-    case SettingDescription::RouteMap:
-        return routesTable(value);
-    default:
-        return {};
-    }
+    return kind == SettingDescription::RouteMap ? routesTable(value) : QString();
 }
 
 // The settings of the service or of one device; tables of their own go to @p tables.

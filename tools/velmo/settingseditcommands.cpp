@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "commands.h"
-#include "options.h"
+#include "input.h"
 #include "settings/settingsedit.h"
-#include "settingsinput.h"
-#include "terminal/output.h"
 #include "text/textoutput.h"
 
 #include <QFileInfo>
@@ -21,12 +19,6 @@
 namespace {
 
 const QString standardStream = QStringLiteral("-");
-
-// Whether two names lead to one file.
-bool areSame(const QString& a, const QString& b)
-{
-    return a == b || (QFileInfo::exists(a) && QFileInfo(a) == QFileInfo(b));
-}
 
 // Keeps others of this tool from editing a list until it is written.
 class EditLock
@@ -130,7 +122,8 @@ QString outputOf(const Arguments& arguments)
 {
     const QString input = arguments.operands().constFirst();
     const QString output = arguments.value(options::output);
-    return output.isEmpty() || (input != standardStream && areSame(input, output)) ? input : output;
+    const bool isOneFile = QFileInfo::exists(input) && QFileInfo(input) == QFileInfo(output);
+    return output.isEmpty() || (input != standardStream && isOneFile) ? input : output;
 }
 
 int finish(const Arguments& arguments, const ArrayFile& original, const SettingsEdit& edit)

@@ -5,12 +5,10 @@
 
 #include "acceptorstate.h"
 #include "devicestate.h"
-#include "inputfile.h"
+#include "input.h"
 #include "jsonlines.h"
 #include "log/sessionline.h"
-#include "options.h"
 #include "service/serviceanswer.h"
-#include "terminal/output.h"
 #include "text/devicename.h"
 
 #include <QJsonDocument>
@@ -18,25 +16,12 @@
 
 namespace {
 
-// Does what may find fault with the contents of a file, and names the file then.
-template <typename Work>
-auto inFile(const TextInput& file, Work work)
+// @param text what is in the file
+QJsonObject objectIn(const TextInput& file, const QByteArray& text)
 {
-    try {
-        return work();
-    } catch (const Fault& fault) {
-        throw Fault{QStringLiteral("%1: %2").arg(file.name(), fault.message)};
-    }
-}
-
-QJsonObject readObject(TextInput& file, QByteArray* text = nullptr)
-{
-    const QByteArray read = file.readAll();
-    const QJsonDocument document = file.parseJson(read, 1);
+    const QJsonDocument document = file.parseJson(text, 1);
     if (!document.isObject())
         throw file.faultAt(1, Velmo::tr("expected a JSON object"));
-    if (text)
-        *text = read;
     return document.object();
 }
 
@@ -44,7 +29,7 @@ QJsonObject readObject(TextInput& file, QByteArray* text = nullptr)
 QMap<int, QString> readNames(const QString& fileName)
 {
     TextInput file = openInput(fileName);
-    const QJsonObject object = readObject(file);
+    const QJsonObject object = objectIn(file, file.readAll());
     QMap<int, QString> names;
     for (auto entry = object.begin(); entry != object.end(); ++entry) {
         bool isNumber = false;
@@ -135,9 +120,9 @@ DeviceState checkedState(const QByteArray& text)
 
 int reportCommand(const Arguments& arguments)
 {
-    QMap<int, QString> given;
-    if (arguments.isSet(options::names))
-        given = readNames(arguments.value(options::names));
+    const QMap<int, QString> given = arguments.isSet(options::names)
+        ? readNames(arguments.value(options::names))
+        : QMap<int, QString>();
     const bool isJson = arguments.isSet(options::json);
     const bool isWatched = arguments.isSet(options::watch);
     if (isJson && isWatched)
@@ -171,9 +156,14 @@ int reportCommand(const Arguments& arguments)
 int stateCommand(const Arguments& arguments)
 {
     TextInput file = openInput(arguments.operands().constFirst());
-    QByteArray text;
-    readObject(file, &text);
-    const DeviceState state = inFile(file, [&] { return checkedState(text); });
+    const QByteArray text = file.readAll();
+    objectIn(file, text);
+    DeviceState state;
+    try {
+        state = checkedState(text);
+    } catch (const Fault& fault) {
+        throw Fault{QStringLiteral("%1: %2").arg(file.name(), fault.message)};
+    }
     const QJsonDocument document(QJsonObject::fromVariantMap(state.toMap()));
     print(arguments.isSet(options::map) ? QString::fromUtf8(document.toJson())
                                         : state.serialize() + QLatin1Char('\n'));

@@ -30,22 +30,18 @@ Item {
     }
 
     // The message about a note goes away with the time, so that the next customer does not read it.
-    property bool noteFresh: false
     Connections {
         target: screen.service
         function onLastNoteOutcomeChanged() {
-            screen.noteFresh = true;
             freshness.restart();
         }
         function onSessionSumChanged() {
-            screen.noteFresh = true;
             freshness.restart();
         }
     }
     Timer {
         id: freshness
         interval: 15000
-        onTriggered: screen.noteFresh = false
     }
 
     MouseArea {
@@ -80,18 +76,14 @@ Item {
         Item {
             Layout.fillHeight: true
         }
-        Text {
+        FittedText {
             objectName: "headline"
             Layout.fillWidth: true
             Layout.preferredHeight: 2.4 * Theme.huge
             text: screen.paid ? qsTr("Paid. Thank you!") : screen.service.customerText
             font.pixelSize: Theme.huge
             font.bold: true
-            fontSizeMode: Text.Fit
             minimumPixelSize: Theme.medium
-            wrapMode: Text.WordWrap
-            horizontalAlignment: Text.AlignHCenter
-            verticalAlignment: Text.AlignVCenter
             color: Theme.ink
         }
 
@@ -124,7 +116,7 @@ Item {
                     visible: screen.service.cardAccepted
                 }
             }
-            Text {
+            FittedText {
                 objectName: "outOfService"
                 anchors.fill: parent
                 visible: !screen.service.inService && !screen.paid
@@ -133,11 +125,6 @@ Item {
                       : screen.noteInside ? qsTr("Please call the staff.")
                                           : qsTr("Please use another kiosk.")
                 font.pixelSize: Theme.large
-                fontSizeMode: Text.Fit
-                minimumPixelSize: Theme.small
-                wrapMode: Text.WordWrap
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
                 color: Theme.quiet
             }
         }
@@ -202,23 +189,18 @@ Item {
             Layout.preferredHeight: 130 * Theme.unit
             radius: Theme.gap
             color: good ? Theme.goodGround : Theme.badGround
-            opacity: noteText.text !== "" && screen.noteFresh && screen.service.available ? 1 : 0
+            opacity: noteText.text !== "" && freshness.running && screen.service.available ? 1 : 0
             Behavior on opacity {
                 NumberAnimation { duration: Theme.duration }
             }
 
-            Text {
+            FittedText {
                 id: noteText
                 objectName: "lastNote"
                 anchors.fill: parent
                 anchors.margins: Theme.gap
                 text: screen.service.lastNoteText
                 font.pixelSize: Theme.large
-                fontSizeMode: Text.Fit
-                minimumPixelSize: Theme.small
-                wrapMode: Text.WordWrap
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
                 color: parent.good ? Theme.good : Theme.bad
             }
         }

@@ -35,27 +35,20 @@ Rectangle {
                 wrapMode: Text.Wrap
                 color: Theme.ink
             }
-            Text {
+            SmallText {
                 width: content.width
                 // A device that was given no name is called after its kind and model.
                 text: [card.entry.name.includes(card.entry.modelName) ? "" : card.entry.kind,
                        card.entry.name.includes(card.entry.modelName) ? "" : card.entry.modelName,
                        qsTr("device %1, thread %2").arg(card.entry.deviceId).arg(card.entry.threadId),
                        card.entry.idText].filter(part => part !== "").join(" · ")
-                textFormat: Text.PlainText
-                font.pixelSize: Theme.small
-                wrapMode: Text.Wrap
                 color: Theme.quiet
             }
-            Text {
+            SmallText {
                 width: content.width
                 text: card.entry.enabled
                       ? card.entry.statusText + (card.entry.description === "" ? "" : ": " + card.entry.description)
                       : qsTr("switched off")
-                textFormat: Text.PlainText
-                font.pixelSize: Theme.small
-                wrapMode: Text.Wrap
-                color: Theme.ink
             }
             Flow {
                 width: content.width
@@ -72,27 +65,22 @@ Rectangle {
             }
             Repeater {
                 model: card.entry.wrong
-                Text {
+                SmallText {
                     required property string modelData
                     width: content.width
                     text: modelData
-                    textFormat: Text.PlainText
-                    font.pixelSize: Theme.small
-                    wrapMode: Text.Wrap
                     color: Theme.bad
                 }
             }
-            Text {
+            SmallText {
                 width: content.width
                 text: qsTr("Inserted %1, rejected %2, returned %3").arg(card.entry.notesInserted)
                       .arg(card.entry.notesRejected).arg(card.entry.notesReturned)
-                font.pixelSize: Theme.small
-                wrapMode: Text.Wrap
                 color: Theme.quiet
             }
             Repeater {
                 model: card.entry.registry
-                Text {
+                SmallText {
                     required property bool isCoin
                     required property int channel
                     required property int stock
@@ -103,10 +91,6 @@ Rectangle {
                     text: (isCoin ? qsTr("Hopper %1: %2 coins of %3 %4, %5 rejected")
                                   : qsTr("Cassette %1: %2 notes of %3 %4, %5 rejected"))
                           .arg(channel).arg(stock).arg(denomination).arg(currency).arg(rejects)
-                    textFormat: Text.PlainText
-                    font.pixelSize: Theme.small
-                    wrapMode: Text.Wrap
-                    color: Theme.ink
                 }
             }
         }

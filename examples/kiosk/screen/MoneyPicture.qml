@@ -13,6 +13,11 @@ Column {
 
     spacing: Theme.gap / 2
 
+    component Disc: Rectangle {
+        height: width
+        radius: width / 2
+    }
+
     Item {
         id: box
         width: 160 * Theme.unit
@@ -27,42 +32,35 @@ Column {
             border.color: Theme.good
             border.width: 4 * Theme.unit
 
-            Rectangle {
+            Disc {
                 anchors.centerIn: parent
                 width: parent.height * 0.55
-                height: width
-                radius: width / 2
                 color: "transparent"
                 border.color: Theme.good
                 border.width: 4 * Theme.unit
             }
             Repeater {
                 model: 2
-                Rectangle {
+                Disc {
                     required property int index
                     x: index === 0 ? 14 * Theme.unit : box.width - width - 14 * Theme.unit
                     anchors.verticalCenter: parent.verticalCenter
                     width: 10 * Theme.unit
-                    height: width
-                    radius: width / 2
                     color: Theme.good
                 }
             }
         }
-        Rectangle { // a coin
+        Disc { // a coin
             visible: picture.kind === "coin"
             anchors.centerIn: parent
             width: box.height
-            height: width
-            radius: width / 2
             color: "#fdf3d8"
             border.color: "#6b4e00"
             border.width: 5 * Theme.unit
 
-            Rectangle {
+            Disc {
                 anchors.fill: parent
                 anchors.margins: 14 * Theme.unit
-                radius: width / 2
                 color: "transparent"
                 border.color: "#6b4e00"
                 border.width: 2 * Theme.unit

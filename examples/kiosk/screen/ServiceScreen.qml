@@ -72,28 +72,23 @@ Rectangle {
                 onClicked: screen.motionWanted(!Theme.motion)
             }
         }
-        Text {
+        SmallText {
             objectName: "age"
             Layout.fillWidth: true
             text: (screen.service.available ? "" : qsTr("The acceptor service is not on the bus.") + " ")
                   + (screen.age < 0 ? qsTr("No state yet.")
                      : qsTr("State of %1, %2 s old.")
                        .arg(Qt.formatDateTime(screen.service.timestamp, "dd.MM.yyyy hh:mm:ss")).arg(screen.age))
-            font.pixelSize: Theme.small
             font.bold: !screen.service.available
-            wrapMode: Text.Wrap
             color: screen.service.available ? Theme.ink : Theme.bad
         }
-        Text {
+        SmallText {
             objectName: "reasons"
             Layout.fillWidth: true
             visible: text !== ""
             // A validator that idles takes notes, although it is not ready for another command.
             text: screen.service.noteAccepted || screen.service.coinAccepted ? ""
                   : Array.from(screen.service.reasons).join("\n")
-            textFormat: Text.PlainText
-            font.pixelSize: Theme.small
-            wrapMode: Text.Wrap
             color: Theme.bad
         }
 

@@ -4,8 +4,15 @@
 #pragma once
 
 #include "filtersfile.h"
+#include "settings/arrayfile.h"
 
 class Arguments;
+
+/// Opens a file for reading, "-" for standard input. Throws Fault when it cannot be opened.
+TextInput openInput(const QString& fileName);
+
+/// Opens and reads a settings list, "-" for standard input. Throws Fault for anything else.
+ArrayFile readSettings(const QString& fileName);
 
 /// The filters that a command was called with and where they come from.
 struct FiltersInput

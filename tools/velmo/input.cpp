@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
-#include "filtersinput.h"
+#include "input.h"
 
-#include "command.h"
-#include "inputfile.h"
 #include "options.h"
-#include "settings/arrayfile.h"
 #include "settings/settingscheck.h"
-#include "settingsinput.h"
-#include "terminal/output.h"
+#include "settings/settingslist.h"
 #include "terminal/table.h"
+
+#include <QFile>
+
+#include <unistd.h>
 
 namespace {
 
@@ -19,17 +19,35 @@ FiltersInput read(const ArrayFile& file, ListKind kind)
     FilterSet filters = filterSetOf(file, kind);
     QStringList findings;
     if (kind == ListKind::Settings) {
-        for (const SettingsFinding& finding : checkSettings(file))
+        for (const SettingsFinding& finding : checkSettings(file)) {
             findings += finding.line(file);
+            printError(findings.constLast());
+        }
     }
-    for (const QString& finding : std::as_const(findings))
-        printError(finding);
     if (!findings.isEmpty())
         printError(Velmo::tr("%1: answers may differ from the service's").arg(file.name()));
     return {std::move(filters), file.name(), findings};
 }
 
 } // namespace
+
+TextInput openInput(const QString& fileName)
+{
+    auto file = std::make_unique<QFile>(fileName);
+    const bool isStandardInput = fileName == QLatin1String("-");
+    const QString name = isStandardInput ? Velmo::tr("standard input") : fileName;
+    const bool opened = isStandardInput ? file->open(STDIN_FILENO, QIODevice::ReadOnly)
+                                        : file->open(QIODevice::ReadOnly);
+    if (!opened)
+        throw Fault{QStringLiteral("%1: %2").arg(name, file->errorString())};
+    return {std::move(file), name};
+}
+
+ArrayFile readSettings(const QString& fileName)
+{
+    TextInput input = openInput(fileName);
+    return readSettingsFile(input);
+}
 
 QString FiltersInput::rulesText(const QString& heading) const
 {
