@@ -154,12 +154,13 @@ void LogExplainer::takeEvent(const LogStep& step, const SessionLine& line, qint6
     if (event.state != STATE_IDLING && std::exchange(trail.isValueNew, false)) {
         if (std::exchange(trail.note->isValuePresumed, false))
             takeBackValue(answer);
-        if (!answer.hasValue())
-            answer.note = event.currentNote;
-        else if (answer.note != event.currentNote)
+        if (answer.hasValue() && answer.note != event.currentNote) {
             answer.uncertain += Diagnosis::tr("its value became %1 in line %2")
                                     .arg(event.currentNote)
                                     .arg(lineNumber);
+        } else {
+            answer.note = event.currentNote;
+        }
     }
     follow(device, *trail.note, isNewState, lineNumber);
 }
