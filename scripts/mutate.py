@@ -44,6 +44,7 @@ TESTS = [
     ("src/", "tst_records tst_catalogue tst_settingsmanager tst_devicestate"),
     (r"diagnosis/.*setting", "tst_formats tst_settingstool tst_explain"),
     (r"diagnosis/.*kiosksummary", "tst_fleet tst_formats fleet"),
+    (r"diagnosis/(log/|text/filter)", "tst_explain tst_replay tst_compare tst_velmo tst_formats"),
     ("diagnosis/", "tst_fleet tst_formats tst_replay tst_quick tst_velmo tst_compare tst_explain tst_settingstool "
                    "tst_kiosk"),
     ("quick/", "tst_quick tst_kiosk"),
@@ -154,7 +155,8 @@ def main():
         subprocess.run(["git", "clone", "--quiet", ROOT, WORK], check=True)
     subprocess.run(["git", "-C", WORK, "fetch", "--quiet", ROOT, "HEAD"], check=True)
     subprocess.run(["git", "-C", WORK, "reset", "--quiet", "--hard", "FETCH_HEAD"], check=True)
-    if not run("cmake", "--preset", "dev", "-DVELMOLIB_WARNINGS_AS_ERRORS=OFF"):
+    if not (run("cmake", "--preset", "dev", "-DVELMOLIB_WARNINGS_AS_ERRORS=OFF")
+            and run("cmake", "--build", "build/dev", "--target", "velmolib_translations")):
         sys.exit("mutate.py: the unchanged checkout does not build")
     patience = {test: how_long(test) for test in sorted({test for name in names for test in tests_of(name)})}
     is_enough = True
