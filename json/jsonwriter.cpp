@@ -60,9 +60,13 @@ void BasicJsonWriter<Char>::appendNumber(qint64 number)
 template <typename Char>
 void BasicJsonWriter<Char>::appendBytes(const char* begin, int size)
 {
-    const auto before = m_text.size();
-    m_text.resize(before + size);
-    std::transform(begin, begin + size, m_text.data() + before, asChar);
+    if constexpr (std::is_same_v<Char, char>) {
+        m_text.append(begin, size);
+    } else {
+        const auto before = m_text.size();
+        m_text.resize(before + size);
+        std::transform(begin, begin + size, m_text.data() + before, asChar);
+    }
 }
 
 // Text without anything to escape.
