@@ -3,35 +3,22 @@
 
 #include "json/jsontext.h"
 
-#include <utility>
-
-JsonText::JsonText(const QString& text)
-{
-    JsonBuffer json;
-    json.append(text);
-    append(json.text());
-}
+#include <QJsonArray>
+#include <QJsonDocument>
 
 JsonText JsonText::of(const QVariant& value)
 {
-    JsonBuffer json;
-    json.append(value);
-    return JsonText(json.text());
-}
-
-JsonText JsonText::null()
-{
-    return JsonText(QByteArrayLiteral("null"));
+    const QByteArray array =
+        QJsonDocument(QJsonArray{QJsonValue::fromVariant(value)}).toJson(QJsonDocument::Compact);
+    return JsonText(array.mid(1, array.size() - 2));
 }
 
 JsonText JsonText::object(std::initializer_list<Member> members)
 {
     JsonBuffer json;
-    char before = '{';
-    for (const Member& member : members) {
-        json << std::exchange(before, ',') << '"' << member.key << "\":";
-        member.appendTo(json);
-    }
-    json << '}';
+    json.beginObject();
+    for (const Member& member : members)
+        member.writeTo(json);
+    json.endObject();
     return JsonText(json.text());
 }

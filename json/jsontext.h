@@ -19,18 +19,21 @@ class JsonText : public QByteArray
 public:
     struct Member;
 
-    JsonText(const QString& text);
-    template <typename Number, typename = std::enable_if_t<std::is_integral_v<Number>>>
-    JsonText(Number number)
+    /// A text, a whole number or a switch.
+    template <
+        typename Value,
+        typename = std::enable_if_t<std::is_integral_v<Value> || std::is_same_v<Value, QString>>>
+    JsonText(const Value& value)
     {
         JsonBuffer json;
-        json.append(number);
+        json.append(value);
         append(json.text());
     }
 
+    /// A value as QJsonValue::fromVariant() takes it.
     static JsonText of(const QVariant& value);
 
-    static JsonText null();
+    static JsonText null() { return JsonText(QByteArrayLiteral("null")); }
 
     static JsonText object(std::initializer_list<Member> members);
 
@@ -69,22 +72,18 @@ struct JsonText::Member
     /// @param name plain ASCII
     template <typename Value>
     Member(const char* name, const Value& value)
-        : key(name)
+        : m_key(name)
         , m_value(&value)
-        , m_append([](JsonBuffer& json, const void* known) {
-            if constexpr (std::is_same_v<Value, JsonText>)
-                json << *static_cast<const JsonText*>(known);
-            else
-                json.append(*static_cast<const Value*>(known));
+        , m_write([](JsonBuffer& json, const char* key, const void* known) {
+            json.writeMember(key, *static_cast<const Value*>(known));
         })
     {
     }
 
-    void appendTo(JsonBuffer& json) const { m_append(json, m_value); }
-
-    const char* key;
+    void writeTo(JsonBuffer& json) const { m_write(json, m_key, m_value); }
 
 private:
+    const char* m_key;
     const void* m_value;
-    void (*m_append)(JsonBuffer& json, const void* value);
+    void (*m_write)(JsonBuffer& json, const char* key, const void* value);
 };

@@ -5,9 +5,9 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QVariant>
 #include <QVarLengthArray>
 
+#include <cstring>
 #include <type_traits>
 
 /// Writes compact JSON text as Qt's QJsonDocument does, without a document in between: UTF-16 as
@@ -27,6 +27,14 @@ public:
     void writeKey(const QString& key);
 
     template <typename Value>
+    void writeMember(const char* key, const Value& value)
+    {
+        separate();
+        *this << '"' << key << "\":";
+        append(value);
+    }
+
+    template <typename Value>
     void write(const Value& value)
     {
         separate();
@@ -35,20 +43,17 @@ public:
 
     /// Appends a value alone.
     void append(const QString& text);
-    void append(const QVariant& value); ///< as QJsonValue::fromVariant() takes it
+    void append(const QByteArray& json) { appendBytes(json.constData(), int(json.size())); }
     template <typename Number, typename = std::enable_if_t<std::is_integral_v<Number>>>
     void append(Number number)
     {
         if constexpr (std::is_same_v<Number, bool>)
-            append(number ? "true" : "false");
+            *this << (number ? "true" : "false");
         else
             appendNumber(qint64(number));
     }
 
-    /// Appends ASCII as it stands.
-    void append(const char* ascii);
-
-    /// Appends text that is JSON already, or a part of it.
+    /// Appends a part of JSON text as it stands.
     BasicJsonWriter& operator<<(char character)
     {
         m_text.append(asChar(character));
@@ -56,17 +61,7 @@ public:
     }
     BasicJsonWriter& operator<<(const char* ascii)
     {
-        append(ascii);
-        return *this;
-    }
-    BasicJsonWriter& operator<<(const QByteArray& utf8)
-    {
-        if constexpr (std::is_same_v<Char, char>) {
-            m_text.append(utf8.constData(), int(utf8.size()));
-        } else {
-            const QString utf16 = QString::fromUtf8(utf8);
-            m_text.append(utf16.constData(), int(utf16.size()));
-        }
+        appendBytes(ascii, int(std::strlen(ascii)));
         return *this;
     }
 
@@ -77,19 +72,30 @@ public:
     }
 
 private:
-    static Char asChar(char ascii)
+    static Char asChar(char byte) { return Char(ushort(uchar(byte))); }
+
+    void separate()
     {
-        if constexpr (std::is_same_v<Char, char>)
-            return ascii;
-        else
-            return QLatin1Char(ascii);
+        if (m_needsComma)
+            *this << ',';
+        m_needsComma = true;
     }
 
-    void separate();
-    void begin(char bracket);
-    void end(char bracket);
+    void begin(char bracket)
+    {
+        separate();
+        *this << bracket;
+        m_needsComma = false;
+    }
+
+    void end(char bracket)
+    {
+        *this << bracket;
+        m_needsComma = true;
+    }
+
     void appendNumber(qint64 number);
-    void appendAscii(const char* begin, int size);
+    void appendBytes(const char* begin, int size); // ASCII where the text is UTF-16
     void appendRun(const QChar* begin, const QChar* end);
     void appendEscape(QChar c);
 

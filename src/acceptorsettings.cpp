@@ -102,7 +102,7 @@ using SettingsTable::deviceGroup;
 template <typename Visitor>
 void walk(Form form, Visitor visit)
 {
-    for (const SettingRow& row : SettingsTable::serviceSettings())
+    for (const SettingRow& row : SettingsTable::serviceSettings)
         visit(row.group, row.key(form), row.access.value(form, nullptr));
     for (auto entry = S::devices.constBegin(); entry != S::devices.constEnd(); ++entry) {
         const int index = entry.key();
@@ -115,7 +115,7 @@ void walk(Form form, Visitor visit)
         const QString indexText = QString::number(index);
         QString path;
         const QString* subgroup = nullptr;
-        for (const SettingRow& row : SettingsTable::deviceSettings()) {
+        for (const SettingRow& row : SettingsTable::deviceSettings) {
             const QString& key = row.key(form);
             // The formatted map shows every device alike.
             if (key.isEmpty() || (form == ListForm && !row.isFor(model, interfaceType)))
@@ -289,9 +289,9 @@ void AcceptorSettings::addAttemptsFilter(int denom, int attempts)
 QList<SettingDescription> AcceptorSettings::settingDescriptions()
 {
     QList<SettingDescription> descriptions;
-    for (const SettingRow& row : SettingsTable::serviceSettings())
+    for (const SettingRow& row : SettingsTable::serviceSettings)
         descriptions.append({&row, row.group});
-    for (const SettingRow& row : SettingsTable::deviceSettings())
+    for (const SettingRow& row : SettingsTable::deviceSettings)
         descriptions.append({&row, deviceGroup(QStringLiteral("#"), row.group)});
     return descriptions;
 }

@@ -11,24 +11,14 @@ const QString BasicNoteItem::CURRENCY = QStringLiteral("currency");
 const QString BasicNoteItem::DENOMINATION = QStringLiteral("denomination");
 const QString BasicNoteItem::BILL_TYPE = QStringLiteral("bill_type");
 
-namespace {
-
-const auto& table()
-{
-    static const RecordTable table(basicNoteFields<BasicNoteItem>());
-    return table;
-}
-
-} // namespace
-
 QVariantMap BasicNoteItem::toMap() const
 {
-    return table().toMap(*this);
+    return recordTable<basicNoteFields<BasicNoteItem>>().toMap(*this);
 }
 
 bool BasicNoteItem::fromMap(const QVariantMap& map, QString* error)
 {
-    return table().fromMap(map, *this, error);
+    return recordTable<basicNoteFields<BasicNoteItem>>().fromMap(map, *this, error);
 }
 
 bool BasicNoteItem::operator==(const BasicNoteItem& other) const

@@ -19,15 +19,13 @@ namespace {
 
 using Row = DispenserRegistryItem;
 
-const auto& table()
+auto fields()
 {
-    static const RecordTable table(
-        joined(noteFields<Row>(),
-               std::array{recordField<Row, &Row::threadId>(Row::THREAD_ID),
-                          recordField<Row, &Row::deviceId>(Row::DEVICE_ID),
-                          recordField<Row, &Row::channel>(Row::CHANNEL),
-                          recordField<Row, &Row::rejected>(Row::REJECTED, OptionalField)}));
-    return table;
+    return joined(noteFields<Row>(),
+                  std::array{recordField<Row, &Row::threadId>(Row::THREAD_ID),
+                             recordField<Row, &Row::deviceId>(Row::DEVICE_ID),
+                             recordField<Row, &Row::channel>(Row::CHANNEL),
+                             recordField<Row, &Row::rejected>(Row::REJECTED, OptionalField)});
 }
 
 } // namespace
@@ -49,12 +47,12 @@ DispenserRegistryItem::DispenserRegistryItem(unsigned short thread, unsigned sho
 
 QVariantMap DispenserRegistryItem::toMap() const
 {
-    return table().toMap(*this);
+    return recordTable<fields>().toMap(*this);
 }
 
 bool DispenserRegistryItem::fromMap(const QVariantMap& map, QString* error)
 {
-    return table().fromMap(map, *this, error);
+    return recordTable<fields>().fromMap(map, *this, error);
 }
 
 DispenserRegistryItem DispenserRegistryItem::createFromMap(const QVariantMap& map)
@@ -117,6 +115,6 @@ void writeJson(JsonWriter& json, const QList<DispenserRegistryItem>& rows)
 {
     json.beginArray();
     for (const DispenserRegistryItem& row : rows)
-        table().write(json, row);
+        recordTable<fields>().write(json, row);
     json.endArray();
 }

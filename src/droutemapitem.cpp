@@ -12,12 +12,11 @@ const QString DRouteMapItem::ROUTE = QStringLiteral("route");
 
 namespace {
 
-const auto& table()
+auto fields()
 {
-    static const RecordTable table(joined(
+    return joined(
         noteFields<DRouteMapItem>(),
-        std::array{recordField<DRouteMapItem, &DRouteMapItem::route>(DRouteMapItem::ROUTE)}));
-    return table;
+        std::array{recordField<DRouteMapItem, &DRouteMapItem::route>(DRouteMapItem::ROUTE)});
 }
 
 } // namespace
@@ -40,12 +39,12 @@ DRouteMapItem::DRouteMapItem(unsigned int faceValue, const QString& currencyCode
 
 QVariantMap DRouteMapItem::toMap() const
 {
-    return table().toMap(*this);
+    return recordTable<fields>().toMap(*this);
 }
 
 bool DRouteMapItem::fromMap(const QVariantMap& map, QString* error)
 {
-    return table().fromMap(map, *this, error);
+    return recordTable<fields>().fromMap(map, *this, error);
 }
 
 bool DRouteMapItem::operator==(const DRouteMapItem& other) const

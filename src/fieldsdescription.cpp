@@ -14,13 +14,11 @@ const QString FieldDescription::F_REGEXP = QStringLiteral("regexp");
 
 namespace {
 
-const auto& table()
+auto fields()
 {
     using D = FieldDescription;
-    static const RecordTable table(
-        std::array{recordField<D, &D::name>(D::F_NAME), recordField<D, &D::desc>(D::F_DESC),
-                   recordField<D, &D::type>(D::F_TYPE), recordField<D, &D::regexp>(D::F_REGEXP)});
-    return table;
+    return std::array{recordField<D, &D::name>(D::F_NAME), recordField<D, &D::desc>(D::F_DESC),
+                      recordField<D, &D::type>(D::F_TYPE), recordField<D, &D::regexp>(D::F_REGEXP)};
 }
 
 } // namespace
@@ -36,13 +34,13 @@ FieldDescription::FieldDescription(const QString& fieldName, const QString& desc
 
 QVariantMap FieldDescription::toMap() const
 {
-    return table().toMap(*this);
+    return recordTable<fields>().toMap(*this);
 }
 
 bool FieldDescription::fromMap(const QVariantMap& map)
 {
     FieldDescription description;
-    const bool complete = table().fromMap(map, description, nullptr);
+    const bool complete = recordTable<fields>().fromMap(map, description, nullptr);
     if (complete)
         *this = description;
     return complete;

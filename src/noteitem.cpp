@@ -7,24 +7,14 @@
 
 const QString NoteItem::COUNT = QStringLiteral("count");
 
-namespace {
-
-const auto& table()
-{
-    static const RecordTable table(noteFields<NoteItem>());
-    return table;
-}
-
-} // namespace
-
 QVariantMap NoteItem::toMap() const
 {
-    return table().toMap(*this);
+    return recordTable<noteFields<NoteItem>>().toMap(*this);
 }
 
 bool NoteItem::fromMap(const QVariantMap& map, QString* error)
 {
-    return table().fromMap(map, *this, error);
+    return recordTable<noteFields<NoteItem>>().fromMap(map, *this, error);
 }
 
 bool NoteItem::operator==(const NoteItem& other) const

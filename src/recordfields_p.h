@@ -205,6 +205,14 @@ private:
     KeyOrder<Size> m_order;
 };
 
+/// The table of the fields that a function lists, made on first use.
+template <auto Fields>
+const auto& recordTable()
+{
+    static const RecordTable table(Fields());
+    return table;
+}
+
 /// The fields of a base and those that a derived record adds.
 template <typename Field, std::size_t BaseSize, std::size_t OwnSize>
 std::array<Field, BaseSize + OwnSize> joined(const std::array<Field, BaseSize>& base,

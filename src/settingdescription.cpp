@@ -24,7 +24,7 @@ bool isOfDevice(const QString& group)
 SettingDescription SettingDescription::find(const QString& group, const QString& key)
 {
     const SettingGroup asked(group);
-    for (const SettingRow& row : SettingsTable::storeSettings()) {
+    for (const SettingRow& row : SettingsTable::storeSettings) {
         if (!row.isCalled(key))
             continue;
         const QString own = SettingGroup(row.group).isOfService()

@@ -42,23 +42,22 @@ void tell(bool* isUnderstood, bool answer)
 // How the values of a kind are read from text, and how a form writes them. Reading tells whether
 // the value means what the text says.
 
-struct Number
+template <auto ToNumber>
+struct WholeNumber
 {
-    static int read(const QString& text, bool* isUnderstood)
+    static auto read(const QString& text, bool* isUnderstood)
     {
-        return Variants::number(text).toInt(isUnderstood);
+        return (Variants::number(text).*ToNumber)(isUnderstood, 10);
     }
-    static QVariant written(Form /*form*/, int number) { return number; }
+    template <typename Value>
+    static QVariant written(Form /*form*/, Value number)
+    {
+        return number;
+    }
 };
 
-struct LongNumber
-{
-    static qint64 read(const QString& text, bool* isUnderstood)
-    {
-        return Variants::number(text).toLongLong(isUnderstood);
-    }
-    static QVariant written(Form /*form*/, qint64 number) { return number; }
-};
+using Number = WholeNumber<&QString::toInt>;
+using LongNumber = WholeNumber<&QString::toLongLong>;
 
 struct Switch
 {
@@ -550,20 +549,9 @@ bool SettingRow::isFor(int model, const QString& interfaceType) const
 
 namespace SettingsTable {
 
-Rows serviceSettings()
-{
-    return {std::begin(serviceRows), std::end(serviceRows)};
-}
-
-Rows deviceSettings()
-{
-    return {std::begin(deviceRows), std::end(deviceRows)};
-}
-
-Rows storeSettings()
-{
-    return {std::begin(storeRows), std::end(storeRows)};
-}
+const Rows serviceSettings{std::begin(serviceRows), std::end(serviceRows)};
+const Rows deviceSettings{std::begin(deviceRows), std::end(deviceRows)};
+const Rows storeSettings{std::begin(storeRows), std::end(storeRows)};
 
 const SettingRow& placeOf(const SettingRow& row)
 {
@@ -602,7 +590,7 @@ const SettingRow* SettingGroup::find(const QString& key, const SettingRow* likel
     if (m_kind == OfNone)
         return nullptr;
     const SettingsTable::Rows rows =
-        isOfService() ? SettingsTable::serviceSettings() : SettingsTable::deviceSettings();
+        isOfService() ? SettingsTable::serviceSettings : SettingsTable::deviceSettings;
     if (likely && likely != rows.end() && Row::isEqual(key, likely->keys.list)
         && m_name == likely->group)
         return likely;

@@ -110,13 +110,13 @@ struct Rows
 };
 
 /// In the order of the list form.
-Rows serviceSettings();
+extern const Rows serviceSettings;
 
 /// The settings of each device, in the order of the list form.
-Rows deviceSettings();
+extern const Rows deviceSettings;
 
 /// What only the service knows, of its own and of each device: no list form has them.
-Rows storeSettings();
+extern const Rows storeSettings;
 
 /// The first setting that is kept where this one is: of the two, a device has what was read last.
 const SettingRow& placeOf(const SettingRow& row);

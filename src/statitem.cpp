@@ -13,32 +13,30 @@ const QString StatItem::NOTES_RETURNED = QStringLiteral("notes_returned");
 
 namespace {
 
-const auto& counterFields()
+auto counterFields()
 {
-    static const std::array fields{
+    return std::array{
         recordField<StatItem, &StatItem::notesInserted>(StatItem::NOTES_INSERTED),
         recordField<StatItem, &StatItem::notesRejected>(StatItem::NOTES_REJECTED),
         recordField<StatItem, &StatItem::notesReturned>(StatItem::NOTES_RETURNED),
     };
-    return fields;
 }
 
-const auto& table()
+auto fields()
 {
-    static const RecordTable table(joined(devAndThreadFields<StatItem>(), counterFields()));
-    return table;
+    return joined(devAndThreadFields<StatItem>(), counterFields());
 }
 
 } // namespace
 
 QVariantMap StatItem::toMap() const
 {
-    return table().toMap(*this);
+    return recordTable<fields>().toMap(*this);
 }
 
 bool StatItem::fromMap(const QVariantMap& map, QString* error)
 {
-    return table().fromMap(map, *this, error);
+    return recordTable<fields>().fromMap(map, *this, error);
 }
 
 void StatItem::addToMap(QVariantMap& map)

@@ -11,21 +11,12 @@
 
 namespace {
 
+const quint32 noteBit = DeviceReport::bit(deviceStateDescConst::CURRENT_NOTE);
+const quint32 sumBit = DeviceReport::bit(deviceStateDescConst::SESSION_SUM);
+
 bool isOffer(const DeviceState& event)
 {
     return event.state == STATE_ACCEPTING && event.currentNote > 0;
-}
-
-quint32 noteBit()
-{
-    static const quint32 bit = DeviceReport::bit(deviceStateDescConst::CURRENT_NOTE);
-    return bit;
-}
-
-quint32 sumBit()
-{
-    static const quint32 bit = DeviceReport::bit(deviceStateDescConst::SESSION_SUM);
-    return bit;
 }
 
 // Adds those that are new, and tells of the others what is known of them last.
@@ -121,7 +112,7 @@ void LogExplainer::takeEvent(const LogStep& step, const SessionLine& line, qint6
     // A session does not make news of how the device stands.
     const bool isNewState = trail.state != event.state;
     // What is published, or told of an idle device, repeats the value of a note that is long gone.
-    const bool isTold = !line.isPublished() && (step.reported & noteBit()) != 0;
+    const bool isTold = !line.isPublished() && (step.reported & noteBit) != 0;
     const bool isNewValue = event.currentNote > 0
         && (event.currentNote != trail.value || (isTold && event.state != STATE_IDLING));
     trail.state = event.state;
@@ -270,7 +261,7 @@ void LogExplainer::close(const LogDevice& device)
         answer.outcome = answer.end;
     if (answer.isTaken() || (answer.outcome == Outcome::Refused && answer.end != Outcome::Stuck))
         answer.machine.clear();
-    if (answer.end != Outcome::Stuck || !device.hasReported(sumBit()))
+    if (answer.end != Outcome::Stuck || !device.hasReported(sumBit))
         answer.creditLine.reset();
     else
         answer.creditLine = answer.creditLine.value_or(0);

@@ -6,12 +6,10 @@
 #include "log/pagestyle.h"
 #include "log/sessionlook.h"
 #include "text/diagnosis.h"
-#include "text/fault.h"
 #include "text/htmltext.h"
 #include "text/textoutput.h"
 
 #include <QCryptographicHash>
-#include <QFileDevice>
 
 #include <algorithm>
 #include <climits>
@@ -23,13 +21,6 @@ constexpr int unfoldedParts = 10;
 
 // The further links of a sentence are left out: they would lead to the same place.
 constexpr int mostLinks = 12;
-
-Fault faultOf(const QIODevice& device)
-{
-    const auto* const file = qobject_cast<const QFileDevice*>(&device);
-    return {
-        QStringLiteral("%1: %2").arg(file ? file->fileName() : QString(), device.errorString())};
-}
 
 QString element(const char* tag, const QString& text)
 {

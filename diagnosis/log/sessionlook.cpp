@@ -6,6 +6,8 @@
 #include "text/diagnosis.h"
 #include "text/htmltext.h"
 
+#include <iterator>
+
 namespace {
 
 struct StyleWords
@@ -24,50 +26,36 @@ constexpr StyleWords styleTable[] = {
     {"bad", QT_TRANSLATE_NOOP("Diagnosis", "jam, error or what else was the matter")},
 };
 
+// By State.
+constexpr StateLook looks[] = {
+    {"idle", QT_TRANSLATE_NOOP("Diagnosis", "idling")},
+    {"take", QT_TRANSLATE_NOOP("Diagnosis", "accepting")},
+    {"keep", QT_TRANSLATE_NOOP("Diagnosis", "accepted")},
+    {"back", QT_TRANSLATE_NOOP("Diagnosis", "rejected")},
+    {"keep", QT_TRANSLATE_NOOP("Diagnosis", "stacking")},
+    {"keep", QT_TRANSLATE_NOOP("Diagnosis", "stacked")},
+    {"back", QT_TRANSLATE_NOOP("Diagnosis", "returning")},
+    {"back", QT_TRANSLATE_NOOP("Diagnosis", "returned")},
+    {"bad", QT_TRANSLATE_NOOP("Diagnosis", "jammed")},
+    {"busy", QT_TRANSLATE_NOOP("Diagnosis", "busy")},
+    {"bad", QT_TRANSLATE_NOOP("Diagnosis", "error")},
+    {"busy", QT_TRANSLATE_NOOP("Diagnosis", "updating")},
+    {"pay", QT_TRANSLATE_NOOP("Diagnosis", "dispensing")},
+    {"pay", QT_TRANSLATE_NOOP("Diagnosis", "dispensed")},
+    {"pay", QT_TRANSLATE_NOOP("Diagnosis", "floating")},
+    {"pay", QT_TRANSLATE_NOOP("Diagnosis", "floated")},
+    {"pay", QT_TRANSLATE_NOOP("Diagnosis", "emptying")},
+    {"pay", QT_TRANSLATE_NOOP("Diagnosis", "emptied")},
+};
+static_assert(std::size(looks) == STATE_EMPTIED + 1, "a state has no look");
+
 } // namespace
 
-// The compiler names a state that has no case.
 StateLook lookOf(State state)
 {
-    switch (state) {
-    case STATE_IDLING:
-        return {"idle", QT_TRANSLATE_NOOP("Diagnosis", "idling")};
-    case STATE_ACCEPTING:
-        return {"take", QT_TRANSLATE_NOOP("Diagnosis", "accepting")};
-    case STATE_ACCEPTED:
-        return {"keep", QT_TRANSLATE_NOOP("Diagnosis", "accepted")};
-    case STATE_REJECTED:
-        return {"back", QT_TRANSLATE_NOOP("Diagnosis", "rejected")};
-    case STATE_STACKING:
-        return {"keep", QT_TRANSLATE_NOOP("Diagnosis", "stacking")};
-    case STATE_STACKED:
-        return {"keep", QT_TRANSLATE_NOOP("Diagnosis", "stacked")};
-    case STATE_RETURNING:
-        return {"back", QT_TRANSLATE_NOOP("Diagnosis", "returning")};
-    case STATE_RETURNED:
-        return {"back", QT_TRANSLATE_NOOP("Diagnosis", "returned")};
-    case STATE_JAMMED:
-        return {"bad", QT_TRANSLATE_NOOP("Diagnosis", "jammed")};
-    case STATE_BUSY:
-        return {"busy", QT_TRANSLATE_NOOP("Diagnosis", "busy")};
-    case STATE_ERROR:
-        return {"bad", QT_TRANSLATE_NOOP("Diagnosis", "error")};
-    case STATE_UPDATING:
-        return {"busy", QT_TRANSLATE_NOOP("Diagnosis", "updating")};
-    case STATE_DISPENSING:
-        return {"pay", QT_TRANSLATE_NOOP("Diagnosis", "dispensing")};
-    case STATE_DISPENSED:
-        return {"pay", QT_TRANSLATE_NOOP("Diagnosis", "dispensed")};
-    case STATE_FLOATING:
-        return {"pay", QT_TRANSLATE_NOOP("Diagnosis", "floating")};
-    case STATE_FLOATED:
-        return {"pay", QT_TRANSLATE_NOOP("Diagnosis", "floated")};
-    case STATE_EMPTYING:
-        return {"pay", QT_TRANSLATE_NOOP("Diagnosis", "emptying")};
-    case STATE_EMPTIED:
-        return {"pay", QT_TRANSLATE_NOOP("Diagnosis", "emptied")};
-    }
-    return {"busy", QT_TRANSLATE_NOOP("Diagnosis", "unknown state")};
+    if (state < STATE_IDLING || state > STATE_EMPTIED)
+        return {"busy", QT_TRANSLATE_NOOP("Diagnosis", "unknown state")};
+    return looks[state];
 }
 
 QString stateLegend()

@@ -25,6 +25,13 @@ constexpr double stateHeight = 22;
 constexpr double conditionHeight = 9;
 constexpr double sumHeight = 60;
 
+// The first of what is sorted by line that is on a line or behind it.
+template <typename Iterator>
+Iterator atLine(Iterator begin, Iterator end, qint64 line)
+{
+    return std::lower_bound(begin, end, line, [](const auto& e, qint64 l) { return e.line < l; });
+}
+
 bool isOverSum(const NoteAnswer& answer)
 {
     return std::any_of(answer.objections.begin(), answer.objections.end(), [](const Objection& o) {
@@ -65,11 +72,8 @@ void SessionPicture::place(size_t first, size_t end)
     m_end = end;
     m_firstLine = moments.at(first).line;
     m_lastLine = moments.at(end - 1).line;
-    const auto isBefore = [](const NoteAnswer& answer, qint64 line) { return answer.line < line; };
-    m_firstAnswer =
-        std::lower_bound(m_session.answers.begin(), m_session.answers.end(), m_firstLine, isBefore);
-    m_endAnswer =
-        std::lower_bound(m_firstAnswer, m_session.answers.end(), m_lastLine + 1, isBefore);
+    m_firstAnswer = atLine(m_session.answers.begin(), m_session.answers.end(), m_firstLine);
+    m_endAnswer = atLine(m_firstAnswer, m_session.answers.end(), m_lastLine + 1);
 
     const auto timeOf = [&](size_t i) { return m_hasTimes ? *moments.at(i).time.wallClock() : 0; };
     const auto count = double(end - first);
@@ -87,18 +91,14 @@ void SessionPicture::place(size_t first, size_t end)
 double SessionPicture::xOf(qint64 line) const
 {
     const auto begin = m_session.moments.begin();
-    const auto found = std::lower_bound(
-        begin + qint64(m_first), begin + qint64(m_end), line,
-        [](const SessionRecord::Moment& moment, qint64 l) { return moment.line < l; });
+    const auto found = atLine(begin + qint64(m_first), begin + qint64(m_end), line);
     return m_x.at(size_t(found - begin) - m_first);
 }
 
 std::vector<SessionPicture::Segment>
 SessionPicture::segmentsOf(const SessionRecord::Lane& lane) const
 {
-    auto event =
-        std::lower_bound(lane.events.begin(), lane.events.end(), m_firstLine,
-                         [](const SessionRecord::Event& e, qint64 line) { return e.line < line; });
+    auto event = atLine(lane.events.begin(), lane.events.end(), m_firstLine);
     if (event != lane.events.begin() && (event == lane.events.end() || event->line > m_firstLine))
         --event; // how it stood when the part begins
     std::vector<Segment> segments;
@@ -231,9 +231,7 @@ void SessionPicture::drawStates(const std::vector<Segment>& segments)
 {
     label(Diagnosis::tr("state"), m_y + 15);
     const auto clockOf = [this](qint64 line) {
-        const auto moment =
-            std::lower_bound(m_session.moments.begin(), m_session.moments.end(), line,
-                             [](const SessionRecord::Moment& m, qint64 l) { return m.line < l; });
+        const auto moment = atLine(m_session.moments.begin(), m_session.moments.end(), line);
         return moment->time.isKnown() ? QStringLiteral(", ") + moment->time.clock() : QString();
     };
     for (size_t i = 0; i < segments.size();) {

@@ -12,7 +12,6 @@
 #include "json/jsonreader.h"
 
 #include <QDateTime>
-#include <QJsonValue>
 
 #include <algorithm>
 #include <iterator>
@@ -90,11 +89,10 @@ KioskSummary KioskSummary::silent(const KioskSummary& last, const QString& kiosk
     KioskSummary summary = last;
     summary.condition = Silent;
     summary.faults = QStringList{reason};
-    summary.text = "{\"kiosk\":" + JsonText(kiosk)
-        + ",\"time\":" + JsonText::of(QJsonValue::fromVariant(time))
+    summary.text = "{\"kiosk\":" + JsonText(kiosk) + ",\"time\":" + JsonText::of(time)
         + ",\"payment_text\":" + JsonText(outOfServiceText()) + R"(,"accepting":false,"reasons":)"
-        + JsonText::list(summary.faults) + ",\"devices\":"
-        + JsonText::of(QJsonValue::fromVariant(devices)) + ending(Silent, summary.faults);
+        + JsonText::list(summary.faults) + ",\"devices\":" + JsonText::of(devices)
+        + ending(Silent, summary.faults);
     return summary;
 }
 

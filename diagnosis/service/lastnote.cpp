@@ -26,21 +26,23 @@ struct Words
     }
 };
 
-constexpr Words checkedWords{QT_TRANSLATE_NOOP("Diagnosis", "Checking a note of %1..."),
-                             QT_TRANSLATE_NOOP("Diagnosis", "Checking a coin of %1...")};
-constexpr Words takenWords{QT_TRANSLATE_NOOP("Diagnosis", "A note of %1 was accepted."),
-                           QT_TRANSLATE_NOOP("Diagnosis", "A coin of %1 was accepted.")};
-constexpr Words rejectedWords{
-    QT_TRANSLATE_NOOP("Diagnosis", "Your note was not recognised. Please try another one."),
-    QT_TRANSLATE_NOOP("Diagnosis", "Your coin was not recognised. Please try another one.")};
-constexpr Words returnedWords{
-    QT_TRANSLATE_NOOP("Diagnosis", "Your note of %1 was returned. Please take it."),
-    QT_TRANSLATE_NOOP("Diagnosis", "Your coin of %1 was returned. Please take it.")};
-constexpr Words stuckWords{
-    QT_TRANSLATE_NOOP("Diagnosis",
-                      "The device failed with your note of %1 in it. Please call the staff."),
-    QT_TRANSLATE_NOOP("Diagnosis",
-                      "The device failed with your coin of %1 in it. Please call the staff.")};
+// By LastNote::Outcome; of a refused note the filter has them.
+constexpr Words outcomes[] = {
+    {},
+    {QT_TRANSLATE_NOOP("Diagnosis", "Checking a note of %1..."),
+     QT_TRANSLATE_NOOP("Diagnosis", "Checking a coin of %1...")},
+    {QT_TRANSLATE_NOOP("Diagnosis", "A note of %1 was accepted."),
+     QT_TRANSLATE_NOOP("Diagnosis", "A coin of %1 was accepted.")},
+    {},
+    {QT_TRANSLATE_NOOP("Diagnosis", "Your note was not recognised. Please try another one."),
+     QT_TRANSLATE_NOOP("Diagnosis", "Your coin was not recognised. Please try another one.")},
+    {QT_TRANSLATE_NOOP("Diagnosis", "Your note of %1 was returned. Please take it."),
+     QT_TRANSLATE_NOOP("Diagnosis", "Your coin of %1 was returned. Please take it.")},
+    {QT_TRANSLATE_NOOP("Diagnosis",
+                       "The device failed with your note of %1 in it. Please call the staff."),
+     QT_TRANSLATE_NOOP("Diagnosis",
+                       "The device failed with your coin of %1 in it. Please call the staff.")},
+};
 
 std::pair<int, int> keyOf(const AcceptorStateItem& device)
 {
@@ -111,33 +113,15 @@ void LastNote::follow(const PublishedDevice& device, const QVariantList& refused
 
 QString LastNote::text() const
 {
-    const int model = m_device.first;
-    switch (m_outcome) {
-    case None:
+    if (m_outcome == None)
         return {};
-    case Checked:
-        return checkedWords.of(model).arg(m_note);
-    case Taken:
-        return takenWords.of(model).arg(m_note);
-    case Refused:
-        return refusalText();
-    case Rejected:
-        return rejectedWords.of(model);
-    case Returned:
-        return returnedWords.of(model).arg(m_note);
-    case Stuck:
-        return stuckWords.of(model).arg(m_note);
-    }
-    return {};
-}
-
-QString LastNote::refusalText() const
-{
-    const QString filter = m_refusal.value(QStringLiteral("name")).toString();
-    const FilterWords& words = filterWords(filter);
+    const FilterWords& filter = filterWords(m_refusal.value(QStringLiteral("name")).toString());
     const QVariantMap params = m_refusal.value(QStringLiteral("params")).toMap();
-    QString text = Words{words.noteRefused, words.coinRefused}.of(m_device.first);
+    const bool isRefused = m_outcome == Refused;
+    const Words words =
+        isRefused ? Words{filter.noteRefused, filter.coinRefused} : outcomes[m_outcome];
+    QString text = words.of(m_device.first);
     text.replace(QLatin1String("%1"), QString::number(m_note));
     return text.replace(QLatin1String("%2"),
-                        params.value(QLatin1String(words.refusalParameter)).toString());
+                        params.value(QLatin1String(filter.refusalParameter)).toString());
 }

@@ -41,7 +41,6 @@ private:
     };
 
     void follow(const PublishedDevice& device, const QVariantList& refused);
-    QString refusalText() const;
 
     Outcome m_outcome = None;
     std::pair<int, int> m_device; // model and thread

@@ -12,13 +12,10 @@
 #include "json/jsonreader.h"
 #include "json/variants.h"
 
-#include <QJsonObject>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <numeric>
-#include <utility>
 
 namespace {
 
@@ -26,17 +23,13 @@ namespace {
 constexpr int mostRemembered = 1000;
 
 // As Qt::ISODateWithMs has it, in a tenth of the time.
-void append(JsonBuffer& json, const QDateTime& time)
+QByteArray jsonOf(const QDateTime& time)
 {
-    if (!time.isValid()) {
-        json << "null";
-        return;
-    }
+    if (!time.isValid())
+        return JsonText::null();
     const QDate date = time.date();
-    if (time.timeSpec() != Qt::UTC || date.year() < 1000 || date.year() > 9999) {
-        json.append(time.toString(Qt::ISODateWithMs));
-        return;
-    }
+    if (time.timeSpec() != Qt::UTC || date.year() < 1000 || date.year() > 9999)
+        return JsonText(time.toString(Qt::ISODateWithMs));
     const QTime clock = time.time();
     char text[] = "\"yyyy-mm-ddThh:mm:ss.zzzZ\"";
     const auto put = [&text](int at, int digits, int number) {
@@ -50,7 +43,7 @@ void append(JsonBuffer& json, const QDateTime& time)
     put(15, 2, clock.minute());
     put(18, 2, clock.second());
     put(21, 3, clock.msec());
-    json << text;
+    return text;
 }
 
 using PublishedField = DeviceField<JsonReader, PublishedDevice>;
@@ -198,44 +191,34 @@ QByteArray StateWriter::members(const PublishedState& state)
 {
     const AcceptorState& service = state.service;
     JsonBuffer json;
-    json << "\"time\":";
-    ::append(json, service.dt());
-    json << ",\"payment_text\":";
-    json.append(service.paymentStateDescr());
-    json << ",\"accepting\":";
-    json.append(service.isAcceptingAllowed());
-    json << ",\"reasons\":" << JsonText::list(whyNotAccepting(state)) << ",\"devices\":";
-    char before = '[';
-    for (const PublishedDevice& device : state.devices) {
-        json << std::exchange(before, ',');
-        append(json, device);
-    }
-    if (state.devices.empty())
-        json << before;
-    json << ']';
+    json.writeMember("time", jsonOf(service.dt()));
+    json.writeMember("payment_text", service.paymentStateDescr());
+    json.writeMember("accepting", service.isAcceptingAllowed());
+    json.writeMember("reasons", JsonText::list(whyNotAccepting(state)));
+    json.writeKey(QStringLiteral("devices"));
+    json.beginArray();
+    for (const PublishedDevice& device : state.devices)
+        write(json, device);
+    json.endArray();
     return json.text();
 }
 
-void StateWriter::append(JsonBuffer& json, const PublishedDevice& device)
+void StateWriter::write(JsonBuffer& json, const PublishedDevice& device)
 {
-    json << "{\"device\":";
-    json.append(device.deviceId());
-    json << ",\"thread\":";
-    json.append(device.threadId());
-    json << model(device.deviceId()) << ",\"enabled\":";
-    json.append(device.enabled());
-    json << state(device.state()) << ",\"wrong\":" << JsonText::list(deviceFaults(device));
-    json << ",\"notes_inserted\":";
-    json.append(device.insertedInFull);
-    json << ",\"notes_rejected\":";
-    json.append(device.rejectedInFull);
-    json << ",\"notes_returned\":";
-    json.append(device.returnedInFull);
-    json << ",\"registry\":";
     const QVariantMap registry = device.dispRegistry();
-    json << (registry.isEmpty() ? QByteArrayLiteral("{}")
-                                : JsonText::of(QJsonObject::fromVariantMap(registry)));
-    json << '}';
+    json.beginObject();
+    json.writeMember("device", device.deviceId());
+    json.writeMember("thread", device.threadId());
+    json.append(model(device.deviceId()));
+    json.writeMember("enabled", device.enabled());
+    json.append(state(device.state()));
+    json.writeMember("wrong", JsonText::list(deviceFaults(device)));
+    json.writeMember("notes_inserted", device.insertedInFull);
+    json.writeMember("notes_rejected", device.rejectedInFull);
+    json.writeMember("notes_returned", device.returnedInFull);
+    json.writeMember("registry",
+                     registry.isEmpty() ? QByteArrayLiteral("{}") : JsonText::of(registry));
+    json.endObject();
 }
 
 const QByteArray& StateWriter::model(int number)

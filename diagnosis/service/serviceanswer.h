@@ -62,7 +62,7 @@ public:
     QByteArray members(const PublishedState& state);
 
 private:
-    void append(JsonBuffer& json, const PublishedDevice& device);
+    void write(JsonBuffer& json, const PublishedDevice& device);
     const QByteArray& model(int number);
     const QByteArray& state(const QString& name);
 

@@ -61,10 +61,9 @@ QVector<ArrayFile::Span> ArrayFile::spansIn(const QByteArray& text, int open)
     return spans;
 }
 
-ArrayFile::ArrayFile(TextInput& file, const QString& contents)
+ArrayFile::ArrayFile(const TextInput& file, const QByteArray& text, const QString& contents)
     : m_name(file.name())
 {
-    const QByteArray text = file.readAll();
     if (!file.parseJson(text, 1).isArray())
         throw file.faultAt(1, Diagnosis::tr("expected a list of %1").arg(contents));
     setText(text);

@@ -19,7 +19,13 @@ class ArrayFile
 public:
     /// Throws Fault when the file cannot be read or holds something else.
     /// @param contents what the array holds, for the fault
-    ArrayFile(TextInput& file, const QString& contents);
+    ArrayFile(TextInput& file, const QString& contents)
+        : ArrayFile(file, file.readAll(), contents)
+    {
+    }
+
+    /// The same of a text that was read from the file.
+    ArrayFile(const TextInput& file, const QByteArray& text, const QString& contents);
 
     struct Member
     {

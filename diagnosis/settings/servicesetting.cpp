@@ -51,7 +51,6 @@ ServiceSetting ServiceSetting::require(const QString& path)
     return setting;
 }
 
-// All that AcceptorSettings writes, of a device or, without one, of the service.
 QList<ServiceSetting> ServiceSetting::listed(std::optional<int> device)
 {
     QList<ServiceSetting> settings;
@@ -62,11 +61,6 @@ QList<ServiceSetting> ServiceSetting::listed(std::optional<int> device)
             settings += setting;
     }
     return settings;
-}
-
-QList<ServiceSetting> ServiceSetting::ofDevice(int device)
-{
-    return listed(device);
 }
 
 QList<ServiceSetting> ServiceSetting::ofDevice(int device, int model, const QString& interfaceType)
@@ -80,15 +74,10 @@ QList<ServiceSetting> ServiceSetting::ofDevice(int device, int model, const QStr
     return settings;
 }
 
-QList<ServiceSetting> ServiceSetting::ofService()
-{
-    return listed({});
-}
-
 QString ServiceSetting::nearestKnown(const QString& path)
 {
     QStringList paths;
-    for (const ServiceSetting& setting : ofService() + ofDevice(deviceOf(path).value_or(0)))
+    for (const ServiceSetting& setting : listed({}) + listed(deviceOf(path).value_or(0)))
         paths += setting.path();
     return ::nearestKnown(path, paths);
 }

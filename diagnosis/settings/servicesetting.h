@@ -30,11 +30,12 @@ public:
     /// The same for GROUP/KEY. Throws Fault, which names the nearest known path.
     static ServiceSetting require(const QString& path);
 
-    /// Those that AcceptorSettings writes for a device, in its order: all of them, or those of a
-    /// model and interface; or those of the service.
-    static QList<ServiceSetting> ofDevice(int device);
+    /// Those that AcceptorSettings writes for a device or, without one, for the service, in its
+    /// order.
+    static QList<ServiceSetting> listed(std::optional<int> device);
+
+    /// Of a device's those of a model and interface.
     static QList<ServiceSetting> ofDevice(int device, int model, const QString& interfaceType);
-    static QList<ServiceSetting> ofService();
 
     /// The known path that is spelled most like this one, as nearestKnown() says it.
     static QString nearestKnown(const QString& path);
@@ -57,6 +58,4 @@ private:
         : SettingDescription(description)
     {
     }
-
-    static QList<ServiceSetting> listed(std::optional<int> device);
 };

@@ -169,10 +169,7 @@ int SettingsEdit::positionFor(const ServiceSetting& setting) const
 {
     const auto subgroup = [](const QString& group) { return group.section(QLatin1Char('/'), 1); };
     QStringList groups{QString()}; // a device without sub-group
-    const QList<ServiceSetting> listed = setting.device()
-        ? ServiceSetting::ofDevice(*setting.device())
-        : ServiceSetting::ofService();
-    for (const ServiceSetting& row : listed)
+    for (const ServiceSetting& row : ServiceSetting::listed(setting.device()))
         groups += setting.device() ? subgroup(row.group()) : row.group();
     const auto rank = [&](const QString& group) {
         const auto known = groups.indexOf(setting.device() ? subgroup(group) : group);
@@ -244,7 +241,7 @@ void SettingsEdit::setUp(int device, const SettingsList& before)
 SettingsEdit::Start SettingsEdit::startOf(const ServiceSetting& setting, const SettingsList& before)
 {
     QList<ServiceSetting> namesakes;
-    for (const ServiceSetting& other : ServiceSetting::ofDevice(*setting.device())) {
+    for (const ServiceSetting& other : ServiceSetting::listed(setting.device())) {
         if (other.key() == setting.key())
             namesakes += other;
     }
@@ -323,7 +320,7 @@ ServiceSetting SettingsEdit::settingOfDevice(int device, const QString& key) con
     QStringList known;
     const int model = now.model(device);
     const QString interfaceType = now.interfaceType(device);
-    for (const ServiceSetting& row : ServiceSetting::ofDevice(device)) {
+    for (const ServiceSetting& row : ServiceSetting::listed(device)) {
         const ServiceSetting setting = ServiceSetting::find(row.group(), key);
         const bool isFor = !isThere || setting.appliesTo(model, interfaceType);
         if (setting.isValid() && setting.group() == row.group() && isFor)

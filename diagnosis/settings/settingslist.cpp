@@ -6,7 +6,6 @@
 #include "acceptorsettings.h"
 #include "text/diagnosis.h"
 
-#include <QBuffer>
 #include <QJsonObject>
 
 #include <algorithm>
@@ -67,26 +66,16 @@ QString likely(const QByteArray& text)
     return QJsonDocument::fromJson(line).isObject() ? Diagnosis::tr("a session log") : QString();
 }
 
-TextInput inputOf(const QByteArray& text, const QString& name)
-{
-    auto buffer = std::make_unique<QBuffer>();
-    buffer->setData(text);
-    buffer->open(QIODevice::ReadOnly);
-    return {std::move(buffer), name};
-}
-
 } // namespace
 
 ArrayFile readSettingsFile(TextInput& input)
 {
     const QByteArray text = input.readAll();
     const QString looks = likely(text);
-    std::optional<ArrayFile> file;
     try {
-        TextInput copy = inputOf(text, input.name());
-        file.emplace(copy, Diagnosis::tr("settings"));
-        if (hasSettings(file->elements()))
-            return *file;
+        const ArrayFile file(input, text, Diagnosis::tr("settings"));
+        if (hasSettings(file.elements()))
+            return file;
     } catch (const Fault&) {
         if (looks.isEmpty())
             throw;
@@ -119,7 +108,7 @@ SettingsList::SettingsList(const ArrayFile& file)
         m_elements += element;
     }
 
-    for (const ServiceSetting& setting : ServiceSetting::ofService())
+    for (const ServiceSetting& setting : ServiceSetting::listed({}))
         add(setting, true);
     for (auto device = m_devices.keyBegin(); device != m_devices.keyEnd(); ++device) {
         for (const ServiceSetting& setting :

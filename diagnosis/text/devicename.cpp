@@ -8,40 +8,47 @@
 
 #include <QHash>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
-struct Model
-{
-    QString protocol;
-    int kind = -1;
-};
-
-Model modelOf(int number)
+SupportedDevice modelOf(int number)
 {
     // The catalogue is made anew for each who asks.
-    static const QHash<int, Model>& models = *new QHash<int, Model>([] {
-        QHash<int, Model> found;
+    static const auto& models = *new QHash<int, SupportedDevice>([] {
+        QHash<int, SupportedDevice> found;
         const QList<SupportedDevice> catalogue = Acceptors::supportedDevices();
-        for (const SupportedDevice& row : catalogue) {
-            found.insert(row.value(QStringLiteral("id")).toInt(),
-                         {row.value(QStringLiteral("protocol")).toString(),
-                          row.value(QStringLiteral("type")).toInt()});
-        }
+        for (const SupportedDevice& row : catalogue)
+            found.insert(row.value(QStringLiteral("id")).toInt(), row);
         return found;
     }());
     return models.value(number);
 }
 
+// By Acceptors::AcceptorType.
+constexpr const char* kinds[] = {
+    QT_TRANSLATE_NOOP("Diagnosis", "Device"),
+    QT_TRANSLATE_NOOP("Diagnosis", "Bill validator"),
+    QT_TRANSLATE_NOOP("Diagnosis", "Coin acceptor"),
+    QT_TRANSLATE_NOOP("Diagnosis", "Card terminal"),
+    QT_TRANSLATE_NOOP("Diagnosis", "Note dispenser"),
+    QT_TRANSLATE_NOOP("Diagnosis", "Device"),
+    QT_TRANSLATE_NOOP("Diagnosis", "Note recycler"),
+    QT_TRANSLATE_NOOP("Diagnosis", "Coin hopper"),
+};
+static_assert(std::size(kinds) == Acceptors::CoinHopper + 1, "a kind has no name");
+
 } // namespace
 
 QString modelName(int model)
 {
-    return modelOf(model).protocol;
+    return modelOf(model).value(QStringLiteral("protocol")).toString();
 }
 
 int modelKind(int model)
 {
-    return modelOf(model).kind;
+    return modelOf(model).value(QStringLiteral("type"), -1).toInt();
 }
 
 bool isValidator(int model)
@@ -68,22 +75,7 @@ Money moneyOf(int model)
 
 QString kindName(int model)
 {
-    switch (modelKind(model)) {
-    case Acceptors::NoteAcceptor:
-        return Diagnosis::tr("Bill validator");
-    case Acceptors::CoinAcceptor:
-        return Diagnosis::tr("Coin acceptor");
-    case Acceptors::CardReader:
-        return Diagnosis::tr("Card terminal");
-    case Acceptors::NoteDispenser:
-        return Diagnosis::tr("Note dispenser");
-    case Acceptors::NoteRecycler:
-        return Diagnosis::tr("Note recycler");
-    case Acceptors::CoinHopper:
-        return Diagnosis::tr("Coin hopper");
-    default:
-        return Diagnosis::tr("Device");
-    }
+    return Diagnosis::tr(kinds[std::max(0, modelKind(model))]);
 }
 
 QString deviceName(int model, const QString& givenName)

@@ -3,10 +3,17 @@
 
 #include "text/diagnosis.h"
 
+#include "text/fault.h"
+
+#include <palx/appversionmanager.h>
+
 #include <QCoreApplication>
 #include <QHash>
+#include <QLocale>
+#include <QTranslator>
 
 #include <atomic>
+#include <memory>
 
 namespace {
 
@@ -25,7 +32,23 @@ QString Diagnosis::tr(const char* text, const char* disambiguation, int n)
     return translation;
 }
 
-void Diagnosis::keepLanguage()
+void loadTranslations(const QString& folder, const QStringList& own, const QString& language)
 {
+    QStringList components = palx::AppVersionManager::localisations();
+    components << QStringLiteral("diagnosis") << own;
+    components.removeDuplicates();
+    bool anyLoaded = false;
+    for (const QString& component : std::as_const(components)) {
+        auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
+        const QString prefix = component + QLatin1Char('_');
+        const bool isLoaded = language.isEmpty()
+            ? translator->load(QLocale::system(), prefix, QString(), folder)
+                || translator->load(prefix + QLatin1String("en"), folder)
+            : translator->load(prefix + language, folder);
+        if (isLoaded)
+            anyLoaded = QCoreApplication::installTranslator(translator.release()) || anyLoaded;
+    }
+    if (!anyLoaded && !language.isEmpty())
+        throw Fault{Diagnosis::tr("no translations for language \"%1\"").arg(language)};
     isLanguageKept = true;
 }

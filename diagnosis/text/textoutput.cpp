@@ -4,11 +4,8 @@
 #include "text/textoutput.h"
 
 #include "text/diagnosis.h"
-#include "text/fault.h"
 
 #include <QFileDevice>
-
-namespace {
 
 Fault faultOf(QIODevice& device)
 {
@@ -20,8 +17,6 @@ Fault faultOf(QIODevice& device)
     return {QStringLiteral("%1: %2").arg(name.isEmpty() ? Diagnosis::tr("standard output") : name,
                                          device.errorString())};
 }
-
-} // namespace
 
 void writeText(QIODevice& device, const QByteArray& text)
 {

@@ -83,8 +83,8 @@ const char* defaultText(const QString& group, const QString& param)
     // Of the common acceptance settings the model alone has defaults.
     if (group == AcceptorSettings::ACCEPTOR_COMMON_SECTION)
         return nullptr;
-    for (const auto rows : {SettingsTable::serviceSettings(), SettingsTable::deviceSettings(),
-                            SettingsTable::storeSettings()}) {
+    for (const auto rows : {SettingsTable::serviceSettings, SettingsTable::deviceSettings,
+                            SettingsTable::storeSettings}) {
         for (const SettingRow& row : rows) {
             if (group == row.group && param == row.keys.list)
                 return row.defaultText;

@@ -3,8 +3,8 @@
 
 #include "terminal/option.h"
 
+#include "text/diagnosis.h"
 #include "text/fault.h"
-#include "text/translations.h"
 
 #include <QDir>
 

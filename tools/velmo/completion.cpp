@@ -28,7 +28,7 @@ const Option* optionOf(const QString& word, const std::vector<const Option*>& kn
 QStringList settingPaths(const QString& fileName)
 {
     QStringList paths;
-    for (const ServiceSetting& setting : ServiceSetting::ofService())
+    for (const ServiceSetting& setting : ServiceSetting::listed({}))
         paths += setting.path();
     QList<int> devices;
     try {
