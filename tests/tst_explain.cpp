@@ -230,6 +230,10 @@ private Q_SLOTS:
             S;accepting 100;stacked;idling 100;rejected             | 100 taken, ? rejected
             S;accepting 1000;stacked;idling;accepting;accepted 100;stacked | 1000 taken, 100 taken !
             S;{"state":"accepting","online":false};idling           |
+            S;accepting 100;busy;accepting 0;stacked                | 100 taken
+            S;accepting 100;idling;accepting 0;stacked              | 100 unknown, ? taken
+            S;accepting 100;{"halt":true,"stacker_full":true};rejected | 100 rejected halted@3 stacker_full@3
+            S;accepting 100;{"halt":true};{"halt":false};{"halt":true};rejected | 100 rejected halted@3 halted@5
             S;accepting 100;jammed;stacked                          | 100 taken
             S;accepting 100;jammed;returned                         | 100 returned
             S;accepting 100;accepted;jammed;stacking;idling         | 100 taken
