@@ -30,10 +30,14 @@ bool isInteger(const QVariant& value)
     return value.userType() == QMetaType::Int || value.userType() == QMetaType::LongLong;
 }
 
-bool isEnumeration(const QVariant& value)
+// What Qt 6 converts, and Qt 5 where there is a converter only.
+bool isEnumeration([[maybe_unused]] const QVariant& value)
 {
-    return value.userType() >= QMetaType::User
-        && QMetaType(value.userType()).flags().testFlag(QMetaType::IsEnumeration);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return false;
+#else
+    return value.metaType().flags().testFlag(QMetaType::IsEnumeration);
+#endif
 }
 
 template <typename... Types>
@@ -136,6 +140,8 @@ quint64 Variants::toULongLong(const QVariant& value)
 bool Variants::write(const QMetaProperty& property, QObject* object, const QVariant& value)
 {
     const bool textDiffers = isReal(value) || value.userType() == QMetaType::QByteArray;
+    if (textDiffers && value.isNull())
+        return false;
     switch (property.userType()) {
     case QMetaType::Bool:
         if (isEnumeration(value) || isOneOf<uchar, long, ulong>(value))

@@ -15,7 +15,7 @@ struct SettingRow;
 
 /// What a configuration tool needs to know about one setting of the acceptor service to show it, to
 /// ask for it and to check it. AcceptorSettings::settingDescriptions() and settingDescription()
-/// give them; a default-constructed one describes nothing.
+/// give them, and find() here; a default-constructed one describes nothing.
 ///
 /// A description is a small value that never changes. Different threads may use copies of it at the
 /// same time.
@@ -35,12 +35,13 @@ public:
 
     SettingDescription() = default;
 
-    /// What the service reads under a group and a key. Beyond what
+    /// What the service reads under a group and a key. Beside what
     /// AcceptorSettings::settingDescription() describes these are the settings that
     /// SettingsManager::getDefault() alone knows, "service/reset_after_empty_sessions" and of a
-    /// device "accept_on_jam" and the groups "ict" and "ssp", in this very spelling. Of most of
-    /// them the library has only the default: they accept any Text and have no label. May be called
-    /// from any thread.
+    /// device "accept_on_jam" and the groups "ict" and "ssp", in this very spelling; in any other,
+    /// and for any other key, the answer is that of settingDescription(). Of most of them the
+    /// library has only the default: they accept any Text and have no label. May be called from any
+    /// thread.
     static SettingDescription find(const QString& group, const QString& key);
 
     /// The index of the device that a group of the settings list belongs to, whatever its
@@ -68,9 +69,10 @@ public:
     /// The group and the key with a slash between them.
     QString path() const;
 
-    /// Where AcceptorSettings keeps the value: the path of the first setting in its list that is
-    /// kept there. Settings of one device that have the same place are read over each other, and
-    /// the last of them in a list counts. Most have a place of their own, which is their path.
+    /// Where AcceptorSettings keeps the value: the path of the first of settingDescriptions() that
+    /// is kept there, whether or not the device's list has it; the own path of what is not read.
+    /// Settings of one device that have the same place are read over each other, and the last of
+    /// them in a list counts. Most have a place of their own.
     QString place() const;
 
     Kind kind() const;

@@ -118,6 +118,18 @@ private Q_SLOTS:
         QCOMPARE(filter->property("attempts").toInt(), 90);
         QVERIFY(filter->dynamicPropertyNames().isEmpty());
         QCOMPARE(filter->setParams({}), filter.get());
+        // A null real is no number, least of all 0, which would refuse everything.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+        const QVariant null(QVariant::Double);
+#else
+        const QVariant null(QMetaType(QMetaType::Double));
+#endif
+        const std::unique_ptr<AbstractFilter> accept(
+            FilterFactory::createFilter("AcceptFilter"_s, {{"acceptAll"_s, true}}));
+        accept->setParams({{"acceptAll"_s, null}});
+        filter->setParams({{"attempts"_s, null}});
+        QVERIFY(accept->property("acceptAll").toBool());
+        QCOMPARE(filter->property("attempts").toInt(), 90);
         QCOMPARE(log.texts().mid(4, 2),
                  QStringList({"debug: Setting property foo to 1"_s,
                               "warning: Property foo does not exists"_s}));
