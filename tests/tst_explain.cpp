@@ -167,6 +167,7 @@ private Q_SLOTS:
             AcceptFilter acceptAll=1 | {"state":"accepting","current_note":1e3} | note of 1000:
             AcceptFilter acceptAll=1 | {"time":253402300799999,"state":"rejected"} | line 1, 23:59:59 UTC, Device 0
             AcceptFilter acceptAll=1 | {"device_id":199};A5;{"state":"rejected"} | line 2, Device 199: coin of 5 rejected.
+            AcceptFilter acceptAll=1 | {"session":"start"};{"session":"start"};A5 | Session 1, line 3, Device 0: note of 5:
             AcceptFilter acceptAll=1 | {"time":0,"device_id":1,"state":"rejected"} | line 1, 00:00:00 UTC, Bill validator (CCNet): note of unknown value rejected.)"_s);
     }
 
