@@ -383,6 +383,13 @@ private Q_SLOTS:
         QVERIFY(piped.out.startsWith("["_s) && piped.out.endsWith("]\n"_s));
         QCOMPARE(piped.err, "changed acceptor_common/maxSumm: 15000 -> 1\n"_s);
 
+        const QString loop = m_folder.filePath("loop"_s);
+        QVERIFY(QFile::link(loop, loop));
+        const VelmoRun looped = set({m_list, "-o"_s, loop});
+        QCOMPARE(looped.err, "velmo: %1: Too many levels of symbolic links\n"_s.arg(loop));
+        QCOMPARE(looped.exitCode, 2);
+        QVERIFY(QFileInfo(loop).isSymLink());
+
         const QByteArray before = contentOf(m_list);
         const QString twin = m_folder.filePath("twin.json"_s);
         QCOMPARE(::link(QFile::encodeName(m_list).constData(), QFile::encodeName(twin).constData()),

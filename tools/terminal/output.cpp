@@ -10,6 +10,7 @@
 #include <QSaveFile>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -24,6 +25,22 @@ bool find(const QString& fileName, int standardStream, struct stat& found)
         == 0;
 }
 
+// Has faults name the file as it was given, whatever file that stands for.
+class NamedSaveFile : public QSaveFile
+{
+public:
+    NamedSaveFile(const QString& name, const QString& target)
+        : QSaveFile(target)
+        , m_name(name)
+    {
+    }
+
+    QString fileName() const override { return m_name; }
+
+private:
+    const QString m_name;
+};
+
 } // namespace
 
 OutputFile::OutputFile(const QString& fileName, const QStringList& inputs)
@@ -31,6 +48,9 @@ OutputFile::OutputFile(const QString& fileName, const QStringList& inputs)
 {
     const QString name = isStandardOutput(fileName) ? QStringLiteral("-") : fileName;
     const bool isThere = find(name, STDOUT_FILENO, m_old);
+    // QSaveFile would put a file in the place of a link that leads nowhere but to itself.
+    if (!isThere && errno == ELOOP)
+        throw Fault{QStringLiteral("%1: %2").arg(m_name, qt_error_string(ELOOP))};
     for (const QString& input : inputs) {
         struct stat read = {};
         // A terminal may well be both, and so may a socket.
@@ -58,7 +78,8 @@ OutputFile::OutputFile(const QString& fileName, const QStringList& inputs)
     const mode_t mask = umask(S_IRWXG | S_IRWXO); // nobody reads it before it has its mode
     if (!isThere)
         m_old.st_mode = 0666 & ~mask;
-    m_file = std::make_unique<QSaveFile>(isThere ? QFileInfo(name).canonicalFilePath() : name);
+    m_file =
+        std::make_unique<NamedSaveFile>(name, isThere ? QFileInfo(name).canonicalFilePath() : name);
     const bool isOpen = m_file->open(QIODevice::WriteOnly);
     umask(mask);
     if (!isOpen)
