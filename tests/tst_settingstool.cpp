@@ -234,6 +234,10 @@ private Q_SLOTS:
             show jam.jsonl                                                   | 2 | not a settings list: looks like a session log
             get settings.json device0/ccnet/response_tim                     | 2 | nearest known: device0/ccnet/response_time
             get settings.json device1/id003/response_time                    | 2 | not for a device of this model
+            get settings.json device0/posd200/count_nak --source             | 2 | device0/posd200/count_nak is not set: not for a device of this model
+            get id003.json device0/ccnet/response_time                       | 2 | not for a device of this model
+            get id003.json device0/ccnet/reset_interval --source             | 0 | 100\tlist ( & id003.json:5
+            get id003.json device0/response_time --source                    | 0 | 1000\tlist ( & id003.json:3
             get settings.json devices_count                                  | 2 | expected GROUP/KEY
             get settings.json device2/hw_interface/PortName                  | 0 | ttyS2\n
             get settings.json device0/ict/reset_timeout --source             | 0 | 0\tdefault

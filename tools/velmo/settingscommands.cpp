@@ -17,6 +17,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+
 namespace {
 
 using S = AcceptorSettings;
@@ -198,6 +200,20 @@ QString shown(const QVariant& value)
                            : Velmo::tr("not set");
 }
 
+// Whether the device that a setting is of has it, where that device is in the list.
+bool isForDevice(const SettingsList& list, const ServiceSetting& setting)
+{
+    const std::optional<int> device = setting.device();
+    return !device || setting.appliesTo(list.model(*device), list.interfaceType(*device));
+}
+
+bool isNamed(const SettingsList& list, const ServiceSetting& setting)
+{
+    return std::any_of(list.elements().begin(), list.elements().end(), [&](const auto& element) {
+        return element.setting.isValid() && element.setting.path() == setting.path();
+    });
+}
+
 Fault whyNotSet(const SettingsList& list, const Used& used, const QString& fileName)
 {
     const std::optional<int> device = used.setting.device();
@@ -236,7 +252,12 @@ int getSettingCommand(const Arguments& arguments)
     const ArrayFile file = readSettings(arguments.operands().constFirst());
     const ServiceSetting asked = ServiceSetting::require(arguments.operands().at(1));
     const SettingsList list(file);
-    const Used used = list.used(asked);
+    Used used = list.used(asked);
+    // What shares its place is another setting, unless no sub-group says which one is asked for.
+    const bool isAnother =
+        arguments.operands().at(1).count(QLatin1Char('/')) > 1 || used.setting.key() != asked.key();
+    if (isAnother && !isForDevice(list, asked) && !isNamed(list, asked))
+        used = {asked, {}, -1, false};
     if (!used.value.isValid())
         throw whyNotSet(list, used, file.name());
     if (!used.isCertain()) {
