@@ -405,6 +405,28 @@ private Q_SLOTS:
         QCOMPARE(velmo({"settings"_s, "get"_s, m_list, "acceptor_common/maxSumm"_s}).out, "1\n"_s);
     }
 
+    // An edit, what stands before the device count, what is told, what stands there then.
+    void doubledValuesAreToldAsTheyCounted_data()
+    {
+        addRows(R"(
+            set acceptor_common/maxSumm=2   | {"group":"acceptor_common","key":"maxSumm","value":1,"value":2}, | changed acceptor_common/maxSumm: 2 in each "value" | {"group":"acceptor_common","key":"maxSumm","value":2,"value":2},
+            set acceptor_common/maxSumm=1   | {"group":"acceptor_common","key":"maxSumm","value":1,"value":2}, | changed acceptor_common/maxSumm: 2 -> 1 | {"group":"acceptor_common","key":"maxSumm","value":1,"value":1},
+            set acceptor_common/maxSumm=2   | {"group":"acceptor_common","key":"maxSumm","value":2,"value":2}, | nothing to change | {"group":"acceptor_common","key":"maxSumm","value":2,"value":2},
+            unset acceptor_common/maxSumm   | {"group":"acceptor_common","key":"maxSumm","value":1},{"group":"acceptor_common","key":"maxSumm","value":2}, | removed acceptor_common/maxSumm: 2 (2 elements) |
+            unset acceptor_common/maxSumm   | {"group":"acceptor_common","key":"maxSumm","value":1}, | removed acceptor_common/maxSumm: 1 |)"_s);
+    }
+
+    void doubledValuesAreToldAsTheyCounted()
+    {
+        const auto [edit, before, told, after] = cells<4>();
+        const QString count = R"({"group":"service","key":"devices_count","value":0}])"_s;
+        writeFile(m_list, "["_s + before + count);
+        QStringList words = edit.split(QLatin1Char(' '));
+        words.insert(1, m_list);
+        QCOMPARE(velmo(QStringList("settings"_s) + words).out, told + "\n"_s);
+        QCOMPARE(QString::fromUtf8(contentOf(m_list)), "["_s + after + count);
+    }
+
     void carriedOverValuesAreSaidToBe()
     {
         const VelmoRun run = velmo({"settings"_s, "set"_s, m_list, "device0/device/device_id=6"_s,

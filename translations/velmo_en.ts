@@ -31,5 +31,12 @@
             <numerusform>the broker did not take %n summaries; their states are kept for the next start</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>removed %1: %2 (%n elements)</source>
+        <translation>
+            <numerusform>removed %1: %2 (%n element)</numerusform>
+            <numerusform>removed %1: %2 (%n elements)</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

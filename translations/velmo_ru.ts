@@ -803,5 +803,17 @@
         <source>its time is in the future</source>
         <translation>его время в будущем</translation>
     </message>
+    <message numerus="yes">
+        <source>removed %1: %2 (%n elements)</source>
+        <translation>
+            <numerusform>убрано %1: %2 (%n элемент)</numerusform>
+            <numerusform>убрано %1: %2 (%n элемента)</numerusform>
+            <numerusform>убрано %1: %2 (%n элементов)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>changed %1: %2 in each &quot;value&quot;</source>
+        <translation>изменено %1: %2 в каждом &quot;value&quot;</translation>
+    </message>
 </context>
 </TS>

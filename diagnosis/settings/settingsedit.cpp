@@ -97,7 +97,7 @@ QList<SettingsEdit::Change> SettingsEdit::changes() const
     QList<Change> real;
     std::copy_if(m_changes.begin(), m_changes.end(), std::back_inserter(real),
                  [](const Change& change) {
-                     return change.before != change.after
+                     return change.wasDoubled || change.before != change.after
                          || change.before.isValid() != change.after.isValid();
                  });
     return real;
@@ -148,13 +148,18 @@ void SettingsEdit::setElement(const SettingsList& list, int element, const Servi
                               const QString& value)
 {
     const QString old = list.elements().at(element).text();
-    // As it is read, it may be so already.
-    if (old == value || (setting.accepts(old) && setting.readAs(old) == value))
+    // As it is read, it may be so already; of doubled values only the last one is.
+    const bool isDoubled = m_file.isDoubled(element, valueKey);
+    const bool isSame = old == value || (setting.accepts(old) && setting.readAs(old) == value);
+    if (isSame && !isDoubled)
         return;
+    const QByteArray text = m_file.text();
     // Of its own type where the value means the same in it.
     const int type = list.elements().at(element).value.userType();
     m_file.setMember(element, valueKey, jsonOfType(type, value).value_or(setting.listValue(value)));
     record(setting.path(), old, value);
+    m_changes[m_changeOfPath.value(setting.path())].wasDoubled |=
+        isDoubled && m_file.text() != text;
 }
 
 void SettingsEdit::insert(const ServiceSetting& setting, const Start& start)
@@ -197,10 +202,18 @@ int SettingsEdit::positionFor(const ServiceSetting& setting) const
 
 void SettingsEdit::remove(const SettingsList& list, const QVector<int>& elements)
 {
+    QMap<QString, QVector<int>> elementsOfPath;
+    const auto pathOf = [&list](int i) {
+        const SettingsList::Element& element = list.elements().at(i);
+        return element.setting.isValid() ? element.setting.path() : element.path();
+    };
+    for (const int element : elements)
+        elementsOfPath[pathOf(element)] += element;
     for (const int element : elements) {
-        const SettingsList::Element& removed = list.elements().at(element);
-        record(removed.setting.isValid() ? removed.setting.path() : removed.path(), removed.text(),
-               {});
+        const QString path = pathOf(element);
+        const QVector<int> same = elementsOfPath.value(path);
+        record(path, list.elements().at(same.constLast()).text(), {}); // the last one counted
+        m_changes[m_changeOfPath.value(path)].elements = int(same.size());
     }
     std::for_each(elements.rbegin(), elements.rend(), [this](int i) { m_file.remove(i); });
 }

@@ -36,6 +36,8 @@ public:
         QVariant before;
         QVariant after;
         QString from; ///< the setting whose value an added one has taken over; empty for none
+        int elements = 1; ///< how many were removed
+        bool wasDoubled = false; ///< whether the element had several values, of which some changed
     };
 
     explicit SettingsEdit(const ArrayFile& file);

@@ -84,15 +84,21 @@ QString changesText(const SettingsEdit& edit)
     for (const SettingsEdit::Change& change : changes) {
         const QString before = change.before.toString().simplified();
         const QString after = change.after.toString().simplified();
+        QString line;
         if (!change.from.isEmpty())
-            text += Velmo::tr("carried over %1: %2 (from %3)").arg(change.path, after, change.from);
+            line = Velmo::tr("carried over %1: %2 (from %3)").arg(change.path, after, change.from);
         else if (!change.before.isValid())
-            text += Velmo::tr("added %1: %2").arg(change.path, after);
+            line = Velmo::tr("added %1: %2").arg(change.path, after);
+        else if (!change.after.isValid() && change.elements > 1)
+            line = Velmo::tr("removed %1: %2 (%n elements)", nullptr, change.elements)
+                       .arg(change.path, before);
         else if (!change.after.isValid())
-            text += Velmo::tr("removed %1: %2").arg(change.path, before);
+            line = Velmo::tr("removed %1: %2").arg(change.path, before);
+        else if (before == after && change.wasDoubled)
+            line = Velmo::tr("changed %1: %2 in each \"value\"").arg(change.path, after);
         else
-            text += Velmo::tr("changed %1: %2 -> %3").arg(change.path, before, after);
-        text += QLatin1Char('\n');
+            line = Velmo::tr("changed %1: %2 -> %3").arg(change.path, before, after);
+        text += line + QLatin1Char('\n');
     }
     return text.isEmpty() ? Velmo::tr("nothing to change") + QLatin1Char('\n') : text;
 }
