@@ -427,6 +427,40 @@ private Q_SLOTS:
         QCOMPARE(QString::fromUtf8(contentOf(m_list)), "["_s + after + count);
     }
 
+    // What is done with a list whose texts are commands to a terminal, a part of what is told.
+    void textsAreNoCommands_data()
+    {
+        addRows(R"(
+            check LIST                                      | error: device0/\u001b[2Ja\u000ab\u202e
+            show LIST                                       | \u001b[2Ja\u000ab\u202e
+            show LIST                                       | \u001b[2Ja b\u202e
+            routes LIST                                     | R\u001b[2J
+            get LIST device0/device/device_name             | \u001b[2Ja\nb\u202e\n
+            diff LIST OTHER                                 | \u001b[2Ja b\u202e
+            set LIST -f device0/device/device_name=x        | device_name: \u001b[2Ja b\u202e -> x
+            unset LIST device0/device/device_name           | device_name: \u001b[2Ja b\u202e\n
+            remove-device LIST 0                            | removed device0/\u001b[2Ja\u000ab\u202e: 1\n)"_s);
+    }
+
+    void textsAreNoCommands()
+    {
+        const auto [command, part] = cells<2>();
+        QByteArray list = contentOf(m_list);
+        const QByteArray commands = "\\u001b[2Ja\\nb\\u202e";
+        list.replace("Bill validator", commands);
+        list.replace("\"ttyS0\"", "\"" + commands + "\"");
+        list.replace("RUB", "R\\\\u001b[2J");
+        list.replace("[\n",
+                     "[\n{\"group\":\"device0\",\"key\":\"" + commands + "\",\"value\":1},\n");
+        writeFile(m_list, QString::fromUtf8(list));
+        QStringList words = command.split(QLatin1Char(' '));
+        words.replaceInStrings("LIST"_s, m_list);
+        words.replaceInStrings("OTHER"_s, sample("settings.json"_s));
+        const QString out = velmo(QStringList("settings"_s) + words).out;
+        QVERIFY2(out.contains(QString(part).replace("\\n"_s, "\n"_s)), qPrintable(out));
+        QVERIFY(!out.contains(QChar(0x1b)) && !out.contains(QChar(0x202e)));
+    }
+
     void carriedOverValuesAreSaidToBe()
     {
         const VelmoRun run = velmo({"settings"_s, "set"_s, m_list, "device0/device/device_id=6"_s,

@@ -90,7 +90,7 @@ QString routesTable(const QString& json)
     const QList<DRouteMapItem> map = DRouteMap::fromJson(json);
     for (const DRouteMapItem& route : map) {
         const bool isCoin = route.billType == Acceptors::Coin;
-        rows += QStringList{route.currency, QString::number(route.denomination),
+        rows += QStringList{printable(route.currency), QString::number(route.denomination),
                             isCoin ? Velmo::tr("coin") : Velmo::tr("note"),
                             QString::number(route.route), QString::number(route.count)};
     }
@@ -105,8 +105,8 @@ QString limitsTable(const QString& json)
     QList<QStringList> rows;
     const QJsonArray limits = QJsonDocument::fromJson(json.toUtf8()).array();
     for (const QJsonValue& limit : limits) {
-        rows += QStringList{limit[QStringLiteral("denom")].toVariant().toString(),
-                            limit[QStringLiteral("attempts")].toVariant().toString()};
+        rows += QStringList{printable(limit[QStringLiteral("denom")].toVariant().toString()),
+                            printable(limit[QStringLiteral("attempts")].toVariant().toString())};
     }
     return formatTable(
         {QLatin1Char('>') + Velmo::tr("Face value"), QLatin1Char('>') + Velmo::tr("Rejections")},
@@ -137,7 +137,7 @@ QString block(const QString& heading, const SettingsList& list, std::optional<in
     for (const Used& used : list.used()) {
         if (used.setting.device() != device)
             continue;
-        QString value = used.value.toString().simplified();
+        QString value = printable(used.value.toString().simplified());
         const QString table = tableOf(used);
         if (table.count(QLatin1Char('\n')) > 1) {
             const QString label = used.setting.label();
@@ -152,7 +152,7 @@ QString block(const QString& heading, const SettingsList& list, std::optional<in
             mark = Velmo::tr("not used");
         rows += QStringList{QStringLiteral("  ") + used.setting.path(), mark, value};
     }
-    return heading + QLatin1Char('\n')
+    return printable(heading) + QLatin1Char('\n')
         + formatTable({QStringLiteral("  ") + Velmo::tr("Setting"), QString(), Velmo::tr("Value")},
                       rows, outputWidth());
 }
@@ -196,8 +196,9 @@ QMap<QString, QVariant> valuesByPath(const SettingsList& list)
 
 QString shown(const QVariant& value)
 {
-    return value.isValid() ? QLatin1Char('"') + value.toString().simplified() + QLatin1Char('"')
-                           : Velmo::tr("not set");
+    return value.isValid()
+        ? QLatin1Char('"') + printable(value.toString().simplified()) + QLatin1Char('"')
+        : Velmo::tr("not set");
 }
 
 // Whether the device that a setting is of has it, where that device is in the list.
@@ -266,10 +267,10 @@ int getSettingCommand(const Arguments& arguments)
                        .arg(file.name(), asked.path(), used.value.toString(),
                             used.setting.unsetValue().toString()));
     }
-    QString text = used.value.toString();
+    QString text = printableLines(used.value.toString());
     if (arguments.isSet(options::source)) {
         text += QLatin1Char('\t')
-            + (used.isListed() ? Velmo::tr("list (%1)").arg(file.place(used.element))
+            + (used.isListed() ? Velmo::tr("list (%1)").arg(printable(file.place(used.element)))
                                : Velmo::tr("default"));
     }
     print(text + QLatin1Char('\n'));
@@ -291,7 +292,7 @@ int checkSettingsCommand(const Arguments& arguments)
                                   {"path", finding.path},
                                   {"text", finding.text}});
         if (!arguments.isSet(options::json))
-            print(finding.line(file) + QLatin1Char('\n'));
+            print(printable(finding.line(file)) + QLatin1Char('\n'));
     }
     if (arguments.isSet(options::json))
         printList(list);

@@ -98,7 +98,7 @@ QString changesText(const SettingsEdit& edit)
             line = Velmo::tr("changed %1: %2 in each \"value\"").arg(change.path, after);
         else
             line = Velmo::tr("changed %1: %2 -> %3").arg(change.path, before, after);
-        text += line + QLatin1Char('\n');
+        text += printable(line) + QLatin1Char('\n');
     }
     return text.isEmpty() ? Velmo::tr("nothing to change") + QLatin1Char('\n') : text;
 }
