@@ -113,8 +113,8 @@ void LogExplainer::takeEvent(const LogStep& step, const SessionLine& line, qint6
     const bool isNewState = trail.state != event.state;
     // What is published, or told of an idle device, repeats the value of a note that is long gone.
     const bool isTold = !line.isPublished() && (step.reported & noteBit) != 0;
-    const bool isNewValue = event.currentNote > 0
-        && (event.currentNote != trail.value || (isTold && event.state != STATE_IDLING));
+    const bool isNewValue =
+        event.currentNote != trail.value || (isTold && event.state != STATE_IDLING);
     trail.state = event.state;
     trail.value = event.currentNote;
     trail.isValueNew = event.currentNote > 0 && (trail.isValueNew || isNewValue);
