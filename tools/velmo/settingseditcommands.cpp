@@ -85,19 +85,20 @@ QString changesText(const SettingsEdit& edit)
         const QString before = change.before.toString().simplified();
         const QString after = change.after.toString().simplified();
         QString line;
-        if (!change.from.isEmpty())
+        if (!change.from.isEmpty()) {
             line = Velmo::tr("carried over %1: %2 (from %3)").arg(change.path, after, change.from);
-        else if (!change.before.isValid())
+        } else if (!change.before.isValid()) {
             line = Velmo::tr("added %1: %2").arg(change.path, after);
-        else if (!change.after.isValid() && change.elements > 1)
+        } else if (!change.after.isValid() && change.elements > 1) {
             line = Velmo::tr("removed %1: %2 (%n elements)", nullptr, change.elements)
                        .arg(change.path, before);
-        else if (!change.after.isValid())
+        } else if (!change.after.isValid()) {
             line = Velmo::tr("removed %1: %2").arg(change.path, before);
-        else if (before == after && change.wasDoubled)
+        } else if (before == after && change.wasDoubled) {
             line = Velmo::tr("changed %1: %2 in each \"value\"").arg(change.path, after);
-        else
+        } else {
             line = Velmo::tr("changed %1: %2 -> %3").arg(change.path, before, after);
+        }
         text += printable(line) + QLatin1Char('\n');
     }
     return text.isEmpty() ? Velmo::tr("nothing to change") + QLatin1Char('\n') : text;
