@@ -303,6 +303,7 @@ private Q_SLOTS:
             {"device_id":6,"thread_id":3};{"device_id":1,"thread_id":2};{"device_states":[{"device_id":6,"thread_id":3}]};{"cash":1} | 1/2
             {"device_id":6,"thread_id":3};{"device_id":1,"thread_id":2};{"thread_id":3,"cash":1} | 6/3
             {"device_id":6,"thread_id":3};{"thread_id":4,"cash":1} | 6/4
+            {"device_states":[{"device_id":6,"thread_id":3},{"device_id":1,"thread_id":2}]};{"thread_id":9,"cash":1} | 1/9
             {"device_states":[{"device_id":1},{"device_id":1,"thread_id":3}]};{"device_states":[{"device_id":1,"cash":1}]} | 1/0
             {"device_states":[{"device_id":1,"thread_id":3},{"device_id":1}]};{"device_states":[{"device_id":1,"cash":1}]} | 1/0
             {"cash":1} | 0/0)"_s);
@@ -318,6 +319,25 @@ private Q_SLOTS:
         QCOMPARE(player.steps().size(), size_t(1));
         const LogDevice& device = *player.steps().front().device;
         QCOMPARE("%1/%2"_s.arg(device.deviceId()).arg(device.threadId()), expected);
+    }
+
+    void devicesAndSessionsAreToldApart()
+    {
+        LogPlayer player(filterSet("[]"_s));
+        for (qint64 line = 1; line <= 2; ++line)
+            player.take(SessionLine(R"({"session":"start"})"_s), line);
+        QCOMPARE(player.sessions(), 1);
+        player.take(
+            SessionLine(
+                R"({"device_states":[{"device_id":6},{"device_id":1,"thread_id":3},{"device_id":1,"thread_id":2}]})"_s),
+            3);
+        QStringList names;
+        for (const auto& device : player.devices())
+            names += device->name();
+        QCOMPARE(names,
+                 (QStringList{"Bill validator (Ardac Elite ID 003)"_s,
+                              "Bill validator (CCNet), thread 3"_s,
+                              "Bill validator (CCNet), thread 2"_s}));
     }
 
     void summariesCountEachNoteOnce()
