@@ -79,17 +79,17 @@ SettingsEdit::SettingsEdit(const ArrayFile& file)
 {
 }
 
-void SettingsEdit::record(const QString& path, const QVariant& before, const QVariant& after,
-                          const QString& from)
+SettingsEdit::Change& SettingsEdit::record(const QString& path, const QVariant& before,
+                                           const QVariant& after, const QString& from)
 {
-    const int known = m_changeOfPath.value(path, -1);
-    if (known >= 0) {
-        m_changes[known].after = after;
-        m_changes[known].from = from;
-        return;
+    if (!m_changeOfPath.contains(path)) {
+        m_changeOfPath.insert(path, int(m_changes.size()));
+        m_changes += Change{path, before, {}, {}};
     }
-    m_changeOfPath.insert(path, int(m_changes.size()));
-    m_changes += Change{path, before, after, from};
+    Change& change = m_changes[m_changeOfPath.value(path)];
+    change.after = after;
+    change.from = from;
+    return change;
 }
 
 QList<SettingsEdit::Change> SettingsEdit::changes() const
@@ -157,9 +157,7 @@ void SettingsEdit::setElement(const SettingsList& list, int element, const Servi
     // Of its own type where the value means the same in it.
     const int type = list.elements().at(element).value.userType();
     m_file.setMember(element, valueKey, jsonOfType(type, value).value_or(setting.listValue(value)));
-    record(setting.path(), old, value);
-    m_changes[m_changeOfPath.value(setting.path())].wasDoubled |=
-        isDoubled && m_file.text() != text;
+    record(setting.path(), old, value).wasDoubled |= isDoubled && m_file.text() != text;
 }
 
 void SettingsEdit::insert(const ServiceSetting& setting, const Start& start)
@@ -212,8 +210,8 @@ void SettingsEdit::remove(const SettingsList& list, const QVector<int>& elements
     for (const int element : elements) {
         const QString path = pathOf(element);
         const QVector<int> same = elementsOfPath.value(path);
-        record(path, list.elements().at(same.constLast()).text(), {}); // the last one counted
-        m_changes[m_changeOfPath.value(path)].elements = int(same.size());
+        const QString counted = list.elements().at(same.constLast()).text(); // the last one
+        record(path, counted, {}).elements = int(same.size());
     }
     std::for_each(elements.rbegin(), elements.rend(), [this](int i) { m_file.remove(i); });
 }

@@ -97,8 +97,8 @@ private:
     static Sameness sameness(const SettingsFinding& finding, int removedDevice);
     ServiceSetting settingOfDevice(int device, const QString& key) const;
     void requireDevice(int device) const;
-    void record(const QString& path, const QVariant& before, const QVariant& after,
-                const QString& from = {});
+    Change& record(const QString& path, const QVariant& before, const QVariant& after,
+                   const QString& from = {});
 
     const ArrayFile m_original;
     ArrayFile m_file;
