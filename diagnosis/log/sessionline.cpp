@@ -148,6 +148,7 @@ enum Key : size_t {
     DeviceStates = std::tuple_size_v<std::decay_t<decltype(fields())>>,
     Session,
     Time,
+    Kiosk,
     Inserted,
     Rejected,
     Returned,
@@ -158,10 +159,12 @@ const auto& keys()
 {
     static const QString session = QStringLiteral("session");
     static const QString time = QStringLiteral("time");
+    static const QString kiosk = QStringLiteral("kiosk");
     static const KeyOrder order(
         joined(keysOf(fields()),
-               std::array{&AcceptorState::DEVICE_STATES, &session, &time, &StatItem::NOTES_INSERTED,
-                          &StatItem::NOTES_REJECTED, &StatItem::NOTES_RETURNED}));
+               std::array{&AcceptorState::DEVICE_STATES, &session, &time, &kiosk,
+                          &StatItem::NOTES_INSERTED, &StatItem::NOTES_REJECTED,
+                          &StatItem::NOTES_RETURNED}));
     return order;
 }
 
@@ -183,7 +186,13 @@ bool readPublishedDevice(JsonReader& json, DeviceReport& report)
             return readField(json, index, report);
         if (index < Inserted || index == Unknown)
             throw unknownKey(key);
-        return json.skipValue();
+        if (index != Inserted)
+            return json.skipValue();
+        QVariant counter;
+        const bool isRead = json.readValue(counter);
+        if (counter.userType() == QMetaType::LongLong)
+            report.notesInserted = counter.toLongLong();
+        return isRead;
     });
     static const quint32 identifier = DeviceReport::bit(deviceStateDescConst::DEVICE_ID);
     if (isSound && !report.has(identifier))
@@ -225,6 +234,13 @@ LogTime readTime(const QVariant& value)
     }
 }
 
+QString readKiosk(const QVariant& value)
+{
+    if (value.userType() != QMetaType::QString || value.toString().isEmpty())
+        throw Fault{Diagnosis::tr(R"("kiosk": expected a name)")};
+    return value.toString();
+}
+
 } // namespace
 
 void DeviceReport::applyTo(DeviceState& state) const
@@ -254,7 +270,7 @@ SessionLine::SessionLine(const QString& text)
             m_isPublished = true;
             return readPublished(json, m_reports);
         }
-        if (index > Time) {
+        if (index > Kiosk) {
             stray = stray.isNull() ? key.toString() : stray;
             return json.skipValue();
         }
@@ -263,6 +279,8 @@ SessionLine::SessionLine(const QString& text)
             return false;
         if (index == Time)
             m_time = readTime(value);
+        else if (index == Kiosk)
+            m_kiosk = readKiosk(value);
         else if (value.userType() != QMetaType::QString
                  || value.toString() != QLatin1String("start"))
             throw Fault{Diagnosis::tr(R"("session": expected "start")")};

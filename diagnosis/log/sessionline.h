@@ -9,6 +9,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 class TextInput;
@@ -18,6 +19,7 @@ struct DeviceReport
 {
     DeviceState fields; ///< those that were not reported stand at their defaults
     quint32 reported = 0; ///< the bits of those that were
+    std::optional<qint64> notesInserted; ///< the counter, which only published states have
 
     bool has(quint32 bit) const { return (reported & bit) != 0; }
 
@@ -30,7 +32,7 @@ struct DeviceReport
 
 /// One line of a session log: what a device reported, under the keys of the device state map, or
 /// the published states of all devices. "session": "start" begins a payment session before they
-/// are taken; "time" says when.
+/// are taken; "time" says when, and "kiosk" where.
 class SessionLine
 {
 public:
@@ -49,12 +51,16 @@ public:
 
     LogTime time() const { return m_time; }
 
+    /// Empty where the line does not name it.
+    QString kiosk() const { return m_kiosk; }
+
     /// One, or those that were published in their order.
     const std::vector<DeviceReport>& reports() const { return m_reports; }
 
 private:
     std::vector<DeviceReport> m_reports;
     LogTime m_time;
+    QString m_kiosk;
     bool m_startsSession = false;
     bool m_isPublished = false;
 };

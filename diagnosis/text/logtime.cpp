@@ -12,7 +12,10 @@
 
 namespace {
 
-constexpr int timeOfDay = 11; // where it begins in yyyy-MM-ddThh:mm:ss
+// Where they begin or end in yyyy-MM-ddThh:mm:ss.zzz
+constexpr int timeOfDay = 11;
+constexpr int minuteOfHour = 13;
+constexpr int secondsEnd = 19;
 
 int twoDigits(const QString& text, int at)
 {
@@ -78,6 +81,39 @@ QDateTime LogTime::toDateTime() const
 {
     return m_hasMilliseconds ? QDateTime::fromMSecsSinceEpoch(m_milliseconds, Qt::UTC)
                              : QDateTime::fromString(m_text, Qt::ISODateWithMs);
+}
+
+std::optional<qint64> LogTime::moment() const
+{
+    if (m_hasMilliseconds)
+        return m_milliseconds;
+    if (m_text.isEmpty())
+        return {};
+    // Times of a log mostly share the hour with the one before: what is new of it is arithmetic.
+    static thread_local QString hour;
+    static thread_local qint64 hourBegins = 0;
+    if (!isPlain(m_text))
+        return toDateTime().toMSecsSinceEpoch();
+    const bool isUtc = m_text.endsWith(QLatin1Char('Z'));
+    const int size = int(m_text.size()) - (isUtc ? 1 : 0);
+    const QString ofThis = m_text.left(minuteOfHour) + (isUtc ? QLatin1Char('Z') : QLatin1Char(' '));
+    if (ofThis != hour) {
+        hour = ofThis;
+        hourBegins = QDateTime::fromString(m_text.left(minuteOfHour) + QLatin1String(":00:00")
+                                               + (isUtc ? QLatin1String("Z") : QLatin1String()),
+                                           Qt::ISODate)
+                         .toMSecsSinceEpoch();
+    }
+    const int fraction = size > secondsEnd ? m_text.mid(secondsEnd + 1, 3).toInt() : 0;
+    return hourBegins + (twoDigits(m_text, 14) * 60 + twoDigits(m_text, 17)) * 1000 + fraction;
+}
+
+LogTime LogTime::utc() const
+{
+    LogTime time;
+    time.m_hasMilliseconds = isKnown();
+    time.m_milliseconds = moment().value_or(0);
+    return time;
 }
 
 QString LogTime::clock() const

@@ -27,6 +27,13 @@ public:
     /// The moment, in the zone or with the offset that the text has.
     QDateTime toDateTime() const;
 
+    /// The same, in milliseconds since 1970; a text without a zone is of the local one. None when
+    /// not known.
+    std::optional<qint64> moment() const;
+
+    /// The same moment as UTC shows it; not known when this is not.
+    LogTime utc() const;
+
     /// The time of day on the clock that the log was written by, as 10:05:12; that of UTC has
     /// "UTC" behind it. Empty when not known.
     QString clock() const;
