@@ -44,50 +44,113 @@ void takeBackValue(NoteAnswer& answer)
 
 } // namespace
 
-LogExplainer::LogExplainer(const FilterSet& filters, Receiver receiver)
+LogExplainer::LogExplainer(const FilterSet& filters, Receiver receiver, MoneyWatcher* watcher)
     : m_player(filters)
     , m_receiver(std::move(receiver))
+    , m_watcher(watcher ? *watcher : m_nobody)
 {
+}
+
+LogExplainer::Trail& LogExplainer::trailOf(const LogDevice& device)
+{
+    Trail& trail = m_trails[&device];
+    if (!trail.money) {
+        trail.money = std::make_unique<MoneyTrail>(device, m_watcher);
+        if (m_player.skippedLines() > device.skippedBefore())
+            trail.money->skipLine();
+    }
+    return trail;
+}
+
+void LogExplainer::skipLine()
+{
+    m_player.skipLine();
+    for (auto& [device, trail] : m_trails)
+        trail.money->skipLine();
 }
 
 void LogExplainer::take(const SessionLine& line, qint64 lineNumber)
 {
-    std::vector<const LogStep*> steps;
-    for (const LogStep& step : m_player.take(line, lineNumber))
-        steps.push_back(&step);
-    // In whatever order they are published.
-    std::sort(steps.begin(), steps.end(), [](const LogStep* a, const LogStep* b) {
-        return std::make_pair(a->device->deviceId(), a->device->threadId())
-            < std::make_pair(b->device->deviceId(), b->device->threadId());
-    });
-    for (const LogStep* const step : steps) {
-        const LogDevice& device = *step->device;
-        const Trail& trail = m_trails[&device];
-        const auto closeUnlessInHand = [&] {
-            if (step->startsSession && trail.note && trail.note->phase != InHand)
-                close(device);
-        };
-        closeUnlessInHand();
-        // What the device has in hand goes on into the next session, where only what is told there
-        // says what becomes of it.
-        if (step->startsSession && trail.note)
-            trail.note->answer.end = Outcome::Unknown;
-        if (step->sent)
-            takeEvent(*step, line, lineNumber);
-        else if (trail.note)
-            watch(device, *trail.note, lineNumber); // a first report may tell of what is no event
-        closeUnlessInHand();
+    const std::vector<LogStep>& taken = m_player.take(line, lineNumber);
+    if (taken.size() == 1) {
+        takeStep(taken.front(), line, lineNumber);
+    } else {
+        std::vector<const LogStep*> steps;
+        for (const LogStep& step : taken)
+            steps.push_back(&step);
+        // In whatever order they are published.
+        std::sort(steps.begin(), steps.end(), [](const LogStep* a, const LogStep* b) {
+            return std::make_pair(a->device->deviceId(), a->device->threadId())
+                < std::make_pair(b->device->deviceId(), b->device->threadId());
+        });
+        for (const LogStep* const step : steps)
+            takeStep(*step, line, lineNumber);
     }
     giveAway();
+}
+
+void LogExplainer::takeStep(const LogStep& step, const SessionLine& line, qint64 lineNumber)
+{
+    const LogDevice& device = *step.device;
+    Trail& trail = trailOf(device);
+    const auto closeUnlessInHand = [&] {
+        if (step.startsSession && trail.note && trail.note->phase != InHand)
+            close(device);
+    };
+    closeUnlessInHand();
+    if (step.startsSession) {
+        // What the device has in hand goes on into the next session, where only what is told there
+        // says what becomes of it.
+        if (trail.note)
+            trail.note->answer.end = Outcome::Unknown;
+        trail.money->startSession(trail.answer());
+    }
+    trail.money->see(step, line, lineNumber);
+    if (trail.money->giveToLast(trail.answer()))
+        keepInChannel(trail, lineNumber);
+    if (step.sent) {
+        takeEvent(step, line, lineNumber);
+        trail.money->follow(trail.answer());
+    } else if (trail.note) {
+        watch(device, *trail.note, lineNumber); // a first report may tell of what is no event
+    }
+    count(trail);
+    if (trail.money->giveRest(trail.answer()))
+        keepInChannel(trail, lineNumber);
+    closeUnlessInHand();
+}
+
+// The registry tells where the note is, whatever else the device tells.
+void LogExplainer::keepInChannel(Trail& trail, qint64 lineNumber)
+{
+    if (!trail.note)
+        return;
+    trail.note->piece.isInChannel = true;
+    trail.note->answer.end = Outcome::Taken;
+    trail.note->answer.lastLine = lineNumber;
+    trail.note->stoppedLine = 0;
+}
+
+void LogExplainer::count(Trail& trail)
+{
+    if (trail.note && trail.note->answer.isNote() && !std::exchange(trail.note->isCounted, true))
+        trail.money->countNote();
 }
 
 void LogExplainer::finish()
 {
     for (const auto& device : m_player.devices()) {
-        Note* const note = m_trails[device.get()].note;
-        if (note && note->phase == InHand)
-            note->answer.end = Outcome::Unknown; // it is on its way still
+        Trail& trail = trailOf(*device);
+        Note* const note = trail.note;
+        if (note && note->phase == InHand && !note->piece.isInChannel) {
+            // It is on its way still.
+            const bool isNote = note->answer.isNote() || device->state().state == STATE_RETURNING;
+            if (isNote && note->stoppedLine == 0 && note->answer.outcome != Outcome::Refused)
+                note->stoppedLine = note->seenLine;
+            note->answer.end = Outcome::Unknown;
+        }
         close(*device);
+        trail.money->endAct(nullptr);
     }
     giveAway();
 }
@@ -108,7 +171,7 @@ void LogExplainer::takeEvent(const LogStep& step, const SessionLine& line, qint6
     const StatesList& events = device.events();
     const DeviceState& event = events.constLast();
     const DeviceState* const last = events.size() > 1 ? &events.at(events.size() - 2) : nullptr;
-    Trail& trail = m_trails[&device];
+    Trail& trail = trailOf(device);
     // A session does not make news of how the device stands.
     const bool isNewState = trail.state != event.state;
     // What is published, or told of an idle device, repeats the value of a note that is long gone.
@@ -131,7 +194,7 @@ void LogExplainer::takeEvent(const LogStep& step, const SessionLine& line, qint6
         const bool isLate = trail.note && !isNewState && trail.note->phase == InHand
             && (!trail.note->answer.hasValue() || trail.note->isValuePresumed);
         const Note before = isLate ? std::exchange(*trail.note, Note()) : Note();
-        addNote(device, line, lineNumber);
+        addNote(device, line, lineNumber, isLate);
         trail.note->isValuePresumed = !std::exchange(trail.isValueNew, false);
         trail.note->stoppedLine = before.stoppedLine;
         trail.note->answer.machine = before.answer.machine;
@@ -149,6 +212,7 @@ void LogExplainer::takeEvent(const LogStep& step, const SessionLine& line, qint6
             answer.uncertain += Diagnosis::tr("its value became %1 in line %2")
                                     .arg(event.currentNote)
                                     .arg(lineNumber);
+            trail.note->piece.otherNote = event.currentNote;
         } else {
             answer.note = event.currentNote;
         }
@@ -164,9 +228,11 @@ bool LogExplainer::beginsNote(const DeviceState& event, const Note* open)
     return event.state == STATE_REJECTED && !open;
 }
 
-void LogExplainer::addNote(const LogDevice& device, const SessionLine& line, qint64 lineNumber)
+void LogExplainer::addNote(const LogDevice& device, const SessionLine& line, qint64 lineNumber,
+                           bool isSame)
 {
     close(device);
+    Trail& trail = trailOf(device);
     Note& note = m_notes.emplace_back();
     note.answer.session = device.session();
     note.answer.device = device.deviceId();
@@ -177,7 +243,11 @@ void LogExplainer::addNote(const LogDevice& device, const SessionLine& line, qin
     note.sumBefore = device.state().sessionSum;
     note.startSeen = device.sessionStartSeen();
     note.skippedBefore = device.skippedBefore();
-    m_trails[&device].note = &note;
+    note.skippedBeforeNote = m_player.skippedLines();
+    note.seenLine = lineNumber;
+    note.piece.collections = note.piece.collectionsAtEnd = trail.money->collections();
+    trail.note = &note;
+    trail.money->beginNote(note.answer, isSame);
 }
 
 // Asks the filters about a note that is offered.
@@ -218,8 +288,12 @@ void LogExplainer::follow(const LogDevice& device, Note& note, bool isNewState, 
         answer.end = Outcome::Returned;
     else if (state == STATE_RETURNING)
         answer.end = Outcome::Unknown;
-    if (answer.end != before)
+    if (answer.end != before) {
         answer.lastLine = lineNumber;
+        note.piece.collectionsAtEnd = trailOf(device).money->collections();
+    }
+    if (note.phase == InHand)
+        note.seenLine = lineNumber;
     if (device.state().sessionSum > note.sumBefore && answer.creditLine.value_or(0) == 0)
         answer.creditLine = lineNumber;
 
@@ -247,13 +321,14 @@ void LogExplainer::follow(const LogDevice& device, Note& note, bool isNewState, 
 
 void LogExplainer::close(const LogDevice& device)
 {
-    Trail& trail = m_trails[&device];
+    Trail& trail = trailOf(device);
     if (!trail.note)
         return;
+    count(trail);
     Note& note = *std::exchange(trail.note, nullptr);
     note.isOpen = false;
     NoteAnswer& answer = note.answer;
-    if (note.stoppedLine > 0) {
+    if (note.stoppedLine > 0 && !note.piece.isInChannel) {
         answer.end = Outcome::Stuck;
         answer.lastLine = note.stoppedLine;
     }
@@ -273,14 +348,20 @@ void LogExplainer::close(const LogDevice& device)
     if (skipped > 0)
         answer.uncertain += Diagnosis::tr("%n lines were skipped in this session", nullptr,
                                           static_cast<int>(qMin<qint64>(skipped, INT_MAX)));
+    if (!answer.isNote())
+        return;
+    note.piece.note = answer.note;
+    note.piece.end = answer.end;
+    note.piece.isSure = m_player.skippedLines() == note.skippedBeforeNote;
+    if (answer.end == Outcome::Unknown || answer.end == Outcome::Stuck)
+        note.piece.collectionsAtEnd = trail.money->collections();
+    trail.money->closeNote(answer, note.piece);
 }
 
 void LogExplainer::giveAway()
 {
     for (; !m_notes.empty() && !m_notes.front().isOpen; m_notes.pop_front()) {
-        // Accepting alone does not tell of a note.
-        const NoteAnswer& answer = m_notes.front().answer;
-        if (answer.hasValue() || answer.end != Outcome::Unknown)
-            m_receiver(answer);
+        if (m_notes.front().answer.isNote())
+            m_receiver(m_notes.front().answer);
     }
 }

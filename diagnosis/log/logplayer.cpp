@@ -140,7 +140,9 @@ const std::vector<LogStep>& LogPlayer::take(const SessionLine& line, qint64 line
         else if (device.m_session == 0)
             device.m_session = m_session = qMax(m_session, 1);
         device.take(report, lineNumber);
-        stepOf(device).reported |= report.reported;
+        LogStep& step = stepOf(device);
+        step.reported |= report.reported;
+        step.notesInserted = report.notesInserted;
         if (line.isPublished())
             continue;
         device.m_lastOwnLine = lineNumber;
@@ -229,6 +231,6 @@ LogStep& LogPlayer::stepOf(LogDevice& device)
 {
     const auto found = std::find_if(m_steps.begin(), m_steps.end(),
                                     [&](const LogStep& step) { return step.device == &device; });
-    return found == m_steps.end() ? m_steps.emplace_back(LogStep{&device, false, false, 0})
+    return found == m_steps.end() ? m_steps.emplace_back(LogStep{&device, false, false, 0, {}})
                                   : *found;
 }

@@ -15,6 +15,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <vector>
 
 /// A condition of a device that may be why it takes no note.
@@ -97,6 +98,7 @@ struct LogStep
     bool startsSession;
     bool sent; ///< its state differed from the one before and became an event
     quint32 reported; ///< the bits of the fields that the line reports
+    std::optional<qint64> notesInserted; ///< the counter that it publishes
 };
 
 /// Plays a session log the way that the service would: one worker and one chain of filters for each

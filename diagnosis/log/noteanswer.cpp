@@ -6,7 +6,7 @@
 #include "text/devicename.h"
 #include "text/diagnosis.h"
 
-QString NoteAnswer::place() const
+QString LogPlace::place() const
 {
     QStringList place{Diagnosis::tr("Session %1").arg(session), Diagnosis::tr("line %1").arg(line)};
     if (time.isKnown())
@@ -15,10 +15,10 @@ QString NoteAnswer::place() const
     return place.join(QStringLiteral(", "));
 }
 
-QString NoteAnswer::what() const
+QString moneyName(quint32 device, int note)
 {
     const bool isCoin = isCoinDevice(int(device));
-    if (!hasValue())
+    if (note <= 0)
         return isCoin ? Diagnosis::tr("coin of unknown value")
                       : Diagnosis::tr("note of unknown value");
     return (isCoin ? Diagnosis::tr("coin of %1") : Diagnosis::tr("note of %1")).arg(note);

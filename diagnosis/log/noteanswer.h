@@ -14,15 +14,27 @@
 #include <array>
 #include <optional>
 
-/// What happened to one note of a log, and why.
-struct NoteAnswer
+/// Where in a log something began.
+struct LogPlace
 {
     int session = 0;
     quint32 device = 0;
     quint32 thread = 0;
     QString deviceName;
-    qint64 line = 0; ///< on which it was offered, or rejected without having been
+    qint64 line = 0;
     LogTime time; ///< of that line
+
+    /// "Session 1, line 8, 10:05:12, Bill validator (CCNet)"
+    QString place() const;
+};
+
+/// "note of 1000", "coin of 10" or, of value 0, "note of unknown value"
+QString moneyName(quint32 device, int note);
+
+/// What happened to one note of a log, and why. Its line is that on which it was offered, or
+/// rejected without having been.
+struct NoteAnswer : LogPlace
+{
     int note = 0; ///< face value; 0 when the log never says
     Outcome outcome = Outcome::Unknown;
     Outcome end = Outcome::Unknown; ///< the same, but of a refused note what became of it then
@@ -41,11 +53,10 @@ struct NoteAnswer
     bool isTaken() const { return end == Outcome::Taken; }
     bool hasValue() const { return note > 0; }
 
-    /// "Session 1, line 8, 10:05:12, Bill validator (CCNet)"
-    QString place() const;
+    /// Whether the log tells of a note at all: that a device accepts is not enough.
+    bool isNote() const { return hasValue() || end != Outcome::Unknown; }
 
-    /// "note of 1000" or "coin of 10"
-    QString what() const;
+    QString what() const { return moneyName(device, note); }
 
     /// "Session 1, line 8, 10:05:12, Bill validator (CCNet): note of 1000 refused."
     QString headline() const;
