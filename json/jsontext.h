@@ -41,7 +41,7 @@ public:
     template <typename List, typename ToText>
     static JsonText list(const List& elements, ToText toText)
     {
-        if (elements.isEmpty())
+        if (elements.empty())
             return JsonText(QByteArrayLiteral("[]"));
         QByteArray text("[");
         for (const auto& element : elements) {

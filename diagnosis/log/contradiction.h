@@ -28,6 +28,7 @@ struct Contradiction : LogPlace
     Rule rule = Rule::NotCredited;
     QVector<qint64> lines; ///< that show it, in their order
     QString sentence; ///< what does not add up and what would clear it
+    int note = 0; ///< the value of the note that it is about; 0 without one
     qint64 missing = 0; ///< so many pieces are not in the log
     int collections = 0; ///< of the cassette when they may have come at first
 

@@ -350,6 +350,7 @@ void LogExplainer::close(const LogDevice& device)
                                           static_cast<int>(qMin<qint64>(skipped, INT_MAX)));
     if (!answer.isNote())
         return;
+    static_cast<LogPlace&>(note.piece) = answer;
     note.piece.note = answer.note;
     note.piece.end = answer.end;
     note.piece.isSure = m_player.skippedLines() == note.skippedBeforeNote;

@@ -111,6 +111,7 @@ void MoneyTrail::see(const LogStep& step, const SessionLine& line, qint64 lineNu
         m_watcher.takeCassette(*this, isIn);
         m_isCassetteIn = isIn;
     }
+    m_watcher.takeLine(*this, step);
     seeSums(step);
     m_changes.clear();
     if ((step.reported & registryBit) != 0)
@@ -406,6 +407,7 @@ void MoneyTrail::judgeNote(const NoteAnswer& note)
 {
     if (m_act.hasGap || !m_act.isCreditKnown)
         return;
+    m_judgedNote = note.note;
     const QVector<qint64> lines = QVector<qint64>{m_act.begin.line} + m_act.lines;
     const QString rise = QString::number(m_act.credit);
     const bool isRefused = note.outcome == Outcome::Refused && !note.isTaken();
@@ -434,6 +436,7 @@ void MoneyTrail::judgeNote(const NoteAnswer& note)
                            "would clear this.")
                  .arg(rise, note.what(), QString::number(note.note)));
     }
+    m_judgedNote = 0;
 }
 
 void MoneyTrail::judgePayout()
@@ -503,6 +506,7 @@ void MoneyTrail::tell(Rule rule, const LogPlace& place, QVector<qint64> lines,
     found.lines = lines;
     found.sentence = sentence;
     found.missing = missing;
+    found.note = m_judgedNote;
     found.collections = rule == Rule::CounterJump ? m_counterCollections : m_collections;
     if (fields == 0 || m_device.hasReported(fields)) {
         m_watcher.takeContradiction(*this, found);

@@ -45,8 +45,9 @@ struct ChannelChange
     qint64 rejected;
 };
 
-/// Where a piece of money is, once no more is told of it.
-struct PieceEnd
+/// Where a piece of money is, once no more is told of it. Its place in the log is where it was
+/// offered.
+struct PieceEnd : LogPlace
 {
     int note = 0; ///< 0 for one of unknown value
     std::optional<int> otherNote; ///< it may be of this value as well
@@ -64,6 +65,9 @@ class MoneyWatcher
 {
 public:
     virtual ~MoneyWatcher() = default;
+
+    /// Told for every line of the device, before what it leads to.
+    virtual void takeLine(const MoneyTrail& /*trail*/, const LogStep& /*step*/) { }
 
     virtual void takeContradiction(const MoneyTrail& /*trail*/, const Contradiction& /*found*/) { }
     virtual void takePiece(const MoneyTrail& /*trail*/, const PieceEnd& /*piece*/) { }
@@ -181,6 +185,7 @@ private:
     std::optional<qint64> m_sum; // of the session, as told last
     qint64 m_sumLine = 0;
     std::optional<qint64> m_paid;
+    int m_judgedNote = 0; // its value
     qint64 m_newCredit = 0; // of this line, not yet given away; so are the following
     qint64 m_newPaid = 0;
     std::vector<ChannelChange> m_changes;

@@ -101,6 +101,17 @@ void Summary::add(const NoteAnswer& answer)
     }
 }
 
+void Summary::add(const Summary& other)
+{
+    sessions += other.sessions;
+    offered.add(other.offered);
+    for (size_t i = 0; i < outcomes.size(); ++i)
+        outcomes.at(i).add(other.outcomes.at(i));
+    takenAlthoughRefused.add(other.takenAlthoughRefused);
+    for (auto filter = other.refusedBy.begin(); filter != other.refusedBy.end(); ++filter)
+        refusedBy[filter.key()] += filter.value();
+}
+
 QList<Summary::Row> Summary::rows() const
 {
     const auto row = [this](Outcome outcome) {

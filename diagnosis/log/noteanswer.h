@@ -100,6 +100,7 @@ struct Summary
     QMap<QString, qint64> refusedBy; ///< notes that a filter of that name refused
 
     void add(const NoteAnswer& answer);
+    void add(const Summary& other);
 
     /// What people read.
     QList<Row> rows() const;

@@ -53,6 +53,21 @@ JsonText jsonOf(const QString& log, const NoteAnswer& answer)
                              {"text", answer.text()}});
 }
 
+JsonText jsonOf(const QStringList& logs, const Contradiction& found)
+{
+    return JsonText::object(
+        {{"kind", QStringLiteral("contradiction")},
+         {"rule", found.ruleKey()},
+         {"log", logs.value(LogPosition::log(found.line))},
+         {"session", found.session},
+         {"device", qint64(found.device)},
+         {"thread", qint64(found.thread)},
+         {"lines", JsonText::list(found.lines,
+                                  [](qint64 line) { return JsonText(LogPosition::line(line)); })},
+         {"time", jsonOf(found.time)},
+         {"text", found.sentence}});
+}
+
 JsonText jsonOf(const QString& log, const Difference& difference)
 {
     const NoteAnswer& note = difference.note;

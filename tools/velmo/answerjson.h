@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "log/cashperiod.h"
 #include "log/comparison.h"
 #include "json/jsontext.h"
 
@@ -14,6 +15,10 @@ JsonText jsonOf(const Tally& tally);
 /// {"kind": "note", ...}
 /// @param log the name of its log
 JsonText jsonOf(const QString& log, const NoteAnswer& answer);
+
+/// {"kind": "contradiction", ...}
+/// @param logs the names of the logs that its lines are of, each a LogPosition
+JsonText jsonOf(const QStringList& logs, const Contradiction& found);
 
 /// {"kind": "summary", ...}
 JsonText jsonOf(const Summary& summary);

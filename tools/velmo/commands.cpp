@@ -31,6 +31,18 @@ const std::vector<Command>& commands()
              "reported, or a published state {\"device_states\": [...]}, with \"time\" and "
              "\"session\": \"start\" where known."),
          {&options::filters, &options::settings}},
+        {"cash",
+         {sessionLogs},
+         {&options::counted, &options::device, &options::last, &options::perFile,
+          &options::exitCode, &options::json, &options::csv, &options::keepGoing},
+         cashCommand,
+         QT_TRANSLATE_NOOP("Velmo", "Where the money is: what lies in each cassette and channel."),
+         QT_TRANSLATE_NOOP(
+             "Velmo",
+             "Tells for each device, from one collection of its cassette to the next, what came, "
+             "went and moved, what must lie there now, within which range that is known and why, "
+             "and what in the logs does not add up. Several logs are of one kiosk, and are put in "
+             "the order of their times.")},
         {"compare",
          {a, b, sessionLogs},
          {&options::json, &options::keepGoing},

@@ -8,6 +8,7 @@
 // What the commands run; each returns the exit code.
 
 int explainCommand(const Arguments& arguments);
+int cashCommand(const Arguments& arguments);
 int compareCommand(const Arguments& arguments);
 int replayCommand(const Arguments& arguments);
 int reportCommand(const Arguments& arguments);

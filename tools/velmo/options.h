@@ -45,6 +45,16 @@ constexpr Option exitCode{
 constexpr Option html{
     "html", nullptr, Value("PAGE.html", Kind::File),
     QT_TRANSLATE_NOOP("Velmo", "Write a page with pictures to PAGE.html in place of text.")};
+constexpr Option counted{
+    "counted", nullptr, Value("FILE", Kind::File),
+    QT_TRANSLATE_NOOP("Velmo", "What was counted, to be held against the ledger: a table with the "
+                               "columns device, place, denomination, count, or such a JSON list.")};
+constexpr Option csv{"csv", nullptr, Value(),
+                     QT_TRANSLATE_NOOP("Velmo", "Print a table for spreadsheets.")};
+constexpr Option last{"last", nullptr, Value(),
+                      QT_TRANSLATE_NOOP("Velmo", "Only the newest period of each device.")};
+constexpr Option perFile{"per-file", nullptr, Value(),
+                         QT_TRANSLATE_NOOP("Velmo", "Each log is of a kiosk of its own.")};
 constexpr Option names{
     "names", nullptr, Value("NAMES.json", Kind::File),
     QT_TRANSLATE_NOOP("Velmo", R"(Display names by device identifier: {"1": "Validator"}.)")};

@@ -1,0 +1,547 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "log/cashbook.h"
+
+#include "text/devicename.h"
+#include "text/diagnosis.h"
+#include "text/filterwords.h"
+
+#include <algorithm>
+#include <climits>
+#include <utility>
+
+namespace {
+
+constexpr size_t mostExamples = 20;
+constexpr size_t mostContradictions = 200;
+constexpr size_t mostContents = 2000; // of a period's course
+
+// Why a number is uncertain.
+constexpr const char* stuck = QT_TRANSLATE_N_NOOP("Diagnosis", "%n pieces got stuck on their way");
+constexpr const char* unknownEnd =
+    QT_TRANSLATE_N_NOOP("Diagnosis", "of %n pieces the log does not say what became of them");
+constexpr const char* inHandAtGap =
+    QT_TRANSLATE_N_NOOP("Diagnosis", "lines were skipped while %n pieces were on their way");
+constexpr const char* otherValue =
+    QT_TRANSLATE_N_NOOP("Diagnosis", "the value of %n pieces changed while they were on their way");
+constexpr const char* noValue =
+    QT_TRANSLATE_N_NOOP("Diagnosis", "%n pieces of unknown value were taken");
+constexpr const char* missing = QT_TRANSLATE_N_NOOP(
+    "Diagnosis", "by the device's counter %n pieces are missing from the log");
+constexpr const char* creditAlone =
+    QT_TRANSLATE_N_NOOP("Diagnosis", "%n credits came without a piece");
+constexpr const char* gap = QT_TRANSLATE_N_NOOP("Diagnosis", "%n lines were skipped");
+constexpr const char* unseenCollection = QT_TRANSLATE_N_NOOP(
+    "Diagnosis", "lines were skipped in which the cassette may have been emptied");
+constexpr const char* unexplained =
+    QT_TRANSLATE_N_NOOP("Diagnosis", "%n pieces left a channel, and the log does not say why");
+constexpr const char* unfinished =
+    QT_TRANSLATE_N_NOOP("Diagnosis", "the log does not tell the end of a payout, a float or an "
+                                     "emptying, %n pieces may be on their way");
+
+bool isSure(const PieceEnd& piece)
+{
+    return piece.end == Outcome::Taken && piece.isSure && piece.note > 0 && !piece.otherNote;
+}
+
+const char* doubtOf(const PieceEnd& piece)
+{
+    return piece.end == Outcome::Stuck ? stuck
+        : piece.end != Outcome::Taken  ? unknownEnd
+        : piece.note <= 0              ? noValue
+        : piece.otherNote              ? otherValue
+                                       : inHandAtGap;
+}
+
+} // namespace
+
+CashBook::CashBook(const MoneyTrail& trail, const LogMoment& now, const QStringList& logs)
+    : m_trail(trail)
+    , m_now(now)
+    , m_logs(logs)
+{
+}
+
+LogPlace CashBook::here() const
+{
+    const LogDevice& device = m_trail.device();
+    return {device.session(), device.deviceId(), device.threadId(), device.name(), m_now.position,
+            m_now.time};
+}
+
+CashBook::Period& CashBook::openPeriod(const PieceRange& opening)
+{
+    m_isOut = false;
+    Period& period = m_periods.emplace_back();
+    period.opening = opening;
+    period.collections = m_trail.collections();
+    CashPeriod& told = period.told;
+    told.number = int(m_periods.size());
+    told.device = m_trail.device().deviceId();
+    told.thread = m_trail.device().threadId();
+    told.from = m_now.time;
+    told.fromPosition = m_now.position;
+    for (size_t i = 0; i < m_trail.channels().size(); ++i) {
+        const CashChannel& channel = m_trail.channels().at(i);
+        CashFlow& flow = period.channels.emplace_back();
+        flow.opening = channelNow(i);
+        CashFlow& reject = rejects(period, channel);
+        reject.opening += m_trail.areChannelsKnown() ? PieceRange::exactly(channel.rejected)
+                                                     : PieceRange::atLeast(channel.rejected);
+    }
+    for (const PieceEnd& piece : std::exchange(m_waiting, {}))
+        takeDoubtful(period, piece);
+    return period;
+}
+
+// The one that is on; null while the cassette is out.
+CashBook::Period* CashBook::period()
+{
+    if (m_isOut)
+        return nullptr;
+    return m_periods.empty() ? &openPeriod(PieceRange::atLeast(0)) : &m_periods.back();
+}
+
+// The one in which a piece came to its end; null for one that is not told. That the cassette came
+// back, the log may tell after the first piece, or never.
+CashBook::Period* CashBook::periodOf(const PieceEnd& piece)
+{
+    const auto found = std::find_if(m_periods.rbegin(), m_periods.rend(), [&](const Period& p) {
+        return p.collections <= piece.collectionsAtEnd;
+    });
+    if (found == m_periods.rend())
+        return m_periods.empty() && piece.end == Outcome::Taken
+            ? &openPeriod(PieceRange::exactly(0))
+            : nullptr;
+    const bool isWithout = m_isOut && found->collections < piece.collectionsAtEnd;
+    if (!isWithout)
+        return &*found;
+    return piece.end == Outcome::Taken ? &openPeriod(PieceRange::exactly(0)) : nullptr;
+}
+
+CashFlow& CashBook::cassette(Period& period, const CashKind& kind) const
+{
+    const auto found = period.cassette.find(kind);
+    if (found != period.cassette.end())
+        return found->second;
+    CashFlow& flow = period.cassette[kind];
+    flow.opening = period.opening;
+    return flow;
+}
+
+CashFlow& CashBook::rejects(Period& period, const CashChannel& channel) const
+{
+    return period.rejects[kindOf(channel)];
+}
+
+CashKind CashBook::kindOf(const CashChannel& channel) const
+{
+    return {channel.denomination, channel.currency, channel.billType};
+}
+
+CashKind CashBook::kindOf(int note) const
+{
+    const int device = int(m_trail.device().deviceId());
+    std::optional<int> billType;
+    if (isCoinDevice(device))
+        billType = 1;
+    else if (isValidator(device))
+        billType = 0;
+    return {note, {}, billType};
+}
+
+PieceRange CashBook::cassetteNow(const Period& period, const CashKind& kind,
+                                 const CashFlow& flow) const
+{
+    PieceRange now = flow.opening;
+    now += flow.in;
+    now += flow.moved;
+    now -= flow.out;
+    now.widen(0, period.extra);
+    const auto lost = period.lost.find(kind);
+    now.min = qMax<qint64>(0, now.min - (lost == period.lost.end() ? 0 : lost->second));
+    if (period.isUnbounded)
+        now.max.reset();
+    return now;
+}
+
+PieceRange CashBook::channelNow(size_t channel) const
+{
+    const CashChannel& row = m_trail.channels().at(channel);
+    if (!m_trail.areChannelsKnown() || !row.isTold)
+        return PieceRange::atLeast(0);
+    const qint64 fewer = channel < m_fewer.size() ? m_fewer.at(channel) : 0;
+    return {qMax<qint64>(0, row.count - fewer), row.count};
+}
+
+void CashBook::takeLine(bool hasCash)
+{
+    Period* const now = period();
+    if (!now)
+        return;
+    const LogDevice& device = m_trail.device();
+    now->told.deviceName = device.name();
+    now->told.to = m_now.time;
+    now->told.toPosition = m_now.position;
+    if (hasCash)
+        now->told.cash = device.state().cash;
+    if (device.session() != now->session) {
+        now->session = device.session();
+        ++now->told.sessions;
+    }
+}
+
+void CashBook::skipLine()
+{
+    ++m_skipped;
+    if (m_periods.empty())
+        return;
+    Period& now = m_periods.back();
+    now.isUnbounded = true;
+    addDoubt(now, here(), gap, 1, {}, 0);
+    // Taken out in one line that was skipped, back in another one.
+    if (m_skipped > 1)
+        mayBeCollected(now);
+}
+
+void CashBook::mayBeCollected(Period& period)
+{
+    if (m_isOut)
+        return;
+    addDoubt(period, here(), unseenCollection, 0, CashPlace::Cassette, 0);
+    for (const auto& [kind, flow] : period.cassette)
+        period.lost[kind] += cassetteNow(period, kind, flow).min;
+}
+
+void CashBook::beginHere()
+{
+    if (m_isOut) {
+        m_periods.clear();
+        return;
+    }
+    if (m_periods.empty())
+        return;
+    Period before = std::move(m_periods.back());
+    m_periods.clear();
+    PieceRange opening = before.opening;
+    opening.widen(0, before.extra);
+    if (before.isUnbounded)
+        opening.max.reset();
+    Period& period = openPeriod(opening);
+    for (const auto& [kind, flow] : before.cassette)
+        cassette(period, kind).opening = cassetteNow(before, kind, flow);
+    period.told.doubts = before.told.doubts;
+}
+
+void CashBook::takeContradiction(const Contradiction& found)
+{
+    Period* now = period();
+    if (!now && !m_periods.empty())
+        now = &m_periods.back();
+    if (!now)
+        return;
+    if (found.missing > 0) {
+        const char* const reason = found.rule == Rule::CounterJump ? missing : creditAlone;
+        for (Period& each : m_periods) {
+            if (&each != now && each.collections < found.collections)
+                continue;
+            each.extra += found.missing;
+            addDoubt(each, found, reason, found.missing, CashPlace::Cassette, 0);
+        }
+        addContent(*now);
+    }
+    if (now->told.contradictions.size() < mostContradictions)
+        now->told.contradictions.push_back(found);
+}
+
+void CashBook::takePiece(const PieceEnd& piece)
+{
+    if (piece.isInChannel)
+        return;
+    Period* const last = periodOf(piece);
+    if (last && piece.note > 0)
+        cassette(*last, kindOf(piece.note)); // seen
+    if (piece.end == Outcome::Returned || piece.end == Outcome::Rejected)
+        return;
+    if (last && isSure(piece)) {
+        cassette(*last, kindOf(piece.note)).in += PieceRange::exactly(1);
+        return addContent(*last);
+    }
+    const bool isTaken = piece.end == Outcome::Taken;
+    for (Period& period : m_periods) {
+        const bool isLast = &period == last;
+        const bool isBetween = !isTaken && period.collections >= piece.collections
+            && period.collections <= piece.collectionsAtEnd;
+        if (isLast || isBetween)
+            takeDoubtful(period, piece);
+    }
+    if (m_isOut && !isTaken)
+        m_waiting.push_back(piece);
+}
+
+// It may have come into the cassette.
+void CashBook::takeDoubtful(Period& period, const PieceEnd& piece)
+{
+    if (piece.note > 0)
+        cassette(period, kindOf(piece.note)).in.widen(0, 1);
+    else
+        ++period.extra;
+    addDoubt(period, piece, doubtOf(piece), 1, CashPlace::Cassette, piece.note);
+    if (piece.otherNote && *piece.otherNote > 0) {
+        cassette(period, kindOf(*piece.otherNote)).in.widen(0, 1);
+        addDoubt(period, piece, doubtOf(piece), 1, CashPlace::Cassette, *piece.otherNote);
+    }
+    addContent(period);
+}
+
+void CashBook::takeChannel(size_t channel)
+{
+    Period* const now = period();
+    if (!now)
+        return;
+    const CashChannel& row = m_trail.channels().at(channel);
+    now->channels.resize(qMax(now->channels.size(), channel + 1));
+    now->channels.at(channel).opening = PieceRange::exactly(row.count);
+    rejects(*now, row).opening += PieceRange::exactly(row.rejected);
+}
+
+void CashBook::takeChange(MoneyAct act, const ChannelChange& change)
+{
+    if (change.channel < m_fewer.size())
+        m_fewer.at(change.channel) = 0; // counted anew
+    Period* const now = period();
+    if (!now)
+        return;
+    const CashChannel& channel = m_trail.channels().at(change.channel);
+    const CashKind kind = kindOf(channel);
+    CashFlow& flow = now->channels.at(change.channel);
+    flow.in += PieceRange::exactly(qMax<qint64>(0, change.count));
+    if (act != MoneyAct::Piece)
+        flow.filled += qMax<qint64>(0, change.count);
+    const qint64 lost = qMax<qint64>(0, -change.count);
+    const qint64 rejected = qMax<qint64>(0, change.rejected);
+    const qint64 fromChannel = qMin(lost, rejected);
+    const qint64 rest = lost - fromChannel;
+    flow.moved -= PieceRange::exactly(fromChannel);
+    if (rejected > 0)
+        rejects(*now, channel).moved += PieceRange::exactly(rejected);
+    if (change.rejected < 0)
+        rejects(*now, channel).out += PieceRange::exactly(-change.rejected);
+    if (rest == 0)
+        return;
+    if (act == MoneyAct::Payout) {
+        flow.out += PieceRange::exactly(rest);
+        return;
+    }
+    CashFlow& into = cassette(*now, kind);
+    if (act == MoneyAct::Float || act == MoneyAct::Emptying) {
+        flow.moved -= PieceRange::exactly(rest);
+        into.moved += PieceRange::exactly(rest);
+    } else {
+        flow.out.widen(0, rest);
+        flow.moved.widen(rest, 0);
+        into.moved.widen(0, rest);
+        addDoubt(*now, here(), unexplained, rest, {}, channel.denomination, channel.number);
+    }
+    addContent(*now);
+}
+
+void CashBook::takeUnfinished(MoneyAct act, int channel, const std::vector<ChannelChange>& moved)
+{
+    Period* const now = period();
+    m_fewer.resize(m_trail.channels().size());
+    for (size_t i = 0; i < m_fewer.size(); ++i) {
+        const CashChannel& row = m_trail.channels().at(i);
+        const bool isAtWork = channel <= 0 || row.number == channel;
+        const qint64 onTheWay = !isAtWork ? 0 : moved.empty() ? row.count : qMin<qint64>(1, row.count);
+        m_fewer.at(i) = qMax(m_fewer.at(i), onTheWay);
+        const bool wasLast = !moved.empty() && moved.back().channel == i;
+        if (!now || (onTheWay == 0 && !wasLast))
+            continue;
+        now->channels.at(i).moved.widen(onTheWay, 0);
+        // A piece may be between the places, or in the one that it was not on its way to.
+        CashFlow& into = cassette(*now, kindOf(row));
+        into.moved.widen(act != MoneyAct::Payout && wasLast ? 1 : 0, onTheWay + (wasLast ? 1 : 0));
+        rejects(*now, row).moved.widen(0, onTheWay + (wasLast ? 1 : 0));
+        addDoubt(*now, here(), unfinished, onTheWay + (wasLast ? 1 : 0), {}, row.denomination, row.number);
+    }
+    if (now)
+        addContent(*now);
+}
+
+void CashBook::takeCassette(bool isIn)
+{
+    const bool mayHaveBeenOut = std::exchange(m_skipped, 0) > 0;
+    if (!isIn && !m_isOut) {
+        if (!m_periods.empty())
+            close(m_periods.back());
+        m_isOut = true;
+    } else if (isIn && m_isOut) {
+        openPeriod(PieceRange::exactly(0));
+    } else if (isIn && mayHaveBeenOut && !m_periods.empty()) {
+        mayBeCollected(m_periods.back());
+    }
+}
+
+void CashBook::close(Period& period)
+{
+    period.told.isOpen = false;
+    period.told.to = m_now.time;
+    period.told.toPosition = m_now.position;
+    for (size_t i = 0; i < period.channels.size(); ++i)
+        period.channelsNow.push_back(channelNow(i));
+    period.areRejectsKnown = m_trail.areChannelsKnown();
+    addContent(period);
+}
+
+void CashBook::addDoubt(Period& period, const LogPlace& where, const char* reason, qint64 pieces,
+                        std::optional<CashPlace> place, int denomination, int channel)
+{
+    std::vector<CashDoubt>& doubts = period.told.doubts;
+    auto found = std::find_if(doubts.begin(), doubts.end(), [&](const CashDoubt& known) {
+        return known.reason == reason && known.place == place && known.channel == channel
+            && known.denomination == denomination;
+    });
+    if (found == doubts.end())
+        found = doubts.insert(found, {reason, place, channel, denomination, 0, {}});
+    found->pieces += pieces;
+    if (found->examples.size() < mostExamples)
+        found->examples.push_back({where, Diagnosis::tr(reason, nullptr, int(pieces))});
+}
+
+// What the cassette holds now. Of a long course, every second one is enough.
+void CashBook::addContent(Period& period) const
+{
+    PieceRange sum = PieceRange::exactly(0);
+    for (const auto& [kind, flow] : period.cassette)
+        sum += cassetteNow(period, kind, flow).times(kind.denomination);
+    std::vector<CashPeriod::Content>& course = period.told.course;
+    if (!course.empty() && course.back().position == m_now.position)
+        course.pop_back();
+    course.push_back({m_now.position, m_now.time, sum});
+    if (course.size() < mostContents)
+        return;
+    size_t kept = 0;
+    for (size_t i = 0; i < course.size(); i += 2)
+        course.at(kept++) = course.at(i);
+    course.resize(kept);
+}
+
+std::vector<CashPeriod> CashBook::periods() const
+{
+    std::vector<CashPeriod> all;
+    for (const Period& period : m_periods)
+        all.push_back(told(period));
+    return all;
+}
+
+CashPeriod CashBook::told(const Period& period) const
+{
+    CashPeriod told = period.told;
+    told.unseen = cassetteNow(period, {}, {period.opening, {}, {}, {}, 0});
+    const auto add = [&](CashRow row) {
+        row.why = whyOf(period, row);
+        told.rows.push_back(std::move(row));
+    };
+    for (const auto& [kind, cassette] : merged(period.cassette)) {
+        CashRow row{CashPlace::Cassette, 0, kind, cassette, cassetteNow(period, kind, cassette), {}};
+        row.flow.in.widen(0, period.extra);
+        if (period.isUnbounded)
+            row.flow.in.max.reset();
+        add(std::move(row));
+    }
+    for (size_t i = 0; i < period.channels.size(); ++i) {
+        const CashChannel& channel = m_trail.channels().at(i);
+        add({CashPlace::Channel, channel.number, kindOf(channel), period.channels.at(i),
+             told.isOpen ? channelNow(i) : period.channelsNow.at(i), {}});
+    }
+    const bool areKnown = told.isOpen ? m_trail.areChannelsKnown() : period.areRejectsKnown;
+    for (const auto& [kind, rejects] : merged(period.rejects)) {
+        PieceRange now = rejects.opening;
+        now += rejects.moved;
+        now -= rejects.out;
+        if (!areKnown)
+            now.max.reset();
+        add({CashPlace::Reject, 0, kind, rejects, now, {}});
+    }
+    return told;
+}
+
+// A currency may be left out: where there is one only, the money without is of it.
+CashBook::Flows CashBook::merged(const Flows& flows) const
+{
+    Flows found;
+    for (const auto& [kind, flow] : flows) {
+        CashKind known = kind;
+        int currencies = 0;
+        for (const CashChannel& channel : m_trail.channels()) {
+            if (channel.denomination != kind.denomination || channel.currency.isEmpty()
+                || channel.currency == known.currency)
+                continue;
+            ++currencies;
+            if (kind.currency.isEmpty())
+                known = kindOf(channel);
+        }
+        if (kind.currency.isEmpty() && currencies > 1)
+            known = kind;
+        const auto [same, isNew] = found.emplace(known, flow);
+        if (isNew)
+            continue;
+        same->second.opening += flow.opening;
+        same->second.in += flow.in;
+        same->second.out += flow.out;
+        same->second.moved += flow.moved;
+        same->second.filled += flow.filled;
+    }
+    return found;
+}
+
+QStringList CashBook::whyOf(const Period& period, const CashRow& row) const
+{
+    QStringList why;
+    if (row.place == CashPlace::Cassette) {
+        if (!period.opening.max && period.told.number == 1)
+            why += Diagnosis::tr("what lay in it when the log began is not known");
+        else if (period.collections > 0)
+            why += Diagnosis::tr("taken to have come back empty");
+    }
+    if (row.place == CashPlace::Channel) {
+        const auto channel = std::find_if(
+            m_trail.channels().begin(), m_trail.channels().end(), [&](const CashChannel& known) {
+                return known.number == row.channel && known.denomination == row.kind.denomination
+                    && known.currency == row.kind.currency;
+            });
+        if (period.told.isOpen && !channel->isTold)
+            why += Diagnosis::tr("the registry does not tell of it any more");
+        if (row.flow.filled > 0)
+            why += Diagnosis::tr("%n pieces were filled in", nullptr,
+                                 int(qMin<qint64>(row.flow.filled, INT_MAX)));
+    }
+    for (const CashDoubt& doubt : period.told.doubts) {
+        const bool isOfExact = doubt.reason == unexplained;
+        if (!doubt.isAbout(row.place, row.channel, row.kind.denomination)
+            || (row.now.isExact() && !isOfExact))
+            continue;
+        why += QStringLiteral("%1 (%2)").arg(
+            Diagnosis::tr(doubt.reason, nullptr, int(qMin<qint64>(doubt.pieces, INT_MAX))),
+            placesOf(doubt));
+    }
+    return why;
+}
+
+// "line 3", "lines 3 and 6", or with the names of several logs.
+QString CashBook::placesOf(const CashDoubt& doubt) const
+{
+    QVector<qint64> lines;
+    QStringList places;
+    for (const CashDoubt::Example& example : doubt.examples) {
+        const qint64 line = LogPosition::line(example.place.line);
+        lines += line;
+        places += QStringLiteral("%1:%2").arg(
+            m_logs.value(LogPosition::log(example.place.line)), QString::number(line));
+    }
+    constexpr int mostShown = 8;
+    return m_logs.size() == 1 ? lineList(lines)
+                              : QStringList(places.mid(0, mostShown)).join(QStringLiteral(", "));
+}

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "log/cashperiod.h"
+#include "log/moneytrail.h"
+
+#include <deque>
+#include <map>
+#include <optional>
+#include <vector>
+
+/// A line that is being taken.
+struct LogMoment
+{
+    qint64 position = 0; ///< a LogPosition
+    LogTime time;
+};
+
+/// What lies where in one device.
+class CashBook
+{
+public:
+    /// @param trail of the device
+    /// @param now the line that is being taken
+    /// @param logs the names of the logs
+    CashBook(const MoneyTrail& trail, const LogMoment& now, const QStringList& logs);
+
+    /// The device told something on this line.
+    void takeLine(bool hasCash);
+
+    void skipLine();
+    void beginHere();
+
+    void takeContradiction(const Contradiction& found);
+    void takePiece(const PieceEnd& piece);
+    void takeChange(MoneyAct act, const ChannelChange& change);
+    void takeChannel(size_t channel);
+    void takeCassette(bool isIn);
+    void takeUnfinished(MoneyAct act, int channel, const std::vector<ChannelChange>& moved);
+
+    /// As things stand.
+    std::vector<CashPeriod> periods() const;
+
+private:
+    using Flows = std::map<CashKind, CashFlow>;
+
+    struct Period
+    {
+        CashPeriod told; // but for its rows
+        int collections = 0;
+        int session = 0; // the newest
+        PieceRange opening; // of every kind of which nothing is known
+        qint64 extra = 0; // pieces of any kind may have come
+        bool isUnbounded = false;
+        std::map<CashKind, qint64> lost; // so many may have been taken out
+        Flows cassette;
+        Flows rejects;
+        std::vector<CashFlow> channels;
+        std::vector<PieceRange> channelsNow; // of one that is over, like the following
+        bool areRejectsKnown = true;
+    };
+
+    Period& openPeriod(const PieceRange& opening);
+    Period* period();
+    Period* periodOf(const PieceEnd& piece);
+    CashFlow& cassette(Period& period, const CashKind& kind) const;
+    CashFlow& rejects(Period& period, const CashChannel& channel) const;
+    CashKind kindOf(const CashChannel& channel) const;
+    CashKind kindOf(int note) const;
+    PieceRange cassetteNow(const Period& period, const CashKind& kind, const CashFlow& flow) const;
+    PieceRange channelNow(size_t channel) const;
+    void takeDoubtful(Period& period, const PieceEnd& piece);
+    void mayBeCollected(Period& period);
+    static void addDoubt(Period& period, const LogPlace& where, const char* reason, qint64 pieces,
+                         std::optional<CashPlace> place, int denomination, int channel = 0);
+    void addContent(Period& period) const;
+    void close(Period& period);
+    CashPeriod told(const Period& period) const;
+    Flows merged(const Flows& flows) const;
+    QStringList whyOf(const Period& period, const CashRow& row) const;
+    QString placesOf(const CashDoubt& doubt) const;
+    LogPlace here() const;
+
+    const MoneyTrail& m_trail;
+    const LogMoment& m_now;
+    const QStringList& m_logs;
+    std::deque<Period> m_periods;
+    bool m_isOut = false; // the cassette
+    int m_skipped = 0; // lines since it was told whether it is in
+    std::vector<qint64> m_fewer; // that a channel may hold less than its row says
+    std::vector<PieceEnd> m_waiting; // of unknown place since the cassette was taken out
+};

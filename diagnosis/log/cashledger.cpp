@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "log/cashledger.h"
+
+#include "text/diagnosis.h"
+
+#include <algorithm>
+
+namespace {
+
+const quint32 cashBit = DeviceReport::bit(deviceStateDescConst::CASH);
+
+} // namespace
+
+CashLedger::CashLedger(const QStringList& logs, std::optional<quint32> device, Receiver receiver)
+    : m_logs(logs)
+    , m_device(device)
+    , m_receiver(std::move(receiver))
+    , m_explainer(FilterSet({}), 
+                  [this](const NoteAnswer& answer) {
+                      if (isAsked(answer.device))
+                          m_summary.add(answer);
+                  },
+                  this)
+{
+}
+
+CashBook& CashLedger::bookOf(const MoneyTrail& trail)
+{
+    const LogDevice& device = trail.device();
+    std::unique_ptr<CashBook>& book = m_books[{device.deviceId(), device.threadId()}];
+    if (!book)
+        book = std::make_unique<CashBook>(trail, m_now, m_logs);
+    return *book;
+}
+
+void CashLedger::take(const SessionLine& line, qint64 position)
+{
+    m_now = {position, line.time()};
+    m_explainer.take(line, position);
+}
+
+void CashLedger::skipLine()
+{
+    m_explainer.skipLine();
+    for (const auto& [device, book] : m_books)
+        book->skipLine();
+}
+
+void CashLedger::beginHere()
+{
+    m_summary = Summary();
+    m_sessionsBefore = qMax(0, m_explainer.sessions() - 1);
+    for (const auto& [device, book] : m_books)
+        book->beginHere();
+}
+
+void CashLedger::finish()
+{
+    m_explainer.finish();
+    m_summary.sessions = m_explainer.sessions() - m_sessionsBefore;
+}
+
+int CashLedger::devices() const
+{
+    return int(std::count_if(m_books.begin(), m_books.end(),
+                             [this](const auto& book) { return isAsked(book.first.first); }));
+}
+
+std::vector<CashPeriod> CashLedger::periods(bool isLogMissing) const
+{
+    std::vector<CashPeriod> all;
+    for (const auto& [device, book] : m_books) {
+        if (!isAsked(device.first))
+            continue;
+        for (CashPeriod& period : book->periods())
+            all.push_back(std::move(period));
+    }
+    if (!isLogMissing)
+        return all;
+    for (CashPeriod& period : all) {
+        period.unseen = PieceRange::atLeast(0);
+        for (CashRow& row : period.rows) {
+            row.now = PieceRange::atLeast(0);
+            row.why += Diagnosis::tr("a log could not be read");
+        }
+    }
+    return all;
+}
+
+void CashLedger::takeLine(const MoneyTrail& trail, const LogStep& step)
+{
+    bookOf(trail).takeLine((step.reported & cashBit) != 0);
+}
+
+void CashLedger::takeContradiction(const MoneyTrail& trail, const Contradiction& found)
+{
+    bookOf(trail).takeContradiction(found);
+    if (isAsked(found.device))
+        m_receiver(found);
+}
+
+void CashLedger::takePiece(const MoneyTrail& trail, const PieceEnd& piece)
+{
+    bookOf(trail).takePiece(piece);
+}
+
+void CashLedger::takeChange(const MoneyTrail& trail, MoneyAct act, const ChannelChange& change)
+{
+    bookOf(trail).takeChange(act, change);
+}
+
+void CashLedger::takeChannel(const MoneyTrail& trail, size_t channel)
+{
+    bookOf(trail).takeChannel(channel);
+}
+
+void CashLedger::takeCassette(const MoneyTrail& trail, bool isIn)
+{
+    bookOf(trail).takeCassette(isIn);
+}
+
+void CashLedger::takeUnfinished(const MoneyTrail& trail, MoneyAct act, int channel,
+                                const std::vector<ChannelChange>& moved)
+{
+    bookOf(trail).takeUnfinished(act, channel, moved);
+}

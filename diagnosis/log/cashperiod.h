@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "log/contradiction.h"
+#include "log/piecerange.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <tuple>
+#include <vector>
+
+/// A line of one of several logs, as one number: those of a log have its index in the upper bits.
+namespace LogPosition {
+
+constexpr int lineBits = 40;
+
+constexpr qint64 of(int log, qint64 line)
+{
+    return (qint64(log) << lineBits) | line;
+}
+constexpr int log(qint64 position)
+{
+    return int(position >> lineBits);
+}
+constexpr qint64 line(qint64 position)
+{
+    return position & ((qint64(1) << lineBits) - 1);
+}
+
+} // namespace LogPosition
+
+/// Where in a device money lies.
+enum class CashPlace { Cassette, Channel, Reject };
+constexpr int cashPlaceCount = int(CashPlace::Reject) + 1;
+
+/// Money of one kind.
+struct CashKind
+{
+    int denomination = 0;
+    QString currency; ///< empty when not told
+    std::optional<int> billType;
+
+    bool operator<(const CashKind& other) const
+    {
+        return std::tie(denomination, currency) < std::tie(other.denomination, other.currency);
+    }
+};
+
+/// Something that makes a number uncertain, or that may be why a count differs from it.
+struct CashDoubt
+{
+    struct Example
+    {
+        LogPlace place; ///< its line is a LogPosition
+        QString text;
+    };
+
+    const char* reason = nullptr; ///< of %n pieces or lines, to be translated
+    std::optional<CashPlace> place; ///< anywhere without one
+    int channel = 0; ///< of that place
+    int denomination = 0; ///< 0 for any
+    qint64 pieces = 0;
+    std::vector<Example> examples; ///< the first ones
+
+    bool isAbout(CashPlace other, int otherChannel, int value) const;
+};
+
+/// What came into one place of one kind, and went.
+struct CashFlow
+{
+    PieceRange opening;
+    PieceRange in;
+    PieceRange out;
+    PieceRange moved; ///< from other places, or below 0 to them
+    qint64 filled = 0; ///< of what came in, put in by the service
+};
+
+/// A row of the ledger.
+struct CashRow
+{
+    CashPlace place = CashPlace::Cassette;
+    int channel = 0; ///< of that place
+    CashKind kind;
+    CashFlow flow;
+    PieceRange now; ///< when the period ended
+    QStringList why; ///< what makes it uncertain, or is to be known of it
+};
+
+/// What lay in a device from one collection of its cassette to the next.
+struct CashPeriod
+{
+    int number = 0; ///< of the device, from 1
+    quint32 device = 0;
+    quint32 thread = 0;
+    QString deviceName;
+    LogTime from;
+    LogTime to;
+    qint64 fromPosition = 0;
+    qint64 toPosition = 0;
+    int sessions = 0;
+    bool isOpen = true;
+    std::optional<quint32> cash; ///< what the device says of itself, in the end
+    std::vector<CashRow> rows;
+    PieceRange unseen; ///< of each kind that the cassette has no row of
+    std::vector<CashDoubt> doubts;
+    std::vector<Contradiction> contradictions; ///< the first ones; their lines are LogPositions
+
+    /// What the cassette held, from time to time.
+    struct Content
+    {
+        qint64 position;
+        LogTime time;
+        PieceRange sum;
+    };
+    std::vector<Content> course;
+};

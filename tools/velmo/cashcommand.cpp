@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "cashanswer.h"
+#include "commands.h"
+#include "input.h"
+#include "logstream.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+
+namespace {
+
+// The ledgers of the kiosks that the logs are of.
+class CashReading
+{
+public:
+    explicit CashReading(const Arguments& arguments)
+        : m_logs(arguments.operands())
+    {
+        if (arguments.isSet(options::device))
+            m_device = quint32(arguments.number(options::device));
+    }
+
+    void take(const StreamLine& line)
+    {
+        ledgerOf(line.kiosk).ledger.take(line.line, LogPosition::of(line.log, line.number));
+    }
+
+    // Line 0 stands for a whole log.
+    void skip(const QString& kiosk, qint64 line)
+    {
+        m_isLogMissing = m_isLogMissing || line == 0;
+        for (const auto& [name, known] : m_kiosks) {
+            if (kiosk.isEmpty() || name == kiosk)
+                known->ledger.skipLine();
+        }
+    }
+
+    CashAnswer answer(const QStringList& notes)
+    {
+        CashAnswer answer;
+        answer.logs = m_logs;
+        answer.notes = notes;
+        for (const auto& [name, known] : m_kiosks) {
+            known->ledger.finish();
+            answer.kiosks.push_back({name, known->ledger.periods(m_isLogMissing),
+                                     std::move(known->contradictions), {}});
+            answer.summary.add(known->ledger.summary());
+            answer.devices += known->ledger.devices();
+        }
+        if (m_device && answer.devices == 0)
+            throw Fault{Velmo::tr("the logs have nothing of the device that is asked for")};
+        return answer;
+    }
+
+private:
+    struct Kiosk
+    {
+        Kiosk(const QStringList& logs, std::optional<quint32> device)
+            : ledger(logs, device,
+                     [this](const Contradiction& found) { contradictions.push_back(found); })
+        {
+        }
+
+        std::vector<Contradiction> contradictions;
+        CashLedger ledger;
+    };
+
+    Kiosk& ledgerOf(const QString& name)
+    {
+        const auto known = m_kiosks.find(name);
+        if (known != m_kiosks.end())
+            return *known->second;
+        // What was told before the first kiosk was named is of that one.
+        const auto nameless = m_kiosks.find(QString());
+        std::unique_ptr<Kiosk>& made = m_kiosks[name];
+        if (nameless != m_kiosks.end()) {
+            made = std::move(nameless->second);
+            m_kiosks.erase(nameless);
+        } else {
+            made = std::make_unique<Kiosk>(m_logs, m_device);
+        }
+        return *made;
+    }
+
+    const QStringList m_logs;
+    std::optional<quint32> m_device;
+    bool m_isLogMissing = false;
+    std::map<QString, std::unique_ptr<Kiosk>> m_kiosks;
+};
+
+void compareCounts(CashAnswer& answer, const std::vector<CashCount>& counts, const QString& file)
+{
+    for (const CashCount& count : counts) {
+        try {
+            std::vector<KioskCash>& kiosks = answer.kiosks;
+            const auto kiosk = std::find_if(kiosks.begin(), kiosks.end(), [&](const KioskCash& k) {
+                return kiosks.size() == 1 ? count.kiosk.isEmpty() || k.kiosk == count.kiosk
+                                          : k.kiosk == count.kiosk;
+            });
+            if (kiosk == kiosks.end())
+                throw Fault{Velmo::tr("the logs have no such kiosk")};
+            kiosk->differences.push_back(compareCount(count, kiosk->periods));
+        } catch (const Fault& fault) {
+            throw Fault{
+                QStringLiteral("%1:%2: %3").arg(file, QString::number(count.line), fault.message)};
+        }
+    }
+}
+
+// Leaves the newest period of each device.
+void leaveLast(KioskCash& kiosk)
+{
+    std::vector<CashPeriod>& periods = kiosk.periods;
+    std::vector<CashPeriod> last;
+    for (size_t i = 0; i < periods.size(); ++i) {
+        const bool isLast = i + 1 == periods.size() || periods.at(i + 1).number == 1
+            || periods.at(i + 1).device != periods.at(i).device
+            || periods.at(i + 1).thread != periods.at(i).thread;
+        if (isLast)
+            last.push_back(std::move(periods.at(i)));
+    }
+    periods = std::move(last);
+}
+
+} // namespace
+
+int cashCommand(const Arguments& arguments)
+{
+    const bool json = arguments.isSet(options::json);
+    const bool csv = arguments.isSet(options::csv);
+    if (json && csv)
+        throw Fault{Velmo::tr("--json and --csv do not go together")};
+    std::vector<CashCount> counts;
+    const QString countsFile = arguments.value(options::counted);
+    if (arguments.isSet(options::counted)) {
+        if (countsFile == QLatin1String("-") && arguments.operands().contains(countsFile))
+            throw Fault{Velmo::tr("log and counts cannot both come from standard input")};
+        TextInput file = openInput(countsFile);
+        counts = readCashCounts(file);
+    }
+    CashReading reading(arguments);
+    LogStream stream(arguments.operands(), arguments.isSet(options::perFile),
+                     arguments.isSet(options::keepGoing));
+    const int exitCode = stream.read([&](const StreamLine& line) { reading.take(line); },
+                                     [&](int /*log*/, const QString& kiosk, qint64 line) {
+                                         reading.skip(kiosk, line);
+                                     });
+    CashAnswer answer = reading.answer(stream.notes());
+    compareCounts(answer, counts, countsFile);
+    bool isSound = true;
+    for (KioskCash& kiosk : answer.kiosks) {
+        if (arguments.isSet(options::last))
+            leaveLast(kiosk);
+        isSound = isSound && kiosk.contradictions.empty()
+            && std::all_of(kiosk.differences.begin(), kiosk.differences.end(),
+                           [](const CashDifference& d) { return d.difference == 0; });
+    }
+    for (const QString& note : stream.notes()) {
+        if (json || csv)
+            printError(note);
+    }
+    print(json      ? QString::fromUtf8(cashJson(answer))
+              : csv ? QString::fromUtf8(cashCsv(answer))
+                    : cashText(answer));
+    if (exitCode == exitSuccess && !isSound && arguments.isSet(options::exitCode))
+        return exitFindings;
+    return exitCode;
+}

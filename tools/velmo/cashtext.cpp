@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "cashanswer.h"
+#include "terminal/output.h"
+#include "terminal/table.h"
+#include "terminal/velmo.h"
+
+namespace {
+
+QString placeName(const CashRow& row)
+{
+    switch (row.place) {
+    case CashPlace::Cassette:
+        return Velmo::tr("cassette");
+    case CashPlace::Channel:
+        return Velmo::tr("channel %1").arg(row.channel);
+    case CashPlace::Reject:
+        break;
+    }
+    return Velmo::tr("reject");
+}
+
+// When it was, on the clock of the log, and the line.
+QString momentText(const QStringList& logs, const LogTime& time, qint64 position)
+{
+    const qint64 line = LogPosition::line(position);
+    const QString place = logs.size() == 1
+        ? Velmo::tr("line %1").arg(line)
+        : Velmo::tr("%1 line %2").arg(logs.value(LogPosition::log(position))).arg(line);
+    return time.isKnown()
+        ? QStringLiteral("%1 %2 (%3)").arg(time.iso().left(10), time.clock(), place)
+        : place;
+}
+
+QString periodText(const QStringList& logs, const CashPeriod& period)
+{
+    const QString from = momentText(logs, period.from, period.fromPosition);
+    const QString to = momentText(logs, period.to, period.toPosition);
+    return (period.isOpen ? Velmo::tr("Period %1: from %2 to the end, %3")
+                          : Velmo::tr("Period %1: from %2 to its collection, %3"))
+               .arg(QString::number(period.number), from, to)
+        + QStringLiteral("; ") + Velmo::tr("%n sessions", nullptr, period.sessions);
+}
+
+QString tableOf(const CashPeriod& period)
+{
+    QList<QStringList> rows;
+    QStringList notes;
+    QString place;
+    for (const CashRow& row : period.rows) {
+        QStringList marks;
+        for (const QString& why : row.why) {
+            if (!notes.contains(why))
+                notes += why;
+            marks += QString::number(notes.indexOf(why) + 1);
+        }
+        const QString name = placeName(row);
+        rows += QStringList{
+            name == place ? QString() : name,
+            QString::number(row.kind.denomination),
+            row.kind.currency,
+            row.flow.opening.text(),
+            row.flow.in.text(),
+            row.flow.out.text(),
+            row.flow.moved.text(),
+            row.now.text(),
+            row.now.times(row.kind.denomination).text(),
+            marks.isEmpty() ? QString() : QStringLiteral("[%1]").arg(marks.join(QLatin1Char(',')))};
+        place = name;
+    }
+    if (rows.isEmpty())
+        return Velmo::tr("Of money the log tells nothing.") + QLatin1Char('\n');
+    const QString right(QLatin1Char('>'));
+    QString text = formatTable(
+        {Velmo::tr("Place"), right + Velmo::tr("Value"), Velmo::tr("Currency"),
+         right + Velmo::tr("Opening"), right + Velmo::tr("In"), right + Velmo::tr("Out"),
+         right + Velmo::tr("Moved"), right + Velmo::tr("Now"), right + Velmo::tr("Sum now"),
+         QString()},
+        rows);
+    for (int i = 0; i < notes.size(); ++i)
+        text += wrapped(QStringLiteral("  [%1] %2").arg(i + 1).arg(notes.at(i)), 6, outputWidth());
+    return text;
+}
+
+QString contradictionsText(const CashAnswer& answer, const KioskCash& kiosk)
+{
+    if (kiosk.contradictions.empty())
+        return Velmo::tr("Everything adds up.") + QLatin1Char('\n');
+    QString text = Velmo::tr("What does not add up:") + QLatin1Char('\n');
+    for (const Contradiction& found : kiosk.contradictions) {
+        Contradiction shown = found;
+        shown.line = LogPosition::line(found.line);
+        const QString log = answer.logs.value(LogPosition::log(found.line));
+        const QString place = answer.logs.size() == 1 ? QString() : log + QStringLiteral(": ");
+        text += wrapped(printable(QStringLiteral("  ") + place + shown.text()), 4, outputWidth());
+    }
+    return text;
+}
+
+QString countsText(const CashAnswer& answer, const KioskCash& kiosk)
+{
+    QString text;
+    QList<QStringList> rows;
+    for (const CashDifference& difference : kiosk.differences) {
+        const CashCount& count = difference.count;
+        CashRow named;
+        named.place = count.place;
+        named.channel = difference.channel.value_or(0);
+        const QString verdict = difference.difference == 0 ? Velmo::tr("right")
+            : difference.difference < 0 ? Velmo::tr("%1 short").arg(-difference.difference)
+                                        : Velmo::tr("%1 over").arg(difference.difference);
+        rows += QStringList{QString::number(count.device), QString::number(difference.period),
+                            placeName(named), QString::number(count.denomination),
+                            difference.expected.text(), QString::number(count.count), verdict};
+    }
+    const QString right(QLatin1Char('>'));
+    text += formatTable({right + Velmo::tr("Device"), right + Velmo::tr("Period"),
+                         Velmo::tr("Place"), right + Velmo::tr("Value"),
+                         right + Velmo::tr("Expected"), right + Velmo::tr("Counted"), QString()},
+                        rows);
+    for (int i = 0; i < int(kiosk.differences.size()); ++i) {
+        const CashDifference& difference = kiosk.differences.at(size_t(i));
+        if (difference.difference == 0)
+            continue;
+        text += QLatin1Char('\n')
+            + Velmo::tr("%1, %2 of %3: %4. What can explain it:")
+                  .arg(rows.at(i).at(2), Velmo::tr("pieces"), rows.at(i).at(3), rows.at(i).at(6))
+            + QLatin1Char('\n');
+        if (difference.explanations.empty())
+            text += QStringLiteral("  - ") + Velmo::tr("nothing in the logs") + QLatin1Char('\n');
+        for (const CashDoubt::Example& example : difference.explanations) {
+            LogPlace place = example.place;
+            place.line = LogPosition::line(place.line);
+            const QString log = answer.logs.size() == 1
+                ? QString()
+                : answer.logs.value(LogPosition::log(example.place.line)) + QStringLiteral(": ");
+            text += wrapped(printable(QStringLiteral("  - ") + log + place.place()
+                                      + QStringLiteral(": ") + example.text),
+                            4, outputWidth());
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+QString cashText(const CashAnswer& answer)
+{
+    QString text;
+    for (const KioskCash& kiosk : answer.kiosks) {
+        if (!kiosk.kiosk.isEmpty())
+            text += Velmo::tr("Kiosk %1").arg(printable(kiosk.kiosk)) + QStringLiteral("\n\n");
+        for (const CashPeriod& period : kiosk.periods) {
+            if (period.number == kiosk.periods.front().number || period.number == 1)
+                text += printable(period.deviceName) + QLatin1Char('\n');
+            text += printable(periodText(answer.logs, period)) + QLatin1Char('\n')
+                + tableOf(period);
+            if (period.cash)
+                text += Velmo::tr("The device says of its cash: %1").arg(*period.cash)
+                    + QLatin1Char('\n');
+            text += QLatin1Char('\n');
+        }
+        if (!kiosk.differences.empty())
+            text += countsText(answer, kiosk) + QLatin1Char('\n');
+        text += contradictionsText(answer, kiosk) + QLatin1Char('\n');
+    }
+    for (const QString& note : answer.notes)
+        text += printable(note) + QLatin1Char('\n');
+    return text;
+}
