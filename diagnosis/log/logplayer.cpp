@@ -37,7 +37,7 @@ QVector<const FilterMemory*> LogDevice::refusing() const
 {
     QVector<const FilterMemory*> found;
     for (const FilterMemory& filter : m_filters) {
-        if (filter.refuses(events()))
+        if (filter.refuses())
             found += &filter;
     }
     return found;
@@ -77,7 +77,6 @@ void LogDevice::startSession(int number, qint64 skippedLines)
     m_sessionStartSeen = true;
     m_skippedBefore = skippedLines;
     m_worker->startSession();
-    m_eventLines.clear();
     for (FilterMemory& filter : m_filters)
         filter.startSession();
 }
@@ -106,9 +105,11 @@ bool LogDevice::send(qint64 line)
     if (!m_worker->checkState())
         return false;
     m_worker->saveState();
-    m_eventLines.append(line);
+    StatesList& sent = *m_worker->getStatesList();
+    if (sent.size() > 2)
+        sent.removeFirst();
     for (FilterMemory& filter : m_filters)
-        filter.add(events());
+        filter.add(state(), line);
     return true;
 }
 

@@ -56,9 +56,8 @@ public:
     /// then, its states do not say.
     bool stopsOn(qint64 line) const;
 
-    /// What it sent in its session, and the line of each.
+    /// What it sent last in its session: the newest event, and before it the one before.
     const StatesList& events() const { return *m_worker->getStatesList(); }
-    const QVector<qint64>& eventLines() const { return m_eventLines; }
 
     /// Every filter that refuses the newest event, in the order of the chain: the first one's
     /// verdict is the chain's.
@@ -85,7 +84,6 @@ private:
     std::unique_ptr<DeviceStateWorker> m_worker;
     std::unique_ptr<FilterChain> m_chain;
     std::vector<FilterMemory> m_filters; // of those that the chain owns, in its order
-    QVector<qint64> m_eventLines;
     quint32 m_known = 0; // bits of the fields that it has reported
     std::array<qint64, Condition::count> m_conditionSince{}; // 0 for one that does not hold
 };
