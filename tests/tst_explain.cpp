@@ -704,6 +704,8 @@ private Q_SLOTS:
             explain |              | unended  | 2: the file ends in the middle of a line
             explain | --keep-going | unended  | 2: the file ends in the middle of a line
             explain |              | nested   | 2: the file ends in the middle of a line
+            explain | --keep-going | kiosks   | 3: the log is of kiosk "k1" so far, and of "k2" here
+            compare | --keep-going | kiosks   | 3: the log is of kiosk "k1" so far, and of "k2" here
             compare | --keep-going | missing  | No such file
             compare | --keep-going | cut      | the compressed file is cut off
             compare |              | unended  | 2: the file ends in the middle of a line)"_s);
@@ -718,7 +720,9 @@ private Q_SLOTS:
             {"cut"_s, gzipOfOneLine.left(40)},
             {"damaged"_s, gzipOfOneLine.left(20) + "junkjunkjunk" + gzipOfOneLine.mid(32)},
             {"unended"_s, note + "{\"state\":\"acce"},
-            {"nested"_s, note + R"({"device_states":[{"device_id":1})"}};
+            {"nested"_s, note + R"({"device_states":[{"device_id":1})"},
+            {"kiosks"_s,
+             note + "{\"kiosk\":\"k1\"}\n{\"kiosk\":\"k2\"}\n{\"kiosk\":\"k1\"}\n{}\n"}};
         const QString log = m_folder.filePath(fault);
         if (contents.contains(fault)) {
             QFile file(log);

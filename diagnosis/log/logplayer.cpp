@@ -6,6 +6,7 @@
 #include "acceptors.h"
 #include "text/devicename.h"
 #include "text/diagnosis.h"
+#include "text/fault.h"
 
 #include <QMap>
 
@@ -120,6 +121,13 @@ LogPlayer::LogPlayer(const FilterSet& filters)
 
 const std::vector<LogStep>& LogPlayer::take(const SessionLine& line, qint64 lineNumber)
 {
+    if (!m_kiosk.isEmpty() && !line.kiosk().isEmpty() && line.kiosk() != m_kiosk) {
+        throw Fault{
+            Diagnosis::tr("the log is of kiosk \"%1\" so far, and of \"%2\" here; velmo cash "
+                          "tells kiosks apart")
+                .arg(m_kiosk, line.kiosk())};
+    }
+    m_kiosk = line.kiosk().isEmpty() ? m_kiosk : line.kiosk();
     m_steps.clear();
     const std::vector<DeviceReport>& reports = line.reports();
     const bool namesDevice = !line.isPublished() && reports.front().has(deviceBit | threadBit);

@@ -111,6 +111,7 @@ public:
     explicit LogPlayer(const FilterSet& filters);
 
     /// The steps of one line, in the order in which the devices came; valid until the next call.
+    /// Throws Fault, and takes nothing, when the line names another kiosk than those before.
     const std::vector<LogStep>& take(const SessionLine& line, qint64 lineNumber);
 
     /// Those of the line that was taken last.
@@ -137,6 +138,7 @@ private:
     const FilterSet m_filters;
     std::vector<std::unique_ptr<LogDevice>> m_devices;
     std::vector<LogStep> m_steps;
+    QString m_kiosk; // empty while no line named it
     std::vector<LogDevice*> m_reporting; // of each report of a line; null for a new one
     LogDevice* m_last = nullptr; // that had a line of its own
     int m_session = 0; // the newest
