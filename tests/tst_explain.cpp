@@ -153,6 +153,7 @@ private Q_SLOTS:
             AttemptsFilter denom=1000 attempts=2 | {"enabled":true};A500;{"state":"stacked"};R;{"state":"busy"};R;{"state":"busy"};R;A1000 | Notes were rejected 3 times since the stacked note of line 3 (at last in lines 6 and 8); 2 are allowed for 1000.
             AttemptsFilter denom=1000 attempts=0 | {"enabled":true};A1000 | No attempts at all are allowed for 1000.
             DenomCountFilter denom=500 count=0 | {"enabled":true};A500 | No notes of 500 are allowed at all.
+            DenomCountFilter denom=500 count=1 | {"enabled":true};{"state":"accepted","current_note":500};{"state":"idling"};{"state":"accepted"};{"current_note":100};A500 | 1 notes of 500 were accepted since the session began (line 2); 1 are allowed.
             SessionSumFilter sessionSum=3000 | {"session_sum":2500};A1000 | 2500 taken + note 1000 > limit 3000. The next session clears this.
             AcceptFilter acceptAll=0 | A1000 | All notes are switched off (acceptAll is 0).
             AcceptFilter acceptAll=0 | A1000;{"state":"stacked"} | It was taken although refused (line 2).
@@ -703,6 +704,8 @@ private Q_SLOTS:
             explain |              | unended  | 2: the file ends in the middle of a line
             explain | --keep-going | unended  | 2: the file ends in the middle of a line
             explain |              | nested   | 2: the file ends in the middle of a line
+            explain | --keep-going | kiosks   | 3: the log is of kiosk "k1" so far, and of "k2" here
+            compare | --keep-going | kiosks   | 3: the log is of kiosk "k1" so far, and of "k2" here
             compare | --keep-going | missing  | No such file
             compare | --keep-going | cut      | the compressed file is cut off
             compare |              | unended  | 2: the file ends in the middle of a line)"_s);
@@ -717,7 +720,9 @@ private Q_SLOTS:
             {"cut"_s, gzipOfOneLine.left(40)},
             {"damaged"_s, gzipOfOneLine.left(20) + "junkjunkjunk" + gzipOfOneLine.mid(32)},
             {"unended"_s, note + "{\"state\":\"acce"},
-            {"nested"_s, note + R"({"device_states":[{"device_id":1})"}};
+            {"nested"_s, note + R"({"device_states":[{"device_id":1})"},
+            {"kiosks"_s,
+             note + "{\"kiosk\":\"k1\"}\n{\"kiosk\":\"k2\"}\n{\"kiosk\":\"k1\"}\n{}\n"}};
         const QString log = m_folder.filePath(fault);
         if (contents.contains(fault)) {
             QFile file(log);
@@ -827,10 +832,12 @@ private Q_SLOTS:
         SilentFilter filter;
         QCOMPARE(filterRule(filter), "Silence: Says nothing."_s);
         FilterMemory memory(filter);
-        const StatesList events{DeviceState(), DeviceState(), DeviceState()};
-        memory.add(events);
-        QVERIFY(memory.refuses(events));
-        const Objection objection = memory.objection(events, {1, 2, 3});
+        for (qint64 line = 1; line <= 3; ++line) {
+            QVERIFY(line == 1 || !memory.refuses());
+            memory.add(DeviceState(), line);
+        }
+        QVERIFY(memory.refuses());
+        const Objection objection = memory.objection();
         QCOMPARE(objection.filter, "SilentFilter"_s);
         QCOMPARE(objection.text, "Silence: Says nothing."_s);
         QCOMPARE(filterPurpose("SilentFilter"_s), QString());

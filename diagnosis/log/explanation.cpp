@@ -260,7 +260,7 @@ void LogExplainer::judge(const LogDevice& device, Note& note)
     if (!refusing.isEmpty())
         note.answer.outcome = Outcome::Refused;
     for (const FilterMemory* const filter : refusing)
-        note.answer.objections += filter->objection(device.events(), device.eventLines());
+        note.answer.objections += filter->objection();
 }
 
 // Sees what is the matter with a device while it has a note in hand.

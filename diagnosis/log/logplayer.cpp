@@ -6,6 +6,7 @@
 #include "acceptors.h"
 #include "text/devicename.h"
 #include "text/diagnosis.h"
+#include "text/fault.h"
 
 #include <QMap>
 
@@ -37,7 +38,7 @@ QVector<const FilterMemory*> LogDevice::refusing() const
 {
     QVector<const FilterMemory*> found;
     for (const FilterMemory& filter : m_filters) {
-        if (filter.refuses(events()))
+        if (filter.refuses())
             found += &filter;
     }
     return found;
@@ -77,7 +78,6 @@ void LogDevice::startSession(int number, qint64 skippedLines)
     m_sessionStartSeen = true;
     m_skippedBefore = skippedLines;
     m_worker->startSession();
-    m_eventLines.clear();
     for (FilterMemory& filter : m_filters)
         filter.startSession();
 }
@@ -106,9 +106,11 @@ bool LogDevice::send(qint64 line)
     if (!m_worker->checkState())
         return false;
     m_worker->saveState();
-    m_eventLines.append(line);
+    StatesList& sent = *m_worker->getStatesList();
+    if (sent.size() > 2)
+        sent.removeFirst();
     for (FilterMemory& filter : m_filters)
-        filter.add(events());
+        filter.add(state(), line);
     return true;
 }
 
@@ -119,6 +121,13 @@ LogPlayer::LogPlayer(const FilterSet& filters)
 
 const std::vector<LogStep>& LogPlayer::take(const SessionLine& line, qint64 lineNumber)
 {
+    if (!m_kiosk.isEmpty() && !line.kiosk().isEmpty() && line.kiosk() != m_kiosk) {
+        throw Fault{
+            Diagnosis::tr("the log is of kiosk \"%1\" so far, and of \"%2\" here; velmo cash "
+                          "tells kiosks apart")
+                .arg(m_kiosk, line.kiosk())};
+    }
+    m_kiosk = line.kiosk().isEmpty() ? m_kiosk : line.kiosk();
     m_steps.clear();
     const std::vector<DeviceReport>& reports = line.reports();
     const bool namesDevice = !line.isPublished() && reports.front().has(deviceBit | threadBit);

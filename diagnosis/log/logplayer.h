@@ -57,9 +57,8 @@ public:
     /// then, its states do not say.
     bool stopsOn(qint64 line) const;
 
-    /// What it sent in its session, and the line of each.
+    /// What it sent last in its session: the newest event, and before it the one before.
     const StatesList& events() const { return *m_worker->getStatesList(); }
-    const QVector<qint64>& eventLines() const { return m_eventLines; }
 
     /// Every filter that refuses the newest event, in the order of the chain: the first one's
     /// verdict is the chain's.
@@ -86,7 +85,6 @@ private:
     std::unique_ptr<DeviceStateWorker> m_worker;
     std::unique_ptr<FilterChain> m_chain;
     std::vector<FilterMemory> m_filters; // of those that the chain owns, in its order
-    QVector<qint64> m_eventLines;
     quint32 m_known = 0; // bits of the fields that it has reported
     std::array<qint64, Condition::count> m_conditionSince{}; // 0 for one that does not hold
 };
@@ -115,6 +113,7 @@ public:
     explicit LogPlayer(const FilterSet& filters);
 
     /// The steps of one line, in the order in which the devices came; valid until the next call.
+    /// Throws Fault, and takes nothing, when the line names another kiosk than those before.
     const std::vector<LogStep>& take(const SessionLine& line, qint64 lineNumber);
 
     /// Those of the line that was taken last.
@@ -141,6 +140,7 @@ private:
     const FilterSet m_filters;
     std::vector<std::unique_ptr<LogDevice>> m_devices;
     std::vector<LogStep> m_steps;
+    QString m_kiosk; // empty while no line named it
     std::vector<LogDevice*> m_reporting; // of each report of a line; null for a new one
     LogDevice* m_last = nullptr; // that had a line of its own
     int m_session = 0; // the newest

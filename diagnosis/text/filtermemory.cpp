@@ -5,60 +5,57 @@
 
 #include "abstractfilter.h"
 
-#include <algorithm>
-
 FilterMemory::FilterMemory(AbstractFilter& filter)
     : m_filter(&filter)
     , m_words(&filterWords(filterName(filter)))
-    , m_limit(m_words->limit ? filter.property(m_words->limit).toInt() : 0)
-    , m_count{filter.property("denom").toInt(), {}, 0}
+    , m_limit(m_words->limit ? qMax(0, filter.property(m_words->limit).toInt()) : 0)
+    , m_count{filter.property("denom").toInt()}
 {
 }
 
 void FilterMemory::startSession()
 {
-    m_count.events.clear();
-    m_count.since = 0;
+    m_count = {m_count.denomination};
+    m_shown.clear();
 }
 
-void FilterMemory::add(const StatesList& events)
+void FilterMemory::add(const DeviceState& event, qint64 line)
 {
-    const int newest = int(events.size()) - 1;
-    if (!m_words->count || newest == 0)
-        return;
-    m_words->count(m_count, events, newest);
-    if (!m_words->limit)
-        return;
-    const QVector<int>& counted = m_count.events;
-    // The event that was the newest stays when it counts.
-    if (counted.isEmpty() || counted.constFirst() == newest)
-        m_shown = {events.constFirst()};
-    else if (std::binary_search(counted.constEnd() - qMin(2, int(counted.size())),
-                                counted.constEnd(), newest - 1))
+    if (m_shown.isEmpty())
+        m_count.first = m_count.since = m_count.newest = line;
+    else if (m_words->count)
+        count(event, line);
+    m_shown += event;
+}
+
+void FilterMemory::count(const DeviceState& event, qint64 line)
+{
+    m_words->count(m_count, m_shown.constLast(), event, line);
+    m_count.newest = line;
+    if (int(m_count.lines.size()) > m_limit + 1) // the newest may not count in the end
+        m_count.lines.pop_front();
+    // What was the newest stays when it counts, until there are enough.
+    const int before = m_count.total - (m_count.newestCounts() ? 1 : 0);
+    const int kept = 1 + 2 * qMin(before, m_limit);
+    if (m_shown.size() < kept)
         m_shown += DeviceState(); // ends a run
     else
-        m_shown.removeLast();
-    m_shown += events.constLast();
+        m_shown.erase(m_shown.begin() + kept, m_shown.end());
 }
 
-bool FilterMemory::refuses(const StatesList& events) const
+bool FilterMemory::refuses() const
 {
-    StatesList shown = events;
-    if (m_words->limit && m_count.events.size() >= m_limit && events.size() > 1)
-        shown = m_shown;
-    else if (m_words->count && events.size() > 1) // what there was makes no difference
-        shown = {events.constFirst(), events.constLast()};
+    StatesList shown = m_shown;
+    if (m_count.total < m_limit && m_shown.size() > 1) // what there was makes no difference
+        shown = {m_shown.constFirst(), m_shown.constLast()};
     m_filter->setEvents(&shown);
     const bool refuses = m_filter->validate() != AbstractFilter::FILTER_ACCEPT;
     m_filter->setEvents(nullptr);
     return refuses;
 }
 
-Objection FilterMemory::objection(const StatesList& events, const QVector<qint64>& lines) const
+Objection FilterMemory::objection() const
 {
-    const Finding finding = m_words->find({*m_filter, m_count, m_limit, events, lines});
-    QVector<qint64> evidence;
-    for (const int event : finding.events)
-        evidence += lines.at(event);
-    return {filterName(*m_filter), filterParams(*m_filter), evidence, finding.text};
+    const Finding finding = m_words->find({*m_filter, m_count, m_limit, m_shown.constLast()});
+    return {filterName(*m_filter), filterParams(*m_filter), finding.lines, finding.text};
 }

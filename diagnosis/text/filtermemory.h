@@ -22,8 +22,9 @@ struct Objection
 };
 
 /// A filter and what it has counted of a session. Asked for a verdict, a filter walks over the
-/// events of the session; shown only those that count, it says the same, and a note late in a long
-/// session costs no more than an early one.
+/// events of the session; shown only those that count, and of those as many as are enough, it says
+/// the same, and a note late in a long session costs no more than an early one. Of a filter that
+/// nothing is known of, every event is kept.
 class FilterMemory
 {
 public:
@@ -34,18 +35,19 @@ public:
 
     void startSession();
 
-    /// Counts the newest event of the session. Every event is given once.
-    void add(const StatesList& events);
+    /// Takes in the next event of the session.
+    /// @param line its line in the log
+    void add(const DeviceState& event, qint64 line);
 
     /// The filter's verdict on the newest event.
-    /// @param events those that were given
-    bool refuses(const StatesList& events) const;
+    bool refuses() const;
 
     /// Explains why it refuses the newest event.
-    /// @param lines the line of each event in the log
-    Objection objection(const StatesList& events, const QVector<qint64>& lines) const;
+    Objection objection() const;
 
 private:
+    void count(const DeviceState& event, qint64 line);
+
     AbstractFilter* m_filter;
     const FilterWords* m_words;
     int m_limit; // so many counted events make it refuse

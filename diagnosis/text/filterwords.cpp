@@ -45,53 +45,57 @@ QString sumRule(const AbstractFilter& filter)
     return Diagnosis::tr("A session takes at most %1 in all.").arg(param(filter, "sessionSum"));
 }
 
-void countNothing(FilterCount& /*count*/, const StatesList& /*events*/, int /*event*/) { }
-
-void countRejections(FilterCount& count, const StatesList& events, int event)
+void countNothing(FilterCount& /*count*/, const DeviceState& /*before*/,
+                  const DeviceState& /*event*/, qint64 /*line*/)
 {
-    if (events.at(event).state == STATE_STACKED) {
-        count.events.clear();
-        count.since = event;
-    } else if (events.at(event).state == STATE_REJECTED) {
-        count.events += event;
+}
+
+void countRejections(FilterCount& count, const DeviceState& /*before*/, const DeviceState& event,
+                     qint64 line)
+{
+    if (event.state == STATE_STACKED) {
+        count.total = 0;
+        count.lines.clear();
+        count.since = line;
+    } else if (event.state == STATE_REJECTED) {
+        ++count.total;
+        count.lines.push_back(line);
     }
 }
 
-void countAccepted(FilterCount& count, const StatesList& events, int event)
+void countAccepted(FilterCount& count, const DeviceState& /*before*/, const DeviceState& event,
+                   qint64 line)
 {
-    const DeviceState& newest = events.at(event);
-    if (newest.state != STATE_ACCEPTED)
+    if (event.state != STATE_ACCEPTED)
         return;
-    // Of a run the newest one counts.
-    if (events.at(event - 1).state == STATE_ACCEPTED && !count.events.isEmpty()
-        && count.events.constLast() == event - 1)
-        count.events.removeLast();
-    if (newest.currentNote == count.denomination)
-        count.events += event;
+    if (count.newestCounts()) { // of a run the newest one counts
+        --count.total;
+        count.lines.pop_back();
+    }
+    if (event.currentNote == count.denomination) {
+        ++count.total;
+        count.lines.push_back(line);
+    }
 }
 
-void followSum(FilterCount& count, const StatesList& events, int event)
+void followSum(FilterCount& count, const DeviceState& before, const DeviceState& event, qint64 line)
 {
-    if (events.at(event).sessionSum != events.at(event - 1).sessionSum)
-        count.since = event;
+    if (event.sessionSum != before.sessionSum)
+        count.since = line;
 }
 
-// Those of the counted events that are enough.
-QVector<int> enough(const RefusedSession& session)
+// The lines of those of the counted events that are enough.
+QVector<qint64> enough(const RefusedSession& session)
 {
-    const QVector<int>& counted = session.count.events;
-    return counted.mid(counted.size() - qBound(0, session.limit, int(counted.size())));
+    const std::deque<qint64>& counted = session.count.lines;
+    return {counted.end() - qMin(session.limit, int(counted.size())), counted.end()};
 }
 
 // "lines 3 and 6", or that these are not all that there were.
-QString place(const RefusedSession& session, const QVector<int>& found)
+QString place(const RefusedSession& session, const QVector<qint64>& found)
 {
-    QVector<qint64> lines;
-    for (const int event : found)
-        lines += session.lines.at(event);
-    const QString shown = lineList(lines);
-    return session.count.events.size() > found.size() ? Diagnosis::tr("at last in %1").arg(shown)
-                                                      : shown;
+    const QString shown = lineList(found);
+    return session.count.total > found.size() ? Diagnosis::tr("at last in %1").arg(shown) : shown;
 }
 
 Finding findSwitch(const RefusedSession& /*session*/)
@@ -101,13 +105,14 @@ Finding findSwitch(const RefusedSession& /*session*/)
 
 Finding findAttempts(const RefusedSession& session)
 {
-    const QString note = QString::number(session.events.constLast().currentNote);
+    const QString note = QString::number(session.newest.currentNote);
     if (session.limit <= 0)
         return {{}, Diagnosis::tr("No attempts at all are allowed for %1.").arg(note)};
-    const QVector<int> found = enough(session);
-    const int count = int(session.count.events.size());
-    const int since = session.count.since;
-    const QString sentence = since > 0
+    const QVector<qint64> found = enough(session);
+    const int count = session.count.total;
+    const qint64 since = session.count.since;
+    const bool isSinceStacked = since > session.count.first;
+    const QString sentence = isSinceStacked
         ? Diagnosis::tr(
             "Notes were rejected %n times since the stacked note of line %4 (%1); %2 are "
             "allowed for %3. The next stacked note or session clears this.",
@@ -116,32 +121,32 @@ Finding findAttempts(const RefusedSession& session)
                         "for %3. The next stacked note or session clears this.",
                         nullptr, count);
     QString text = sentence.arg(place(session, found), QString::number(session.limit), note);
-    if (since > 0)
-        text = text.arg(session.lines.at(since));
+    if (isSinceStacked)
+        text = text.arg(since);
     return {found, text};
 }
 
 Finding findCount(const RefusedSession& session)
 {
-    const int note = session.events.constLast().currentNote;
+    const int note = session.newest.currentNote;
     if (session.limit <= 0)
         return {{}, Diagnosis::tr("No notes of %1 are allowed at all.").arg(note)};
-    const QVector<int> found = enough(session);
+    const QVector<qint64> found = enough(session);
     const QString text =
         Diagnosis::tr("%n notes of %1 were accepted since the session began (%2); %3 are "
                       "allowed. The next session clears this.",
-                      nullptr, int(session.count.events.size()))
+                      nullptr, session.count.total)
             .arg(QString::number(note), place(session, found), QString::number(session.limit));
     return {found, text};
 }
 
 Finding findSum(const RefusedSession& session)
 {
-    const DeviceState& newest = session.events.constLast();
-    const int since = session.count.since; // where the sum came from; the newest event has it too
+    const DeviceState& newest = session.newest;
+    const qint64 since = session.count.since; // where the sum came from: the newest has it too
     Finding finding;
-    if (since < session.events.size() - 1 && newest.sessionSum != 0)
-        finding.events += since;
+    if (since < session.count.newest && newest.sessionSum != 0)
+        finding.lines += since;
     finding.text = Diagnosis::tr("%1 taken + note %2 > limit %3. The next session clears this.")
                        .arg(QString::number(newest.sessionSum), QString::number(newest.currentNote),
                             QString::number(param(session.filter, "sessionSum")));

@@ -9,14 +9,21 @@
 #include <QString>
 #include <QVector>
 
+#include <deque>
+
 class AbstractFilter;
 
 /// What a filter has counted of a session.
 struct FilterCount
 {
     int denomination; ///< that the filter is about, if it is about one
-    QVector<int> events; ///< those that count, oldest first
-    int since; ///< the event since which it counts; 0 for the one with which the session began
+    int total = 0; ///< so many events count
+    std::deque<qint64> lines = {}; ///< those of the newest that count, oldest first
+    qint64 since = 0; ///< the line of the event since which it counts
+    qint64 first = 0; ///< that of the event with which the session began
+    qint64 newest = 0; ///< that of the newest event
+
+    bool newestCounts() const { return !lines.empty() && lines.back() == newest; }
 };
 
 /// A session whose newest event a filter refuses.
@@ -25,14 +32,13 @@ struct RefusedSession
     const AbstractFilter& filter;
     const FilterCount& count;
     int limit; ///< so many counted events make it refuse
-    const StatesList& events;
-    const QVector<qint64>& lines; ///< of the events in the log
+    const DeviceState& newest;
 };
 
 /// Why a filter refuses.
 struct Finding
 {
-    QVector<int> events; ///< that are enough for it to refuse, oldest first
+    QVector<qint64> lines; ///< of the events that are enough for it to refuse, oldest first
     QString text;
 };
 
@@ -45,7 +51,8 @@ struct FilterWords
     const char* limit; ///< the parameter that limits how many events count; null without one
     /// Takes in an event that is not the first, which no filter looks at; null when it is not known
     /// which events a filter looks at.
-    void (*count)(FilterCount& count, const StatesList& events, int event);
+    void (*count)(FilterCount& count, const DeviceState& before, const DeviceState& event,
+                  qint64 line);
     Finding (*find)(const RefusedSession& session);
     /// Said to the customer; %1 is the face value, %2 the parameter below.
     const char* noteRefused;

@@ -53,6 +53,18 @@ public:
 
     Fault faultAt(qint64 line, const QString& what) const;
 
+    /// Hands the line that was read last to what @p take does with it: a Fault that it throws gets
+    /// that line's place.
+    template <typename Take>
+    auto placing(Take take) const
+    {
+        try {
+            return take();
+        } catch (const Fault& fault) {
+            throw faultAt(m_lineNumber, fault.message);
+        }
+    }
+
 private:
     bool readMore();
     int readText(char* data, int size);

@@ -82,7 +82,8 @@ private:
                     outputWidth());
         });
         const auto take = [&](const QByteArray& line) {
-            comparer.take(SessionLine::read(file, line), file.lineNumber());
+            const SessionLine said = SessionLine::read(file, line);
+            file.placing([&] { comparer.take(said, file.lineNumber()); });
         };
         const auto skip = [&](const QString& fault) {
             result.faults += fault;

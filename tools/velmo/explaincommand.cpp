@@ -214,7 +214,7 @@ private:
                   std::set<int>& asked)
     {
         const SessionLine line = SessionLine::read(file, bytes);
-        explainer.take(line, file.lineNumber());
+        file.placing([&] { explainer.take(line, file.lineNumber()); });
         for (const LogStep& step : explainer.player().steps()) {
             const int session = step.device->session();
             if (!m_question.isAboutAll() && m_question.isAbout(session, step.device->deviceId()))

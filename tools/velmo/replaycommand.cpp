@@ -147,7 +147,9 @@ int replayCommand(const Arguments& arguments)
         if (!withTime && !json)
             result += tableHead(line.time().isKnown());
         withTime = withTime.value_or(line.time().isKnown());
-        for (const ReplayStep& step : replay.take(line, log.lineNumber())) {
+        const std::vector<ReplayStep> steps =
+            log.placing([&] { return replay.take(line, log.lineNumber()); });
+        for (const ReplayStep& step : steps) {
             result += json ? jsonLine(log.lineNumber(), line.time(), step)
                            : tableLine(log.lineNumber(), line.time(), step, *withTime);
         }
