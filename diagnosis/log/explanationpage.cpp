@@ -160,11 +160,13 @@ void ExplanationPage::add(const NoteAnswer& answer)
     session(answer.session).answers.push_back(answer);
 }
 
-void ExplanationPage::finishSessions(int before, bool onlyRefusals)
+void ExplanationPage::finishSessions(int before, bool onlyRefusals, const std::set<int>* only)
 {
     while (!m_open.empty() && m_open.begin()->first < before) {
         SessionRecord session = std::move(m_open.begin()->second);
         m_open.erase(m_open.begin());
+        if (only && only->count(session.number) == 0)
+            continue;
         session.onlyRefusals = onlyRefusals;
         const bool anyTold =
             std::any_of(session.answers.begin(), session.answers.end(),
@@ -174,9 +176,9 @@ void ExplanationPage::finishSessions(int before, bool onlyRefusals)
     }
 }
 
-void ExplanationPage::endLog(qint64 skipped, bool onlyRefusals)
+void ExplanationPage::endLog(qint64 skipped, bool onlyRefusals, const std::set<int>* only)
 {
-    finishSessions(INT_MAX, onlyRefusals);
+    finishSessions(INT_MAX, onlyRefusals, only);
     if (skipped > 0) {
         m_doubts += QStringLiteral("%1: %2").arg(
             m_logs.constLast(),

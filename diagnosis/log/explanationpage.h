@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <map>
+#include <set>
 
 /// Makes a page to look at of explained logs: HTML in one file that needs no other, and no script.
 /// It holds a session until that ends; the finished ones wait in a device of the caller's, since
@@ -39,10 +40,11 @@ public:
 
     /// Writes down the sessions before a number, of which nothing follows. On demand only what the
     /// filters refused is told; other notes have marks as far as they are evidence.
-    void finishSessions(int before, bool onlyRefusals);
+    /// @param only the numbers of those that are written; null for all
+    void finishSessions(int before, bool onlyRefusals, const std::set<int>* only);
 
     /// @param skipped lines that could not be read
-    void endLog(qint64 skipped, bool onlyRefusals);
+    void endLog(qint64 skipped, bool onlyRefusals, const std::set<int>* only);
 
     /// Writes the page.
     void write(QIODevice& page, const Summary& summary);

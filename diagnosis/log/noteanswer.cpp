@@ -86,13 +86,16 @@ void Summary::add(const NoteAnswer& answer)
 {
     if (answer.hasValue())
         offered.add(answer.note);
-    outcomes.at(size_t(answer.outcome)).add(answer.note);
+    if (answer.hasValue() || answer.outcome == Outcome::Rejected)
+        ++offeredOrRejected;
+    for (const OutcomeWords& words : outcomeWords()) {
+        if (answer.countsAs(words.outcome))
+            outcomes.at(size_t(words.outcome)).add(answer.note);
+    }
     if (answer.outcome != Outcome::Refused)
         return;
     if (answer.isTaken())
         takenAlthoughRefused.add(answer.note);
-    if (answer.isTaken() || answer.end == Outcome::Stuck)
-        outcomes.at(size_t(answer.end)).add(answer.note);
     QStringList names;
     for (const Objection& objection : answer.objections) {
         if (!names.contains(objection.filter))
@@ -117,4 +120,11 @@ QList<Summary::Row> Summary::rows() const
             rows += row(other.outcome);
     }
     return rows;
+}
+
+QString Summary::percent(Outcome outcome) const
+{
+    if (offeredOrRejected == 0)
+        return {};
+    return QString::number(100.0 * double(of(outcome).count) / double(offeredOrRejected), 'f', 1);
 }

@@ -41,6 +41,14 @@ struct NoteAnswer
     bool isTaken() const { return end == Outcome::Taken; }
     bool hasValue() const { return note > 0; }
 
+    /// Whether it is counted under an outcome: its own, or of a refused note what became of it
+    /// then, if it was taken or got stuck.
+    bool countsAs(Outcome counted) const
+    {
+        return outcome == counted
+            || (end == counted && (counted == Outcome::Taken || counted == Outcome::Stuck));
+    }
+
     /// "Session 1, line 8, 10:05:12, Bill validator (CCNet)"
     QString place() const;
 
@@ -87,6 +95,8 @@ struct Summary
                                               ///< them too, if they were taken or got stuck
     Tally takenAlthoughRefused;
     QMap<QString, qint64> refusedBy; ///< notes that a filter of that name refused
+    qint64 offeredOrRejected = 0; ///< of whatever value
+    bool isIncomplete = false; ///< the logs were not read to their end
 
     void add(const NoteAnswer& answer);
 
@@ -94,4 +104,8 @@ struct Summary
     QList<Row> rows() const;
 
     const Tally& of(Outcome outcome) const { return outcomes.at(size_t(outcome)); }
+
+    /// How many percent of the notes that were offered or rejected had the outcome, with a digit
+    /// behind the point; empty where there are none.
+    QString percent(Outcome outcome) const;
 };

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "log/comparison.h"
+#include "log/conditiontimeline.h"
 #include "json/jsontext.h"
 
 /// [{"what": ..., "line": ..., "text": ...}, ...]
@@ -14,6 +15,12 @@ JsonText jsonOf(const Tally& tally);
 /// {"kind": "note", ...}
 /// @param log the name of its log
 JsonText jsonOf(const QString& log, const NoteAnswer& answer);
+
+/// {"kind": "condition", ...}
+JsonText jsonOf(const QString& log, const ConditionSpan& span);
+
+/// {"kind": "device_totals", ...}
+JsonText jsonOf(const QString& log, const LogDevice& device, const Summary& summary);
 
 /// {"kind": "summary", ...}
 JsonText jsonOf(const Summary& summary);

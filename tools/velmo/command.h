@@ -39,7 +39,7 @@ struct Command
 {
     const char* name; ///< "report", or "settings show" for an action
     Operand operands[3]; ///< in their order, only the last one repeated; nameless after the last
-    const Option* options[9]; ///< besides those below, --help and --lang; null after the last
+    const Option* options[16]; ///< besides those below, --help and --lang; null after the last
     int (*run)(const Arguments& arguments);
     const char* summary = nullptr; ///< one sentence of Velmo::tr(); null hides the command
     const char* details = nullptr; ///< further ones for its own help; null without
