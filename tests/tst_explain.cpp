@@ -5,6 +5,7 @@
 
 #include "filterfactory.h"
 #include "filtersfile.h"
+#include "log/conditiontimeline.h"
 #include "log/explanation.h"
 #include "log/pagestyle.h"
 #include "log/sessionlook.h"
@@ -636,10 +637,10 @@ private Q_SLOTS:
         QCOMPARE(explain({"--exit-code"_s, "--session"_s, "2"_s}).exitCode, 0);
         QCOMPARE(explain({"--json"_s, "--refusals"_s}).outLines().size(), 2);
         const VelmoRun summary = explain({"--json"_s, "--summary"_s, log});
+        QCOMPARE(summary.outLines().size(), 3);
         QCOMPARE(
-            summary.out,
-            R"({"kind":"summary","sessions":4,"offered":{"count":12,"sum":11000},"taken":{"count":2,"sum":1000},"refused":{"count":2,"sum":2000,"by":{"AttemptsFilter":2},"taken":{"count":0,"sum":0}},"stuck":{"count":0,"sum":0},"rejected":{"count":4,"sum":4000},"returned":{"count":0,"sum":0},"unknown":{"count":4,"sum":4000}})"_s
-                + "\n"_s);
+            summary.outLines().last(),
+            R"({"kind":"summary","sessions":4,"offered":{"count":12,"sum":11000},"taken":{"count":2,"sum":1000},"refused":{"count":2,"sum":2000,"by":{"AttemptsFilter":2},"taken":{"count":0,"sum":0}},"stuck":{"count":0,"sum":0},"rejected":{"count":4,"sum":4000},"returned":{"count":0,"sum":0},"unknown":{"count":4,"sum":4000}})"_s);
         QCOMPARE(explain({"--session"_s, "x"_s}).err, "velmo: --session: expected a number\n"_s);
         const VelmoRun nothing = explain({"--json"_s, "--device"_s, "2"_s});
         QCOMPARE(nothing.exitCode, 2);
@@ -650,6 +651,252 @@ private Q_SLOTS:
         QVERIFY(text.out.startsWith("Filters in force (%1):\n"_s.arg(sample("filters.json"_s))));
         QVERIFY(!text.out.contains(QLatin1Char('\033')));
         QVERIFY(text.out.contains("\nOffered                      6  5500\n"_s));
+    }
+
+    // Options, the lines of the notes that are told, how many sessions and notes the summary has,
+    // what standard error says. All notes but that of line 5 lack a time of their own.
+    void notesAreSelected_data()
+    {
+        addRows(R"(
+            | 1 3 5 8 11 | 3 5 |
+            --from 2026-11-16                            | 3 5 8 11 | 3 4 | notes before the first time, left out: 1
+            --to 2026-11-16                              | 3 5      | 1 2 | left out: 1
+            --from 2026-11-17 --to 2026-11-17            | 8        | 1 1 | left out: 1
+            --from 2026-11-17T10:00:00 --to 2026-11-17T10:00:00 | 8 | 1 1 | left out: 1
+            --from 2026-11-18T12:00:00.000Z              | 11       | 1 1 | left out: 1
+            --from 2026-11-18T15:00:00.001+03:00         |          | 0 0 | left out: 1
+            --to 2026-11-16 --session 1                  | 3 5      | 1 2 | left out: 1
+            --note 100                                   | 1 3 11   | 2 3 |
+            --note 7                                     |          | 0 0 |
+            --outcome refused                            | 8        | 1 1 |
+            --outcome taken                              | 3 8 11   | 3 3 |
+            --outcome taken --note 100 --session 1       | 3        | 1 1 |
+            --outcome rejected --to 2026-11-17           | 5        | 1 1 |
+            --outcome unknown --from 2026-11-16          |          | 0 0 | left out: 1)"_s);
+    }
+
+    void notesAreSelected()
+    {
+        const auto [options, lines, counts, error] = cells<4>();
+        const QString log = writeFile(m_folder.filePath("times.jsonl"_s),
+                                      R"({"session":"start","state":"accepting","current_note":100}
+{"state":"idling","current_note":0,"time":"2026-11-16T10:00:00"}
+{"state":"accepting","current_note":100}
+{"state":"stacked"}
+{"state":"accepting","current_note":50,"time":"2026-11-16T23:59:59.999"}
+{"state":"rejected"}
+{"session":"start","state":"idling","current_note":0,"time":"2026-11-17T10:00:00"}
+{"state":"accepting","current_note":1000}
+{"state":"stacked"}
+{"session":"start","state":"idling","current_note":0,"time":"2026-11-18T12:00:00Z"}
+{"state":"accepting","current_note":100}
+{"state":"stacked"}
+)"_s);
+        const QString filters =
+            writeFile(m_folder.filePath("none-of-1000.json"_s),
+                      R"([{"name":"AttemptsFilter","params":{"denom":1000,"attempts":0}}])"_s);
+        QStringList arguments{"explain"_s, log, "--filters"_s, filters};
+        if (!options.isEmpty())
+            arguments += options.split(QLatin1Char(' '));
+        const VelmoRun run = velmo(arguments + QStringList{"--json"_s});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY2(run.err.isEmpty() ? error.isEmpty()
+                                   : !error.isEmpty() && run.err.endsWith(error + "\n"_s),
+                 qPrintable(run.err));
+        QStringList told;
+        for (const QString& line : run.outLines().filter(R"({"kind":"note")"_s))
+            told +=
+                QString::number(QJsonDocument::fromJson(line.toUtf8()).object()["line"_s].toInt());
+        QCOMPARE(told.join(QLatin1Char(' ')), lines);
+        const QJsonObject summary =
+            QJsonDocument::fromJson(run.outLines().last().toUtf8()).object();
+        QCOMPARE("%1 %2"_s.arg(summary["sessions"_s].toInt())
+                     .arg(summary["offered"_s]["count"_s].toInt()),
+                 counts);
+        // The page has the sessions, and its sentences of these notes only.
+        const QString page = velmo(arguments + QStringList{"--html"_s, "-"_s}).out;
+        QCOMPARE(page.count("<details"_s), counts.section(QLatin1Char(' '), 0, 0).toInt());
+        QCOMPARE(page.count("<li class=\"answer"_s), told.size());
+    }
+
+    void timesAreShownInUtc()
+    {
+        const QByteArray log = R"({"time":"2026-11-16T23:30:00-01:00","stacker_full":true}
+{"time":"2026-11-17T10:00:00.250+03:00","state":"rejected"})";
+        const QStringList explain{"explain"_s, "-"_s, "--filters"_s, sample("filters.json"_s),
+                                  "--utc"_s};
+        const QString json = velmo(explain + QStringList{"--json"_s}, log).out;
+        QVERIFY2(json.contains(R"("time":"2026-11-17T07:00:00.250Z")"_s)
+                     && json.contains(R"("from":"2026-11-17T00:30:00.000Z")"_s),
+                 qPrintable(json));
+        QVERIFY(velmo(explain, log).out.contains(" line 2, 07:00:00 UTC,"_s));
+        QVERIFY(velmo(explain + QStringList{"--html"_s, "-"_s}, log)
+                    .out.contains("Session 1, 2026-11-17 00:30:00 UTC"_s));
+    }
+
+    // Logs with the lines between semicolons, and the spans in which something was the matter, with
+    // the line of the last note.
+    void conditionsAreFollowed_data()
+    {
+        addRows(R"(
+            {"enabled":true};idling                          |
+            {"stacker_present":true};{"halt":false,"online":true} |
+            {"enabled":false}                                | disabled 1- note 0
+            accepting 100;stacked;{"enabled":false};{"cash":1};{"enabled":true} | disabled 3-5 note 1
+            accepting 100;{"enabled":false};{"stacker_full":true};{"enabled":true} | disabled 2-3 note 1, disabled+stacker_full 3-4 note 1, stacker_full 4- note 1
+            {"halt":true};accepting 100;accepting 100;{"halt":false};accepting 50 | halted 1-4 note 2
+            {"halt":true};accepting;stacked;idling           | halted 1- note 2
+            {"halt":true};rejected                           | halted 1- note 2
+            {"halt":true};accepting;idling                   | halted 1- note 0
+            {"halt":true};{"halt":false,"state":"accepting","current_note":100} | halted 1-2 note 0
+            accepting 100;{"online":false};{"session":"start"};accepting 100 | offline 2- note 1
+            {"online":false,"device_id":6};{"online":false,"device_id":1};{"device_states":[{"device_id":6,"online":true},{"device_id":1,"online":false}]} | offline 1-3 note 0, offline 2- note 0)"_s);
+    }
+
+    void conditionsAreFollowed()
+    {
+        const auto [log, expected] = cells<2>();
+        QStringList actual;
+        ConditionTimeline timeline([&](const ConditionSpan& span) {
+            actual += "%1 %2-%3 note %4"_s.arg(
+                span.keys().join(QLatin1Char('+')), QString::number(span.from.line),
+                span.to.line > 0 ? QString::number(span.to.line) : QString(),
+                QString::number(span.lastNote.line));
+        });
+        LogExplainer explainer(filterSet("[]"_s),
+                               [&](const NoteAnswer& answer) { timeline.take(answer); });
+        qint64 lineNumber = 0;
+        for (const QString& line : log.split(QLatin1Char(';'))) {
+            explainer.take(SessionLine(lineOf(line)), ++lineNumber);
+            timeline.take(explainer.player().steps(), {}, lineNumber);
+        }
+        explainer.finish();
+        timeline.finish();
+        QCOMPARE(actual.join(", "_s), expected);
+    }
+
+    // Which of the spans of two devices are told, by their lines: a line a minute.
+    void spansAreSelected_data()
+    {
+        addRows(R"(
+            | 3-5 7-8 2-
+            --device 1                       | 3-5 7-8
+            --session 1                      | 3-5 2-
+            --session 2                      | 7-8 2-
+            --from 2026-11-16T10:06:00Z      | 7-8 2-
+            --from 2026-11-16T10:05:00Z --to 2026-11-16T10:05:30Z | 3-5 2-
+            --from 2026-11-16T10:03:10Z --to 2026-11-16T10:03:20Z | 3-5 2-
+            --to 2026-11-16T10:02:00Z        | 2-
+            --from 2026-11-16T10:09:00Z      |
+            --note 7                         | 3-5 7-8 2-
+            --summary                        | 3-5 7-8 2-
+            --refusals                       |)"_s);
+    }
+
+    void spansAreSelected()
+    {
+        const auto [options, lines] = cells<2>();
+        QByteArray log;
+        int minute = 0;
+        for (const char* const fields :
+             {R"("device_id":1,"state":"idling")", R"("device_id":100,"halt":true)",
+              R"("device_id":1,"enabled":false)", R"("device_id":1,"cash":1)",
+              R"("device_id":1,"enabled":true)", R"("device_id":1,"session":"start")",
+              R"("device_id":1,"stacker_full":true)", R"("device_id":1,"stacker_full":false)"})
+            log += R"({"time":"2026-11-16T10:0%1:00Z",%2})"_s.arg(++minute)
+                       .arg(QString::fromUtf8(fields))
+                       .toUtf8()
+                + "\n";
+        QStringList arguments{"explain"_s, "-"_s, "--filters"_s, sample("filters.json"_s),
+                              "--json"_s};
+        if (!options.isEmpty())
+            arguments += options.split(QLatin1Char(' '));
+        QStringList told;
+        for (const QString& line : velmo(arguments, log).outLines().filter("\"condition\""_s)) {
+            const QJsonObject span = QJsonDocument::fromJson(line.toUtf8()).object();
+            told += "%1-%2"_s.arg(span["from_line"_s].toInt())
+                        .arg(span["to_line"_s].toVariant().toString());
+        }
+        QCOMPARE(told.join(QLatin1Char(' ')), lines);
+    }
+
+    void overviewStandsBelowTheTotals()
+    {
+        QByteArray log = R"({"device_id":1,"state":"accepting","current_note":100}
+{"device_id":1,"state":"stacked","time":"2026-11-16T10:00:00"}
+{"device_id":100,"state":"rejected","time":"2026-11-16T10:01:00"}
+)";
+        for (int i = 0; i < 12; ++i)
+            log += R"({"device_id":1,"time":"2026-11-16T11:%1:00","enabled":%2})"_s.arg(10 + i)
+                       .arg(i % 2 ? "true"_s : "false"_s)
+                       .toUtf8()
+                + "\n";
+        for (int i = 0; i < 11; ++i)
+            log += R"({"device_id":1,"time":"2026-11-17T11:%1:00","halt":%2})"_s.arg(10 + i)
+                       .arg(i % 2 ? "false"_s : "true"_s)
+                       .toUtf8()
+                + "\n";
+        const QString name =
+            writeFile(m_folder.filePath("overview.jsonl"_s), QString::fromUtf8(log));
+        const QStringList explain{"explain"_s, name, "--filters"_s, sample("filters.json"_s)};
+        const QString text = velmo(explain).out;
+        QVERIFY2(
+            text.contains(
+                "\n\nDevice                  Offered  Taken  Rejected  Rejected %  Refused %  "
+                "Stuck\n"
+                "Bill validator (CCNet)        1      1         0         0.0        0.0      0\n"
+                "Coin acceptor (CCTalk)        0      0         1       100.0        0.0      0\n"
+                "\nWhat was the matter:\n"
+                "  - Bill validator (CCNet): earlier ones, not shown: 2\n"
+                "  - Bill validator (CCNet): from 11:14:00 (line 8) to 11:15:00 (line 9): "
+                "disabled; "
+                "last note line 1\n"_s),
+            qPrintable(text));
+        QVERIFY2(text.endsWith("from 11:20:00 (line 26) to the end: halted; last note line 1\n"_s),
+                 qPrintable(text));
+        QVERIFY(!velmo(explain + QStringList{"--refusals"_s}).out.contains("Device "_s));
+        QVERIFY(!velmo(explain + QStringList{"--device"_s, "1"_s}).out.contains("Device "_s));
+        const QString both = velmo(explain + QStringList{name, "--summary"_s}).out;
+        QVERIFY2(both.contains(QRegularExpression(
+                     "\nLog .*\n.*overview.jsonl  Bill .*\n.*overview.jsonl  Coin .*\n"
+                     ".*overview.jsonl  all devices +1 +1 +1 +50.0 +0.0 +0\n"_s)),
+                 qPrintable(both));
+    }
+
+    // What was read before a fault is answered; a page is not written.
+    void faultsLeaveWhatWasRead()
+    {
+        const QString sound = sample("fished-note.jsonl"_s);
+        const QString bad = writeFile(m_folder.filePath("bad.jsonl"_s),
+                                      R"({"session":"start","device_id":1,"stacker_full":true}
+{"state":"accepting","current_note":100}
+{"state":"x"}
+{"state":"stacked"}
+)"_s);
+        const QString page = m_folder.filePath("bad.html"_s);
+        const QStringList explain{"explain"_s, sound,         bad,
+                                  sound,       "--filters"_s, sample("filters.json"_s)};
+        const VelmoRun json = velmo(explain + QStringList{"--json"_s});
+        QCOMPARE(json.exitCode, 2);
+        QVERIFY2(json.err.startsWith("velmo: %1:3: \"state\": "_s.arg(bad)), qPrintable(json.err));
+        QCOMPARE(json.errLines().size(), 1);
+        QCOMPARE(json.outLines().filter(R"("device_totals","log":"%1")"_s.arg(bad)).size(), 1);
+        QCOMPARE(json.outLines().filter(R"("condition","log":"%1")"_s.arg(bad)).size(), 1);
+        const QString last = json.outLines().last();
+        QVERIFY2(last.contains(R"("sessions":3,"offered":{"count":7,"sum":5600})"_s)
+                     && last.endsWith(R"(,"incomplete":true})"_s),
+                 qPrintable(last));
+        QVERIFY(
+            velmo(explain).out.endsWith("\n\nIncomplete: the logs were not read to the end.\n"_s));
+        QCOMPARE(velmo(explain + QStringList{"--html"_s, page}).exitCode, 2);
+        QVERIFY(!QFile::exists(page));
+
+        const VelmoRun untimed = velmo({"explain"_s, sound, "--filters"_s, sample("filters.json"_s),
+                                        "--json"_s, "--from"_s, "2026-11-16"_s});
+        QCOMPARE(untimed.exitCode, 2);
+        QCOMPARE(untimed.out, QString());
+        QCOMPARE(untimed.err,
+                 "velmo: %1: no line has a time: nothing can be selected by it\n"_s.arg(sound));
     }
 
     // The parts of a log are told as such, and together are the whole.
@@ -670,7 +917,7 @@ private Q_SLOTS:
                                   "--filters"_s, sample("filters.json"_s)};
         const auto summaryOf = [&](const QStringList& more) {
             const VelmoRun run = velmo(explain + QStringList{"--summary"_s, "--json"_s} + more);
-            return QJsonDocument::fromJson(run.out.toUtf8()).object();
+            return QJsonDocument::fromJson(run.outLines().last().toUtf8()).object();
         };
         const auto offered = [](const QJsonObject& summary) {
             return summary["offered"_s]["count"_s].toInt();
@@ -804,8 +1051,12 @@ private Q_SLOTS:
         QCOMPARE(run.errLines().size(), 2);
         QCOMPARE(run.errLines().at(1),
                  "velmo: %1: answers may differ from the service's"_s.arg(settings));
-        QVERIFY(run.outLines().at(0).contains(
-            R"("filters":[{"name":"AcceptFilter","params":{"acceptAll":0},"evidence":[])"_s));
+        QVERIFY(
+            run.outLines()
+                .filter("\"note\""_s)
+                .at(0)
+                .contains(
+                    R"("filters":[{"name":"AcceptFilter","params":{"acceptAll":0},"evidence":[])"_s));
     }
 
     // Markup in every text that a log, the settings and a file name can hold.

@@ -150,6 +150,10 @@ const QMap<QString, std::function<QVariant(const QVariant& example)>> checks{
      [](auto& /*v*/) {
          return fishedLog({"explain"_s, "--refusals"_s});
      }},
+    {"overview of a log"_s,
+     [](auto& /*v*/) {
+         return fishedLog({"explain"_s, "--summary"_s});
+     }},
     {"replayed log"_s, [](auto& /*v*/) { return fishedLog({"replay"_s}).last(); }},
     {"names file"_s, reportedNames},
     {"service report"_s, serviceReport},

@@ -195,6 +195,7 @@ private Q_SLOTS:
             complete -- settings show -      | --json\n
             complete -- replay x --filters y | :file\n
             complete -- report --lang r      | ru\n
+            complete -- explain --outcome re | refused\nrejected\nreturned\n
             complete -- filters Att          | AttemptsFilter\n)"_s);
     }
 
@@ -302,6 +303,11 @@ private Q_SLOTS:
             fleet --wait 3601   |                            | --wait: expected a number from 1 to 3600
             fleet --wait x      |                            | --wait: expected a number from 1 to 3600
             fleet --tls-ca=     |                            | --tls-ca: expected a value
+            explain - --filters x --from x | | --from: expected an ISO 8601 time or date
+            explain - --filters x --to 2026-02-30 | | --to: expected an ISO 8601 time or date
+            explain - --filters x --from 2026-11-17 --to 2026-11-16 | | --from is after --to
+            explain - --filters x --note 0 | | --note: expected a number
+            explain - --filters x --outcome x | | --outcome: unknown outcome "x" (known: refused, taken, stuck, rejected, returned, unknown)
             help nothing        |                            | unknown command "nothing"
             devices x           |                            | usage: velmo devices)"_s);
     }

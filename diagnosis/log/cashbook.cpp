@@ -175,7 +175,7 @@ PieceRange CashBook::channelNow(size_t channel) const
     return {qMax<qint64>(0, row.count - fewer), row.count};
 }
 
-void CashBook::takeLine(bool hasCash)
+void CashBook::takeReport(bool hasCash)
 {
     Period* const now = period();
     if (!now)

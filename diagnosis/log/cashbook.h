@@ -28,7 +28,7 @@ public:
     CashBook(const MoneyTrail& trail, const LogMoment& now, const QStringList& logs);
 
     /// The device told something on this line.
-    void takeLine(bool hasCash);
+    void takeReport(bool hasCash);
 
     void skipLine();
     void beginHere();

@@ -89,9 +89,9 @@ std::vector<CashPeriod> CashLedger::periods(bool isLogMissing) const
     return all;
 }
 
-void CashLedger::takeLine(const MoneyTrail& trail, const LogStep& step)
+void CashLedger::takeReport(const MoneyTrail& trail, const LogStep& step)
 {
-    bookOf(trail).takeLine((step.reported & cashBit) != 0);
+    bookOf(trail).takeReport((step.reported & cashBit) != 0);
 }
 
 void CashLedger::takeContradiction(const MoneyTrail& trail, const Contradiction& found)

@@ -50,7 +50,7 @@ public:
     int devices() const;
 
 private:
-    void takeLine(const MoneyTrail& trail, const LogStep& step) override;
+    void takeReport(const MoneyTrail& trail, const LogStep& step) override;
     void takeContradiction(const MoneyTrail& trail, const Contradiction& found) override;
     void takePiece(const MoneyTrail& trail, const PieceEnd& piece) override;
     void takeChange(const MoneyTrail& trail, MoneyAct act, const ChannelChange& change) override;

@@ -4,6 +4,7 @@
 #include "log/contradiction.h"
 
 #include "text/diagnosis.h"
+#include "text/filterwords.h"
 
 #include <array>
 
@@ -48,9 +49,24 @@ static_assert(isByRule(), "a row for each Rule, in its order");
 
 } // namespace
 
+QString Contradiction::headline() const
+{
+    LogPlace shown = *this;
+    shown.line = LogPosition::line(line);
+    return Diagnosis::tr("%1: %2.").arg(shown.place(), meaningOf(rule));
+}
+
+QString Contradiction::details() const
+{
+    QVector<qint64> shown;
+    for (const qint64 position : lines)
+        shown += LogPosition::line(position);
+    return shown.size() < 2 ? sentence : QStringLiteral("%1 (%2)").arg(sentence, lineList(shown));
+}
+
 QString Contradiction::text() const
 {
-    return QStringLiteral("%1: %2").arg(place(), sentence);
+    return QStringLiteral("%1 %2").arg(headline(), details());
 }
 
 QString Contradiction::keyOf(Rule rule)

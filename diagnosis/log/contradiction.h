@@ -8,6 +8,26 @@
 #include <QString>
 #include <QVector>
 
+/// A line of one of several logs, as one number: those of a log have its index in the upper bits.
+namespace LogPosition {
+
+constexpr int lineBits = 40;
+
+constexpr qint64 of(int log, qint64 line)
+{
+    return (qint64(log) << lineBits) | line;
+}
+constexpr int log(qint64 position)
+{
+    return int(position >> lineBits);
+}
+constexpr qint64 line(qint64 position)
+{
+    return position & ((qint64(1) << lineBits) - 1);
+}
+
+} // namespace LogPosition
+
 /// What of a log's money does not add up.
 enum class Rule {
     NotCredited,
@@ -22,7 +42,8 @@ enum class Rule {
 };
 constexpr int ruleCount = int(Rule::CounterJump) + 1;
 
-/// Something of a log that does not add up. Its place is where what is wrong with it began.
+/// Something of a log that does not add up. Its place is where what is wrong with it began; lines
+/// are LogPositions.
 struct Contradiction : LogPlace
 {
     Rule rule = Rule::NotCredited;
@@ -33,6 +54,12 @@ struct Contradiction : LogPlace
     int collections = 0; ///< of the cassette when they may have come at first
 
     QString ruleKey() const { return keyOf(rule); } ///< "not_credited", ...
+
+    /// "Session 1, line 8, 10:05:12, Bill validator (CCNet): It does not add up."
+    QString headline() const;
+
+    /// What does not, and the lines.
+    QString details() const;
 
     /// All of it in one line.
     QString text() const;

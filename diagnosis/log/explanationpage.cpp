@@ -80,6 +80,16 @@ QString answerItem(const SessionRecord& session, const NoteAnswer& note,
              evidenceLinks(session, note, picture));
 }
 
+QString contradictionItem(const SessionRecord& session, const Contradiction& found)
+{
+    const auto anchor = [&](Anchor kind) {
+        return anchorName(kind, session, found.line, found.device, found.thread, found.ruleKey());
+    };
+    return QStringLiteral("<li class=\"answer\" id=\"%1\"><a href=\"#%2\">%3%4</a> %5</li>\n")
+        .arg(anchor(Anchor::WrongSentence), anchor(Anchor::Wrong), wrongGlyph(),
+             htmlText(found.headline()), htmlText(found.details()));
+}
+
 // How many of the notes that are told of had which outcome, with its mark.
 QString tallies(const SessionRecord& session, const std::vector<NoteAnswer>::const_iterator& begin,
                 const std::vector<NoteAnswer>::const_iterator& end)
@@ -96,6 +106,15 @@ QString tallies(const SessionRecord& session, const std::vector<NoteAnswer>::con
         }
     }
     return text;
+}
+
+QString wrongTally(qint64 count)
+{
+    return count == 0 ? QString()
+                      : QStringLiteral("<span>%1%2</span>\n")
+                            .arg(wrongGlyph(),
+                                 htmlText(Diagnosis::tr("%n that do not add up", nullptr,
+                                                        int(count))));
 }
 
 QString legend()
@@ -160,23 +179,36 @@ void ExplanationPage::add(const NoteAnswer& answer)
     session(answer.session).answers.push_back(answer);
 }
 
-void ExplanationPage::finishSessions(int before, bool onlyRefusals)
+void ExplanationPage::add(const Contradiction& found)
 {
+    if (found.session < m_finished)
+        m_doubts += found.text(); // it came late
+    else
+        session(found.session).contradictions.push_back(found);
+}
+
+void ExplanationPage::finishSessions(int before, Told told, const std::set<int>* only)
+{
+    m_finished = before;
     while (!m_open.empty() && m_open.begin()->first < before) {
         SessionRecord session = std::move(m_open.begin()->second);
         m_open.erase(m_open.begin());
-        session.onlyRefusals = onlyRefusals;
-        const bool anyTold =
-            std::any_of(session.answers.begin(), session.answers.end(),
-                        [&](const NoteAnswer& answer) { return session.isTold(answer); });
-        if (!session.moments.empty() && (anyTold || !onlyRefusals))
+        if (only && only->count(session.number) == 0)
+            continue;
+        session.told = told;
+        const bool anyTold = told == Told::All
+            || (told == Told::Contradictions && !session.contradictions.empty())
+            || std::any_of(session.answers.begin(), session.answers.end(),
+                           [&](const NoteAnswer& answer) { return session.isTold(answer); });
+        if (!session.moments.empty() && anyTold)
             writeSession(session);
     }
 }
 
-void ExplanationPage::endLog(qint64 skipped, bool onlyRefusals)
+void ExplanationPage::endLog(qint64 skipped, Told told, const std::set<int>* only)
 {
-    finishSessions(INT_MAX, onlyRefusals);
+    finishSessions(INT_MAX, told, only);
+    m_finished = 0;
     if (skipped > 0) {
         m_doubts += QStringLiteral("%1: %2").arg(
             m_logs.constLast(),
@@ -204,6 +236,14 @@ void ExplanationPage::writeSession(const SessionRecord& session)
             ++note;
         const QString drawn = picture.draw(parts.at(i), parts.at(i + 1));
         QString sentences;
+        qint64 wrong = 0;
+        for (const Contradiction& found : session.contradictions) {
+            const bool isHere = (i == 0 || found.line >= firstLine) && (isLast || found.line <= lastLine);
+            if (!isHere || !session.isTold(found))
+                continue;
+            sentences += contradictionItem(session, found);
+            ++wrong;
+        }
         for (auto shown = begin; shown != note; ++shown) {
             if (session.isTold(*shown))
                 sentences += answerItem(session, *shown, picture);
@@ -215,7 +255,7 @@ void ExplanationPage::writeSession(const SessionRecord& session)
                                  "class=\"picture\" tabindex=\"0\" role=\"group\" "
                                  "aria-label=\"%5\">\n%6</div>\n%7</details>\n")
                       .arg(m_written++ < unfoldedParts ? QStringLiteral(" open") : QString(),
-                           htmlText(title), htmlText(range), tallies(session, begin, note),
+                           htmlText(title), htmlText(range), tallies(session, begin, note) + wrongTally(wrong),
                            htmlText(Diagnosis::tr("Picture, %1").arg(range)), drawn,
                            sentences.isEmpty()
                                ? QStringLiteral("<p class=\"none\">%1</p>\n")

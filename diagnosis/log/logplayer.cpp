@@ -93,11 +93,13 @@ void LogDevice::take(const DeviceReport& report, qint64 line)
     }();
     report.applyTo(*m_worker->getState());
     m_known |= report.reported;
+    m_conditionBits = 0;
     for (size_t i = 0; i < bits.size(); ++i) {
         // What was never reported is not known.
         const bool holds = (m_known & bits.at(i)) != 0 && Condition::table[i].holds(state());
         qint64& since = m_conditionSince.at(i);
         since = !holds ? 0 : since == 0 ? line : since;
+        m_conditionBits |= holds ? 1U << i : 0U;
     }
 }
 

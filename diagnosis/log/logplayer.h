@@ -67,6 +67,9 @@ public:
     /// What is known to be the matter with it now.
     QVector<MachineCondition> conditions() const;
 
+    /// The same, as a bit for each Condition::Kind.
+    quint32 conditionBits() const { return m_conditionBits; }
+
 private:
     friend class LogPlayer;
 
@@ -87,6 +90,7 @@ private:
     std::vector<FilterMemory> m_filters; // of those that the chain owns, in its order
     quint32 m_known = 0; // bits of the fields that it has reported
     std::array<qint64, Condition::count> m_conditionSince{}; // 0 for one that does not hold
+    quint32 m_conditionBits = 0; // of those that hold
 };
 
 /// What a line of a log led to for one device.

@@ -111,7 +111,7 @@ void MoneyTrail::see(const LogStep& step, const SessionLine& line, qint64 lineNu
         m_watcher.takeCassette(*this, isIn);
         m_isCassetteIn = isIn;
     }
-    m_watcher.takeLine(*this, step);
+    m_watcher.takeReport(*this, step);
     seeSums(step);
     m_changes.clear();
     if ((step.reported & registryBit) != 0)
@@ -245,7 +245,7 @@ bool MoneyTrail::giveRest(const NoteAnswer* note)
     return isInChannel;
 }
 
-// Whether a channel of its value grew, so that the note is in it.
+// Whether a channel of its value grew by it, so that it is there; one that grew by more was filled.
 bool MoneyTrail::takeGrowth(const NoteAnswer& note)
 {
     if (m_act.isInChannel)
@@ -253,7 +253,7 @@ bool MoneyTrail::takeGrowth(const NoteAnswer& note)
     const auto grown =
         std::find_if(m_changes.begin(), m_changes.end(), [&](const ChannelChange& change) {
             const int value = m_channels.at(change.channel).denomination;
-            return change.count > 0 && (!note.hasValue() || note.note == value);
+            return change.count == 1 && (!note.hasValue() || note.note == value);
         });
     if (grown == m_changes.end())
         return false;

@@ -67,7 +67,7 @@ public:
     virtual ~MoneyWatcher() = default;
 
     /// Told for every line of the device, before what it leads to.
-    virtual void takeLine(const MoneyTrail& /*trail*/, const LogStep& /*step*/) { }
+    virtual void takeReport(const MoneyTrail& /*trail*/, const LogStep& /*step*/) { }
 
     virtual void takeContradiction(const MoneyTrail& /*trail*/, const Contradiction& /*found*/) { }
     virtual void takePiece(const MoneyTrail& /*trail*/, const PieceEnd& /*piece*/) { }

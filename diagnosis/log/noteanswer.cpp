@@ -86,13 +86,16 @@ void Summary::add(const NoteAnswer& answer)
 {
     if (answer.hasValue())
         offered.add(answer.note);
-    outcomes.at(size_t(answer.outcome)).add(answer.note);
+    if (answer.hasValue() || answer.outcome == Outcome::Rejected)
+        ++offeredOrRejected;
+    for (const OutcomeWords& words : outcomeWords()) {
+        if (answer.countsAs(words.outcome))
+            outcomes.at(size_t(words.outcome)).add(answer.note);
+    }
     if (answer.outcome != Outcome::Refused)
         return;
     if (answer.isTaken())
         takenAlthoughRefused.add(answer.note);
-    if (answer.isTaken() || answer.end == Outcome::Stuck)
-        outcomes.at(size_t(answer.end)).add(answer.note);
     QStringList names;
     for (const Objection& objection : answer.objections) {
         if (!names.contains(objection.filter))
@@ -108,6 +111,8 @@ void Summary::add(const Summary& other)
     for (size_t i = 0; i < outcomes.size(); ++i)
         outcomes.at(i).add(other.outcomes.at(i));
     takenAlthoughRefused.add(other.takenAlthoughRefused);
+    offeredOrRejected += other.offeredOrRejected;
+    contradictions += other.contradictions;
     for (auto filter = other.refusedBy.begin(); filter != other.refusedBy.end(); ++filter)
         refusedBy[filter.key()] += filter.value();
 }
@@ -127,5 +132,14 @@ QList<Summary::Row> Summary::rows() const
         if (other.outcome != Outcome::Taken && other.outcome != Outcome::Refused)
             rows += row(other.outcome);
     }
+    if (contradictions > 0)
+        rows += {Diagnosis::tr("Does not add up"), {contradictions, 0}, false};
     return rows;
+}
+
+QString Summary::percent(Outcome outcome) const
+{
+    if (offeredOrRejected == 0)
+        return {};
+    return QString::number(100.0 * double(of(outcome).count) / double(offeredOrRejected), 'f', 1);
 }

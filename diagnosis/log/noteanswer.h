@@ -56,6 +56,14 @@ struct NoteAnswer : LogPlace
     /// Whether the log tells of a note at all: that a device accepts is not enough.
     bool isNote() const { return hasValue() || end != Outcome::Unknown; }
 
+    /// Whether it is counted under an outcome: its own, or of a refused note what became of it
+    /// then, if it was taken or got stuck.
+    bool countsAs(Outcome counted) const
+    {
+        return outcome == counted
+            || (end == counted && (counted == Outcome::Taken || counted == Outcome::Stuck));
+    }
+
     QString what() const { return moneyName(device, note); }
 
     /// "Session 1, line 8, 10:05:12, Bill validator (CCNet): note of 1000 refused."
@@ -98,6 +106,9 @@ struct Summary
                                               ///< them too, if they were taken or got stuck
     Tally takenAlthoughRefused;
     QMap<QString, qint64> refusedBy; ///< notes that a filter of that name refused
+    qint64 offeredOrRejected = 0; ///< of whatever value
+    qint64 contradictions = 0; ///< what does not add up
+    bool isIncomplete = false; ///< the logs were not read to their end
 
     void add(const NoteAnswer& answer);
     void add(const Summary& other);
@@ -106,4 +117,8 @@ struct Summary
     QList<Row> rows() const;
 
     const Tally& of(Outcome outcome) const { return outcomes.at(size_t(outcome)); }
+
+    /// How many percent of the notes that were offered or rejected had the outcome, with a digit
+    /// behind the point; empty where there are none.
+    QString percent(Outcome outcome) const;
 };

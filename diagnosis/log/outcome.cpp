@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr std::array<OutcomeWords, outcomeCount> table{{
+constexpr std::array<OutcomeWords, outcomeCount> outcomeTable{{
     {Outcome::Refused, "refused", QT_TRANSLATE_NOOP("Diagnosis", "%1 refused."),
      QT_TRANSLATE_NOOP("Diagnosis", "%n refused"),
      QT_TRANSLATE_NOOP("Diagnosis", "Refused by the filters"),
@@ -47,7 +47,7 @@ constexpr std::array<OutcomeWords, outcomeCount> table{{
 constexpr bool isByOutcome()
 {
     for (int i = 0; i < outcomeCount; ++i) {
-        if (int(table[size_t(i)].outcome) != i || !table[size_t(i)].mark)
+        if (int(outcomeTable[size_t(i)].outcome) != i || !outcomeTable[size_t(i)].mark)
             return false;
     }
     return true;
@@ -58,10 +58,18 @@ static_assert(isByOutcome(), "a row for each Outcome, in its order");
 
 const std::array<OutcomeWords, outcomeCount>& outcomeWords()
 {
-    return table;
+    return outcomeTable;
 }
 
 QString outcomeKey(Outcome outcome)
 {
     return QLatin1String(wordsOf(outcome).key);
+}
+
+QStringList outcomeKeys()
+{
+    QStringList keys;
+    for (const OutcomeWords& words : outcomeTable)
+        keys += QLatin1String(words.key);
+    return keys;
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <array>
 
@@ -40,3 +40,6 @@ inline const OutcomeWords& wordsOf(Outcome outcome)
 
 /// "refused", "taken", ...
 QString outcomeKey(Outcome outcome);
+
+/// Those of all.
+QStringList outcomeKeys();

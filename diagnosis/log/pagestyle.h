@@ -87,6 +87,7 @@ svg .base { stroke: var(--edge); }
 .refused { color: var(--refused); }
 .taken { color: var(--taken); }
 .stuck { color: var(--stuck); }
+.wrong { color: var(--refused); }
 .rejected { color: var(--rejected); }
 .returned { color: var(--returned); }
 .unknown { color: var(--unknown); }

@@ -51,6 +51,9 @@ public:
 
     LogTime time() const { return m_time; }
 
+    /// Replaces the time by the same in another form, or by what is known where there is none.
+    void setTime(const LogTime& time) { m_time = time; }
+
     /// Empty where the line does not name it.
     QString kiosk() const { return m_kiosk; }
 

@@ -79,6 +79,8 @@ QString markShapes()
     return QStringLiteral("<svg width=\"0\" height=\"0\" aria-hidden=\"true\"><defs>\n%1"
                           "<path id=\"ring\" fill-rule=\"evenodd\" d=\"M-11 0A11 11 0 1 1 11 0A11 "
                           "11 0 1 1-11 0zM-9.5 0A9.5 9.5 0 1 0 9.5 0A9.5 9.5 0 1 0-9.5 0z\"/>\n"
+                          "<path id=\"wrong\" fill-rule=\"evenodd\" d=\"M-5-8H5L8-5V5L5 8H-5L-8 "
+                          "5V-5zM-1.4-5.5V1.5H1.4V-5.5zM-1.4 3V5.8H1.4V3z\"/>\n"
                           "</defs></svg>\n")
         .arg(shapes);
 }
@@ -90,6 +92,12 @@ QString markGlyph(Outcome outcome)
         .arg(outcomeKey(outcome));
 }
 
+QString wrongGlyph()
+{
+    return QStringLiteral("<svg class=\"glyph wrong\" viewBox=\"-9 -9 18 18\" "
+                          "aria-hidden=\"true\"><use href=\"#wrong\"/></svg>");
+}
+
 QString markLegend()
 {
     QString items;
@@ -97,5 +105,7 @@ QString markLegend()
         items += QStringLiteral("<li>%1%2</li>\n")
                      .arg(markGlyph(words.outcome), htmlText(Diagnosis::tr(words.meaning)));
     }
+    items += QStringLiteral("<li>%1%2</li>\n")
+                 .arg(wrongGlyph(), htmlText(Diagnosis::tr("does not add up")));
     return items;
 }

@@ -27,5 +27,8 @@ QString markShapes();
 /// A line of words with the mark of an outcome.
 QString markGlyph(Outcome outcome);
 
+/// The same of what does not add up.
+QString wrongGlyph();
+
 /// The marks with their meaning, as HTML list items.
 QString markLegend();

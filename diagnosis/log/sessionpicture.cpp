@@ -171,6 +171,7 @@ void SessionPicture::drawLane(const SessionRecord::Lane& lane)
     m_y += 16;
     m_body += svgText(0, m_y, "name", shortened(lane.name, 0.8 * width));
     drawMarks(lane);
+    drawWrong(lane);
     drawStates(segments);
     drawConditions(lane, segments);
     drawSum(lane, segments);
@@ -225,6 +226,32 @@ void SessionPicture::drawMarks(const SessionRecord::Lane& lane)
         free = x + half + 3;
     }
     m_y = middle + markSize / 2 + 5;
+}
+
+// What does not add up, where it began.
+void SessionPicture::drawWrong(const SessionRecord::Lane& lane)
+{
+    QString drawn;
+    for (const Contradiction& found : m_session.contradictions) {
+        if (!lane.isOf(found) || !m_session.isTold(found) || found.line < m_firstLine
+            || found.line > m_lastLine)
+            continue;
+        const auto anchor = [&](Anchor kind) {
+            return anchorName(kind, m_session, found.line, found.device, found.thread,
+                              found.ruleKey());
+        };
+        drawn += QStringLiteral("<a id=\"%1\" class=\"mark wrong\" href=\"#%2\" tabindex=\"-1\">"
+                                "<title>%3</title><use href=\"#wrong\" x=\"%4\" y=\"%5\"/>"
+                                "<circle class=\"halo\" cx=\"%4\" cy=\"%5\" r=\"11\"/></a>\n")
+                     .arg(anchor(Anchor::Wrong), anchor(Anchor::WrongSentence),
+                          htmlText(found.text()), number(xOf(found.line) + markSize / 2),
+                          number(m_y + 10));
+    }
+    if (drawn.isEmpty())
+        return;
+    label(Diagnosis::tr("does not add up"), m_y + 14);
+    m_body += drawn;
+    m_y += 24;
 }
 
 void SessionPicture::drawStates(const std::vector<Segment>& segments)

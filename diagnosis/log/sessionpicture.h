@@ -39,6 +39,7 @@ private:
     std::vector<Segment> segmentsOf(const SessionRecord::Lane& lane) const;
     void drawLane(const SessionRecord::Lane& lane);
     void drawMarks(const SessionRecord::Lane& lane);
+    void drawWrong(const SessionRecord::Lane& lane);
     qint64 sentenceOf(const NoteAnswer& answer) const;
     void drawStates(const std::vector<Segment>& segments);
     void drawConditions(const SessionRecord::Lane& lane, const std::vector<Segment>& segments);

@@ -61,15 +61,15 @@ std::vector<size_t> SessionRecord::parts() const
 QString anchorName(Anchor kind, const SessionRecord& session, qint64 line, quint32 device,
                    quint32 thread, const QString& what)
 {
-    static constexpr char letters[] = {'m', 'n', 'e', 'c'};
+    static constexpr char letters[] = {'m', 'n', 'e', 'c', 'w', 'r'};
     const QString name = QStringLiteral("%1%2-%3-%4.%5")
                              .arg(QLatin1Char(letters[int(kind)]))
                              .arg(session.log)
                              .arg(line)
                              .arg(device)
                              .arg(thread);
-    // A condition outlives sessions, its place does not.
-    return kind == Anchor::Condition
+    // A condition outlives sessions, its place does not. Of one line several things may be wrong.
+    return !what.isEmpty()
         ? QStringLiteral("%1-%2-%3").arg(name, what).arg(session.number)
         : name;
 }

@@ -3,12 +3,16 @@
 
 #pragma once
 
+#include "log/contradiction.h"
 #include "log/noteanswer.h"
 
 #include <QString>
 #include <QVector>
 
 #include <vector>
+
+/// What is told of a session.
+enum class Told { All, Refusals, Contradictions };
 
 /// What a picture of a session shows.
 struct SessionRecord
@@ -36,9 +40,9 @@ struct SessionRecord
         QString name;
         std::vector<Event> events; // by line
 
-        bool isOf(const NoteAnswer& answer) const
+        bool isOf(const LogPlace& place) const
         {
-            return answer.device == device && answer.thread == thread;
+            return place.device == device && place.thread == thread;
         }
     };
 
@@ -47,12 +51,15 @@ struct SessionRecord
     std::vector<Moment> moments; // by line
     std::vector<Lane> lanes;
     std::vector<NoteAnswer> answers; // by line
-    bool onlyRefusals = false; // what is told
+    std::vector<Contradiction> contradictions; // as they came
+    Told told = Told::All;
 
     bool isTold(const NoteAnswer& answer) const
     {
-        return !onlyRefusals || answer.outcome == Outcome::Refused;
+        return told == Told::All
+            || (told == Told::Refusals && answer.outcome == Outcome::Refused);
     }
+    bool isTold(const Contradiction& /*found*/) const { return told != Told::Refusals; }
 
     void add(const LogDevice& device, const LogTime& time, qint64 line);
 
@@ -64,7 +71,7 @@ struct SessionRecord
 };
 
 /// The kinds of places on a page that links lead to.
-enum class Anchor { Mark, Sentence, Evidence, Condition };
+enum class Anchor { Mark, Sentence, Evidence, Condition, Wrong, WrongSentence };
 
 /// The name of a place: of a line of the log that is about a device.
 QString anchorName(Anchor kind, const SessionRecord& session, qint64 line, quint32 device,

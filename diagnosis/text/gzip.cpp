@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int chunkSize = 64 * 1024;
+constexpr int compressedSize = 64 * 1024;
 
 } // namespace
 
@@ -48,9 +48,9 @@ int Gzip::read(char* text, int size)
     m_stream->avail_out = static_cast<uInt>(size);
     while (m_stream->avail_out == static_cast<uInt>(size)) {
         if (m_stream->avail_in == 0) {
-            m_data.resize(chunkSize);
+            m_data.resize(compressedSize);
             m_stream->next_in = reinterpret_cast<Bytef*>(m_data.data());
-            m_stream->avail_in = static_cast<uInt>(m_source(m_data.data(), chunkSize));
+            m_stream->avail_in = static_cast<uInt>(m_source(m_data.data(), compressedSize));
         }
         const bool isEnd = m_stream->avail_in == 0;
         for (; !m_inMember && m_stream->avail_in > 0 && *m_stream->next_in == 0;

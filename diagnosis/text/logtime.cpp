@@ -70,6 +70,15 @@ LogTime::LogTime(const QVariant& value)
     }
 }
 
+LogTime LogTime::unknownAfter(const LogTime& before)
+{
+    const std::optional<qint64> moment = before.latestMoment();
+    LogTime time;
+    time.m_isAfter = moment.has_value();
+    time.m_milliseconds = moment.value_or(0);
+    return time;
+}
+
 QString LogTime::iso() const
 {
     if (!m_hasMilliseconds)
@@ -96,7 +105,8 @@ std::optional<qint64> LogTime::moment() const
         return toDateTime().toMSecsSinceEpoch();
     const bool isUtc = m_text.endsWith(QLatin1Char('Z'));
     const int size = int(m_text.size()) - (isUtc ? 1 : 0);
-    const QString ofThis = m_text.left(minuteOfHour) + (isUtc ? QLatin1Char('Z') : QLatin1Char(' '));
+    const QString ofThis =
+        m_text.left(minuteOfHour) + (isUtc ? QLatin1Char('Z') : QLatin1Char(' '));
     if (ofThis != hour) {
         hour = ofThis;
         hourBegins = QDateTime::fromString(m_text.left(minuteOfHour) + QLatin1String(":00:00")
@@ -108,10 +118,17 @@ std::optional<qint64> LogTime::moment() const
     return hourBegins + (twoDigits(m_text, 14) * 60 + twoDigits(m_text, 17)) * 1000 + fraction;
 }
 
+std::optional<qint64> LogTime::latestMoment() const
+{
+    return m_isAfter ? m_milliseconds : moment();
+}
+
 LogTime LogTime::utc() const
 {
+    if (!isKnown())
+        return *this;
     LogTime time;
-    time.m_hasMilliseconds = isKnown();
+    time.m_hasMilliseconds = true;
     time.m_milliseconds = moment().value_or(0);
     return time;
 }

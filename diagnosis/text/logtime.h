@@ -19,6 +19,9 @@ public:
     /// Throws Fault for a value that is no time.
     explicit LogTime(const QVariant& value);
 
+    /// That of a line without one, which is not known but comes after @p before.
+    static LogTime unknownAfter(const LogTime& before);
+
     bool isKnown() const { return m_hasMilliseconds || !m_text.isEmpty(); }
 
     /// The text as it stands, or the milliseconds in UTC; empty when not known.
@@ -30,6 +33,9 @@ public:
     /// The same, in milliseconds since 1970; a text without a zone is of the local one. None when
     /// not known.
     std::optional<qint64> moment() const;
+
+    /// The same, or when not known that of the time before it; none without one.
+    std::optional<qint64> latestMoment() const;
 
     /// The same moment as UTC shows it; not known when this is not.
     LogTime utc() const;
@@ -46,4 +52,5 @@ private:
     QString m_text;
     qint64 m_milliseconds = 0;
     bool m_hasMilliseconds = false;
+    bool m_isAfter = false; // not known, but not before the milliseconds
 };

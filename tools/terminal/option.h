@@ -22,6 +22,7 @@ enum class Kind {
     DeviceIndex,
     Language,
     FilterName,
+    Outcome, ///< of a note
     Number,
 };
 

@@ -15,12 +15,12 @@ JsonText jsonOf(const QVector<Objection>& objections)
     });
 }
 
+} // namespace
+
 JsonText jsonOf(const LogTime& time)
 {
     return time.isKnown() ? JsonText(time.iso()) : JsonText::null();
 }
-
-} // namespace
 
 JsonText jsonOf(const Tally& tally)
 {
@@ -68,6 +68,41 @@ JsonText jsonOf(const QStringList& logs, const Contradiction& found)
          {"text", found.sentence}});
 }
 
+JsonText jsonOf(const QString& log, const ConditionSpan& span)
+{
+    const auto lineOf = [](const ConditionSpan::Place& place) {
+        return place.line > 0 ? JsonText(place.line) : JsonText::null();
+    };
+    return JsonText::object({{"kind", QStringLiteral("condition")},
+                             {"log", log},
+                             {"device", qint64(span.device)},
+                             {"thread", qint64(span.thread)},
+                             {"from_line", span.from.line},
+                             {"to_line", lineOf(span.to)},
+                             {"from", jsonOf(span.from.time)},
+                             {"to", jsonOf(span.to.time)},
+                             {"conditions", JsonText::list(span.keys())},
+                             {"last_note_line", lineOf(span.lastNote)},
+                             {"last_note", jsonOf(span.lastNote.time)},
+                             {"text", span.text()}});
+}
+
+JsonText jsonOf(const QString& log, const LogDevice& device, const Summary& summary)
+{
+    return JsonText::object({{"kind", QStringLiteral("device_totals")},
+                             {"log", log},
+                             {"device", qint64(device.deviceId())},
+                             {"thread", qint64(device.threadId())},
+                             {"name", device.name()},
+                             {"offered", jsonOf(summary.offered)},
+                             {"taken", jsonOf(summary.of(Outcome::Taken))},
+                             {"refused", jsonOf(summary.of(Outcome::Refused))},
+                             {"stuck", jsonOf(summary.of(Outcome::Stuck))},
+                             {"rejected", jsonOf(summary.of(Outcome::Rejected))},
+                             {"returned", jsonOf(summary.of(Outcome::Returned))},
+                             {"unknown", jsonOf(summary.of(Outcome::Unknown))}});
+}
+
 JsonText jsonOf(const QString& log, const Difference& difference)
 {
     const NoteAnswer& note = difference.note;
@@ -96,17 +131,22 @@ JsonText jsonOf(const Summary& summary)
     for (auto filter = summary.refusedBy.begin(); filter != summary.refusedBy.end(); ++filter)
         by.insert(filter.key(), filter.value());
     const Tally& refused = summary.of(Outcome::Refused);
-    return JsonText::object({{"kind", QStringLiteral("summary")},
-                             {"sessions", summary.sessions},
-                             {"offered", jsonOf(summary.offered)},
-                             {"taken", jsonOf(summary.of(Outcome::Taken))},
-                             {"refused",
-                              JsonText::object({{"count", refused.count},
-                                                {"sum", refused.sum},
-                                                {"by", JsonText::of(by)},
-                                                {"taken", jsonOf(summary.takenAlthoughRefused)}})},
-                             {"stuck", jsonOf(summary.of(Outcome::Stuck))},
-                             {"rejected", jsonOf(summary.of(Outcome::Rejected))},
-                             {"returned", jsonOf(summary.of(Outcome::Returned))},
-                             {"unknown", jsonOf(summary.of(Outcome::Unknown))}});
+    JsonText text =
+        JsonText::object({{"kind", QStringLiteral("summary")},
+                          {"sessions", summary.sessions},
+                          {"contradictions", summary.contradictions},
+                          {"offered", jsonOf(summary.offered)},
+                          {"taken", jsonOf(summary.of(Outcome::Taken))},
+                          {"refused",
+                           JsonText::object({{"count", refused.count},
+                                             {"sum", refused.sum},
+                                             {"by", JsonText::of(by)},
+                                             {"taken", jsonOf(summary.takenAlthoughRefused)}})},
+                          {"stuck", jsonOf(summary.of(Outcome::Stuck))},
+                          {"rejected", jsonOf(summary.of(Outcome::Rejected))},
+                          {"returned", jsonOf(summary.of(Outcome::Returned))},
+                          {"unknown", jsonOf(summary.of(Outcome::Unknown))}});
+    if (summary.isIncomplete)
+        text.replace(text.size() - 1, 1, R"(,"incomplete":true})");
+    return text;
 }

@@ -8,11 +8,6 @@
 
 namespace {
 
-JsonText jsonOf(const LogTime& time)
-{
-    return time.isKnown() ? JsonText(time.iso()) : JsonText::null();
-}
-
 template <typename Value>
 JsonText jsonOf(const std::optional<Value>& value)
 {
@@ -97,7 +92,6 @@ JsonText jsonOf(const QStringList& logs, const KioskCash& kiosk, const CashDiffe
 QByteArray cashJson(const CashAnswer& answer)
 {
     QByteArray text;
-    qint64 contradictions = 0;
     for (const KioskCash& kiosk : answer.kiosks) {
         for (const CashPeriod& period : kiosk.periods) {
             text += jsonOf(kiosk, period) + '\n';
@@ -108,14 +102,10 @@ QByteArray cashJson(const CashAnswer& answer)
             text += jsonOf(answer.logs, kiosk, difference) + '\n';
         for (const Contradiction& found : kiosk.contradictions)
             text += jsonOf(answer.logs, found) + '\n';
-        contradictions += qint64(kiosk.contradictions.size());
     }
     QByteArray summary = jsonOf(answer.summary);
     summary.insert(summary.size() - 1,
-                   QStringLiteral(R"(,"devices":%1,"contradictions":%2)")
-                       .arg(answer.devices)
-                       .arg(contradictions)
-                       .toUtf8());
+                   QStringLiteral(R"(,"devices":%1)").arg(answer.devices).toUtf8());
     return text + summary + '\n';
 }
 

@@ -48,6 +48,7 @@ public:
             answer.kiosks.push_back({name, known->ledger.periods(m_isLogMissing),
                                      std::move(known->contradictions), {}});
             answer.summary.add(known->ledger.summary());
+            answer.summary.contradictions += qint64(answer.kiosks.back().contradictions.size());
             answer.devices += known->ledger.devices();
         }
         if (m_device && answer.devices == 0)

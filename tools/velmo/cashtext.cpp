@@ -89,11 +89,9 @@ QString contradictionsText(const CashAnswer& answer, const KioskCash& kiosk)
         return Velmo::tr("Everything adds up.") + QLatin1Char('\n');
     QString text = Velmo::tr("What does not add up:") + QLatin1Char('\n');
     for (const Contradiction& found : kiosk.contradictions) {
-        Contradiction shown = found;
-        shown.line = LogPosition::line(found.line);
         const QString log = answer.logs.value(LogPosition::log(found.line));
         const QString place = answer.logs.size() == 1 ? QString() : log + QStringLiteral(": ");
-        text += wrapped(printable(QStringLiteral("  ") + place + shown.text()), 4, outputWidth());
+        text += wrapped(printable(QStringLiteral("  ") + place + found.text()), 4, outputWidth());
     }
     return text;
 }

@@ -19,7 +19,8 @@ const std::vector<Command>& commands()
     static const std::vector<Command> table{
         {"explain",
          {sessionLogs},
-         {&options::session, &options::device, &options::refusals, &options::summary,
+         {&options::session, &options::device, &options::from, &options::to, &options::note,
+          &options::outcome, &options::refusals, &options::contradictions, &options::summary, &options::utc,
           &options::exitCode, &options::json, &options::html, &options::keepGoing},
          explainCommand,
          QT_TRANSLATE_NOOP("Velmo", "Why notes were refused: one answer for every note of a log."),

@@ -6,6 +6,7 @@
 #include "commands.h"
 #include "filterfactory.h"
 #include "input.h"
+#include "log/outcome.h"
 #include "settings/settingslist.h"
 
 #include <algorithm>
@@ -127,6 +128,8 @@ QStringList candidatesFor(Kind kind, const QStringList& operands = {}, const QSt
         return translationLanguages();
     case Kind::FilterName:
         return FilterFactory::getFilters();
+    case Kind::Outcome:
+        return outcomeKeys();
     case Kind::Number:
     case Kind::Text:
     case Kind::None:

@@ -91,7 +91,7 @@ bool takeLine(TextInput& file, bool keepGoing,
 
 int processLines(TextInput& file, bool keepGoing,
                  const std::function<QByteArray(const QByteArray& line)>& toText,
-                 const std::function<void()>& skipLine)
+                 const std::function<void()>& skipLine, std::optional<Fault>* ending)
 {
     QFile output;
     openOutput(output);
@@ -109,7 +109,17 @@ int processLines(TextInput& file, bool keepGoing,
         ++skipped;
         skipLine();
     };
-    while (takeLine(file, keepGoing, take, skip)) {
+    const auto takeNext = [&] {
+        try {
+            return takeLine(file, keepGoing, take, skip);
+        } catch (const Fault& fault) {
+            if (!ending)
+                throw;
+            *ending = fault;
+            return false;
+        }
+    };
+    while (takeNext()) {
         if (result.isEmpty())
             continue;
         writeText(output, std::exchange(result, {}));
@@ -119,7 +129,7 @@ int processLines(TextInput& file, bool keepGoing,
     flushText(output);
     progress.erase();
     if (skipped == 0)
-        return exitSuccess;
+        return ending && *ending ? exitBadInput : exitSuccess;
     printError(Velmo::tr("bad lines skipped: %1").arg(skipped));
     return exitBadInput;
 }

@@ -35,13 +35,31 @@ constexpr Option session{"session", nullptr, Value("N", Kind::Number),
                          QT_TRANSLATE_NOOP("Velmo", "Only session N, counted from 1 in each log.")};
 constexpr Option device{"device", nullptr, Value("ID", Kind::Number),
                         QT_TRANSLATE_NOOP("Velmo", "Only the device with that identifier.")};
+constexpr Option from{
+    "from", nullptr, Value("TIME", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "Only from that time on, as 2026-11-16T10:05:12 of the local zone, with Z or "
+                      "an offset, or from the beginning of a date.")};
+constexpr Option to{"to", nullptr, Value("TIME", Kind::Text),
+                    QT_TRANSLATE_NOOP("Velmo", "Only up to that time, or to the end of a date.")};
+constexpr Option note{"note", nullptr, Value("VALUE", Kind::Number, 1),
+                      QT_TRANSLATE_NOOP("Velmo", "Only notes of that face value.")};
+constexpr Option outcome{
+    "outcome", nullptr, Value("NAME", Kind::Outcome),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "Only notes of which that became: refused, taken, stuck, rejected, returned "
+                      "or unknown.")};
+constexpr Option utc{"utc", nullptr, Value(), QT_TRANSLATE_NOOP("Velmo", "Show times in UTC.")};
 constexpr Option refusals{"refusals", nullptr, Value(),
                           QT_TRANSLATE_NOOP("Velmo", "Show only what the filters refused.")};
+constexpr Option contradictions{"contradictions", nullptr, Value(),
+                                QT_TRANSLATE_NOOP("Velmo", "Show only what does not add up.")};
 constexpr Option summary{"summary", nullptr, Value(),
                          QT_TRANSLATE_NOOP("Velmo", "Show only the summary.")};
 constexpr Option exitCode{
     "exit-code", nullptr, Value(),
-    QT_TRANSLATE_NOOP("Velmo", "Make the exit code 1 when the filters refused something.")};
+    QT_TRANSLATE_NOOP("Velmo", "Make the exit code 1 when the filters refused something, or "
+                               "something does not add up.")};
 constexpr Option html{
     "html", nullptr, Value("PAGE.html", Kind::File),
     QT_TRANSLATE_NOOP("Velmo", "Write a page with pictures to PAGE.html in place of text.")};
