@@ -34,6 +34,10 @@ constexpr const char* creditAlone =
 constexpr const char* gap = QT_TRANSLATE_N_NOOP("Diagnosis", "%n lines were skipped");
 constexpr const char* unseenCollection = QT_TRANSLATE_N_NOOP(
     "Diagnosis", "lines were skipped in which the cassette may have been emptied");
+constexpr const char* unknownPlace = QT_TRANSLATE_N_NOOP(
+    "Diagnosis", "of %n pieces the registry does not tell whether they are in a channel");
+constexpr const char* uncounted = QT_TRANSLATE_N_NOOP(
+    "Diagnosis", "the registry was told for the first time while channels were floated or emptied");
 constexpr const char* unexplained =
     QT_TRANSLATE_N_NOOP("Diagnosis", "%n pieces left a channel, and the log does not say why");
 constexpr const char* unfinished =
@@ -42,7 +46,8 @@ constexpr const char* unfinished =
 
 bool isSure(const PieceEnd& piece)
 {
-    return piece.end == Outcome::Taken && piece.isSure && piece.note > 0 && !piece.otherNote;
+    return piece.end == Outcome::Taken && piece.isSure && piece.isPlaceKnown && piece.note > 0
+        && !piece.otherNote;
 }
 
 const char* doubtOf(const PieceEnd& piece)
@@ -51,6 +56,7 @@ const char* doubtOf(const PieceEnd& piece)
         : piece.end != Outcome::Taken  ? unknownEnd
         : piece.note <= 0              ? noValue
         : piece.otherNote              ? otherValue
+        : !piece.isPlaceKnown          ? unknownPlace
                                        : inHandAtGap;
 }
 
@@ -86,6 +92,9 @@ CashBook::Period& CashBook::openPeriod(const PieceRange& opening)
         const CashChannel& channel = m_trail.channels().at(i);
         CashFlow& flow = period.channels.emplace_back();
         flow.opening = channelNow(i);
+        if (i < m_fewer.size() && m_fewer.at(i) > 0)
+            addDoubt(period, here(), unfinished, m_fewer.at(i), CashPlace::Channel,
+                     channel.denomination, channel.number);
         CashFlow& reject = rejects(period, channel);
         reject.opening += m_trail.areChannelsKnown() ? PieceRange::exactly(channel.rejected)
                                                      : PieceRange::atLeast(channel.rejected);
@@ -195,7 +204,7 @@ void CashBook::takeReport(bool hasCash)
 void CashBook::skipLine()
 {
     ++m_skipped;
-    if (m_periods.empty())
+    if (m_isOut || m_periods.empty())
         return;
     Period& now = m_periods.back();
     now.isUnbounded = true;
@@ -207,8 +216,6 @@ void CashBook::skipLine()
 
 void CashBook::mayBeCollected(Period& period)
 {
-    if (m_isOut)
-        return;
     addDoubt(period, here(), unseenCollection, 0, CashPlace::Cassette, 0);
     for (const auto& [kind, flow] : period.cassette)
         period.lost[kind] += cassetteNow(period, kind, flow).min;
@@ -347,27 +354,47 @@ void CashBook::takeChange(MoneyAct act, const ChannelChange& change)
     addContent(*now);
 }
 
-void CashBook::takeUnfinished(MoneyAct act, int channel, const std::vector<ChannelChange>& moved)
+void CashBook::takeUncounted()
 {
     Period* const now = period();
+    if (!now)
+        return;
+    now->isUnbounded = true;
+    addDoubt(*now, here(), uncounted, 1, CashPlace::Cassette, 0);
+    addContent(*now);
+}
+
+void CashBook::takeUnfinished(const UnfinishedAct& act)
+{
     m_fewer.resize(m_trail.channels().size());
     for (size_t i = 0; i < m_fewer.size(); ++i) {
         const CashChannel& row = m_trail.channels().at(i);
-        const bool isAtWork = channel <= 0 || row.number == channel;
-        const qint64 onTheWay = !isAtWork ? 0 : moved.empty() ? row.count : qMin<qint64>(1, row.count);
-        m_fewer.at(i) = qMax(m_fewer.at(i), onTheWay);
-        const bool wasLast = !moved.empty() && moved.back().channel == i;
-        if (!now || (onTheWay == 0 && !wasLast))
+        // Where nothing was told, all may have left it; else the next piece.
+        const bool isAtWork = act.channel <= 0 || row.number == act.channel;
+        const qint64 untold =
+            act.areCounted || !isAtWork ? 0 : act.moved.empty() ? row.count : qMin<qint64>(1, row.count);
+        m_fewer.at(i) = qMax(m_fewer.at(i), untold);
+        qint64 left = 0;
+        for (const ChannelChange& change : act.moved)
+            left += change.channel == i ? qMax<qint64>(0, -change.count) : 0;
+        if (left + untold == 0)
             continue;
-        now->channels.at(i).moved.widen(onTheWay, 0);
-        // A piece may be between the places, or in the one that it was not on its way to.
-        CashFlow& into = cassette(*now, kindOf(row));
-        into.moved.widen(act != MoneyAct::Payout && wasLast ? 1 : 0, onTheWay + (wasLast ? 1 : 0));
-        rejects(*now, row).moved.widen(0, onTheWay + (wasLast ? 1 : 0));
-        addDoubt(*now, here(), unfinished, onTheWay + (wasLast ? 1 : 0), {}, row.denomination, row.number);
+        for (Period& period : m_periods) {
+            if (period.collections < act.collections || period.collections > act.collectionsAtEnd)
+                continue;
+            // What left it for the cassette may not have come there, what was to be paid may have.
+            qint64 counted = 0; // as come into the cassette
+            for (const ChannelChange& change : act.moved) {
+                if (act.kind != MoneyAct::Payout && change.channel == i
+                    && change.collections == period.collections)
+                    counted += qMax<qint64>(0, -change.count);
+            }
+            period.channels.at(i).moved.widen(untold, 0);
+            cassette(period, kindOf(row)).moved.widen(counted, untold + left - counted);
+            addDoubt(period, here(), unfinished, left + untold, {}, row.denomination, row.number);
+            addContent(period);
+        }
     }
-    if (now)
-        addContent(*now);
 }
 
 void CashBook::takeCassette(bool isIn)
@@ -527,6 +554,8 @@ QStringList CashBook::whyOf(const Period& period, const CashRow& row) const
             Diagnosis::tr(doubt.reason, nullptr, int(qMin<qint64>(doubt.pieces, INT_MAX))),
             placesOf(doubt));
     }
+    if (why.isEmpty() && !row.now.isExact())
+        why += Diagnosis::tr("lines were skipped since it was told");
     return why;
 }
 

@@ -38,7 +38,8 @@ public:
     void takeChange(MoneyAct act, const ChannelChange& change);
     void takeChannel(size_t channel);
     void takeCassette(bool isIn);
-    void takeUnfinished(MoneyAct act, int channel, const std::vector<ChannelChange>& moved);
+    void takeUncounted();
+    void takeUnfinished(const UnfinishedAct& act);
 
     /// As things stand.
     std::vector<CashPeriod> periods() const;

@@ -121,8 +121,12 @@ void CashLedger::takeCassette(const MoneyTrail& trail, bool isIn)
     bookOf(trail).takeCassette(isIn);
 }
 
-void CashLedger::takeUnfinished(const MoneyTrail& trail, MoneyAct act, int channel,
-                                const std::vector<ChannelChange>& moved)
+void CashLedger::takeUncounted(const MoneyTrail& trail)
 {
-    bookOf(trail).takeUnfinished(act, channel, moved);
+    bookOf(trail).takeUncounted();
+}
+
+void CashLedger::takeUnfinished(const MoneyTrail& trail, const UnfinishedAct& act)
+{
+    bookOf(trail).takeUnfinished(act);
 }

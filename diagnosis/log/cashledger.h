@@ -56,8 +56,8 @@ private:
     void takeChange(const MoneyTrail& trail, MoneyAct act, const ChannelChange& change) override;
     void takeChannel(const MoneyTrail& trail, size_t channel) override;
     void takeCassette(const MoneyTrail& trail, bool isIn) override;
-    void takeUnfinished(const MoneyTrail& trail, MoneyAct act, int channel,
-                        const std::vector<ChannelChange>& moved) override;
+    void takeUncounted(const MoneyTrail& trail) override;
+    void takeUnfinished(const MoneyTrail& trail, const UnfinishedAct& act) override;
     bool isAsked(quint32 device) const { return !m_device || device == *m_device; }
     CashBook& bookOf(const MoneyTrail& trail);
 

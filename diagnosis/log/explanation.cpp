@@ -101,8 +101,10 @@ void LogExplainer::takeStep(const LogStep& step, const SessionLine& line, qint64
     if (step.startsSession) {
         // What the device has in hand goes on into the next session, where only what is told there
         // says what becomes of it.
-        if (trail.note)
+        if (trail.note) {
             trail.note->answer.end = Outcome::Unknown;
+            trail.note->isInterrupted = true;
+        }
         trail.money->startSession(trail.answer());
     }
     trail.money->see(step, line, lineNumber);
@@ -115,6 +117,8 @@ void LogExplainer::takeStep(const LogStep& step, const SessionLine& line, qint64
         watch(device, *trail.note, lineNumber); // a first report may tell of what is no event
     }
     count(trail);
+    if (trail.note && trail.note->phase == InHand)
+        trail.note->piece.collectionsAtEnd = trail.money->collections();
     if (trail.money->giveRest(trail.answer()))
         keepInChannel(trail, lineNumber);
     closeUnlessInHand();
@@ -133,7 +137,7 @@ void LogExplainer::keepInChannel(Trail& trail, qint64 lineNumber)
 
 void LogExplainer::count(Trail& trail)
 {
-    if (trail.note && trail.note->answer.isNote() && !std::exchange(trail.note->isCounted, true))
+    if (trail.note && trail.note->answer.isNote())
         trail.money->countNote();
 }
 
@@ -144,8 +148,7 @@ void LogExplainer::finish()
         Note* const note = trail.note;
         if (note && note->phase == InHand && !note->piece.isInChannel) {
             // It is on its way still.
-            const bool isNote = note->answer.isNote() || device->state().state == STATE_RETURNING;
-            if (isNote && note->stoppedLine == 0 && note->answer.outcome != Outcome::Refused)
+            if (note->answer.isNote() && note->stoppedLine == 0 && note->answer.outcome != Outcome::Refused)
                 note->stoppedLine = note->seenLine;
             note->answer.end = Outcome::Unknown;
         }
@@ -288,6 +291,7 @@ void LogExplainer::follow(const LogDevice& device, Note& note, bool isNewState, 
         answer.end = Outcome::Returned;
     else if (state == STATE_RETURNING)
         answer.end = Outcome::Unknown;
+    answer.isSeen = answer.isSeen || isKept || state == STATE_RETURNING;
     if (answer.end != before) {
         answer.lastLine = lineNumber;
         note.piece.collectionsAtEnd = trailOf(device).money->collections();
@@ -325,6 +329,8 @@ void LogExplainer::close(const LogDevice& device)
     if (!trail.note)
         return;
     count(trail);
+    if (trail.note->answer.line > 0 && trail.money->isNoteCounted())
+        trail.note->answer.isSeen = true;
     Note& note = *std::exchange(trail.note, nullptr);
     note.isOpen = false;
     NoteAnswer& answer = note.answer;
@@ -348,14 +354,13 @@ void LogExplainer::close(const LogDevice& device)
     if (skipped > 0)
         answer.uncertain += Diagnosis::tr("%n lines were skipped in this session", nullptr,
                                           static_cast<int>(qMin<qint64>(skipped, INT_MAX)));
-    if (!answer.isNote())
+    // Where it was interrupted, it may have been one.
+    if (!answer.isNote() && !note.isInterrupted)
         return;
     static_cast<LogPlace&>(note.piece) = answer;
     note.piece.note = answer.note;
     note.piece.end = answer.end;
     note.piece.isSure = m_player.skippedLines() == note.skippedBeforeNote;
-    if (answer.end == Outcome::Unknown || answer.end == Outcome::Stuck)
-        note.piece.collectionsAtEnd = trail.money->collections();
     trail.money->closeNote(answer, note.piece);
 }
 

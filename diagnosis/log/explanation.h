@@ -64,7 +64,7 @@ private:
         bool isOpen = true;
         bool isValuePresumed = false; // the log did not tell it of this note
         bool startSeen = false; // of the session
-        bool isCounted = false; // as a note
+        bool isInterrupted = false; // by a session that began
         qint64 skippedBefore = 0; // the session
         qint64 skippedBeforeNote = 0;
     };

@@ -85,7 +85,7 @@ QString contradictionItem(const SessionRecord& session, const Contradiction& fou
     const auto anchor = [&](Anchor kind) {
         return anchorName(kind, session, found.line, found.device, found.thread, found.ruleKey());
     };
-    return QStringLiteral("<li class=\"answer\" id=\"%1\"><a href=\"#%2\">%3%4</a> %5</li>\n")
+    return QStringLiteral("<li class=\"contradiction\" id=\"%1\"><a href=\"#%2\">%3%4</a> %5</li>\n")
         .arg(anchor(Anchor::WrongSentence), anchor(Anchor::Wrong), wrongGlyph(),
              htmlText(found.headline()), htmlText(found.details()));
 }

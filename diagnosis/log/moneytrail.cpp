@@ -16,6 +16,7 @@ namespace {
 const quint32 sumBit = DeviceReport::bit(deviceStateDescConst::SESSION_SUM);
 const quint32 paidBit = DeviceReport::bit(deviceStateDescConst::DISPENSED_SUM);
 const quint32 cassetteBit = DeviceReport::bit(deviceStateDescConst::STACKER_PRESENT);
+const quint32 stateBit = DeviceReport::bit(deviceStateDescConst::STATE);
 const quint32 registryBit = DeviceReport::bit(DispenserRegistryModel::DISPENSER_REGISTRY);
 
 constexpr size_t mostWithheld = 1000;
@@ -92,6 +93,7 @@ LogPlace MoneyTrail::here() const
 void MoneyTrail::skipLine()
 {
     m_act.hasGap = true;
+    m_isAfterGap = true;
     m_areChannelsKnown = false;
     m_sum.reset();
     m_paid.reset();
@@ -102,8 +104,15 @@ void MoneyTrail::see(const LogStep& step, const SessionLine& line, qint64 lineNu
     m_line = lineNumber;
     m_time = line.time();
     m_newCounter = step.notesInserted;
+    const State state = m_device.state().state;
+    const bool mayBegin =
+        state != m_state && (state == STATE_ACCEPTING || state == STATE_REJECTED);
+    m_isNoteMissing = m_newCounter && m_counter
+        && *m_newCounter - *m_counter > m_notes + int(m_isUncounted) + int(mayBegin);
     if (step.startsSession)
         m_sum = m_paid = 0;
+    else if (m_isFirst && !m_device.sessionStartSeen() && (step.reported & stateBit) == 0)
+        m_act.kind = MoneyAct::Unseen;
     if ((step.reported & cassetteBit) != 0) {
         const bool isIn = m_device.state().stackerPresent;
         if (!isIn && m_isCassetteIn)
@@ -164,7 +173,7 @@ void MoneyTrail::seeRegistry()
     const bool isFirst = m_channels.empty();
     std::vector<ChannelChange> told(m_channels.size());
     for (size_t i = 0; i < told.size(); ++i) {
-        told.at(i) = {i, 0, 0};
+        told.at(i) = {i, 0, 0, m_collections};
         m_channels.at(i).isTold = false;
     }
     for (const DispenserRegistryItem& row : m_device.state().dispenserRegistry) {
@@ -174,7 +183,7 @@ void MoneyTrail::seeRegistry()
             m_channels.push_back(
                 {row.channel, row.denomination, row.billType, row.currency, 0, 0, true});
             channel = m_channels.end() - 1;
-            told.push_back({m_channels.size() - 1, 0, 0});
+            told.push_back({m_channels.size() - 1, 0, 0, m_collections});
         }
         channel->isTold = true;
         if (channel->currency.isEmpty())
@@ -188,7 +197,7 @@ void MoneyTrail::seeRegistry()
         if (!channel.isTold)
             continue;
         const ChannelChange change{now.channel, now.count - channel.count,
-                                   now.rejected - channel.rejected};
+                                   now.rejected - channel.rejected, m_collections};
         channel.count = now.count;
         channel.rejected = now.rejected;
         const bool isNew = now.channel >= m_knownChannels;
@@ -202,8 +211,10 @@ void MoneyTrail::seeRegistry()
             m_watcher.takeChange(*this, MoneyAct::Unseen, change);
     }
     m_knownChannels = m_channels.size();
-    if (isFirst || !m_areChannelsKnown)
+    if (isFirst || !m_areChannelsKnown) {
         m_act.isPaidKnown = false;
+        m_act.isRegistryNew = m_isRegistryNew = !m_channels.empty();
+    }
     m_areChannelsKnown = true;
 }
 
@@ -220,7 +231,7 @@ bool MoneyTrail::giveToLast(const NoteAnswer* note)
 {
     const NoteAnswer* const last = noteOfAct(note);
     bool isInChannel = false;
-    if (last && !isGivenBack(last->end)) {
+    if (last && !isGivenBack(last->end) && !m_isNoteMissing) {
         isInChannel = takeGrowth(*last);
         if (m_act.credit == 0)
             takeCredit();
@@ -228,21 +239,32 @@ bool MoneyTrail::giveToLast(const NoteAnswer* note)
     const bool beginsOperation =
         m_device.state().state != m_state && operationOf(m_device.state().state);
     if ((isOperation(m_act.kind) && !beginsOperation) || m_act.kind == MoneyAct::Unseen)
-        takeRest();
+        takeChanges();
     return isInChannel;
 }
 
 bool MoneyTrail::giveRest(const NoteAnswer* note)
 {
+    if (m_newCounter && seeCounter(*m_newCounter))
+        m_isNoteMissing = true;
     const NoteAnswer* const now = noteOfAct(note);
-    const bool isInChannel = now && !isGivenBack(now->end) && takeGrowth(*now);
-    takeRest();
+    const bool isInChannel =
+        now && !isGivenBack(now->end) && !m_isNoteMissing && takeGrowth(*now);
+    takeLoneCredit();
+    takeChanges();
+    const bool isJam = m_state == STATE_JAMMED || m_state == STATE_ERROR;
+    m_act.isStopped = m_act.isStopped || isJam || m_device.stopsOn(m_line);
     if (m_device.state().currentChannel > 0)
         m_act.channel = m_device.state().currentChannel;
-    if (m_newCounter)
-        seeCounter(*m_newCounter);
-    m_isFirst = false;
+    m_isFirst = m_isAfterGap = m_isRegistryNew = false;
     return isInChannel;
+}
+
+bool MoneyTrail::hasChannelOf(const NoteAnswer& note) const
+{
+    return std::any_of(m_channels.begin(), m_channels.end(), [&](const CashChannel& channel) {
+        return !note.hasValue() || channel.denomination == note.note;
+    });
 }
 
 // Whether a channel of its value grew by it, so that it is there; one that grew by more was filled.
@@ -259,7 +281,7 @@ bool MoneyTrail::takeGrowth(const NoteAnswer& note)
         return false;
     m_act.isInChannel = true;
     --grown->count;
-    m_watcher.takeChange(*this, MoneyAct::Piece, {grown->channel, 1, 0});
+    m_watcher.takeChange(*this, MoneyAct::Piece, {grown->channel, 1, 0, m_collections});
     return true;
 }
 
@@ -271,19 +293,25 @@ void MoneyTrail::takeCredit()
     m_act.lines += m_line;
 }
 
-// Gives the act what is left of the line.
-void MoneyTrail::takeRest()
+// What of a credit is left belongs to no piece, or is one more of it.
+void MoneyTrail::takeLoneCredit()
 {
-    if (m_act.kind == MoneyAct::Piece || m_act.kind == MoneyAct::Unseen) {
-        takeCredit();
-    } else if (m_newCredit > 0 && !m_act.hasGap) {
+    if (m_isNoteMissing)
+        return; // it may be that one's
+    if (m_act.kind == MoneyAct::Piece || m_act.kind == MoneyAct::Unseen)
+        return takeCredit();
+    if (m_newCredit > 0 && !m_act.hasGap) {
         tell(Rule::CreditWithoutNote, here(), {m_line},
              Diagnosis::tr("The session's sum rose by %1 without a note. A note that was offered "
                            "before, with nothing between, would clear this.")
                  .arg(m_newCredit),
              0, 1);
     }
-    m_newCredit = 0;
+}
+
+// Gives the act what is left of what was paid and of the channels.
+void MoneyTrail::takeChanges()
+{
     if (m_act.kind == MoneyAct::Payout && m_newPaid > 0) {
         m_act.paid += m_newPaid;
         m_act.lines += m_line;
@@ -330,7 +358,16 @@ void MoneyTrail::beginNote(const NoteAnswer& note, bool isSame)
 {
     if (!isSame || m_act.kind != MoneyAct::Piece)
         begin(MoneyAct::Piece, nullptr);
+    m_isUncounted = m_isUncounted || !isSame;
+    m_act.isRegistryNew = m_isRegistryNew && !m_device.sessionStartSeen();
+    m_act.isCreditKnown = !m_isAfterGap && (!m_isFirst || m_device.sessionStartSeen());
     m_act.begin = note;
+}
+
+void MoneyTrail::countNote()
+{
+    if (std::exchange(m_isUncounted, false))
+        ++m_notes;
 }
 
 void MoneyTrail::follow(const NoteAnswer* note)
@@ -343,14 +380,19 @@ void MoneyTrail::follow(const NoteAnswer* note)
         const bool isOn = m_act.kind == operation->act && !m_act.isEnded;
         const bool isResumed = isOn && (state == operation->ended || !m_act.isCalm);
         if (!isResumed) {
+            const bool isSeen = state == operation->begun && !m_isFirst;
             begin(operation->act, note);
-            m_act.isPaidKnown = !m_isFirst;
+            m_act.isPaidKnown = isSeen;
+            m_act.isRegistryNew = m_isRegistryNew && !m_device.sessionStartSeen();
+            m_act.hasGap = m_isAfterGap; // it may have begun in it
         }
         m_act.isEnded = state == operation->ended;
     } else if (m_isFirst && m_act.kind == MoneyAct::None && isUnderWay(state)
                && !m_device.sessionStartSeen()) {
         m_act.kind = MoneyAct::Unseen;
     }
+    if (!m_act.isCalm)
+        m_act.collectionsAtEnd = m_collections;
     m_act.isCalm = state == STATE_IDLING || (m_act.isCalm && !operation);
     m_state = state;
 }
@@ -360,6 +402,7 @@ void MoneyTrail::begin(MoneyAct kind, const NoteAnswer* note)
     endAct(note);
     m_act.kind = kind;
     m_act.begin = here();
+    m_act.collections = m_collections;
 }
 
 void MoneyTrail::startSession(const NoteAnswer* note)
@@ -373,6 +416,7 @@ void MoneyTrail::startSession(const NoteAnswer* note)
     m_act.kind = kind; // what it goes on with, it has told without an end
     m_act.isTold = true;
     m_act.begin = here();
+    m_act.collections = m_collections;
 }
 
 void MoneyTrail::closeNote(const NoteAnswer& note, const PieceEnd& end)
@@ -389,17 +433,31 @@ void MoneyTrail::endAct(const NoteAnswer* open)
 {
     if (m_act.kind == MoneyAct::Piece) {
         const NoteAnswer* const note = noteOfAct(open);
-        judgeNote(note ? *note : NoteAnswer());
+        NoteAnswer judged = note ? *note : NoteAnswer();
+        if (!m_act.piece && !m_act.isInChannel && judged.isTaken())
+            judged.end = Outcome::Stuck; // it may come back yet
+        judgeNote(judged);
         if (m_act.piece) {
             m_act.piece->isInChannel = m_act.isInChannel;
+            m_act.piece->isPlaceKnown =
+                !(m_act.isRegistryNew || m_act.hasGap) || !hasChannelOf(m_act.note);
             m_watcher.takePiece(*this, *m_act.piece);
         }
     } else if (m_act.kind == MoneyAct::Payout) {
         judgePayout();
     }
-    const bool isSettled = m_act.isCalm && !m_act.moved.empty();
-    if (isOperation(m_act.kind) && !m_act.isEnded && !isSettled)
-        m_watcher.takeUnfinished(*this, m_act.kind, m_act.channel, m_act.moved);
+    // What it moved is told; of one that went on from another session nothing may be.
+    const bool isBalanced = m_act.kind == MoneyAct::Payout && m_act.isPaidKnown
+        && !m_act.isStopped && lostOfAct() == m_act.paid;
+    const bool isSettled = m_act.moved.empty() ? m_act.isTold : m_act.isCalm || isBalanced;
+    if (isOperation(m_act.kind) && m_act.kind != MoneyAct::Payout && m_act.isRegistryNew)
+        m_watcher.takeUncounted(*this);
+    if (isOperation(m_act.kind) && !m_act.isEnded
+        && (!isSettled || m_act.kind != MoneyAct::Payout))
+        m_watcher.takeUnfinished(*this,
+                                 {m_act.kind, m_act.collections,
+                                  m_act.isCalm ? m_act.collectionsAtEnd : m_collections, isSettled,
+                                  m_act.channel, m_act.moved});
     m_act = Act();
 }
 
@@ -439,6 +497,17 @@ void MoneyTrail::judgeNote(const NoteAnswer& note)
     m_judgedNote = 0;
 }
 
+// What left the channels without being rejected. What grew was filled.
+qint64 MoneyTrail::lostOfAct() const
+{
+    qint64 lost = 0;
+    for (const ChannelChange& change : m_act.moved) {
+        lost += (qMax<qint64>(0, -change.count) - qMax<qint64>(0, change.rejected))
+            * m_channels.at(change.channel).denomination;
+    }
+    return lost;
+}
+
 void MoneyTrail::judgePayout()
 {
     if (m_act.hasGap || m_act.isTold)
@@ -452,16 +521,7 @@ void MoneyTrail::judgePayout()
     }
     if (!m_act.isPaidKnown || m_channels.empty())
         return;
-    qint64 lost = 0;
-    std::vector<ChannelChange> sums(m_channels.size());
-    for (const ChannelChange& change : m_act.moved) {
-        sums.at(change.channel).count += change.count;
-        sums.at(change.channel).rejected += change.rejected;
-    }
-    for (size_t i = 0; i < sums.size(); ++i) {
-        lost += (qMax<qint64>(0, -sums.at(i).count) - qMax<qint64>(0, sums.at(i).rejected))
-            * m_channels.at(i).denomination;
-    }
+    const qint64 lost = lostOfAct();
     if (lost == m_act.paid)
         return;
     tell(Rule::PayoutDiffers, m_act.begin, lines,
@@ -474,10 +534,13 @@ void MoneyTrail::judgePayout()
 
 // The notes that were offered since the counter was told; of those before, the last one may be
 // counted late.
-void MoneyTrail::seeCounter(qint64 counter)
+// Returns whether one is missing: what is told of it has its reason then.
+bool MoneyTrail::seeCounter(qint64 counter)
 {
     const qint64 before = m_counter.value_or(counter);
     const qint64 rise = counter - before;
+    if (rise > m_notes)
+        countNote(); // one that is begun
     const qint64 missing = rise - m_notes;
     if (missing > 0) {
         tell(Rule::CounterJump, here(), {m_counterLine, m_line},
@@ -492,6 +555,7 @@ void MoneyTrail::seeCounter(qint64 counter)
     m_counter = counter;
     m_counterLine = m_line;
     m_counterCollections = m_collections;
+    return missing > 0;
 }
 
 // Withholds what is only known once the log tells of the fields at all.

@@ -43,6 +43,18 @@ struct ChannelChange
     size_t channel; ///< its index
     qint64 count;
     qint64 rejected;
+    int collections; ///< of the cassette before it
+};
+
+/// A payout, a float or an emptying that the log does not tell the end of.
+struct UnfinishedAct
+{
+    MoneyAct kind;
+    int collections; ///< of the cassette when it began
+    int collectionsAtEnd; ///< when the device idled or was at something else
+    bool areCounted; ///< the channels have told all that left them
+    int channel; ///< at work last; 0 when not known
+    std::vector<ChannelChange> moved; ///< what the registry told of it
 };
 
 /// Where a piece of money is, once no more is told of it. Its place in the log is where it was
@@ -54,6 +66,7 @@ struct PieceEnd : LogPlace
     Outcome end = Outcome::Unknown;
     bool isInChannel = false;
     bool isSure = true; ///< no line was skipped meanwhile
+    bool isPlaceKnown = true; ///< the registry tells whether it is in a channel
     int collections = 0; ///< of the cassette when it was offered
     int collectionsAtEnd = 0; ///< when it was clear where it is
 };
@@ -82,14 +95,10 @@ public:
     /// Whether the cassette is in, as it is told.
     virtual void takeCassette(const MoneyTrail& /*trail*/, bool /*isIn*/) { }
 
-    /// A payout, a float or an emptying that the log does not tell the end of, and after which its
-    /// device did not idle.
-    /// @param channel that was at work last; 0 when not known
-    /// @param moved what the registry told of it
-    virtual void takeUnfinished(const MoneyTrail& /*trail*/, MoneyAct /*act*/, int /*channel*/,
-                                const std::vector<ChannelChange>& /*moved*/)
-    {
-    }
+    /// A float or an emptying of which it is not known what the channels held before.
+    virtual void takeUncounted(const MoneyTrail& /*trail*/) { }
+
+    virtual void takeUnfinished(const MoneyTrail& /*trail*/, const UnfinishedAct& /*act*/) { }
 };
 
 /// The money of one device: what was credited and paid, what the channels hold, and what of it does
@@ -135,7 +144,10 @@ public:
     void beginNote(const NoteAnswer& note, bool isSame);
 
     /// What was begun turned out to be a note.
-    void countNote() { ++m_notes; }
+    void countNote();
+
+    /// Whether the note that began last was counted, perhaps by its device alone.
+    bool isNoteCounted() const { return !m_isUncounted; }
 
     /// Nothing more is told of a note.
     void closeNote(const NoteAnswer& note, const PieceEnd& end);
@@ -147,29 +159,36 @@ private:
         LogPlace begin;
         bool isEnded = false; // as its device told
         bool isCalm = false; // its device idled since
+        bool isStopped = false; // its device jammed or the like
         bool hasGap = false; // lines were skipped
         bool isTold = false; // that it is unfinished
         qint64 credit = 0;
         QVector<qint64> lines; // of credits, or of what was paid
         bool isCreditKnown = true;
+        int collections = 0; // of the cassette when it began
+        int collectionsAtEnd = 0; // when it was calm
         int channel = 0; // at work
         qint64 paid = 0;
         bool isPaidKnown = true;
         std::vector<ChannelChange> moved;
         bool isInChannel = false; // of a piece
+        bool isRegistryNew = false; // it was told for the first time
         std::optional<PieceEnd> piece; // once its note is closed
         NoteAnswer note; // likewise
     };
 
     void seeSums(const LogStep& step);
     void seeRegistry();
-    void seeCounter(qint64 counter);
+    bool seeCounter(qint64 counter);
     const NoteAnswer* noteOfAct(const NoteAnswer* open) const;
+    bool hasChannelOf(const NoteAnswer& note) const;
     bool takeGrowth(const NoteAnswer& note);
     void takeCredit();
-    void takeRest();
+    void takeLoneCredit();
+    void takeChanges();
     void begin(MoneyAct kind, const NoteAnswer* note);
     void judgeNote(const NoteAnswer& note);
+    qint64 lostOfAct() const;
     void judgePayout();
     void tell(Rule rule, const LogPlace& place, QVector<qint64> lines, const QString& sentence,
               quint32 fields = 0, qint64 missing = 0);
@@ -179,6 +198,8 @@ private:
     MoneyWatcher& m_watcher;
     Act m_act;
     bool m_isFirst = true; // line of the device
+    bool m_isRegistryNew = false; // the line tells it for the first time
+    bool m_isAfterGap = false; // its first line after some that were skipped
     State m_state = STATE_BUSY;
     qint64 m_line = 0; // that is seen
     LogTime m_time;
@@ -194,9 +215,11 @@ private:
     bool m_areChannelsKnown = true; // no line was skipped since they were told
     int m_collections = 0;
     bool m_isCassetteIn = true;
+    bool m_isUncounted = false; // the note that was begun last
     qint64 m_notes = 0; // that the counter may not have yet
     std::optional<qint64> m_counter; // as told last
     std::optional<qint64> m_newCounter; // of this line
+    bool m_isNoteMissing = false; // as the counter of this line seems to tell
     qint64 m_counterLine = 0;
     int m_counterCollections = 0;
     std::vector<std::pair<quint32, Contradiction>> m_withheld; // until the fields are told

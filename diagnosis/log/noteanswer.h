@@ -49,12 +49,13 @@ struct NoteAnswer : LogPlace
     QStringList uncertain; ///< what may make this answer wrong
 
     bool isJudged = false; ///< whether the filters were asked about it
+    bool isSeen = false; ///< the device did something with it, or counted it
 
     bool isTaken() const { return end == Outcome::Taken; }
     bool hasValue() const { return note > 0; }
 
     /// Whether the log tells of a note at all: that a device accepts is not enough.
-    bool isNote() const { return hasValue() || end != Outcome::Unknown; }
+    bool isNote() const { return hasValue() || end != Outcome::Unknown || isSeen; }
 
     /// Whether it is counted under an outcome: its own, or of a refused note what became of it
     /// then, if it was taken or got stuck.

@@ -68,9 +68,9 @@ summary strong { margin-right: auto; }
 .picture svg { display: block; width: 100%; min-width: 44rem; height: auto; }
 .doubt { margin: .6rem 1rem 0; color: var(--warn-edge); }
 ol { margin: 0; padding: .25rem 1rem .75rem; list-style: none; }
-li.answer { padding: .35rem .5rem .35rem 1.85rem; border-radius: 4px; text-indent: -1.35rem; }
-li.answer:target { background: var(--hit); outline: 2px solid var(--pin); }
-li.answer > a:first-child { color: inherit; font-weight: 600; text-decoration-color: var(--edge);
+li.answer, li.contradiction { padding: .35rem .5rem .35rem 1.85rem; border-radius: 4px; text-indent: -1.35rem; }
+li.answer:target, li.contradiction:target { background: var(--hit); outline: 2px solid var(--pin); }
+li.answer > a:first-child, li.contradiction > a:first-child { color: inherit; font-weight: 600; text-decoration-color: var(--edge);
     text-underline-offset: .2em; }
 li.answer.quiet > a:first-child { font-weight: normal; }
 .see { color: var(--faint); }
@@ -91,7 +91,7 @@ svg .base { stroke: var(--edge); }
 .rejected { color: var(--rejected); }
 .returned { color: var(--returned); }
 .unknown { color: var(--unknown); }
-li.answer, li.answer > a { color: var(--ink); }
+li.answer, li.contradiction, li.answer > a, li.contradiction > a { color: var(--ink); }
 use { fill: currentColor; }
 a.mark:target use, a.mark:hover use { stroke: var(--pin); stroke-width: 3px; }
 a.mark:target .halo { visibility: visible; }
@@ -125,7 +125,7 @@ svg text.limit { fill: var(--refused); text-anchor: end; }
     .session::details-content { content-visibility: visible; display: block; }
     .picture { overflow: visible; padding: 0; }
     .picture svg { min-width: 0; break-inside: avoid; }
-    li.answer { break-inside: avoid; }
+    li.answer, li.contradiction { break-inside: avoid; }
     .see, .skip, summary::before { display: none; }
     * { print-color-adjust: exact; }
 }

@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Cash devices of which is known where every note and coin truly lies."""
 
+import math
 import sys
 from collections import Counter, namedtuple
 
@@ -47,6 +48,8 @@ class Device:
             place = "channel", channel, self.rng.choice(kind.values)
             self.channels.append(place)
             self.content[place] = self.rng.randrange(30)
+        self.is_emptying = False
+        self.is_open = False  # of the last piece it is not said what became of it
         self.rejected = {place: self.rng.randrange(3) for place in self.channels}
         for place, count in self.rejected.items():
             self.content["reject", None, place[2]] += count
@@ -88,6 +91,7 @@ class Device:
     def lose_sight(self):
         """The piece in hand is in the cassette or not: the log does not tell."""
         self.period.doubt += 1
+        self.is_open = True
         if self.hand and self.rng.random() < 0.5:
             self.content["cassette", None, self.hand] += 1
             if self.is_value_told and not self.kiosk.muted:
@@ -99,7 +103,9 @@ class Device:
         if self.hand is not None:
             self.lose_sight()
         self.lose_moving()
-        self.script, self.after_note = None, False
+        if self.is_emptying:  # what its registry does not tell yet may have left
+            self.period.doubt = math.inf
+        self.script, self.after_note, self.is_emptying = None, False, False
 
     def lose_moving(self):
         """The last piece that floated did not come to the cassette, or did."""
@@ -134,8 +140,9 @@ class Device:
         trouble = -1 if calm or end == "unsaid" or rng.random() > 0.15 else rng.randrange(len(phases))
         self.inserted += 1
         self.hand, self.after_note, self.owes = value, True, False
-        if end == "rejected" and not fault and not follows and rng.random() < 0.3:
+        if end == "rejected" and not fault and not follows and not self.is_open and rng.random() < 0.3:
             phases = []  # before it was known what it is
+        self.is_open = end == "unsaid"
         value_at = int(not follows and phases[1:] == ["accepted"] and rng.random() < 0.1)
         for number, phase in enumerate(phases):
             self.is_value_told = is_named and number >= value_at
@@ -236,6 +243,7 @@ class Device:
             lines = [{}]
             if is_last and fault == "payout_unfinished":
                 lines = rng.choice(([{}], [{"state": "jammed"}]))
+                self.period.doubt += 1 + sum(len(done) for done in batches)
             elif is_last:
                 lines = [{"state": "dispensed", **WELL}]
             if is_last and fault == "payout_differs":
@@ -254,6 +262,7 @@ class Device:
         self.after_note = False
         begin, end = rng.choice((("floating", "floated"), ("emptying", "emptied")))
         batches = self.batches(self.pick(rng.randint(1, 8) if begin == "floating" else sys.maxsize))
+        self.is_emptying = True
         yield {"state": begin}
         if not self.kiosk.calm and rng.random() < 0.1:
             yield rng.choice(TROUBLES)
@@ -269,10 +278,11 @@ class Device:
             self.scatter(lines, self.registry())
             self.owes = True
             yield from lines
-            self.owes, self.moving = False, []
+            self.owes, self.moving, self.is_emptying = False, [], False
         else:
             yield {"state": "jammed", **self.registry()}
             self.lose_moving()
+            self.is_emptying = False
         yield {**IDLE, **WELL}
 
     # What people do to it.

@@ -134,7 +134,6 @@ JsonText jsonOf(const Summary& summary)
     JsonText text =
         JsonText::object({{"kind", QStringLiteral("summary")},
                           {"sessions", summary.sessions},
-                          {"contradictions", summary.contradictions},
                           {"offered", jsonOf(summary.offered)},
                           {"taken", jsonOf(summary.of(Outcome::Taken))},
                           {"refused",
@@ -145,7 +144,8 @@ JsonText jsonOf(const Summary& summary)
                           {"stuck", jsonOf(summary.of(Outcome::Stuck))},
                           {"rejected", jsonOf(summary.of(Outcome::Rejected))},
                           {"returned", jsonOf(summary.of(Outcome::Returned))},
-                          {"unknown", jsonOf(summary.of(Outcome::Unknown))}});
+                          {"unknown", jsonOf(summary.of(Outcome::Unknown))},
+                          {"contradictions", summary.contradictions}});
     if (summary.isIncomplete)
         text.replace(text.size() - 1, 1, R"(,"incomplete":true})");
     return text;
