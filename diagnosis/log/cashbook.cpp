@@ -354,18 +354,18 @@ void CashBook::takeChange(MoneyAct act, const ChannelChange& change)
     addContent(*now);
 }
 
-void CashBook::takeUncounted()
-{
-    Period* const now = period();
-    if (!now)
-        return;
-    now->isUnbounded = true;
-    addDoubt(*now, here(), uncounted, 1, CashPlace::Cassette, 0);
-    addContent(*now);
-}
-
 void CashBook::takeUnfinished(const UnfinishedAct& act)
 {
+    for (Period& period : m_periods) {
+        if (act.isCounted || period.collections < act.collections
+            || period.collections > act.collectionsAtEnd)
+            continue;
+        period.isUnbounded = true;
+        addDoubt(period, here(), uncounted, 1, CashPlace::Cassette, 0);
+        addContent(period);
+    }
+    if (act.isEnded)
+        return;
     m_fewer.resize(m_trail.channels().size());
     for (size_t i = 0; i < m_fewer.size(); ++i) {
         const CashChannel& row = m_trail.channels().at(i);

@@ -38,7 +38,6 @@ public:
     void takeChange(MoneyAct act, const ChannelChange& change);
     void takeChannel(size_t channel);
     void takeCassette(bool isIn);
-    void takeUncounted();
     void takeUnfinished(const UnfinishedAct& act);
 
     /// As things stand.

@@ -41,8 +41,9 @@ void CashLedger::take(const SessionLine& line, qint64 position)
     m_explainer.take(line, position);
 }
 
-void CashLedger::skipLine()
+void CashLedger::skipLine(qint64 position)
 {
+    m_now = {position, {}};
     m_explainer.skipLine();
     for (const auto& [device, book] : m_books)
         book->skipLine();
@@ -119,11 +120,6 @@ void CashLedger::takeChannel(const MoneyTrail& trail, size_t channel)
 void CashLedger::takeCassette(const MoneyTrail& trail, bool isIn)
 {
     bookOf(trail).takeCassette(isIn);
-}
-
-void CashLedger::takeUncounted(const MoneyTrail& trail)
-{
-    bookOf(trail).takeUncounted();
 }
 
 void CashLedger::takeUnfinished(const MoneyTrail& trail, const UnfinishedAct& act)

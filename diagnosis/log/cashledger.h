@@ -32,7 +32,7 @@ public:
     void take(const SessionLine& line, qint64 position);
 
     /// Tells that a line could not be read.
-    void skipLine();
+    void skipLine(qint64 position);
 
     /// Begins to count anew: what lies where becomes the opening.
     void beginHere();
@@ -56,7 +56,6 @@ private:
     void takeChange(const MoneyTrail& trail, MoneyAct act, const ChannelChange& change) override;
     void takeChannel(const MoneyTrail& trail, size_t channel) override;
     void takeCassette(const MoneyTrail& trail, bool isIn) override;
-    void takeUncounted(const MoneyTrail& trail) override;
     void takeUnfinished(const MoneyTrail& trail, const UnfinishedAct& act) override;
     bool isAsked(quint32 device) const { return !m_device || device == *m_device; }
     CashBook& bookOf(const MoneyTrail& trail);

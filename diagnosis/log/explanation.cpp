@@ -19,6 +19,11 @@ bool isOffer(const DeviceState& event)
     return event.state == STATE_ACCEPTING && event.currentNote > 0;
 }
 
+bool tellsOfNote(State state)
+{
+    return state >= STATE_ACCEPTING && state <= STATE_RETURNED;
+}
+
 // Adds those that are new, and tells of the others what is known of them last.
 void addConditions(QVector<MachineCondition>& known, const QVector<MachineCondition>& now)
 {
@@ -208,6 +213,8 @@ void LogExplainer::takeEvent(const LogStep& step, const SessionLine& line, qint6
     if (!trail.note)
         return;
     NoteAnswer& answer = trail.note->answer;
+    if (answer.session != device.session() && tellsOfNote(event.state))
+        trail.money->resumeNote(answer);
     if (event.state != STATE_IDLING && std::exchange(trail.isValueNew, false)) {
         if (std::exchange(trail.note->isValuePresumed, false))
             takeBackValue(answer);

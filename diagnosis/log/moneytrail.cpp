@@ -364,6 +364,14 @@ void MoneyTrail::beginNote(const NoteAnswer& note, bool isSame)
     m_act.begin = note;
 }
 
+void MoneyTrail::resumeNote(const NoteAnswer& note)
+{
+    if (m_act.kind != MoneyAct::None)
+        return;
+    m_act.kind = MoneyAct::Piece;
+    m_act.begin = note;
+}
+
 void MoneyTrail::countNote()
 {
     if (std::exchange(m_isUncounted, false))
@@ -450,14 +458,16 @@ void MoneyTrail::endAct(const NoteAnswer* open)
     const bool isBalanced = m_act.kind == MoneyAct::Payout && m_act.isPaidKnown
         && !m_act.isStopped && lostOfAct() == m_act.paid;
     const bool isSettled = m_act.moved.empty() ? m_act.isTold : m_act.isCalm || isBalanced;
-    if (isOperation(m_act.kind) && m_act.kind != MoneyAct::Payout && m_act.isRegistryNew)
-        m_watcher.takeUncounted(*this);
-    if (isOperation(m_act.kind) && !m_act.isEnded
-        && (!isSettled || m_act.kind != MoneyAct::Payout))
+    const bool isIntoCassette = isOperation(m_act.kind) && m_act.kind != MoneyAct::Payout;
+    const bool isCounted = !isIntoCassette || !m_act.isRegistryNew;
+    const bool isUnfinished =
+        isOperation(m_act.kind) && !m_act.isEnded && (isIntoCassette || !isSettled);
+    if (isUnfinished || !isCounted)
         m_watcher.takeUnfinished(*this,
                                  {m_act.kind, m_act.collections,
-                                  m_act.isCalm ? m_act.collectionsAtEnd : m_collections, isSettled,
-                                  m_act.channel, m_act.moved});
+                                  m_act.isCalm ? m_act.collectionsAtEnd : m_collections,
+                                  m_act.isEnded, isCounted, isSettled, m_act.channel,
+                                  m_act.moved});
     m_act = Act();
 }
 

@@ -46,12 +46,15 @@ struct ChannelChange
     int collections; ///< of the cassette before it
 };
 
-/// A payout, a float or an emptying that the log does not tell the end of.
+/// A payout, a float or an emptying of which the log does not tell all: its end, or what the
+/// channels held before.
 struct UnfinishedAct
 {
     MoneyAct kind;
     int collections; ///< of the cassette when it began
     int collectionsAtEnd; ///< when the device idled or was at something else
+    bool isEnded;
+    bool isCounted; ///< the channels told what they held before
     bool areCounted; ///< the channels have told all that left them
     int channel; ///< at work last; 0 when not known
     std::vector<ChannelChange> moved; ///< what the registry told of it
@@ -94,9 +97,6 @@ public:
 
     /// Whether the cassette is in, as it is told.
     virtual void takeCassette(const MoneyTrail& /*trail*/, bool /*isIn*/) { }
-
-    /// A float or an emptying of which it is not known what the channels held before.
-    virtual void takeUncounted(const MoneyTrail& /*trail*/) { }
 
     virtual void takeUnfinished(const MoneyTrail& /*trail*/, const UnfinishedAct& /*act*/) { }
 };
@@ -142,6 +142,9 @@ public:
 
     /// @param isSame it is the note that began last, of which only the value was new
     void beginNote(const NoteAnswer& note, bool isSame);
+
+    /// A session began while the device had the note, and now it tells of it.
+    void resumeNote(const NoteAnswer& note);
 
     /// What was begun turned out to be a note.
     void countNote();

@@ -29,12 +29,12 @@ public:
     }
 
     // Line 0 stands for a whole log.
-    void skip(const QString& kiosk, qint64 line)
+    void skip(int log, const QString& kiosk, qint64 line)
     {
         m_isLogMissing = m_isLogMissing || line == 0;
         for (const auto& [name, known] : m_kiosks) {
             if (kiosk.isEmpty() || name == kiosk)
-                known->ledger.skipLine();
+                known->ledger.skipLine(LogPosition::of(log, line));
         }
     }
 
@@ -146,8 +146,8 @@ int cashCommand(const Arguments& arguments)
     LogStream stream(arguments.operands(), arguments.isSet(options::perFile),
                      arguments.isSet(options::keepGoing));
     const int exitCode = stream.read([&](const StreamLine& line) { reading.take(line); },
-                                     [&](int /*log*/, const QString& kiosk, qint64 line) {
-                                         reading.skip(kiosk, line);
+                                     [&](int log, const QString& kiosk, qint64 line) {
+                                         reading.skip(log, kiosk, line);
                                      });
     CashAnswer answer = reading.answer(stream.notes());
     compareCounts(answer, counts, countsFile);
