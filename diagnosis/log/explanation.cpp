@@ -155,6 +155,19 @@ void LogExplainer::finish()
     giveAway();
 }
 
+void LogExplainer::foresee(MoneyWatcher& watcher) const
+{
+    for (const auto& [device, trail] : m_trails) {
+        if (!trail.note || !trail.note->answer.isNote()) {
+            trail.money->foresee(nullptr, watcher);
+            continue;
+        }
+        PieceEnd piece = pieceOf(*trail.note, *trail.money);
+        piece.isOnItsWay = trail.note->phase == InHand && piece.end != Outcome::Stuck;
+        trail.money->foresee(&piece, watcher);
+    }
+}
+
 int LogExplainer::firstOpenSession() const
 {
     int first = m_player.sessions();
@@ -350,13 +363,21 @@ void LogExplainer::close(const LogDevice& device)
                                           static_cast<int>(qMin<qint64>(skipped, INT_MAX)));
     if (!answer.isNote())
         return;
-    static_cast<LogPlace&>(note.piece) = answer;
-    note.piece.note = answer.note;
-    note.piece.end = answer.end;
-    note.piece.isSure = m_player.skippedLines() == note.skippedBeforeNote;
-    if (answer.end == Outcome::Unknown || answer.end == Outcome::Stuck)
-        note.piece.collectionsAtEnd = trail.money->collections();
-    trail.money->closeNote(answer, note.piece);
+    trail.money->closeNote(answer, pieceOf(note, *trail.money));
+}
+
+// Where it is if nothing more is told of it.
+PieceEnd LogExplainer::pieceOf(const Note& note, const MoneyTrail& money) const
+{
+    PieceEnd piece = note.piece;
+    static_cast<LogPlace&>(piece) = note.answer;
+    piece.note = note.answer.note;
+    const bool isStuck = note.stoppedLine > 0 && !piece.isInChannel;
+    piece.end = isStuck ? Outcome::Stuck : note.answer.end;
+    piece.isSure = m_player.skippedLines() == note.skippedBeforeNote;
+    if (piece.end == Outcome::Unknown || isStuck)
+        piece.collectionsAtEnd = money.collections();
+    return piece;
 }
 
 void LogExplainer::giveAway()

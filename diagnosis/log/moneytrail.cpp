@@ -397,10 +397,33 @@ void MoneyTrail::endAct(const NoteAnswer* open)
     } else if (m_act.kind == MoneyAct::Payout) {
         judgePayout();
     }
-    const bool isSettled = m_act.isCalm && !m_act.moved.empty();
-    if (isOperation(m_act.kind) && !m_act.isEnded && !isSettled)
+    if (isUnfinished())
         m_watcher.takeUnfinished(*this, m_act.kind, m_act.channel, m_act.moved);
     m_act = Act();
+}
+
+bool MoneyTrail::isUnfinished() const
+{
+    const bool isSettled = m_act.isCalm && !m_act.moved.empty();
+    return isOperation(m_act.kind) && !m_act.isEnded && !isSettled;
+}
+
+void MoneyTrail::foresee(const PieceEnd* open, MoneyWatcher& watcher) const
+{
+    if (m_act.piece) {
+        PieceEnd piece = *m_act.piece;
+        piece.isInChannel = m_act.isInChannel;
+        // The registry may tell yet that it is in a channel.
+        piece.isOnItsWay = piece.end == Outcome::Taken && !m_act.isCalm
+            && std::any_of(m_channels.begin(), m_channels.end(), [&](const CashChannel& channel) {
+                   return channel.isTold && channel.denomination == piece.note;
+               });
+        watcher.takePiece(*this, piece);
+    }
+    if (open)
+        watcher.takePiece(*this, *open);
+    if (isUnfinished())
+        watcher.takeUnfinished(*this, m_act.kind, m_act.channel, m_act.moved);
 }
 
 void MoneyTrail::judgeNote(const NoteAnswer& note)

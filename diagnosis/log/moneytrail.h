@@ -56,6 +56,7 @@ struct PieceEnd : LogPlace
     bool isSure = true; ///< no line was skipped meanwhile
     int collections = 0; ///< of the cassette when it was offered
     int collectionsAtEnd = 0; ///< when it was clear where it is
+    bool isOnItsWay = false; ///< the log goes on, and may tell yet where it is
 };
 
 class MoneyTrail;
@@ -140,6 +141,10 @@ public:
     /// Nothing more is told of a note.
     void closeNote(const NoteAnswer& note, const PieceEnd& end);
 
+    /// Tells what is on, as things stand.
+    /// @param open the piece that the device has in hand; null without one
+    void foresee(const PieceEnd* open, MoneyWatcher& watcher) const;
+
 private:
     struct Act
     {
@@ -165,6 +170,7 @@ private:
     void seeRegistry();
     void seeCounter(qint64 counter);
     const NoteAnswer* noteOfAct(const NoteAnswer* open) const;
+    bool isUnfinished() const;
     bool takeGrowth(const NoteAnswer& note);
     void takeCredit();
     void takeRest();
