@@ -97,7 +97,35 @@ public:
         return texts.join("; "_s);
     }
 
+    // What lies in the devices as the engineer sees it, "T" being a time.
+    QString contents() const
+    {
+        static const QRegularExpression time("[0-9.]{10} [0-9:]{5}"_s);
+        QMap<qreal, QString> cards; // from left to right
+        if (const QQuickItem* const grid = item("devices"_s)) {
+            for (QQuickItem* cell :
+                 grid->property("contentItem").value<QQuickItem*>()->childItems())
+                cards[cell->x()] += contentOf(cell).join(" / "_s).replace(time, "T"_s);
+        }
+        QStringList texts = cards.values();
+        texts.removeAll(QString());
+        return texts.join("; "_s)
+            .replace("\n"_s, ", "_s)
+            .replace(QChar(QChar::Nbsp), QLatin1Char(' '));
+    }
+
 private:
+    static QStringList contentOf(QQuickItem* item)
+    {
+        static const QStringList names{"places"_s, "onTheirWay"_s, "stuck"_s};
+        QStringList texts;
+        if (names.contains(item->objectName()) && item->isVisible())
+            texts += item->property("text").toString();
+        for (QQuickItem* child : item->childItems())
+            texts += contentOf(child);
+        return texts;
+    }
+
     ServiceLink m_link;
     QStringList m_warnings;
     QQmlApplicationEngine m_engine;
@@ -155,6 +183,40 @@ private Q_SLOTS:
         QVERIFY(file.atEnd());
         QCOMPARE(kiosk.warnings(), QStringList());
         checkLog();
+    }
+
+    // The content of each device on the service screen after so many steps.
+    void contentIsTold_data()
+    {
+        addRows(R"(
+            samples             | plain-payment   | 3  | Cassette: at least 0 × 100 / On its way: 1 × 100, since T
+            samples             | jam             | 4  | Cassette: at least 0 × 1000 / On its way: 1 × 1000, since T
+            samples             | jam             | 5  | Stuck: 1 × 1000, since T / Cassette: at least 0 × 1000
+            samples             | jam             | 7  | Stuck: 1 × 1000, since T / Cassette: 0 to 1 × 1000
+            samples             | jam             | 99 | Stuck: 1 × 1000, since T / Cassette: 0 to 1 × 1000
+            samples             | recycler-payout | 3  | Cassette: at least 1 × 1000, Channel 1: 24 × 100 RUB, Channel 2: 9 × 500 RUB, Rejects: 0 × 100 RUB, 0 × 500 RUB
+            samples             | recycler-payout | 5  | Cassette: at least 0 × 500 RUB, at least 1 × 1000, Channel 1: 24 × 100 RUB, Channel 2: 0 to 9 × 500 RUB, Rejects: 0 × 100 RUB, 0 to 9 × 500 RUB
+            samples             | recycler-payout | 99 | Cassette: at least 1 × 1000, Channel 1: 22 × 100 RUB, Channel 2: 8 × 500 RUB, Rejects: 1 × 100 RUB, 0 × 500 RUB
+            examples/kiosk/show | validator recycler coins terminal | 99 | Cassette: at least 1 × 500, at least 2 × 1000, at least 0 × 2000; Stuck: 1 × 100, since T / Cassette: at least 0 × 100 RUB, Channel 1: 24 × 100 RUB, Channel 2: 8 × 500 RUB, Rejects: 0 × 100 RUB, 1 × 500 RUB; Cassette: at least 1 × 10)"_s);
+    }
+
+    void contentIsTold()
+    {
+        const auto [folder, sessions, steps, expected] = cells<4>();
+        startService(folder, sessions);
+        Kiosk kiosk(m_language);
+        for (int step = 0; step < steps.toInt(); ++step)
+            callService("step"_s);
+        kiosk.window()->setProperty("serviceShown", true);
+        QTRY_COMPARE_WITH_TIMEOUT(kiosk.contents(), expected, longest);
+        m_language.setCurrent("ru"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            !kiosk.contents().remove("RUB"_s).contains(QRegularExpression("[A-Za-z]{2}"_s)),
+            longest);
+        m_language.setCurrent("en"_s);
+        kiosk.window()->setProperty("serviceShown", false);
+        QTRY_COMPARE_WITH_TIMEOUT(kiosk.contents(), QString(), longest);
+        QCOMPARE(kiosk.warnings(), QStringList());
     }
 
     void sumOutlivesTheService()

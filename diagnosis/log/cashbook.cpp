@@ -18,7 +18,6 @@ constexpr size_t mostContradictions = 200;
 constexpr size_t mostContents = 2000; // of a period's course
 
 // Why a number is uncertain.
-constexpr const char* stuck = QT_TRANSLATE_N_NOOP("Diagnosis", "%n pieces got stuck on their way");
 constexpr const char* unknownEnd =
     QT_TRANSLATE_N_NOOP("Diagnosis", "of %n pieces the log does not say what became of them");
 constexpr const char* inHandAtGap =
@@ -47,12 +46,13 @@ constexpr const char* unfinished =
 bool isSure(const PieceEnd& piece)
 {
     return piece.end == Outcome::Taken && piece.isSure && piece.isPlaceKnown && piece.note > 0
-        && !piece.otherNote;
+        && !piece.otherNote && !piece.isOnItsWay;
 }
 
 const char* doubtOf(const PieceEnd& piece)
 {
-    return piece.end == Outcome::Stuck ? stuck
+    return piece.isOnItsWay            ? CashDoubt::onItsWay
+        : piece.end == Outcome::Stuck  ? CashDoubt::stuck
         : piece.end != Outcome::Taken  ? unknownEnd
         : piece.note <= 0              ? noValue
         : piece.otherNote              ? otherValue
@@ -461,6 +461,12 @@ std::vector<CashPeriod> CashBook::periods() const
     for (const Period& period : m_periods)
         all.push_back(told(period));
     return all;
+}
+
+CashPeriod CashBook::current()
+{
+    Period* const now = period();
+    return told(now ? *now : openPeriod(PieceRange::exactly(0)));
 }
 
 CashPeriod CashBook::told(const Period& period) const

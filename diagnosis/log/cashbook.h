@@ -43,6 +43,9 @@ public:
     /// As things stand.
     std::vector<CashPeriod> periods() const;
 
+    /// The period that is on; while the cassette is out, as if an empty one came in.
+    CashPeriod current();
+
 private:
     using Flows = std::map<CashKind, CashFlow>;
 

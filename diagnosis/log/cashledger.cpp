@@ -11,6 +11,43 @@ namespace {
 
 const quint32 cashBit = DeviceReport::bit(deviceStateDescConst::CASH);
 
+// A copy of the books, in which is entered what is not settled yet.
+class Outlook : public MoneyWatcher
+{
+public:
+    void add(std::pair<quint32, quint32> device, const CashBook& book)
+    {
+        m_books.emplace(device, book);
+    }
+
+    std::vector<CashPeriod> periods()
+    {
+        std::vector<CashPeriod> all;
+        for (auto& [device, book] : m_books)
+            all.push_back(book.current());
+        return all;
+    }
+
+private:
+    void takePiece(const MoneyTrail& trail, const PieceEnd& piece) override
+    {
+        if (CashBook* const book = bookOf(trail))
+            book->takePiece(piece);
+    }
+    void takeUnfinished(const MoneyTrail& trail, const UnfinishedAct& act) override
+    {
+        if (CashBook* const book = bookOf(trail))
+            book->takeUnfinished(act);
+    }
+    CashBook* bookOf(const MoneyTrail& trail)
+    {
+        const auto book = m_books.find({trail.device().deviceId(), trail.device().threadId()});
+        return book == m_books.end() ? nullptr : &book->second;
+    }
+
+    std::map<std::pair<quint32, quint32>, CashBook> m_books; // by device and thread
+};
+
 } // namespace
 
 CashLedger::CashLedger(const QStringList& logs, std::optional<quint32> device, Receiver receiver)
@@ -88,6 +125,17 @@ std::vector<CashPeriod> CashLedger::periods(bool isLogMissing) const
         }
     }
     return all;
+}
+
+std::vector<CashPeriod> CashLedger::now() const
+{
+    Outlook outlook;
+    for (const auto& [device, book] : m_books) {
+        if (isAsked(device.first))
+            outlook.add(device, *book);
+    }
+    m_explainer.foresee(outlook);
+    return outlook.periods();
 }
 
 void CashLedger::takeReport(const MoneyTrail& trail, const LogStep& step)

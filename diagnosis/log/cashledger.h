@@ -44,6 +44,9 @@ public:
     /// @param isLogMissing a log could not be read at all
     std::vector<CashPeriod> periods(bool isLogMissing) const;
 
+    /// What lies in each device now, before the log is over: by device and thread, a period each.
+    std::vector<CashPeriod> now() const;
+
     const Summary& summary() const { return m_summary; }
 
     /// How many there are of those that are asked for.

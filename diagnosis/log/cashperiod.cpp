@@ -3,6 +3,11 @@
 
 #include "log/cashperiod.h"
 
+const char* const CashDoubt::stuck =
+    QT_TRANSLATE_N_NOOP("Diagnosis", "%n pieces got stuck on their way");
+const char* const CashDoubt::onItsWay =
+    QT_TRANSLATE_N_NOOP("Diagnosis", "%n pieces are on their way");
+
 bool CashDoubt::isAbout(CashPlace other, int otherChannel, int value) const
 {
     const bool isThere = !place || *place == other;

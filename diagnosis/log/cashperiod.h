@@ -39,6 +39,9 @@ struct CashDoubt
         QString text;
     };
 
+    static const char* const stuck; ///< reasons
+    static const char* const onItsWay;
+
     const char* reason = nullptr; ///< of %n pieces or lines, to be translated
     std::optional<CashPlace> place; ///< anywhere without one
     int channel = 0; ///< of that place

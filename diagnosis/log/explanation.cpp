@@ -163,6 +163,19 @@ void LogExplainer::finish()
     giveAway();
 }
 
+void LogExplainer::foresee(MoneyWatcher& watcher) const
+{
+    for (const auto& [device, trail] : m_trails) {
+        if (!trail.note || !trail.note->answer.isNote()) {
+            trail.money->foresee(nullptr, watcher);
+            continue;
+        }
+        PieceEnd piece = pieceOf(*trail.note);
+        piece.isOnItsWay = trail.note->phase == InHand && piece.end != Outcome::Stuck;
+        trail.money->foresee(&piece, watcher);
+    }
+}
+
 int LogExplainer::firstOpenSession() const
 {
     int first = m_player.sessions();
@@ -364,11 +377,19 @@ void LogExplainer::close(const LogDevice& device)
     // Where it was interrupted, it may have been one.
     if (!answer.isNote() && !note.isInterrupted)
         return;
-    static_cast<LogPlace&>(note.piece) = answer;
-    note.piece.note = answer.note;
-    note.piece.end = answer.end;
-    note.piece.isSure = m_player.skippedLines() == note.skippedBeforeNote;
-    trail.money->closeNote(answer, note.piece);
+    trail.money->closeNote(answer, pieceOf(note));
+}
+
+// Where it is if nothing more is told of it.
+PieceEnd LogExplainer::pieceOf(const Note& note) const
+{
+    PieceEnd piece = note.piece;
+    static_cast<LogPlace&>(piece) = note.answer;
+    piece.note = note.answer.note;
+    const bool isStuck = note.stoppedLine > 0 && !piece.isInChannel;
+    piece.end = isStuck ? Outcome::Stuck : note.answer.end;
+    piece.isSure = m_player.skippedLines() == note.skippedBeforeNote;
+    return piece;
 }
 
 void LogExplainer::giveAway()

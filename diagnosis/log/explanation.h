@@ -38,6 +38,10 @@ public:
     /// Gives away what is still open at the end of the log.
     void finish();
 
+    /// Tells where the money that is not settled yet is, as things stand. A piece that is in hand
+    /// is on its way.
+    void foresee(MoneyWatcher& watcher) const;
+
     int sessions() const { return m_player.sessions(); }
 
     /// The lowest number of a session that a device is in, or of which an answer is not given away
@@ -94,6 +98,7 @@ private:
     static void watch(const LogDevice& device, Note& note, qint64 lineNumber);
     void follow(const LogDevice& device, Note& note, bool isNewState, qint64 lineNumber);
     void close(const LogDevice& device);
+    PieceEnd pieceOf(const Note& note) const;
     void giveAway();
 
     LogPlayer m_player;

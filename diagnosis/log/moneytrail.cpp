@@ -454,6 +454,13 @@ void MoneyTrail::endAct(const NoteAnswer* open)
     } else if (m_act.kind == MoneyAct::Payout) {
         judgePayout();
     }
+    tellUnfinished(m_watcher);
+    m_act = Act();
+}
+
+// Tells of an act what the log does not, if it ended now.
+void MoneyTrail::tellUnfinished(MoneyWatcher& watcher) const
+{
     // What it moved is told; of one that went on from another session nothing may be.
     const bool isBalanced = m_act.kind == MoneyAct::Payout && m_act.isPaidKnown
         && !m_act.isStopped && lostOfAct() == m_act.paid;
@@ -463,12 +470,26 @@ void MoneyTrail::endAct(const NoteAnswer* open)
     const bool isUnfinished =
         isOperation(m_act.kind) && !m_act.isEnded && (isIntoCassette || !isSettled);
     if (isUnfinished || !isCounted)
-        m_watcher.takeUnfinished(*this,
+        watcher.takeUnfinished(*this,
                                  {m_act.kind, m_act.collections,
                                   m_act.isCalm ? m_act.collectionsAtEnd : m_collections,
                                   m_act.isEnded, isCounted, isSettled, m_act.channel,
                                   m_act.moved});
-    m_act = Act();
+}
+
+void MoneyTrail::foresee(const PieceEnd* open, MoneyWatcher& watcher) const
+{
+    if (m_act.piece) {
+        PieceEnd piece = *m_act.piece;
+        piece.isInChannel = m_act.isInChannel;
+        // The registry may tell yet that it is in a channel.
+        piece.isOnItsWay =
+            piece.end == Outcome::Taken && !m_act.isCalm && hasChannelOf(m_act.note);
+        watcher.takePiece(*this, piece);
+    }
+    if (open)
+        watcher.takePiece(*this, *open);
+    tellUnfinished(watcher);
 }
 
 void MoneyTrail::judgeNote(const NoteAnswer& note)

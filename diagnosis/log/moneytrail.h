@@ -72,6 +72,7 @@ struct PieceEnd : LogPlace
     bool isPlaceKnown = true; ///< the registry tells whether it is in a channel
     int collections = 0; ///< of the cassette when it was offered
     int collectionsAtEnd = 0; ///< when it was clear where it is
+    bool isOnItsWay = false; ///< the log goes on, and may tell yet where it is
 };
 
 class MoneyTrail;
@@ -155,6 +156,10 @@ public:
     /// Nothing more is told of a note.
     void closeNote(const NoteAnswer& note, const PieceEnd& end);
 
+    /// Tells what is on, as things stand.
+    /// @param open the piece that the device has in hand; null without one
+    void foresee(const PieceEnd* open, MoneyWatcher& watcher) const;
+
 private:
     struct Act
     {
@@ -190,6 +195,7 @@ private:
     void takeLoneCredit();
     void takeChanges();
     void begin(MoneyAct kind, const NoteAnswer* note);
+    void tellUnfinished(MoneyWatcher& watcher) const;
     void judgeNote(const NoteAnswer& note);
     qint64 lostOfAct() const;
     void judgePayout();

@@ -4,11 +4,39 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 
-// A device for the engineer. Its properties are the roles of ServiceState.devices.
+// A device for the engineer. Its properties are the roles of ServiceState.devices; what lies in it is told
+// by the ledger, or by its registry where the service keeps no ledger.
 Rectangle {
     id: card
 
     property var entry
+    property var money: null // of the published "content"
+
+    // "at least 3 × 1000"
+    function amount(place) {
+        const pieces = place.max === undefined ? qsTr("at least %1").arg(place.min)
+                     : place.max === place.min ? place.min
+                     : qsTr("%1 to %2").arg(place.min).arg(place.max);
+        return (pieces + "\u00a0×\u00a0" + place.denomination + " " + place.currency).trim();
+    }
+
+    // A line for each cassette and channel, and for the rejects.
+    function placeLines() {
+        const amounts = {};
+        for (const place of money ? money.places : []) {
+            const name = place.place === "cassette" ? qsTr("Cassette")
+                       : place.place === "reject" ? qsTr("Rejects") : qsTr("Channel %1").arg(place.channel);
+            amounts[name] = (amounts[name] || []).concat(amount(place));
+        }
+        return Object.keys(amounts).map(name => name + ": " + amounts[name].join(", "));
+    }
+
+    function pieceLines(isStuck) {
+        return (money ? money.pieces : []).filter(piece => piece.stuck === isStuck).map(
+            piece => (isStuck ? qsTr("Stuck: %1, since %2") : qsTr("On its way: %1, since %2"))
+                     .arg(piece.count + "\u00a0×\u00a0" + (piece.denomination || "?"))
+                     .arg(Qt.formatDateTime(new Date(piece.since), "dd.MM.yyyy hh:mm")));
+    }
 
     radius: Theme.gap / 2
     color: Theme.panel
@@ -73,13 +101,20 @@ Rectangle {
                 }
             }
             SmallText {
+                objectName: "stuck"
+                width: content.width
+                visible: text !== ""
+                text: card.pieceLines(true).join("\n")
+                color: Theme.bad
+            }
+            SmallText {
                 width: content.width
                 text: qsTr("Inserted %1, rejected %2, returned %3").arg(card.entry.notesInserted)
                       .arg(card.entry.notesRejected).arg(card.entry.notesReturned)
                 color: Theme.quiet
             }
             Repeater {
-                model: card.entry.registry
+                model: card.money ? null : card.entry.registry
                 SmallText {
                     required property bool isCoin
                     required property int channel
@@ -92,6 +127,24 @@ Rectangle {
                                   : qsTr("Cassette %1: %2 notes of %3 %4, %5 rejected"))
                           .arg(channel).arg(stock).arg(denomination).arg(currency).arg(rejects)
                 }
+            }
+            SmallText {
+                width: content.width
+                visible: card.money !== null
+                text: qsTr("Content by the log:")
+                color: Theme.quiet
+            }
+            SmallText {
+                objectName: "places"
+                width: content.width
+                visible: text !== ""
+                text: card.placeLines().join("\n")
+            }
+            SmallText {
+                objectName: "onTheirWay"
+                width: content.width
+                visible: text !== ""
+                text: card.pieceLines(false).join("\n")
             }
         }
     }

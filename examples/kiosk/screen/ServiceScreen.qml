@@ -19,6 +19,15 @@ Rectangle {
 
     color: Theme.ground
 
+    // What lies in the devices, as far as the service tells.
+    readonly property var contents: {
+        try {
+            return JSON.parse(screen.service.text).content || [];
+        } catch (error) {
+            return [];
+        }
+    }
+
     // How old the state is, in seconds; below 0 when nobody knows.
     property int age: -1
     function tellAge() {
@@ -113,6 +122,8 @@ Rectangle {
                     anchors.fill: parent
                     anchors.margins: Theme.gap / 2
                     entry: cell.model
+                    money: screen.contents.find(device => device.device_id === cell.model.deviceId
+                                                && device.thread_id === cell.model.threadId) || null
                 }
             }
             add: Transition {

@@ -47,6 +47,34 @@
 <context>
     <name>DeviceCard</name>
     <message>
+        <source>at least %1</source>
+        <translation>не менее %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>от %1 до %2</translation>
+    </message>
+    <message>
+        <source>Cassette</source>
+        <translation>Кассета</translation>
+    </message>
+    <message>
+        <source>Rejects</source>
+        <translation>Отбраковано</translation>
+    </message>
+    <message>
+        <source>Channel %1</source>
+        <translation>Канал %1</translation>
+    </message>
+    <message>
+        <source>Stuck: %1, since %2</source>
+        <translation>Застряло: %1, с %2</translation>
+    </message>
+    <message>
+        <source>On its way: %1, since %2</source>
+        <translation>В пути: %1, с %2</translation>
+    </message>
+    <message>
         <source>device %1, thread %2</source>
         <translation>устройство %1, поток %2</translation>
     </message>
@@ -65,6 +93,10 @@
     <message>
         <source>Cassette %1: %2 notes of %3 %4, %5 rejected</source>
         <translation>Кассета %1: купюр %2 по %3 %4, отбраковано %5</translation>
+    </message>
+    <message>
+        <source>Content by the log:</source>
+        <translation>Содержимое по журналу:</translation>
     </message>
 </context>
 <context>

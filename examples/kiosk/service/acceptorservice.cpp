@@ -28,12 +28,17 @@ void AcceptorService::record(const QString& fileName)
     }
 }
 
-void AcceptorService::record(SimulatedDevice& device)
+// What it reported last goes into the ledger, and into the session log.
+void AcceptorService::keep(SimulatedDevice& device)
 {
-    QJsonObject line = QJsonObject::fromVariantMap(device.lastReport());
-    line.insert(QStringLiteral("time"),
-                QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs));
-    m_record.write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
+    QJsonObject report = QJsonObject::fromVariantMap(device.lastReport());
+    report.insert(QStringLiteral("time"),
+                  QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs));
+    const QByteArray line = QJsonDocument(report).toJson(QJsonDocument::Compact);
+    m_content.take(line);
+    if (!m_record.isOpen())
+        return;
+    m_record.write(line + '\n');
     // Whoever follows the log sees the line at once.
     if (!m_record.flush())
         qWarning().noquote() << m_record.fileName() + QStringLiteral(": ") + m_record.errorString();
@@ -46,8 +51,7 @@ bool AcceptorService::step()
         if (!device->step())
             continue;
         stepped = true;
-        if (m_record.isOpen())
-            record(*device);
+        keep(*device);
     }
     if (!stepped && m_isLooping) {
         for (const auto& device : m_devices)
@@ -76,6 +80,7 @@ void AcceptorService::publish()
     }
     QVariantMap published = AcceptorState::stateMap(devices);
     published.insert(QStringLiteral("refusals"), refusals);
+    published.insert(QStringLiteral("content"), m_content.toList());
     const QJsonDocument document(QJsonObject::fromVariantMap(published));
     const QString state = QString::fromUtf8(document.toJson(QJsonDocument::Compact));
     if (state == m_state)

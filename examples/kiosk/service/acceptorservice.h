@@ -4,6 +4,7 @@
 #pragma once
 
 #include "../acceptorbus.h"
+#include "cashcontent.h"
 #include "simulateddevice.h"
 
 #include <QFile>
@@ -14,9 +15,9 @@
 #include <vector>
 
 /// The acceptor service's object on the bus. It publishes the service state, a JSON text:
-/// {"device_states": [device maps], "refusals": [...]}, where a refusal is a filter that refuses
-/// what a device has in hand: {"device_id", "thread_id", "name", "params"}. Whoever reads it
-/// ignores keys that he does not know.
+/// {"device_states": [device maps], "refusals": [...], "content": [...]}, where a refusal is a
+/// filter that refuses what a device has in hand: {"device_id", "thread_id", "name", "params"}, and
+/// the content is as in CashContent. Whoever reads it ignores keys that he does not know.
 class AcceptorService : public QObject
 {
     Q_OBJECT
@@ -48,9 +49,10 @@ Q_SIGNALS: // on the bus
 
 private:
     void publish();
-    void record(SimulatedDevice& device);
+    void keep(SimulatedDevice& device);
 
     std::vector<std::unique_ptr<SimulatedDevice>> m_devices;
+    CashContent m_content;
     QFile m_record; // open while the reports are recorded
     bool m_isLooping = false;
     QString m_state;
