@@ -55,7 +55,6 @@ private:
         PieceRange opening; // of every kind of which nothing is known
         qint64 extra = 0; // pieces of any kind may have come
         bool isUnbounded = false;
-        std::map<CashKind, qint64> lost; // so many may have been taken out
         Flows cassette;
         Flows rejects;
         std::vector<CashFlow> channels;
@@ -70,13 +69,14 @@ private:
     CashFlow& rejects(Period& period, const CashChannel& channel) const;
     CashKind kindOf(const CashChannel& channel) const;
     CashKind kindOf(int note) const;
-    PieceRange cassetteNow(const Period& period, const CashKind& kind, const CashFlow& flow) const;
+    PieceRange cassetteNow(const Period& period, const CashFlow& flow) const;
+    PieceRange unseen(const Period& period) const;
     PieceRange channelNow(size_t channel) const;
     void takeDoubtful(Period& period, const PieceEnd& piece);
     void mayBeCollected(Period& period);
     static void addDoubt(Period& period, const LogPlace& where, const char* reason, qint64 pieces,
                          std::optional<CashPlace> place, int denomination, int channel = 0);
-    void addContent(Period& period) const;
+    void addContent(Period& period, LogMoment at) const;
     void close(Period& period);
     CashPeriod told(const Period& period) const;
     Flows merged(const Flows& flows) const;
