@@ -12,7 +12,7 @@
 namespace {
 
 const quint32 noteBit = DeviceReport::bit(deviceStateDescConst::CURRENT_NOTE);
-const quint32 sumBit = DeviceReport::bit(deviceStateDescConst::SESSION_SUM);
+const quint32 sessionSumBit = DeviceReport::bit(deviceStateDescConst::SESSION_SUM);
 
 bool isOffer(const DeviceState& event)
 {
@@ -342,7 +342,7 @@ void LogExplainer::close(const LogDevice& device)
         answer.outcome = answer.end;
     if (answer.isTaken() || (answer.outcome == Outcome::Refused && answer.end != Outcome::Stuck))
         answer.machine.clear();
-    if (answer.end != Outcome::Stuck || !device.hasReported(sumBit))
+    if (answer.end != Outcome::Stuck || !device.hasReported(sessionSumBit))
         answer.creditLine.reset();
     else
         answer.creditLine = answer.creditLine.value_or(0);
