@@ -3,8 +3,8 @@
 # SPDX-License-Identifier: MIT
 
 # Installs what is missing and shows what scripts/test.sh does not: lint, all tests under the address and
-# undefined-behaviour sanitizers, those of the library and the tool under the thread sanitizer, the page
-# of explained logs in a browser, a fleet of many kiosks at a broker, ABI, documentation,
+# undefined-behaviour sanitizers, those of the library and the tool under the thread sanitizer, the pages
+# of logs in a browser, a fleet of many kiosks at a broker, ABI, documentation,
 # packages that are the same to the byte wherever they are built, and a few seconds of each fuzzer.
 set -euo pipefail
 cd "$(dirname "$0")/.."

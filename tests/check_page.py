@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 velmolib maintainers
 # SPDX-License-Identifier: MIT
-"""Opens the page that velmo makes of sample logs in a browser, and looks at what it shows and where.
+"""Opens the pages that velmo makes of logs in a browser, and looks at what they show and where.
 
 Usage: check_page.py VELMO SAMPLES    (needs chromium and chromedriver)
 """
@@ -42,6 +42,36 @@ while (texts.nextNode()) {
     }
 }
 return broken;
+"""
+
+# The texts of pictures that reach out of them, or that cover each other.
+COVERED = """
+const bad = [];
+for (const picture of document.querySelectorAll('.picture svg')) {
+    const frame = picture.getBoundingClientRect();
+    const texts = [...picture.querySelectorAll('text')].map(text => [text.getBoundingClientRect(), text.textContent]);
+    texts.forEach(([a, text], i) => {
+        if (a.left < frame.left || a.right > frame.right || a.top < frame.top || a.bottom > frame.bottom)
+            bad.push(text);
+        for (const [b, other] of texts.slice(i + 1))
+            if (a.left < b.right && b.left < a.right && a.top + 2 < b.bottom && b.top + 2 < a.bottom)
+                bad.push(text + ' / ' + other);
+    });
+}
+return bad;
+"""
+
+# Of the pictures, where a cassette was taken out; and of the bars, how long the certain part is, in hundredths.
+CASH = """
+const at = e => { const r = e.getBoundingClientRect(); return [r.left, r.right]; };
+return {window: window.innerWidth, width: document.documentElement.scrollWidth,
+        outside: performance.getEntriesByType('resource').length,
+        out: [...document.querySelectorAll('.picture path.outmark')].map(e => (at(e)[0] + at(e)[1]) / 2),
+        bars: [...document.querySelectorAll('details[open] .bars tr')].map(row => {
+            const [bar, sure] = ['svg', 'rect'].map(tag => at(row.querySelector(tag)));
+            return [row.innerText.trim().match(/\\d+$/)[0], (sure[1] - sure[0]) / (bar[1] - bar[0])];
+        }),
+        open: document.querySelectorAll('details[open]').length, all: document.querySelectorAll('details').length};
 """
 
 
@@ -148,14 +178,59 @@ def check(browser, velmo, samples, folder):
     require(leads, "a link leads nowhere")
 
 
+def money_log(periods, clock):
+    """The notes of a validator whose cassette is taken out after every hour; perhaps with times."""
+    lines = []
+
+    def add(second, **members):
+        time = {"time": 1767225600000 + second * 1000} if clock else {}
+        lines.append(json.dumps({"device_id": 1, "thread_id": 1, **time, **members}) + "\n")
+
+    for hour in range(periods):
+        add(3600 * hour, stacker_present=True, session="start", state="idling", session_sum=0)
+        for note in range(20):
+            at = 3600 * hour + 150 * (note + 1)
+            add(at, state="accepting", current_note=1000)
+            stuck = hour + 3 == periods and 4 < note < 10
+            add(at + 2, **({"state": "jammed"} if stuck else {"state": "stacked", "session_sum": 1000 * (note + 1)}))
+            add(at + 4, state="idling", current_note=0)
+        add(3600 * hour + 3500, stacker_present=False)
+    return "".join(lines)
+
+
+def check_cash(browser, velmo, folder):
+    log = os.path.join(folder, "log.jsonl")
+    page = os.path.join(folder, "page.html")
+    for periods, clock, width in [(4, True, 1100), (4, False, 390), (60, True, 390), (60, False, 1100)]:
+        with open(log, "w", encoding="utf-8") as lines:
+            lines.write(money_log(periods, clock))
+        subprocess.run([velmo, "--lang", "en", "cash", log, "--html", page], check=True)
+        browser.narrow(width)
+        browser.ask("/url", {"url": "file://" + page})
+        seen = browser.run(CASH)
+        require(seen["outside"] == 0, "the page loads something from elsewhere")
+        require(seen["width"] <= seen["window"] == width, f"the page of {width} is {seen['width']} wide")
+        broken = browser.run(BROKEN)
+        require(not broken, f"numbers are broken or cut off: {broken}")
+        covered = browser.run(COVERED)
+        require(not covered, f"texts cover each other or are cut off: {covered}")
+        require((seen["open"], seen["all"]) == (2, periods), f"{seen['open']} of {seen['all']} periods are shown")
+        steps = [right - left for left, right in zip(seen["out"], seen["out"][1:])]
+        require(len(steps) == periods - 1, f"{len(steps) + 1} collections are marked")
+        require(max(steps) < 1.01 * min(steps) + 0.5, f"the collections are not at even distances: {steps}")
+        require(seen["bars"] and all(text == "20000" for text, _ in seen["bars"]), f"the bars: {seen['bars']}")
+        require(all(abs(sure - 0.95) < 0.01 for _, sure in seen["bars"]), f"the bars: {seen['bars']}")
+
+
 def main():
     browser = Browser()
     try:
         with tempfile.TemporaryDirectory() as folder:
             check(browser, sys.argv[1], os.path.realpath(sys.argv[2]), folder)
+            check_cash(browser, sys.argv[1], folder)
     finally:
         browser.close()
-    print("The page shows its notes where they belong.")
+    print("The pages show notes and money where they belong.")
 
 
 if __name__ == "__main__":

@@ -6,6 +6,10 @@
 #include "logstream.h"
 #include "text/fault.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include <unistd.h>
 
 namespace {
@@ -32,6 +36,57 @@ void writeLogs(const QString& shorthand)
         }
         writeFile(QString(QLatin1Char(name++)), text);
     }
+}
+
+// A log of the words of a shorthand, a line each, perhaps with a minute: "5=a500" is that a note of
+// 500 is accepted. "!" is bad, "+" goes on with the kiosk of that name.
+QString moneyLog(const QString& shorthand, const QString& currency = "XTS"_s)
+{
+    const QString row = R"({"device_id":7,"thread_id":2,"channel":1,"bill_type":0,)"
+                        R"("currency":"%1","denomination":100,"count":4,"rejected":0})"_s;
+    const QHash<QString, QString> words{
+        {"s"_s,
+         R"("session":"start","state":"idling","session_sum":0,"stacker_present":true,)"
+         R"("cash":77,"dispenser_registry":[%1])"_s.arg(row.arg(currency))},
+        {"a"_s, R"("state":"accepting","current_note":%1)"_s},
+        {"k"_s, R"("state":"stacked")"_s},
+        {"c"_s, R"("state":"stacked","session_sum":%1)"_s},
+        {"j"_s, R"("state":"jammed")"_s},
+        {"i"_s, R"("state":"idling","current_note":0)"_s},
+        {"o"_s, R"("stacker_present":false)"_s},
+        {"n"_s, R"("stacker_present":true)"_s}};
+    QString text;
+    QString kiosk;
+    for (const QString& word : shorthand.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        if (word.startsWith(QLatin1Char('+'))) {
+            kiosk = R"("kiosk":%1,)"_s.arg(
+                QString::fromUtf8(QJsonDocument(QJsonArray{word.mid(1).replace("_"_s, " "_s)})
+                                      .toJson(QJsonDocument::Compact))
+                    .mid(1)
+                    .chopped(1));
+            continue;
+        }
+        const QString what = word.section(QLatin1Char('='), -1);
+        const QString line = words.value(what.left(1));
+        text +=
+            R"({"device_id":7,"thread_id":2,%1%2%3})"_s.arg(
+                kiosk,
+                what == word ? QString()
+                             : R"("time":"2026-01-01T10:%1:00Z",)"_s.arg(word.section("="_s, 0, 0)),
+                line.contains("%1"_s) ? line.arg(what.mid(1)) : line)
+            + QLatin1Char('\n');
+    }
+    return text;
+}
+
+// How a range of the JSON is shown.
+QString rangeText(const QJsonValue& range, int value = 1)
+{
+    const int min = value * range["min"_s].toInt();
+    const int max = value * range["max"_s].toInt();
+    return range["max"_s].isNull() ? "at least %1"_s.arg(min)
+        : min == max               ? QString::number(min)
+                                   : "%1 to %2"_s.arg(min).arg(max);
 }
 
 // The files that letters stand for: "Z" is A compressed, "T" that cut off, "P" A from a pipe.
@@ -144,7 +199,160 @@ b c;1a                          |ABAB| |b c a                  |A: no line has a
         QCOMPARE(exitCode, !isStopped && expected.contains(QLatin1Char('!')) ? 2 : 0);
     }
 
+    void pageTellsTheNumbersOfTheJson_data()
+    {
+        // A sample or the words of a log, what else is asked, what the page says besides.
+        addRows(R"(
+recycler-payout.jsonl                 |             | Everything adds up.
+fished-note.jsonl                     |             |
+jam.jsonl                             |             | taken out: at least 0<
++A s a500 c500 i o n a50 k i a20 j i  |             | 1 things do not add up.; taken and not credited; in the cassette: 50 to 70 XTS<; taken out: at least 500 XTS<; The device says of its cash: 77
++A s a500 c500 i o n a50 c550 i       | --last      | in the cassette: 50 XTS<; >450 XTS<
++A s a500 c500 i o n s a50 j i o      | --counted F | Of 2 counts 2 are not right.; data-name="Difference">2 short<; data-name="Difference">1 over<; 1 pieces got stuck on their way; >taken out with 0 to 50 XTS<
+s a500 c500 i                         | --counted F | Of 2 counts 1 are not right.; >right<; nothing in the logs
+s a100 c100 i s ! !                   | --keep-going | in the cassette: at least 0 XTS<
++A s a5 c5 i o +B s a6 c6 i o         |             | >Kiosk A: Note recycler; >Kiosk B: Note recycler
+)"_s);
+    }
+
+    void pageTellsTheNumbersOfTheJson()
+    {
+        const auto [log, options, texts] = cells<3>();
+        writeFile("F"_s, "device,place,denomination,count\n7,channel,100,2\n7,cassette,50,2\n"_s);
+        const QString name =
+            log.endsWith("jsonl"_s) ? sample(log) : writeFile("log"_s, moneyLog(log));
+        const QStringList cash =
+            QStringList{"cash"_s, name} + options.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        QStringList expected;
+        for (const QString& line : velmo(cash + QStringList{"--json"_s}).outLines()) {
+            const QJsonObject row = QJsonDocument::fromJson(line.toUtf8()).object();
+            const int value = row["denomination"_s].toInt();
+            if (row["kind"_s] != "place"_s)
+                continue;
+            const QString place = row["place"_s].toString();
+            QStringList shown{place == "channel"_s ? "channel %1"_s.arg(row["channel"_s].toInt())
+                                                   : place,
+                              QString::number(value), row["currency"_s].toString()};
+            for (const char* key : {"opening", "in", "out", "moved", "now"})
+                shown += rangeText(row[QLatin1String(key)]);
+            shown += rangeText(row["now"_s], value);
+            expected += shown.join(QLatin1Char(' '));
+        }
+        const VelmoRun run = velmo(cash + QStringList{"--html"_s, "-"_s});
+        QCOMPARE(run.exitCode, options == "--keep-going"_s ? 2 : 0);
+        QStringList told;
+        const QRegularExpression row("<tr>(<th scope=\"row\">.*data-name=\"Opening\".*)</tr>"_s);
+        for (auto found = row.globalMatch(run.out); found.hasNext();) {
+            QStringList cells = found.next().captured(1).split(QRegularExpression("</t[hd]>"_s));
+            cells.replaceInStrings(QRegularExpression("<[^>]*>"_s), QString());
+            told += cells.mid(0, 9).join(QLatin1Char(' '));
+        }
+        expected.sort();
+        told.sort();
+        QCOMPARE(told, expected);
+        QVERIFY(!told.isEmpty());
+        for (const QString& text : texts.split(QLatin1Char(';')))
+            QVERIFY2(run.out.contains(text.trimmed()), qPrintable(text));
+    }
+
+    // Of a sum: across, up. The picture is 92 to 900 wide, and 170 to 30 high.
+    void curveGoesWithTheMoney_data()
+    {
+        addRows(R"(
+s a1000 k i o n a500 k i     | M92 170H193V30H496V30, M597 170H698V100H900V100      |                      | 1 2 5 6 7 9
+s a1000 k i a500 j i o n     | M92 170H193V30H496V30H799V30, M900 170               |
+s o n a1000 j i a500 k i     | M92 170H193V170, M294 170H395V170H698V123.3H900V123.3 | M395 76.7H698V170H395zM698 30H900V123.3H698z
+00=s 40=a2 41=k 48=i         | M92 170H765.3V30H900V30                              |                      | 10:00 10:05 10:10 10:15 10:20 10:25 10:30 10:35 10:40 10:45
+50=s 00=a2 51=k 56=i         | M92 170H92V30H900V30                                 |                      | 10:50 10:51 10:52 10:53 10:54 10:55 10:56
+s a1 k i o                   | M92 170H294V30H900V30                                |                      | 1 2 5
+)"_s);
+    }
+
+    void curveGoesWithTheMoney()
+    {
+        const auto [words, lines, bands, ticks] = cells<4>();
+        const VelmoRun run =
+            velmo({"cash"_s, writeFile("log"_s, moneyLog(words)), "--html"_s, "-"_s});
+        const auto all = [&](const QString& pattern) {
+            QStringList found;
+            for (auto it = QRegularExpression(pattern).globalMatch(run.out); it.hasNext();)
+                found += it.next().captured(1);
+            return found.join(", "_s);
+        };
+        QCOMPARE(all("<path class=\"sum\" d=\"([^\"]*)"_s), lines);
+        QCOMPARE(all("<path class=\"may\" d=\"([^\"]*)"_s), bands);
+        if (!ticks.isEmpty())
+            QCOMPARE(all("class=\"tick\">([\\d:]+)<"_s),
+                     ticks.split(QLatin1Char(' ')).join(", "_s));
+    }
+
+    void pageHasNothingButText()
+    {
+        const QString markup = "<img_src=x_onerror=\"b\"><script>\u202e"_s;
+        const QString name = "<script>.jsonl"_s;
+        writeFile(name,
+                  moneyLog("+%1 s a50 k i a50 j i o n +B s a5 k i"_s.arg(markup), "<b>\\\""_s));
+        writeFile("F"_s,
+                  R"([{"device":7,"place":"cassette","denomination":50,"count":9,"kiosk":"B"}])"_s);
+        const VelmoRun run =
+            velmo({"cash"_s, name, "--counted"_s, "F"_s, "--html"_s, "page.html"_s});
+        QCOMPARE(run.out + run.err, QString());
+        QCOMPARE(run.exitCode, 0);
+        const QString html = readFile("page.html"_s);
+        QVERIFY(html.contains("content=\"default-src 'none'; style-src 'sha256-"_s));
+        QVERIFY(!html.contains(
+            QRegularExpression("<(script|img|b)\\b| (src|style|on\\w+)=\"|url\\((?!#)"_s)));
+        QVERIFY(!html.contains(QChar(0x202e)));
+        QVERIFY(
+            html.contains("Kiosk &lt;img src=x onerror=&quot;b&quot;&gt;&lt;script&gt;\\u202e"_s));
+        QVERIFY(html.contains(" &lt;b&gt;&quot;</td>"_s));
+        for (const char* tag :
+             {"section", "table", "svg", "details", "div", "tr", "td", "ul", "p"}) {
+            const QString opened = "<%1\\b"_s.arg(QLatin1String(tag));
+            QCOMPARE(html.count(QRegularExpression(opened)),
+                     html.count("</%1>"_s.arg(QLatin1String(tag))));
+        }
+    }
+
+    // There is a page "old", a log "log" and a bad one "bad".
+    void pageIsWholeOrNotThere_data()
+    {
+        addRows(R"(
+log  | --html /dev/full               | /dev/full: No space left on device
+bad  | --html old                     | bad:2: 
+bad  | --html new                     | bad:2: 
+log  | --html log                     | log
+log  | --counted old --html old       | old
+log  | --counted log --html old       | log:2: 
+log  | --html old --json              | --json, --csv and --html exclude each other
+log  | --html old --csv               | --json, --csv and --html exclude each other
+log  | --html no/new                  | no/new: No such file or directory
+)"_s);
+    }
+
+    void pageIsWholeOrNotThere()
+    {
+        const auto [log, options, message] = cells<3>();
+        writeFile("old"_s, "old page"_s);
+        const QString lines = moneyLog("s a50 k i"_s);
+        writeFile("log"_s, lines);
+        writeFile("bad"_s, moneyLog("s"_s) + "{\n"_s);
+        const VelmoRun run = velmo(QStringList{"cash"_s, log} + options.split(QLatin1Char(' ')));
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.out, QString());
+        QVERIFY2(run.err.startsWith("velmo: "_s + message), qPrintable(run.err));
+        QCOMPARE(readFile("old"_s), "old page"_s);
+        QCOMPARE(readFile("log"_s), lines);
+        QVERIFY(!QFile::exists("new"_s));
+    }
+
 private:
+    static QString readFile(const QString& name)
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+
     QTemporaryDir m_folder;
 };
 

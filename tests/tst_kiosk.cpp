@@ -195,7 +195,7 @@ private Q_SLOTS:
             samples             | jam             | 7  | Stuck: 1 × 1000, since T / Cassette: 0 to 1 × 1000
             samples             | jam             | 99 | Stuck: 1 × 1000, since T / Cassette: 0 to 1 × 1000
             samples             | recycler-payout | 3  | Cassette: at least 1 × 1000, Channel 1: 24 × 100 RUB, Channel 2: 9 × 500 RUB, Rejects: 0 × 100 RUB, 0 × 500 RUB
-            samples             | recycler-payout | 5  | Cassette: at least 0 × 500 RUB, at least 1 × 1000, Channel 1: 24 × 100 RUB, Channel 2: 0 to 9 × 500 RUB, Rejects: 0 × 100 RUB, 0 to 9 × 500 RUB
+            samples             | recycler-payout | 5  | Cassette: at least 0 × 500 RUB, at least 1 × 1000, Channel 1: 24 × 100 RUB, Channel 2: 0 to 9 × 500 RUB, Rejects: 0 × 100 RUB, 0 × 500 RUB
             samples             | recycler-payout | 99 | Cassette: at least 1 × 1000, Channel 1: 22 × 100 RUB, Channel 2: 8 × 500 RUB, Rejects: 1 × 100 RUB, 0 × 500 RUB
             examples/kiosk/show | validator recycler coins terminal | 99 | Cassette: at least 1 × 500, at least 2 × 1000, at least 0 × 2000; Stuck: 1 × 100, since T / Cassette: at least 0 × 100 RUB, Channel 1: 24 × 100 RUB, Channel 2: 8 × 500 RUB, Rejects: 0 × 100 RUB, 1 × 500 RUB; Cassette: at least 1 × 10)"_s);
     }

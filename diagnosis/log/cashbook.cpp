@@ -15,7 +15,7 @@ namespace {
 
 constexpr size_t mostExamples = 20;
 constexpr size_t mostContradictions = 200;
-constexpr size_t mostContents = 2000; // of a period's course
+constexpr size_t mostContents = 2001; // of a period's course; odd, so that the newest stays
 
 // Why a number is uncertain.
 constexpr const char* unknownEnd =
@@ -47,6 +47,14 @@ bool isSure(const PieceEnd& piece)
 {
     return piece.end == Outcome::Taken && piece.isSure && piece.isPlaceKnown && piece.note > 0
         && !piece.otherNote && !piece.isOnItsWay;
+}
+
+// The lines of several logs are in the order of their times.
+bool isBefore(const CashPeriod::Content& content, const LogMoment& at)
+{
+    if (LogPosition::log(content.position) == LogPosition::log(at.position))
+        return content.position < at.position;
+    return content.time.moment() < at.time.moment();
 }
 
 const char* doubtOf(const PieceEnd& piece)
@@ -99,6 +107,7 @@ CashBook::Period& CashBook::openPeriod(const PieceRange& opening)
         reject.opening += m_trail.areChannelsKnown() ? PieceRange::exactly(channel.rejected)
                                                      : PieceRange::atLeast(channel.rejected);
     }
+    addContent(period, m_now);
     for (const PieceEnd& piece : std::exchange(m_waiting, {}))
         takeDoubtful(period, piece);
     return period;
@@ -160,19 +169,23 @@ CashKind CashBook::kindOf(int note) const
     return {note, {}, billType};
 }
 
-PieceRange CashBook::cassetteNow(const Period& period, const CashKind& kind,
-                                 const CashFlow& flow) const
+PieceRange CashBook::cassetteNow(const Period& period, const CashFlow& flow) const
 {
     PieceRange now = flow.opening;
     now += flow.in;
     now += flow.moved;
     now -= flow.out;
     now.widen(0, period.extra);
-    const auto lost = period.lost.find(kind);
-    now.min = qMax<qint64>(0, now.min - (lost == period.lost.end() ? 0 : lost->second));
+    now.min = qMax<qint64>(0, now.min - flow.lost);
     if (period.isUnbounded)
         now.max.reset();
     return now;
+}
+
+// Of each kind that the cassette was not seen to hold.
+PieceRange CashBook::unseen(const Period& period) const
+{
+    return cassetteNow(period, {period.opening, {}, {}, {}, 0, 0});
 }
 
 PieceRange CashBook::channelNow(size_t channel) const
@@ -209,6 +222,7 @@ void CashBook::skipLine()
     Period& now = m_periods.back();
     now.isUnbounded = true;
     addDoubt(now, here(), gap, 1, {}, 0);
+    addContent(now, m_now);
     // Taken out in one line that was skipped, back in another one.
     if (m_skipped > 1)
         mayBeCollected(now);
@@ -216,9 +230,11 @@ void CashBook::skipLine()
 
 void CashBook::mayBeCollected(Period& period)
 {
+    m_emptiedAfter = m_now.skipped;
     addDoubt(period, here(), unseenCollection, 0, CashPlace::Cassette, 0);
-    for (const auto& [kind, flow] : period.cassette)
-        period.lost[kind] += cassetteNow(period, kind, flow).min;
+    for (auto& [kind, flow] : period.cassette)
+        flow.lost += cassetteNow(period, flow).min;
+    addContent(period, m_now);
 }
 
 void CashBook::beginHere()
@@ -237,7 +253,9 @@ void CashBook::beginHere()
         opening.max.reset();
     Period& period = openPeriod(opening);
     for (const auto& [kind, flow] : before.cassette)
-        cassette(period, kind).opening = cassetteNow(before, kind, flow);
+        cassette(period, kind).opening = cassetteNow(before, flow);
+    period.told.course.clear();
+    addContent(period, m_now);
     period.told.doubts = before.told.doubts;
 }
 
@@ -255,8 +273,8 @@ void CashBook::takeContradiction(const Contradiction& found)
                 continue;
             each.extra += found.missing;
             addDoubt(each, found, reason, found.missing, CashPlace::Cassette, 0);
+            addContent(each, m_now);
         }
-        addContent(*now);
     }
     if (now->told.contradictions.size() < mostContradictions)
         now->told.contradictions.push_back(found);
@@ -271,9 +289,10 @@ void CashBook::takePiece(const PieceEnd& piece)
         cassette(*last, kindOf(piece.note)); // seen
     if (piece.end == Outcome::Returned || piece.end == Outcome::Rejected)
         return;
-    if (last && isSure(piece)) {
+    // It is entered once no more is told of it: it may be gone again.
+    if (last && isSure(piece) && piece.skippedBefore >= m_emptiedAfter) {
         cassette(*last, kindOf(piece.note)).in += PieceRange::exactly(1);
-        return addContent(*last);
+        return addContent(*last, {piece.line, piece.time});
     }
     const bool isTaken = piece.end == Outcome::Taken;
     for (Period& period : m_periods) {
@@ -299,7 +318,7 @@ void CashBook::takeDoubtful(Period& period, const PieceEnd& piece)
         cassette(period, kindOf(*piece.otherNote)).in.widen(0, 1);
         addDoubt(period, piece, doubtOf(piece), 1, CashPlace::Cassette, *piece.otherNote);
     }
-    addContent(period);
+    addContent(period, {piece.line, piece.time});
 }
 
 void CashBook::takeChannel(size_t channel)
@@ -351,7 +370,7 @@ void CashBook::takeChange(MoneyAct act, const ChannelChange& change)
         into.moved.widen(0, rest);
         addDoubt(*now, here(), unexplained, rest, {}, channel.denomination, channel.number);
     }
-    addContent(*now);
+    addContent(*now, m_now);
 }
 
 void CashBook::takeUnfinished(const UnfinishedAct& act)
@@ -362,7 +381,7 @@ void CashBook::takeUnfinished(const UnfinishedAct& act)
             continue;
         period.isUnbounded = true;
         addDoubt(period, here(), uncounted, 1, CashPlace::Cassette, 0);
-        addContent(period);
+        addContent(period, m_now);
     }
     if (act.isEnded)
         return;
@@ -392,7 +411,7 @@ void CashBook::takeUnfinished(const UnfinishedAct& act)
             period.channels.at(i).moved.widen(untold, 0);
             cassette(period, kindOf(row)).moved.widen(counted, untold + left - counted);
             addDoubt(period, here(), unfinished, left + untold, {}, row.denomination, row.number);
-            addContent(period);
+            addContent(period, m_now);
         }
     }
 }
@@ -419,7 +438,7 @@ void CashBook::close(Period& period)
     for (size_t i = 0; i < period.channels.size(); ++i)
         period.channelsNow.push_back(channelNow(i));
     period.areRejectsKnown = m_trail.areChannelsKnown();
-    addContent(period);
+    addContent(period, m_now);
 }
 
 void CashBook::addDoubt(Period& period, const LogPlace& where, const char* reason, qint64 pieces,
@@ -437,16 +456,40 @@ void CashBook::addDoubt(Period& period, const LogPlace& where, const char* reaso
         found->examples.push_back({where, Diagnosis::tr(reason, nullptr, int(pieces))});
 }
 
-// What the cassette holds now. Of a long course, every second one is enough.
-void CashBook::addContent(Period& period) const
+// What the cassette holds has changed at a moment, which may be before what the course ends with,
+// or after the end of the period.
+// Of a long course, every second one is enough.
+void CashBook::addContent(Period& period, LogMoment at) const
 {
     PieceRange sum = PieceRange::exactly(0);
     for (const auto& [kind, flow] : period.cassette)
-        sum += cassetteNow(period, kind, flow).times(kind.denomination);
+        sum += cassetteNow(period, flow).times(kind.denomination);
+    if (!unseen(period).isExact())
+        sum.max.reset(); // of any value
     std::vector<CashPeriod::Content>& course = period.told.course;
-    if (!course.empty() && course.back().position == m_now.position)
-        course.pop_back();
-    course.push_back({m_now.position, m_now.time, sum});
+    if (course.empty()) {
+        course.push_back({at.position, at.time, sum});
+        return;
+    }
+    if (!period.told.isOpen && isBefore(course.back(), at))
+        at = {period.told.toPosition, period.told.to};
+    const PieceRange last = course.back().sum;
+    auto place = course.end();
+    while (place - 1 != course.begin() && !isBefore(*(place - 1), at))
+        --place;
+    const CashPeriod::Content& before = *(place - 1);
+    if (place == course.end() || place->position != at.position) {
+        const bool isHere = isBefore(before, at);
+        place = course.insert(place, {isHere ? at.position : before.position,
+                                      isHere ? at.time : before.time, before.sum});
+    }
+    for (; place != course.end(); ++place) {
+        place->sum.min += sum.min - last.min;
+        if (place->sum.max && last.max && sum.max)
+            *place->sum.max += *sum.max - *last.max;
+        else
+            place->sum.max.reset();
+    }
     if (course.size() < mostContents)
         return;
     size_t kept = 0;
@@ -472,13 +515,13 @@ CashPeriod CashBook::current()
 CashPeriod CashBook::told(const Period& period) const
 {
     CashPeriod told = period.told;
-    told.unseen = cassetteNow(period, {}, {period.opening, {}, {}, {}, 0});
+    told.unseen = unseen(period);
     const auto add = [&](CashRow row) {
         row.why = whyOf(period, row);
         told.rows.push_back(std::move(row));
     };
     for (const auto& [kind, cassette] : merged(period.cassette)) {
-        CashRow row{CashPlace::Cassette, 0, kind, cassette, cassetteNow(period, kind, cassette), {}};
+        CashRow row{CashPlace::Cassette, 0, kind, cassette, cassetteNow(period, cassette), {}};
         row.flow.in.widen(0, period.extra);
         if (period.isUnbounded)
             row.flow.in.max.reset();
@@ -526,6 +569,7 @@ CashBook::Flows CashBook::merged(const Flows& flows) const
         same->second.out += flow.out;
         same->second.moved += flow.moved;
         same->second.filled += flow.filled;
+        same->second.lost += flow.lost;
     }
     return found;
 }

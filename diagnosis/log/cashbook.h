@@ -16,6 +16,7 @@ struct LogMoment
 {
     qint64 position = 0; ///< a LogPosition
     LogTime time;
+    qint64 skipped = 0; ///< lines before it
 };
 
 /// What lies where in one device.
@@ -57,7 +58,6 @@ private:
         PieceRange opening; // of every kind of which nothing is known
         qint64 extra = 0; // pieces of any kind may have come
         bool isUnbounded = false;
-        std::map<CashKind, qint64> lost; // so many may have been taken out
         Flows cassette;
         Flows rejects;
         std::vector<CashFlow> channels;
@@ -72,13 +72,14 @@ private:
     CashFlow& rejects(Period& period, const CashChannel& channel) const;
     CashKind kindOf(const CashChannel& channel) const;
     CashKind kindOf(int note) const;
-    PieceRange cassetteNow(const Period& period, const CashKind& kind, const CashFlow& flow) const;
+    PieceRange cassetteNow(const Period& period, const CashFlow& flow) const;
+    PieceRange unseen(const Period& period) const;
     PieceRange channelNow(size_t channel) const;
     void takeDoubtful(Period& period, const PieceEnd& piece);
     void mayBeCollected(Period& period);
     static void addDoubt(Period& period, const LogPlace& where, const char* reason, qint64 pieces,
                          std::optional<CashPlace> place, int denomination, int channel = 0);
-    void addContent(Period& period) const;
+    void addContent(Period& period, LogMoment at) const;
     void close(Period& period);
     CashPeriod told(const Period& period) const;
     Flows merged(const Flows& flows) const;
@@ -91,6 +92,7 @@ private:
     const QStringList& m_logs;
     std::deque<Period> m_periods;
     bool m_isOut = false; // the cassette
+    qint64 m_emptiedAfter = 0; // so many lines were skipped when it may have been emptied at last
     int m_skipped = 0; // lines since it was told whether it is in
     std::vector<qint64> m_fewer; // that a channel may hold less than its row says
     std::vector<PieceEnd> m_waiting; // of unknown place since the cassette was taken out

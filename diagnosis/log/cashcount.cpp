@@ -57,7 +57,9 @@ constexpr Column columns[] = {
          count.place = CashPlace(found - placeKeys.begin());
      }},
     {"channel", false,
-     [](CashCount& count, const QString& text) { count.channel = int(wholeNumber(text, mostInt)); }},
+     [](CashCount& count, const QString& text) {
+         count.channel = int(wholeNumber(text, mostInt));
+     }},
     {"denomination", true,
      [](CashCount& count, const QString& text) {
          count.denomination = int(wholeNumber(text, mostInt));
@@ -247,6 +249,22 @@ std::optional<int> rankOf(const Contradiction& found, const CashCount& count, bo
 QString placeKey(CashPlace place)
 {
     return QLatin1String(placeKeys.at(size_t(place)));
+}
+
+QString CashDifference::placeName() const
+{
+    CashRow row;
+    row.place = count.place;
+    row.channel = channel.value_or(0);
+    return row.placeName();
+}
+
+QString CashDifference::verdict() const
+{
+    if (difference == 0)
+        return Diagnosis::tr("right");
+    return difference < 0 ? Diagnosis::tr("%1 short").arg(-difference)
+                          : Diagnosis::tr("%1 over").arg(difference);
 }
 
 std::vector<CashCount> readCashCounts(TextInput& file)

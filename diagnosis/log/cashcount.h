@@ -38,6 +38,12 @@ struct CashDifference
     PieceRange expected;
     qint64 difference = 0; ///< 0 within what is expected; below it for what is short
     std::vector<CashDoubt::Example> explanations; ///< the likeliest first
+
+    /// "cassette", "channel 2", "reject"
+    QString placeName() const;
+
+    /// "right", "2 short", "1 over"
+    QString verdict() const;
 };
 
 /// Reads what was counted: CSV with a header, or a JSON list of objects. Throws Fault, which names

@@ -54,12 +54,13 @@ CashLedger::CashLedger(const QStringList& logs, std::optional<quint32> device, R
     : m_logs(logs)
     , m_device(device)
     , m_receiver(std::move(receiver))
-    , m_explainer(FilterSet({}), 
-                  [this](const NoteAnswer& answer) {
-                      if (isAsked(answer.device))
-                          m_summary.add(answer);
-                  },
-                  this)
+    , m_explainer(
+          FilterSet({}),
+          [this](const NoteAnswer& answer) {
+              if (isAsked(answer.device))
+                  m_summary.add(answer);
+          },
+          this)
 {
 }
 
@@ -74,13 +75,13 @@ CashBook& CashLedger::bookOf(const MoneyTrail& trail)
 
 void CashLedger::take(const SessionLine& line, qint64 position)
 {
-    m_now = {position, line.time()};
+    m_now = {position, line.time(), m_now.skipped};
     m_explainer.take(line, position);
 }
 
 void CashLedger::skipLine(qint64 position)
 {
-    m_now = {position, {}};
+    m_now = {position, {}, m_now.skipped + 1};
     m_explainer.skipLine();
     for (const auto& [device, book] : m_books)
         book->skipLine();
@@ -119,6 +120,8 @@ std::vector<CashPeriod> CashLedger::periods(bool isLogMissing) const
         return all;
     for (CashPeriod& period : all) {
         period.unseen = PieceRange::atLeast(0);
+        for (CashPeriod::Content& content : period.course)
+            content.sum = period.unseen;
         for (CashRow& row : period.rows) {
             row.now = PieceRange::atLeast(0);
             row.why += Diagnosis::tr("a log could not be read");

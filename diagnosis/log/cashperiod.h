@@ -60,6 +60,7 @@ struct CashFlow
     PieceRange out;
     PieceRange moved; ///< from other places, or below 0 to them
     qint64 filled = 0; ///< of what came in, put in by the service
+    qint64 lost = 0; ///< so many may have been taken out unseen
 };
 
 /// A row of the ledger.
@@ -71,6 +72,15 @@ struct CashRow
     CashFlow flow;
     PieceRange now; ///< when the period ended
     QStringList why; ///< what makes it uncertain, or is to be known of it
+
+    /// "cassette", "channel 2", "reject"
+    QString placeName() const;
+
+    /// What people are shown of it, from the place to the sum that lies there now.
+    QStringList cells() const;
+
+    /// The headings over those.
+    static QStringList columns();
 };
 
 /// What lay in a device from one collection of its cassette to the next.
@@ -92,7 +102,7 @@ struct CashPeriod
     std::vector<CashDoubt> doubts;
     std::vector<Contradiction> contradictions; ///< the first ones; their lines are LogPositions
 
-    /// What the cassette held, from time to time.
+    /// What the cassette held since the period began, and whenever that changed.
     struct Content
     {
         qint64 position;

@@ -12,7 +12,7 @@
 namespace {
 
 const quint32 noteBit = DeviceReport::bit(deviceStateDescConst::CURRENT_NOTE);
-const quint32 sumBit = DeviceReport::bit(deviceStateDescConst::SESSION_SUM);
+const quint32 sessionSumBit = DeviceReport::bit(deviceStateDescConst::SESSION_SUM);
 
 bool isOffer(const DeviceState& event)
 {
@@ -362,7 +362,7 @@ void LogExplainer::close(const LogDevice& device)
         answer.outcome = answer.end;
     if (answer.isTaken() || (answer.outcome == Outcome::Refused && answer.end != Outcome::Stuck))
         answer.machine.clear();
-    if (answer.end != Outcome::Stuck || !device.hasReported(sumBit))
+    if (answer.end != Outcome::Stuck || !device.hasReported(sessionSumBit))
         answer.creditLine.reset();
     else
         answer.creditLine = answer.creditLine.value_or(0);
@@ -388,6 +388,7 @@ PieceEnd LogExplainer::pieceOf(const Note& note) const
     piece.note = note.answer.note;
     const bool isStuck = note.stoppedLine > 0 && !piece.isInChannel;
     piece.end = isStuck ? Outcome::Stuck : note.answer.end;
+    piece.skippedBefore = note.skippedBeforeNote;
     piece.isSure = m_player.skippedLines() == note.skippedBeforeNote;
     return piece;
 }

@@ -3,13 +3,11 @@
 
 #include "log/explanationpage.h"
 
-#include "log/pagestyle.h"
+#include "log/pageparts.h"
 #include "log/sessionlook.h"
 #include "text/diagnosis.h"
 #include "text/htmltext.h"
 #include "text/textoutput.h"
-
-#include <QCryptographicHash>
 
 #include <algorithm>
 #include <climits>
@@ -21,19 +19,6 @@ constexpr int unfoldedParts = 10;
 
 // The further links of a sentence are left out: they would lead to the same place.
 constexpr int mostLinks = 12;
-
-QString element(const char* tag, const QString& text)
-{
-    return QStringLiteral("<%1>%2</%1>\n").arg(QLatin1String(tag), htmlText(text));
-}
-
-QString list(const QStringList& texts)
-{
-    QString items;
-    for (const QString& text : texts)
-        items += element("li", text);
-    return QStringLiteral("<ul>\n%1</ul>\n").arg(items);
-}
 
 QString link(const QString& anchor, const QString& text)
 {
@@ -122,28 +107,11 @@ QString legend()
     return QStringLiteral(
                "<section class=\"legend\">\n<ul>\n%1</ul>\n<ul>\n%2</ul>\n%3</section>\n")
         .arg(markLegend(), stateLegend(),
-             element("p",
-                     Diagnosis::tr("Where much happens at once, the pictures are stretched. A mark "
-                                   "leads to its sentence, a sentence to its mark and to what it "
-                                   "speaks of.")));
-}
-
-QByteArray head(const QString& title)
-{
-    const QByteArray style(pageStyle);
-    const QByteArray hash = QCryptographicHash::hash(style, QCryptographicHash::Sha256).toBase64();
-    //: The language of these words, for the attribute lang of HTML.
-    const QString language = Diagnosis::tr("en", "language code");
-    return "<!DOCTYPE html>\n<html lang=\"" + htmlText(language).toUtf8()
-        + "\">\n<head>\n<meta charset=\"utf-8\">\n"
-          "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src "
-          "'sha256-"
-        + hash
-        + "'; base-uri 'none'; form-action 'none'\">\n"
-          "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
-          "<meta name=\"referrer\" content=\"no-referrer\">\n"
-        + element("title", title).toUtf8() + "<style>" + style + "</style>\n</head>\n<body>\n"
-        + markShapes().toUtf8();
+             htmlElement(
+                 "p",
+                 Diagnosis::tr("Where much happens at once, the pictures are stretched. A mark "
+                               "leads to its sentence, a sentence to its mark and to what it "
+                               "speaks of.")));
 }
 
 } // namespace
@@ -158,7 +126,7 @@ void ExplanationPage::beginLog(const QString& name)
 {
     m_logs += name;
     writeText(m_sections,
-              QStringLiteral("<section class=\"log\">\n%1").arg(element("h2", name)).toUtf8());
+              QStringLiteral("<section class=\"log\">\n%1").arg(htmlElement("h2", name)).toUtf8());
 }
 
 SessionRecord& ExplanationPage::session(int number)
@@ -250,7 +218,7 @@ void ExplanationPage::writeSession(const SessionRecord& session)
         }
         const QString range = Diagnosis::tr("lines %1 to %2").arg(firstLine).arg(lastLine);
         writeText(m_sections,
-                  QStringLiteral("<details class=\"session\"%1>\n<summary><strong>%2 <span "
+                  QStringLiteral("<details class=\"fold\"%1>\n<summary><strong>%2 <span "
                                  "class=\"file\">%3</span></strong>\n%4</summary>\n<div "
                                  "class=\"picture\" tabindex=\"0\" role=\"group\" "
                                  "aria-label=\"%5\">\n%6</div>\n%7</details>\n")
@@ -265,31 +233,13 @@ void ExplanationPage::writeSession(const SessionRecord& session)
     }
 }
 
-QString ExplanationPage::totals(const Summary& summary) const
-{
-    QString rows;
-    for (const Summary::Row& row : summary.rows()) {
-        rows += QStringLiteral("<tr%1><th scope=\"row\">%2</th><td>%3</td><td>%4</td></tr>\n")
-                    .arg(row.isPart ? QStringLiteral(" class=\"part\"") : QString(),
-                         htmlText(row.what), QString::number(row.tally.count),
-                         row.hasSum ? QString::number(row.tally.sum) : QString());
-    }
-    return QStringLiteral(
-               "<section class=\"card\">\n%1<table>\n<thead><tr><th "
-               "scope=\"col\">%2</th><th scope=\"col\">%3</th><th "
-               "scope=\"col\">%4</th></tr></thead>\n<tbody>\n%5</tbody></table>\n</section>\n")
-        .arg(element("h3", Diagnosis::tr("%n sessions", nullptr, summary.sessions)),
-             htmlText(Diagnosis::tr("Notes")), htmlText(Diagnosis::tr("Number")),
-             htmlText(Diagnosis::tr("Sum")), rows);
-}
-
 QString ExplanationPage::warnings() const
 {
     const QStringList texts = m_subject.warnings + m_doubts;
     if (texts.isEmpty())
         return {};
     return QStringLiteral("<section class=\"warning\">\n%1%2</section>\n")
-        .arg(element("h3", Diagnosis::tr("The answers may be wrong")), list(texts));
+        .arg(htmlElement("h3", Diagnosis::tr("The answers may be wrong")), htmlList(texts));
 }
 
 void ExplanationPage::write(QIODevice& page, const Summary& summary)
@@ -298,15 +248,15 @@ void ExplanationPage::write(QIODevice& page, const Summary& summary)
     const QStringList rules = m_subject.rules.isEmpty()
         ? QStringList(Diagnosis::tr("None: every note is accepted."))
         : m_subject.rules;
-    writeText(page, head(title + QStringLiteral(" - ") + m_logs.join(QStringLiteral(", "))));
+    writeText(page, pageHead(title, m_logs, markShapes()));
     writeText(
         page,
         QStringLiteral("<header>\n%1</header>\n<main>\n%2<div class=\"top\">\n%3<section "
                        "class=\"card\">\n<h3>%4 <span class=\"file\">%5</span></h3>\n%6</section>\n"
                        "</div>\n%7")
-            .arg(element("h1", title), warnings(), totals(summary),
+            .arg(htmlElement("h1", title), warnings(), totalsCard(summary.sessions, summary.rows()),
                  htmlText(Diagnosis::tr("Filters in force")), htmlText(m_subject.filtersFile),
-                 list(rules), legend())
+                 htmlList(rules), legend())
             .toUtf8());
     if (!m_sections.seek(0))
         throw faultOf(m_sections);

@@ -53,7 +53,6 @@ public:
 private:
     SessionRecord& session(int number);
     void writeSession(const SessionRecord& session);
-    QString totals(const Summary& summary) const;
     QString warnings() const;
 
     const Subject m_subject;

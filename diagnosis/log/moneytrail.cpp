@@ -582,7 +582,7 @@ bool MoneyTrail::seeCounter(qint64 counter)
                  .arg(m_notes),
              0, missing);
     }
-    m_notes = qBound<qint64>(0, m_notes - qMax<qint64>(0, rise), 1);
+    m_notes = qBound(qint64(0), m_notes - qMax<qint64>(0, rise), qint64(1));
     m_counter = counter;
     m_counterLine = m_line;
     m_counterCollections = m_collections;

@@ -72,6 +72,7 @@ struct PieceEnd : LogPlace
     bool isPlaceKnown = true; ///< the registry tells whether it is in a channel
     int collections = 0; ///< of the cassette when it was offered
     int collectionsAtEnd = 0; ///< when it was clear where it is
+    qint64 skippedBefore = 0; ///< lines of the log, when it was offered
     bool isOnItsWay = false; ///< the log goes on, and may tell yet where it is
 };
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-/// The style sheet of the explanation page.
+/// The style sheet of the pages.
 constexpr const char pageStyle[] = R"css(
 :root {
     color-scheme: light dark;
@@ -63,7 +63,7 @@ summary::before { content: "\25B8"; width: .8rem; color: var(--faint); }
 details[open] > summary::before { content: "\25BE"; }
 details[open] > summary { border-radius: 8px 8px 0 0; border-bottom: 1px solid var(--edge); }
 summary strong { margin-right: auto; }
-.session { content-visibility: auto; contain-intrinsic-size: auto 30rem; }
+.fold { content-visibility: auto; contain-intrinsic-size: auto 30rem; }
 .picture { overflow-x: auto; padding: .25rem 1rem 0; }
 .picture svg { display: block; width: 100%; min-width: 44rem; height: auto; }
 .doubt { margin: .6rem 1rem 0; color: var(--warn-edge); }
@@ -118,11 +118,44 @@ svg path.limit { fill: none; stroke: var(--refused); stroke-width: 1.5px; stroke
 svg path.excess { fill: none; stroke: var(--refused); stroke-width: 1.5px; stroke-dasharray: 2 2; }
 svg text.limit { fill: var(--refused); text-anchor: end; }
 
+.now .file { font-weight: normal; }
+.now th { text-align: left; font-weight: normal; white-space: nowrap; }
+.now td { white-space: normal; }
+.now th[colspan] { padding-top: .4rem; font-weight: 600; white-space: normal; }
+.now tr:not(:first-child) th { padding-left: .8rem; }
+.now tr.all > * { font-weight: 600; }
+.period { padding: .4rem 1rem .8rem; overflow-x: auto; }
+.period p { margin: .4rem 0; color: var(--faint); font-size: .875rem; }
+.bars { margin: .2rem 0 .8rem; }
+.bars > tbody > tr > * { border: 0; width: 1%; }
+.bars > tbody > tr > td:nth-child(2) { width: 97%; }
+.bars th { white-space: nowrap; }
+.bar { display: block; width: 100%; height: 16px; }
+.wide th, .wide td { text-align: right; }
+.wide th:first-child { text-align: left; white-space: nowrap; }
+.wide .quiet { color: var(--faint); }
+.sure, svg path.outmark { fill: var(--link); }
+.may { fill: url(#hatch); stroke: var(--link); stroke-width: 1px; }
+svg path.hatch { fill: var(--link); fill-opacity: .45; }
+svg path.atleast { fill: none; stroke: var(--link); stroke-width: 2px; }
+svg path.out { fill: none; stroke: var(--ink); stroke-width: 1.5px; stroke-dasharray: 5 3; }
+svg path.outmark, svg text.taken-out { fill: var(--ink); font-weight: 600; }
+@media (max-width: 44rem) {
+    summary strong { flex: 1 1 12rem; }
+    .wide thead { position: absolute; left: -100rem; }
+    .wide tr { display: flex; flex-wrap: wrap; gap: 0 1rem; align-items: baseline; padding: .3rem 0;
+        border-bottom: 1px solid var(--edge); }
+    .wide th:first-child { min-width: 5.5rem; font-weight: 600; }
+    .wide tr > *, .wide tbody tr:last-child > * { border: 0; padding: 0; }
+    .wide td::before { content: attr(data-name) " "; color: var(--faint); font-size: .875rem; }
+    .wide td:empty, .wide td.quiet:nth-last-child(n+4) { display: none; }
+}
+
 @media print {
     :root { color-scheme: light; }
     body { max-width: none; padding: 0; font-size: 10pt; }
-    .session { content-visibility: visible; border: 0; }
-    .session::details-content { content-visibility: visible; display: block; }
+    .fold { content-visibility: visible; border: 0; }
+    .fold::details-content { content-visibility: visible; display: block; }
     .picture { overflow: visible; padding: 0; }
     .picture svg { min-width: 0; break-inside: avoid; }
     li.answer, li.contradiction { break-inside: avoid; }

@@ -17,7 +17,6 @@
 namespace {
 
 using S = AcceptorSettings;
-using Finding = SettingsFinding;
 
 QString shortened(const QString& text)
 {
@@ -56,6 +55,8 @@ QString faultOf(const SettingDescription& setting, const QString& text)
 
 class Check
 {
+    using Finding = SettingsFinding;
+
 public:
     explicit Check(const ArrayFile& file)
         : m_file(file)

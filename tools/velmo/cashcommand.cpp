@@ -4,6 +4,7 @@
 #include "cashanswer.h"
 #include "commands.h"
 #include "input.h"
+#include "log/cashpage.h"
 #include "logstream.h"
 
 #include <algorithm>
@@ -45,8 +46,10 @@ public:
         answer.notes = notes;
         for (const auto& [name, known] : m_kiosks) {
             known->ledger.finish();
-            answer.kiosks.push_back({name, known->ledger.periods(m_isLogMissing),
-                                     std::move(known->contradictions), {}});
+            answer.kiosks.push_back({name,
+                                     known->ledger.periods(m_isLogMissing),
+                                     std::move(known->contradictions),
+                                     {}});
             answer.summary.add(known->ledger.summary());
             answer.summary.contradictions += qint64(answer.kiosks.back().contradictions.size());
             answer.devices += known->ledger.devices();
@@ -132,8 +135,9 @@ int cashCommand(const Arguments& arguments)
 {
     const bool json = arguments.isSet(options::json);
     const bool csv = arguments.isSet(options::csv);
-    if (json && csv)
-        throw Fault{Velmo::tr("--json and --csv do not go together")};
+    const bool html = arguments.isSet(options::html);
+    if (json + csv + html > 1)
+        throw Fault{Velmo::tr("--json, --csv and --html exclude each other")};
     std::vector<CashCount> counts;
     const QString countsFile = arguments.value(options::counted);
     if (arguments.isSet(options::counted)) {
@@ -142,6 +146,10 @@ int cashCommand(const Arguments& arguments)
         TextInput file = openInput(countsFile);
         counts = readCashCounts(file);
     }
+    std::optional<OutputFile> page;
+    if (html)
+        page.emplace(arguments.value(options::html),
+                     arguments.operands() + QStringList{countsFile});
     CashReading reading(arguments);
     LogStream stream(arguments.operands(), arguments.isSet(options::perFile),
                      arguments.isSet(options::keepGoing));
@@ -163,9 +171,14 @@ int cashCommand(const Arguments& arguments)
         if (json || csv)
             printError(note);
     }
-    print(json      ? QString::fromUtf8(cashJson(answer))
-              : csv ? QString::fromUtf8(cashCsv(answer))
-                    : cashText(answer));
+    if (page) {
+        writeCashPage(page->device(), answer);
+        page->commit();
+    } else {
+        print(json      ? QString::fromUtf8(cashJson(answer))
+                  : csv ? QString::fromUtf8(cashCsv(answer))
+                        : cashText(answer));
+    }
     if (exitCode == exitSuccess && !isSound && arguments.isSet(options::exitCode))
         return exitFindings;
     return exitCode;

@@ -8,19 +8,6 @@
 
 namespace {
 
-QString placeName(const CashRow& row)
-{
-    switch (row.place) {
-    case CashPlace::Cassette:
-        return Velmo::tr("cassette");
-    case CashPlace::Channel:
-        return Velmo::tr("channel %1").arg(row.channel);
-    case CashPlace::Reject:
-        break;
-    }
-    return Velmo::tr("reject");
-}
-
 // When it was, on the clock of the log, and the line.
 QString momentText(const QStringList& logs, const LogTime& time, qint64 position)
 {
@@ -55,29 +42,24 @@ QString tableOf(const CashPeriod& period)
                 notes += why;
             marks += QString::number(notes.indexOf(why) + 1);
         }
-        const QString name = placeName(row);
-        rows += QStringList{
-            name == place ? QString() : name,
-            QString::number(row.kind.denomination),
-            row.kind.currency,
-            row.flow.opening.text(),
-            row.flow.in.text(),
-            row.flow.out.text(),
-            row.flow.moved.text(),
-            row.now.text(),
-            row.now.times(row.kind.denomination).text(),
-            marks.isEmpty() ? QString() : QStringLiteral("[%1]").arg(marks.join(QLatin1Char(',')))};
+        QStringList cells = row.cells();
+        const QString name = cells.at(0);
+        if (name == place)
+            cells[0].clear();
+        rows += cells
+            + QStringList{marks.isEmpty()
+                              ? QString()
+                              : QStringLiteral("[%1]").arg(marks.join(QLatin1Char(',')))};
         place = name;
     }
     if (rows.isEmpty())
         return Velmo::tr("Of money the log tells nothing.") + QLatin1Char('\n');
-    const QString right(QLatin1Char('>'));
-    QString text = formatTable(
-        {Velmo::tr("Place"), right + Velmo::tr("Value"), Velmo::tr("Currency"),
-         right + Velmo::tr("Opening"), right + Velmo::tr("In"), right + Velmo::tr("Out"),
-         right + Velmo::tr("Moved"), right + Velmo::tr("Now"), right + Velmo::tr("Sum now"),
-         QString()},
-        rows);
+    QStringList columns = CashRow::columns();
+    for (int i = 1; i < columns.size(); ++i) {
+        if (i != 2) // the currency
+            columns[i].prepend(QLatin1Char('>'));
+    }
+    QString text = formatTable(columns + QStringList{QString()}, rows);
     for (int i = 0; i < notes.size(); ++i)
         text += wrapped(QStringLiteral("  [%1] %2").arg(i + 1).arg(notes.at(i)), 6, outputWidth());
     return text;
@@ -102,15 +84,10 @@ QString countsText(const CashAnswer& answer, const KioskCash& kiosk)
     QList<QStringList> rows;
     for (const CashDifference& difference : kiosk.differences) {
         const CashCount& count = difference.count;
-        CashRow named;
-        named.place = count.place;
-        named.channel = difference.channel.value_or(0);
-        const QString verdict = difference.difference == 0 ? Velmo::tr("right")
-            : difference.difference < 0 ? Velmo::tr("%1 short").arg(-difference.difference)
-                                        : Velmo::tr("%1 over").arg(difference.difference);
         rows += QStringList{QString::number(count.device), QString::number(difference.period),
-                            placeName(named), QString::number(count.denomination),
-                            difference.expected.text(), QString::number(count.count), verdict};
+                            difference.placeName(),        QString::number(count.denomination),
+                            difference.expected.text(),    QString::number(count.count),
+                            difference.verdict()};
     }
     const QString right(QLatin1Char('>'));
     text += formatTable({right + Velmo::tr("Device"), right + Velmo::tr("Period"),
@@ -152,8 +129,8 @@ QString cashText(const CashAnswer& answer)
         for (const CashPeriod& period : kiosk.periods) {
             if (period.number == kiosk.periods.front().number || period.number == 1)
                 text += printable(period.deviceName) + QLatin1Char('\n');
-            text += printable(periodText(answer.logs, period)) + QLatin1Char('\n')
-                + tableOf(period);
+            text +=
+                printable(periodText(answer.logs, period)) + QLatin1Char('\n') + tableOf(period);
             if (period.cash)
                 text += Velmo::tr("The device says of its cash: %1").arg(*period.cash)
                     + QLatin1Char('\n');

@@ -35,7 +35,7 @@ const std::vector<Command>& commands()
         {"cash",
          {sessionLogs},
          {&options::counted, &options::device, &options::last, &options::perFile,
-          &options::exitCode, &options::json, &options::csv, &options::keepGoing},
+          &options::exitCode, &options::json, &options::csv, &options::html, &options::keepGoing},
          cashCommand,
          QT_TRANSLATE_NOOP("Velmo", "Where the money is: what lies in each cassette and channel."),
          QT_TRANSLATE_NOOP(

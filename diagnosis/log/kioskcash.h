@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "log/cashcount.h"
+#include "log/cashledger.h"
+
+#include <QStringList>
+
+#include <vector>
+
+/// Where the money of one kiosk is.
+struct KioskCash
+{
+    QString kiosk; ///< empty where it is not named
+    std::vector<CashPeriod> periods;
+    std::vector<Contradiction> contradictions;
+    std::vector<CashDifference> differences; ///< one for each count
+};
+
+/// Of all kiosks that the logs are of.
+struct CashAnswer
+{
+    QStringList logs; ///< their names, as LogPosition counts them
+    std::vector<KioskCash> kiosks;
+    Summary summary;
+    int devices = 0;
+    QStringList notes; ///< of the order of the lines
+};
