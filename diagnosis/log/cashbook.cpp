@@ -239,6 +239,7 @@ void CashBook::mayBeCollected(Period& period)
 
 void CashBook::beginHere()
 {
+    m_beginning = m_now;
     if (m_isOut) {
         m_periods.clear();
         return;
@@ -291,7 +292,7 @@ void CashBook::takePiece(const PieceEnd& piece)
         return;
     // It is entered once no more is told of it: it may be gone again.
     if (last && isSure(piece) && piece.skippedBefore >= m_emptiedAfter) {
-        cassette(*last, kindOf(piece.note)).in += PieceRange::exactly(1);
+        inflow(*last, piece.note, piece) += PieceRange::exactly(1);
         return addContent(*last, {piece.line, piece.time});
     }
     const bool isTaken = piece.end == Outcome::Taken;
@@ -306,16 +307,24 @@ void CashBook::takePiece(const PieceEnd& piece)
         m_waiting.push_back(piece);
 }
 
+// What came before the time that is asked for lay there when that began.
+PieceRange& CashBook::inflow(Period& period, int note, const PieceEnd& piece) const
+{
+    CashFlow& flow = cassette(period, kindOf(note));
+    const bool isOld = m_beginning && isBefore({piece.line, piece.time, {}}, *m_beginning);
+    return isOld ? flow.opening : flow.in;
+}
+
 // It may have come into the cassette.
 void CashBook::takeDoubtful(Period& period, const PieceEnd& piece)
 {
     if (piece.note > 0)
-        cassette(period, kindOf(piece.note)).in.widen(0, 1);
+        inflow(period, piece.note, piece).widen(0, 1);
     else
         ++period.extra;
     addDoubt(period, piece, doubtOf(piece), 1, CashPlace::Cassette, piece.note);
     if (piece.otherNote && *piece.otherNote > 0) {
-        cassette(period, kindOf(*piece.otherNote)).in.widen(0, 1);
+        inflow(period, *piece.otherNote, piece).widen(0, 1);
         addDoubt(period, piece, doubtOf(piece), 1, CashPlace::Cassette, *piece.otherNote);
     }
     addContent(period, {piece.line, piece.time});

@@ -75,6 +75,7 @@ private:
     PieceRange cassetteNow(const Period& period, const CashFlow& flow) const;
     PieceRange unseen(const Period& period) const;
     PieceRange channelNow(size_t channel) const;
+    PieceRange& inflow(Period& period, int note, const PieceEnd& piece) const;
     void takeDoubtful(Period& period, const PieceEnd& piece);
     void mayBeCollected(Period& period);
     static void addDoubt(Period& period, const LogPlace& where, const char* reason, qint64 pieces,
@@ -92,6 +93,7 @@ private:
     const QStringList& m_logs;
     std::deque<Period> m_periods;
     bool m_isOut = false; // the cassette
+    std::optional<LogMoment> m_beginning; // of the time that is asked for
     qint64 m_emptiedAfter = 0; // so many lines were skipped when it may have been emptied at last
     int m_skipped = 0; // lines since it was told whether it is in
     std::vector<qint64> m_fewer; // that a channel may hold less than its row says

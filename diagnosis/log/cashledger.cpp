@@ -87,8 +87,12 @@ void CashLedger::skipLine(qint64 position)
         book->skipLine();
 }
 
-void CashLedger::beginHere()
+void CashLedger::beginHere(qint64 position, const LogTime& time)
 {
+    if (m_books.empty())
+        return;
+    if (position > 0)
+        m_now = {position, time, m_now.skipped};
     m_summary = Summary();
     m_sessionsBefore = qMax(0, m_explainer.sessions() - 1);
     for (const auto& [device, book] : m_books)

@@ -35,7 +35,8 @@ public:
     void skipLine(qint64 position);
 
     /// Begins to count anew: what lies where becomes the opening.
-    void beginHere();
+    /// @param position of the line from which on, which is not taken yet
+    void beginHere(qint64 position, const LogTime& time);
 
     /// To be called once, when all lines are taken.
     void finish();

@@ -6,6 +6,7 @@
 #include "input.h"
 #include "log/cashpage.h"
 #include "logstream.h"
+#include "period.h"
 
 #include <algorithm>
 #include <map>
@@ -19,6 +20,8 @@ class CashReading
 public:
     explicit CashReading(const Arguments& arguments)
         : m_logs(arguments.operands())
+        , m_period(arguments)
+        , m_utc(arguments.isSet(options::utc))
     {
         if (arguments.isSet(options::device))
             m_device = quint32(arguments.number(options::device));
@@ -26,13 +29,26 @@ public:
 
     void take(const StreamLine& line)
     {
-        ledgerOf(line.kiosk).ledger.take(line.line, LogPosition::of(line.log, line.number));
+        m_isAnyTimed = m_isAnyTimed || line.moment;
+        m_isOver = m_isOver || m_period.isBefore(line.moment);
+        if (m_isOver)
+            return;
+        Kiosk& kiosk = ledgerOf(line.kiosk);
+        const qint64 position = LogPosition::of(line.log, line.number);
+        SessionLine shown = line.line;
+        if (m_utc && shown.time().isKnown())
+            shown.setTime(shown.time().utc());
+        if (!kiosk.hasBegun && !m_period.isAfter(line.moment))
+            kiosk.begin(position, shown.time());
+        kiosk.ledger.take(shown, position);
     }
 
     // Line 0 stands for a whole log.
     void skip(int log, const QString& kiosk, qint64 line)
     {
         m_isLogMissing = m_isLogMissing || line == 0;
+        if (m_isOver && line > 0)
+            return;
         for (const auto& [name, known] : m_kiosks) {
             if (kiosk.isEmpty() || name == kiosk)
                 known->ledger.skipLine(LogPosition::of(log, line));
@@ -44,7 +60,11 @@ public:
         CashAnswer answer;
         answer.logs = m_logs;
         answer.notes = notes;
+        if (!m_period.isAll() && !m_isAnyTimed && !m_kiosks.empty())
+            throw Fault{Velmo::tr("no line has a time: nothing can be selected by it")};
         for (const auto& [name, known] : m_kiosks) {
+            if (!known->hasBegun) // all was before
+                known->begin(0, {});
             known->ledger.finish();
             answer.kiosks.push_back({name,
                                      known->ledger.periods(m_isLogMissing),
@@ -68,8 +88,17 @@ private:
         {
         }
 
+        // The time that is asked for begins.
+        void begin(qint64 position, const LogTime& time)
+        {
+            hasBegun = true;
+            contradictions.clear();
+            ledger.beginHere(position, time);
+        }
+
         std::vector<Contradiction> contradictions;
         CashLedger ledger;
+        bool hasBegun = false;
     };
 
     Kiosk& ledgerOf(const QString& name)
@@ -90,7 +119,11 @@ private:
     }
 
     const QStringList m_logs;
+    const Period m_period;
+    const bool m_utc;
     std::optional<quint32> m_device;
+    bool m_isAnyTimed = false;
+    bool m_isOver = false; // the time that is asked for
     bool m_isLogMissing = false;
     std::map<QString, std::unique_ptr<Kiosk>> m_kiosks;
 };

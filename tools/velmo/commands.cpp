@@ -34,8 +34,8 @@ const std::vector<Command>& commands()
          {&options::filters, &options::settings}},
         {"cash",
          {sessionLogs},
-         {&options::counted, &options::device, &options::last, &options::perFile,
-          &options::exitCode, &options::json, &options::csv, &options::html, &options::keepGoing},
+         {&options::counted, &options::from, &options::to, &options::device, &options::last,
+          &options::perFile, &options::utc, &options::exitCode, &options::json, &options::csv, &options::html, &options::keepGoing},
          cashCommand,
          QT_TRANSLATE_NOOP("Velmo", "Where the money is: what lies in each cassette and channel."),
          QT_TRANSLATE_NOOP(

@@ -20,6 +20,10 @@ public:
     /// Whether a line belongs in it: where nothing is known of its time, only in the whole time.
     bool has(const LogTime& time) const;
 
+    /// Whether a moment lies before or after it; one that is not known lies before all others.
+    bool isAfter(std::optional<qint64> moment) const { return m_from && moment < m_from; }
+    bool isBefore(std::optional<qint64> moment) const { return m_to && moment > m_to; }
+
     /// Whether some of what lasted from one moment to another one, in milliseconds since 1970, lies
     /// in it.
     /// @param from none where it began before the first time that is known
