@@ -94,8 +94,9 @@ CashBook::Period& CashBook::openPeriod(const PieceRange& opening)
     told.number = int(m_periods.size());
     told.device = m_trail.device().deviceId();
     told.thread = m_trail.device().threadId();
-    told.from = m_now.time;
-    told.fromPosition = m_now.position;
+    told.deviceName = m_trail.device().name();
+    told.from = told.to = m_now.time;
+    told.fromPosition = told.toPosition = m_now.position;
     for (size_t i = 0; i < m_trail.channels().size(); ++i) {
         const CashChannel& channel = m_trail.channels().at(i);
         CashFlow& flow = period.channels.emplace_back();
