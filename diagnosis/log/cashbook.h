@@ -3,21 +3,12 @@
 
 #pragma once
 
-#include "log/cashperiod.h"
+#include "log/cashaccount.h"
 #include "log/moneytrail.h"
 
 #include <deque>
-#include <map>
 #include <optional>
 #include <vector>
-
-/// A line that is being taken.
-struct LogMoment
-{
-    qint64 position = 0; ///< a LogPosition
-    LogTime time;
-    qint64 skipped = 0; ///< lines before it
-};
 
 /// What lies where in one device.
 class CashBook
@@ -48,50 +39,22 @@ public:
     CashPeriod current();
 
 private:
-    using Flows = std::map<CashKind, CashFlow>;
-
-    struct Period
-    {
-        CashPeriod told; // but for its rows
-        int collections = 0;
-        int session = 0; // the newest
-        PieceRange opening; // of every kind of which nothing is known
-        qint64 extra = 0; // pieces of any kind may have come
-        bool isUnbounded = false;
-        Flows cassette;
-        Flows rejects;
-        std::vector<CashFlow> channels;
-        std::vector<PieceRange> channelsNow; // of one that is over, like the following
-        bool areRejectsKnown = true;
-    };
-
-    Period& openPeriod(const PieceRange& opening);
-    Period* period();
-    Period* periodOf(const PieceEnd& piece);
-    CashFlow& cassette(Period& period, const CashKind& kind) const;
-    CashFlow& rejects(Period& period, const CashChannel& channel) const;
-    CashKind kindOf(const CashChannel& channel) const;
-    CashKind kindOf(int note) const;
-    PieceRange cassetteNow(const Period& period, const CashFlow& flow) const;
-    PieceRange unseen(const Period& period) const;
+    CashAccount& openPeriod(const PieceRange& opening);
+    CashAccount* period();
+    CashAccount* periodOf(const PieceEnd& piece);
     PieceRange channelNow(size_t channel) const;
-    PieceRange& inflow(Period& period, int note, const PieceEnd& piece) const;
-    void takeDoubtful(Period& period, const PieceEnd& piece);
-    void mayBeCollected(Period& period);
-    static void addDoubt(Period& period, const LogPlace& where, const char* reason, qint64 pieces,
-                         std::optional<CashPlace> place, int denomination, int channel = 0);
-    void addContent(Period& period, LogMoment at) const;
-    void close(Period& period);
-    CashPeriod told(const Period& period) const;
-    Flows merged(const Flows& flows) const;
-    QStringList whyOf(const Period& period, const CashRow& row) const;
-    QString placesOf(const CashDoubt& doubt) const;
+    PieceRange& inflow(CashAccount& period, int note, const PieceEnd& piece) const;
+    void takeDoubtful(CashAccount& period, const PieceEnd& piece);
+    void mayBeCollected(CashAccount& period);
+    void close(CashAccount& period);
+    CashPeriod told(CashAccount period) const;
+    void lookAtChannels(CashAccount& period) const;
     LogPlace here() const;
 
     const MoneyTrail& m_trail;
     const LogMoment& m_now;
     const QStringList& m_logs;
-    std::deque<Period> m_periods;
+    std::deque<CashAccount> m_periods;
     bool m_isOut = false; // the cassette
     std::optional<LogMoment> m_beginning; // of the time that is asked for
     qint64 m_emptiedAfter = 0; // so many lines were skipped when it may have been emptied at last

@@ -50,7 +50,7 @@ std::vector<Content> courseOf(const CashPeriod& period)
 {
     std::vector<Content> course = period.course;
     if (course.back().position != period.toPosition)
-        course.push_back({period.toPosition, period.to, course.back().sum});
+        course.push_back({{period.toPosition, period.to}, course.back().sum});
     return course;
 }
 

@@ -75,13 +75,13 @@ CashBook& CashLedger::bookOf(const MoneyTrail& trail)
 
 void CashLedger::take(const SessionLine& line, qint64 position)
 {
-    m_now = {position, line.time(), m_now.skipped};
+    m_now = {position, line.time()};
     m_explainer.take(line, position);
 }
 
 void CashLedger::skipLine(qint64 position)
 {
-    m_now = {position, {}, m_now.skipped + 1};
+    m_now = {position, {}};
     m_explainer.skipLine();
     for (const auto& [device, book] : m_books)
         book->skipLine();
@@ -92,7 +92,7 @@ void CashLedger::beginHere(qint64 position, const LogTime& time)
     if (m_books.empty())
         return;
     if (position > 0)
-        m_now = {position, time, m_now.skipped};
+        m_now = {position, time};
     m_summary = Summary();
     m_sessionsBefore = qMax(0, m_explainer.sessions() - 1);
     for (const auto& [device, book] : m_books)

@@ -69,7 +69,8 @@ private:
     const Receiver m_receiver;
     Summary m_summary;
     int m_sessionsBefore = 0; // the counting began
-    std::map<std::pair<quint32, quint32>, std::unique_ptr<CashBook>> m_books; // by device and thread
+    std::map<std::pair<quint32, quint32>, std::unique_ptr<CashBook>>
+        m_books; // by device and thread
     LogMoment m_now;
     LogExplainer m_explainer;
 };

@@ -24,10 +24,31 @@ struct CashKind
     QString currency; ///< empty when not told
     std::optional<int> billType;
 
+    /// What a device takes.
+    static CashKind ofNote(quint32 device, int note);
+
     bool operator<(const CashKind& other) const
     {
         return std::tie(denomination, currency) < std::tie(other.denomination, other.currency);
     }
+};
+
+/// Why a number is uncertain.
+enum class DoubtReason {
+    Stuck, ///< pieces got stuck on their way; so are the following
+    OnItsWay,
+    EndUnknown,
+    InHandAtGap, ///< while lines were skipped
+    ValueChanged,
+    ValueUnknown,
+    PlaceUnknown, ///< in a channel or not
+    NoteMissing, ///< by the device's counter
+    CreditAlone,
+    LinesSkipped,
+    CollectionUnseen, ///< in lines that were skipped
+    RegistryNew, ///< told for the first time while something left the channels
+    ChannelUnexplained, ///< it lost pieces
+    EndMissing, ///< of a payout, a float or an emptying
 };
 
 /// Something that makes a number uncertain, or that may be why a count differs from it.
@@ -39,10 +60,7 @@ struct CashDoubt
         QString text;
     };
 
-    static const char* const stuck; ///< reasons
-    static const char* const onItsWay;
-
-    const char* reason = nullptr; ///< of %n pieces or lines, to be translated
+    DoubtReason reason = DoubtReason::Stuck;
     std::optional<CashPlace> place; ///< anywhere without one
     int channel = 0; ///< of that place
     int denomination = 0; ///< 0 for any
@@ -50,6 +68,11 @@ struct CashDoubt
     std::vector<Example> examples; ///< the first ones
 
     bool isAbout(CashPlace other, int otherChannel, int value) const;
+
+    QString text() const { return textOf(reason, pieces); }
+
+    /// What is doubtful about so many pieces, or lines.
+    static QString textOf(DoubtReason reason, qint64 pieces);
 };
 
 /// What came into one place of one kind, and went.
@@ -103,10 +126,8 @@ struct CashPeriod
     std::vector<Contradiction> contradictions; ///< the first ones; their lines are LogPositions
 
     /// What the cassette held since the period began, and whenever that changed.
-    struct Content
+    struct Content : LogMoment
     {
-        qint64 position;
-        LogTime time;
         PieceRange sum;
     };
     std::vector<Content> course;

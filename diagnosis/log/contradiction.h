@@ -6,7 +6,10 @@
 #include "log/noteanswer.h"
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
+
+#include <optional>
 
 /// A line of one of several logs, as one number: those of a log have its index in the upper bits.
 namespace LogPosition {
@@ -27,6 +30,16 @@ constexpr qint64 line(qint64 position)
 }
 
 } // namespace LogPosition
+
+/// A line of a log, and when it was written.
+struct LogMoment
+{
+    qint64 position = 0; ///< a LogPosition
+    LogTime time;
+
+    /// The lines of several logs are in the order of their times.
+    bool isBefore(const LogMoment& other) const;
+};
 
 /// What of a log's money does not add up.
 enum class Rule {
@@ -54,6 +67,23 @@ struct Contradiction : LogPlace
     int collections = 0; ///< of the cassette when they may have come at first
 
     QString ruleKey() const { return keyOf(rule); } ///< "not_credited", ...
+
+    // What does not add up, yet without place and lines.
+
+    /// With the credit of a note, or of an act of the device that was none.
+    static std::optional<Contradiction> ofCredit(const NoteAnswer& note, qint64 credit);
+
+    /// @param lost from the channels without being rejected, a sum
+    static std::optional<Contradiction> ofPayout(bool isEnded, qint64 paid, qint64 lost);
+
+    static Contradiction ofLoneCredit(qint64 credit);
+    static Contradiction ofFall(qint64 before, qint64 sum);
+
+    /// @param changes each for people
+    static Contradiction ofRegistry(const QStringList& changes);
+
+    /// @param counted by the device, more than the @p notes of the log
+    static Contradiction ofCounter(qint64 counted, qint64 notes);
 
     /// "Session 1, line 8, 10:05:12, Bill validator (CCNet): It does not add up."
     QString headline() const;

@@ -24,20 +24,6 @@ bool tellsOfNote(State state)
     return state >= STATE_ACCEPTING && state <= STATE_RETURNED;
 }
 
-// Adds those that are new, and tells of the others what is known of them last.
-void addConditions(QVector<MachineCondition>& known, const QVector<MachineCondition>& now)
-{
-    for (const MachineCondition& condition : now) {
-        const auto same = std::find_if(known.begin(), known.end(), [&](const MachineCondition& k) {
-            return k.line == condition.line && k.what == condition.what;
-        });
-        if (same == known.end())
-            known += condition;
-        else
-            *same = condition;
-    }
-}
-
 // It was that of the note before; the filters were not asked about this one.
 void takeBackValue(NoteAnswer& answer)
 {
@@ -153,7 +139,9 @@ void LogExplainer::finish()
         Note* const note = trail.note;
         if (note && note->phase == InHand && !note->piece.isInChannel) {
             // It is on its way still.
-            if (note->answer.isNote() && note->stoppedLine == 0 && note->answer.outcome != Outcome::Refused)
+            note->isInterrupted = true;
+            if (note->answer.isNote() && note->stoppedLine == 0
+                && note->answer.outcome != Outcome::Refused)
                 note->stoppedLine = note->seenLine;
             note->answer.end = Outcome::Unknown;
         }
@@ -170,7 +158,7 @@ void LogExplainer::foresee(MoneyWatcher& watcher) const
             trail.money->foresee(nullptr, watcher);
             continue;
         }
-        PieceEnd piece = pieceOf(*trail.note);
+        PieceEnd piece = pieceOf(*trail.note, *trail.money);
         piece.isOnItsWay = trail.note->phase == InHand && piece.end != Outcome::Stuck;
         trail.money->foresee(&piece, watcher);
     }
@@ -266,7 +254,7 @@ void LogExplainer::addNote(const LogDevice& device, const SessionLine& line, qin
     note.sumBefore = device.state().sessionSum;
     note.startSeen = device.sessionStartSeen();
     note.skippedBefore = device.skippedBefore();
-    note.skippedBeforeNote = m_player.skippedLines();
+    note.piece.skippedBefore = trail.money->skippedLines();
     note.seenLine = lineNumber;
     note.piece.collections = note.piece.collectionsAtEnd = trail.money->collections();
     trail.note = &note;
@@ -277,7 +265,7 @@ void LogExplainer::addNote(const LogDevice& device, const SessionLine& line, qin
 void LogExplainer::judge(const LogDevice& device, Note& note)
 {
     note.answer.note = device.state().currentNote;
-    addConditions(note.answer.machine, device.conditions());
+    note.answer.addConditions(device.conditions());
     note.answer.isJudged = true;
     const QVector<const FilterMemory*> refusing = device.refusing();
     if (!refusing.isEmpty())
@@ -291,7 +279,7 @@ void LogExplainer::watch(const LogDevice& device, Note& note, qint64 lineNumber)
 {
     if (note.phase != InHand)
         return;
-    addConditions(note.answer.machine, device.conditions());
+    note.answer.addConditions(device.conditions());
     if (note.stoppedLine == 0 && lineNumber > note.answer.line && device.stopsOn(lineNumber))
         note.stoppedLine = lineNumber;
 }
@@ -377,19 +365,18 @@ void LogExplainer::close(const LogDevice& device)
     // Where it was interrupted, it may have been one.
     if (!answer.isNote() && !note.isInterrupted)
         return;
-    trail.money->closeNote(answer, pieceOf(note));
+    trail.money->closeNote(answer, pieceOf(note, *trail.money));
 }
 
 // Where it is if nothing more is told of it.
-PieceEnd LogExplainer::pieceOf(const Note& note) const
+PieceEnd LogExplainer::pieceOf(const Note& note, const MoneyTrail& money)
 {
     PieceEnd piece = note.piece;
     static_cast<LogPlace&>(piece) = note.answer;
     piece.note = note.answer.note;
     const bool isStuck = note.stoppedLine > 0 && !piece.isInChannel;
     piece.end = isStuck ? Outcome::Stuck : note.answer.end;
-    piece.skippedBefore = note.skippedBeforeNote;
-    piece.isSure = m_player.skippedLines() == note.skippedBeforeNote;
+    piece.isSure = money.skippedLines() == piece.skippedBefore;
     return piece;
 }
 

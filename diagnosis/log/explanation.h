@@ -19,8 +19,8 @@
 /// the device has no note in hand: a stacked, rejected or returned event; or else an accepted or
 /// stacking one, when the device idles or its next note comes and it did not stop in between. That
 /// a channel of its value grew, tells that it was taken, too. One that is on its way when the log
-/// ends is stuck. A note whose value comes after it was accepting, or with the end, is followed likewise; the
-/// filters are not asked about it.
+/// ends is stuck. A note whose value comes after it was accepting, or with the end, is followed
+/// likewise; the filters are not asked about it.
 class LogExplainer
 {
 public:
@@ -68,9 +68,8 @@ private:
         bool isOpen = true;
         bool isValuePresumed = false; // the log did not tell it of this note
         bool startSeen = false; // of the session
-        bool isInterrupted = false; // by a session that began
+        bool isInterrupted = false; // by a session that began, or the end of the log
         qint64 skippedBefore = 0; // the session
-        qint64 skippedBeforeNote = 0;
     };
 
     // How a device stood after its last event, of whatever session, and its open note.
@@ -98,7 +97,7 @@ private:
     static void watch(const LogDevice& device, Note& note, qint64 lineNumber);
     void follow(const LogDevice& device, Note& note, bool isNewState, qint64 lineNumber);
     void close(const LogDevice& device);
-    PieceEnd pieceOf(const Note& note) const;
+    static PieceEnd pieceOf(const Note& note, const MoneyTrail& money);
     void giveAway();
 
     LogPlayer m_player;

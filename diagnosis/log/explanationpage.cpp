@@ -70,7 +70,8 @@ QString contradictionItem(const SessionRecord& session, const Contradiction& fou
     const auto anchor = [&](Anchor kind) {
         return anchorName(kind, session, found.line, found.device, found.thread, found.ruleKey());
     };
-    return QStringLiteral("<li class=\"contradiction\" id=\"%1\"><a href=\"#%2\">%3%4</a> %5</li>\n")
+    return QStringLiteral(
+               "<li class=\"contradiction\" id=\"%1\"><a href=\"#%2\">%3%4</a> %5</li>\n")
         .arg(anchor(Anchor::WrongSentence), anchor(Anchor::Wrong), wrongGlyph(),
              htmlText(found.headline()), htmlText(found.details()));
 }
@@ -95,11 +96,11 @@ QString tallies(const SessionRecord& session, const std::vector<NoteAnswer>::con
 
 QString wrongTally(qint64 count)
 {
-    return count == 0 ? QString()
-                      : QStringLiteral("<span>%1%2</span>\n")
-                            .arg(wrongGlyph(),
-                                 htmlText(Diagnosis::tr("%n that do not add up", nullptr,
-                                                        int(count))));
+    return count == 0
+        ? QString()
+        : QStringLiteral("<span>%1%2</span>\n")
+              .arg(wrongGlyph(),
+                   htmlText(Diagnosis::tr("%n that do not add up", nullptr, int(count))));
 }
 
 QString legend()
@@ -206,7 +207,8 @@ void ExplanationPage::writeSession(const SessionRecord& session)
         QString sentences;
         qint64 wrong = 0;
         for (const Contradiction& found : session.contradictions) {
-            const bool isHere = (i == 0 || found.line >= firstLine) && (isLast || found.line <= lastLine);
+            const bool isHere =
+                (i == 0 || found.line >= firstLine) && (isLast || found.line <= lastLine);
             if (!isHere || !session.isTold(found))
                 continue;
             sentences += contradictionItem(session, found);
@@ -223,7 +225,8 @@ void ExplanationPage::writeSession(const SessionRecord& session)
                                  "class=\"picture\" tabindex=\"0\" role=\"group\" "
                                  "aria-label=\"%5\">\n%6</div>\n%7</details>\n")
                       .arg(m_written++ < unfoldedParts ? QStringLiteral(" open") : QString(),
-                           htmlText(title), htmlText(range), tallies(session, begin, note) + wrongTally(wrong),
+                           htmlText(title), htmlText(range),
+                           tallies(session, begin, note) + wrongTally(wrong),
                            htmlText(Diagnosis::tr("Picture, %1").arg(range)), drawn,
                            sentences.isEmpty()
                                ? QStringLiteral("<p class=\"none\">%1</p>\n")

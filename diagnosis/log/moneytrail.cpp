@@ -4,12 +4,10 @@
 #include "log/moneytrail.h"
 
 #include "dispenserregistrymodel.h"
-#include "text/diagnosis.h"
 
 #include <QStringList>
 
 #include <algorithm>
-#include <climits>
 
 namespace {
 
@@ -19,62 +17,7 @@ const quint32 cassetteBit = DeviceReport::bit(deviceStateDescConst::STACKER_PRES
 const quint32 stateBit = DeviceReport::bit(deviceStateDescConst::STATE);
 const quint32 registryBit = DeviceReport::bit(DispenserRegistryModel::DISPENSER_REGISTRY);
 
-constexpr size_t mostWithheld = 1000;
-
-// What a device does with the money that it has.
-struct Operation
-{
-    MoneyAct act;
-    State begun;
-    State ended;
-};
-
-constexpr Operation operations[] = {
-    {MoneyAct::Payout, STATE_DISPENSING, STATE_DISPENSED},
-    {MoneyAct::Float, STATE_FLOATING, STATE_FLOATED},
-    {MoneyAct::Emptying, STATE_EMPTYING, STATE_EMPTIED},
-};
-
-const Operation* operationOf(State state)
-{
-    const auto* const found =
-        std::find_if(std::begin(operations), std::end(operations), [state](const Operation& o) {
-            return o.begun == state || o.ended == state;
-        });
-    return found == std::end(operations) ? nullptr : found;
-}
-
-bool isOperation(MoneyAct act)
-{
-    return act >= MoneyAct::Payout;
-}
-
-// Whether a log that begins in this state begins with money on its way.
-bool isUnderWay(State state)
-{
-    switch (state) {
-    case STATE_IDLING:
-    case STATE_ACCEPTING:
-    case STATE_BUSY:
-    case STATE_UPDATING:
-        return false;
-    default:
-        return true;
-    }
-}
-
-bool isGivenBack(Outcome end)
-{
-    return end == Outcome::Returned || end == Outcome::Rejected;
-}
-
 } // namespace
-
-bool CashChannel::isOf(const DispenserRegistryItem& row) const
-{
-    return row.channel == number && row.denomination == denomination && row.billType == billType
-        && (currency.isEmpty() || row.currency.isEmpty() || row.currency == currency);
-}
 
 MoneyTrail::MoneyTrail(const LogDevice& device, MoneyWatcher& watcher)
     : m_device(device)
@@ -86,15 +29,20 @@ MoneyTrail::MoneyTrail(const LogDevice& device, MoneyWatcher& watcher)
 
 LogPlace MoneyTrail::here() const
 {
-    return {m_device.session(), m_device.deviceId(), m_device.threadId(),
-            m_device.name(),    m_line,              m_time};
+    return {m_device.session(),
+            m_device.deviceId(),
+            m_device.threadId(),
+            m_device.name(),
+            m_line,
+            m_time};
 }
 
 void MoneyTrail::skipLine()
 {
+    ++m_skippedLines;
     m_act.hasGap = true;
     m_isAfterGap = true;
-    m_areChannelsKnown = false;
+    m_channels.skipLine();
     m_sum.reset();
     m_paid.reset();
 }
@@ -105,10 +53,8 @@ void MoneyTrail::see(const LogStep& step, const SessionLine& line, qint64 lineNu
     m_time = line.time();
     m_newCounter = step.notesInserted;
     const State state = m_device.state().state;
-    const bool mayBegin =
-        state != m_state && (state == STATE_ACCEPTING || state == STATE_REJECTED);
-    m_isNoteMissing = m_newCounter && m_counter
-        && *m_newCounter - *m_counter > m_notes + int(m_isUncounted) + int(mayBegin);
+    const bool mayBegin = state != m_state && (state == STATE_ACCEPTING || state == STATE_REJECTED);
+    m_isNoteMissing = m_counter.missesNotes(m_newCounter, mayBegin);
     if (step.startsSession)
         m_sum = m_paid = 0;
     else if (m_isFirst && !m_device.sessionStartSeen() && (step.reported & stateBit) == 0)
@@ -125,17 +71,8 @@ void MoneyTrail::see(const LogStep& step, const SessionLine& line, qint64 lineNu
     m_changes.clear();
     if ((step.reported & registryBit) != 0)
         seeRegistry();
-    if (m_withheld.empty())
-        return;
-    for (const auto& [fields, found] : m_withheld) {
-        if ((step.reported & fields) == fields)
-            m_watcher.takeContradiction(*this, found);
-    }
-    m_withheld.erase(std::remove_if(m_withheld.begin(), m_withheld.end(),
-                                    [&](const auto& withheld) {
-                                        return (step.reported & withheld.first) == withheld.first;
-                                    }),
-                     m_withheld.end());
+    for (const Contradiction& found : m_withheld.take(step.reported))
+        m_watcher.takeContradiction(*this, found);
 }
 
 void MoneyTrail::seeSums(const LogStep& step)
@@ -148,11 +85,7 @@ void MoneyTrail::seeSums(const LogStep& step)
         const qint64 before = m_sum.value_or(state.sessionSum);
         m_newCredit = qMax<qint64>(0, state.sessionSum - before);
         if (state.sessionSum < before) {
-            tell(Rule::CreditFell, here(), {m_sumLine, m_line},
-                 Diagnosis::tr("The session's sum fell from %1 to %2. The start of a session "
-                               "before this line would clear this.")
-                     .arg(before)
-                     .arg(state.sessionSum));
+            tell(Contradiction::ofFall(before, state.sessionSum), here(), {m_sumLine, m_line});
         }
         m_sum = state.sessionSum;
         m_sumLine = m_line;
@@ -170,52 +103,20 @@ void MoneyTrail::seeSums(const LogStep& step)
 
 void MoneyTrail::seeRegistry()
 {
-    const bool isFirst = m_channels.empty();
-    std::vector<ChannelChange> told(m_channels.size());
-    for (size_t i = 0; i < told.size(); ++i) {
-        told.at(i) = {i, 0, 0, m_collections};
-        m_channels.at(i).isTold = false;
-    }
-    for (const DispenserRegistryItem& row : m_device.state().dispenserRegistry) {
-        auto channel = std::find_if(m_channels.begin(), m_channels.end(),
-                                    [&](const CashChannel& known) { return known.isOf(row); });
-        if (channel == m_channels.end()) {
-            m_channels.push_back(
-                {row.channel, row.denomination, row.billType, row.currency, 0, 0, true});
-            channel = m_channels.end() - 1;
-            told.push_back({m_channels.size() - 1, 0, 0, m_collections});
-        }
-        channel->isTold = true;
-        if (channel->currency.isEmpty())
-            channel->currency = row.currency;
-        ChannelChange& now = told.at(size_t(channel - m_channels.begin()));
-        now.count += row.count; // two rows may be of one
-        now.rejected += row.rejected;
-    }
-    for (ChannelChange& now : told) {
-        CashChannel& channel = m_channels.at(now.channel);
-        if (!channel.isTold)
-            continue;
-        const ChannelChange change{now.channel, now.count - channel.count,
-                                   now.rejected - channel.rejected, m_collections};
-        channel.count = now.count;
-        channel.rejected = now.rejected;
-        const bool isNew = now.channel >= m_knownChannels;
-        if (isNew)
-            m_watcher.takeChannel(*this, now.channel);
-        else if (change.count == 0 && change.rejected == 0)
-            continue;
-        else if (m_areChannelsKnown)
-            m_changes.push_back(change);
-        else
+    const DeviceChannels::News news =
+        m_channels.take(m_device.state().dispenserRegistry, m_collections);
+    for (const size_t channel : news.added)
+        m_watcher.takeChannel(*this, channel);
+    if (!news.areLinesMissing)
+        m_changes = news.changes;
+    for (const ChannelChange& change : news.changes) {
+        if (news.areLinesMissing)
             m_watcher.takeChange(*this, MoneyAct::Unseen, change);
     }
-    m_knownChannels = m_channels.size();
-    if (isFirst || !m_areChannelsKnown) {
-        m_act.isPaidKnown = false;
-        m_act.isRegistryNew = m_isRegistryNew = !m_channels.empty();
-    }
-    m_areChannelsKnown = true;
+    if (!news.isRegistryNew && !news.areLinesMissing)
+        return;
+    m_act.isPaidKnown = false;
+    m_act.isRegistryNew = m_isRegistryNew = !m_channels.all().empty();
 }
 
 const NoteAnswer* MoneyTrail::noteOfAct(const NoteAnswer* open) const
@@ -237,7 +138,7 @@ bool MoneyTrail::giveToLast(const NoteAnswer* note)
             takeCredit();
     }
     const bool beginsOperation =
-        m_device.state().state != m_state && operationOf(m_device.state().state);
+        m_device.state().state != m_state && MoneyOperation::of(m_device.state().state);
     if ((isOperation(m_act.kind) && !beginsOperation) || m_act.kind == MoneyAct::Unseen)
         takeChanges();
     return isInChannel;
@@ -245,11 +146,9 @@ bool MoneyTrail::giveToLast(const NoteAnswer* note)
 
 bool MoneyTrail::giveRest(const NoteAnswer* note)
 {
-    if (m_newCounter && seeCounter(*m_newCounter))
-        m_isNoteMissing = true;
+    seeCounter();
     const NoteAnswer* const now = noteOfAct(note);
-    const bool isInChannel =
-        now && !isGivenBack(now->end) && !m_isNoteMissing && takeGrowth(*now);
+    const bool isInChannel = now && !isGivenBack(now->end) && !m_isNoteMissing && takeGrowth(*now);
     takeLoneCredit();
     takeChanges();
     const bool isJam = m_state == STATE_JAMMED || m_state == STATE_ERROR;
@@ -260,13 +159,6 @@ bool MoneyTrail::giveRest(const NoteAnswer* note)
     return isInChannel;
 }
 
-bool MoneyTrail::hasChannelOf(const NoteAnswer& note) const
-{
-    return std::any_of(m_channels.begin(), m_channels.end(), [&](const CashChannel& channel) {
-        return !note.hasValue() || channel.denomination == note.note;
-    });
-}
-
 // Whether a channel of its value grew by it, so that it is there; one that grew by more was filled.
 bool MoneyTrail::takeGrowth(const NoteAnswer& note)
 {
@@ -274,7 +166,7 @@ bool MoneyTrail::takeGrowth(const NoteAnswer& note)
         return false;
     const auto grown =
         std::find_if(m_changes.begin(), m_changes.end(), [&](const ChannelChange& change) {
-            const int value = m_channels.at(change.channel).denomination;
+            const int value = m_channels.all().at(change.channel).denomination;
             return change.count == 1 && (!note.hasValue() || note.note == value);
         });
     if (grown == m_changes.end())
@@ -301,11 +193,7 @@ void MoneyTrail::takeLoneCredit()
     if (m_act.kind == MoneyAct::Piece || m_act.kind == MoneyAct::Unseen)
         return takeCredit();
     if (m_newCredit > 0 && !m_act.hasGap) {
-        tell(Rule::CreditWithoutNote, here(), {m_line},
-             Diagnosis::tr("The session's sum rose by %1 without a note. A note that was offered "
-                           "before, with nothing between, would clear this.")
-                 .arg(m_newCredit),
-             0, 1);
+        tell(Contradiction::ofLoneCredit(m_newCredit), here(), {m_line});
     }
 }
 
@@ -319,7 +207,6 @@ void MoneyTrail::takeChanges()
     m_newPaid = 0;
     QStringList unexplained;
     for (const ChannelChange& change : m_changes) {
-        const CashChannel& channel = m_channels.at(change.channel);
         const bool isFilling = change.count >= 0 && change.rejected == 0;
         if (change.count == 0 && change.rejected == 0)
             continue;
@@ -331,26 +218,11 @@ void MoneyTrail::takeChanges()
             continue;
         }
         m_watcher.takeChange(*this, MoneyAct::None, change);
-        const QString kind = Diagnosis::tr("channel %1 (%2)")
-                                 .arg(channel.number)
-                                 .arg(channel.denomination);
-        if (change.count != 0)
-            unexplained += Diagnosis::tr("%1 went from %2 to %3")
-                               .arg(kind)
-                               .arg(channel.count - change.count)
-                               .arg(channel.count);
-        if (change.rejected != 0)
-            unexplained += Diagnosis::tr("rejects of %1 went from %2 to %3")
-                               .arg(kind)
-                               .arg(channel.rejected - change.rejected)
-                               .arg(channel.rejected);
+        unexplained += m_channels.told(change);
     }
     m_changes.clear();
     if (!unexplained.isEmpty()) {
-        tell(Rule::RegistryChanged, here(), {m_line},
-             Diagnosis::tr("The registry changed: %1. A payout, a float or an emptying that began "
-                           "before, with nothing between, would clear this.")
-                 .arg(unexplained.join(QStringLiteral(", "))));
+        tell(Contradiction::ofRegistry(unexplained), here(), {m_line});
     }
 }
 
@@ -358,7 +230,8 @@ void MoneyTrail::beginNote(const NoteAnswer& note, bool isSame)
 {
     if (!isSame || m_act.kind != MoneyAct::Piece)
         begin(MoneyAct::Piece, nullptr);
-    m_isUncounted = m_isUncounted || !isSame;
+    if (!isSame)
+        m_counter.begin();
     m_act.isRegistryNew = m_isRegistryNew && !m_device.sessionStartSeen();
     m_act.isCreditKnown = !m_isAfterGap && (!m_isFirst || m_device.sessionStartSeen());
     m_act.begin = note;
@@ -372,18 +245,12 @@ void MoneyTrail::resumeNote(const NoteAnswer& note)
     m_act.begin = note;
 }
 
-void MoneyTrail::countNote()
-{
-    if (std::exchange(m_isUncounted, false))
-        ++m_notes;
-}
-
 void MoneyTrail::follow(const NoteAnswer* note)
 {
     const State state = m_device.state().state;
     if (state == m_state)
         return;
-    const Operation* const operation = operationOf(state);
+    const MoneyOperation* const operation = MoneyOperation::of(state);
     if (operation) {
         const bool isOn = m_act.kind == operation->act && !m_act.isEnded;
         const bool isResumed = isOn && (state == operation->ended || !m_act.isCalm);
@@ -395,7 +262,7 @@ void MoneyTrail::follow(const NoteAnswer* note)
             m_act.hasGap = m_isAfterGap; // it may have begun in it
         }
         m_act.isEnded = state == operation->ended;
-    } else if (m_isFirst && m_act.kind == MoneyAct::None && isUnderWay(state)
+    } else if (m_isFirst && m_act.kind == MoneyAct::None && isMoneyUnderWay(state)
                && !m_device.sessionStartSeen()) {
         m_act.kind = MoneyAct::Unseen;
     }
@@ -415,16 +282,14 @@ void MoneyTrail::begin(MoneyAct kind, const NoteAnswer* note)
 
 void MoneyTrail::startSession(const NoteAnswer* note)
 {
-    const Operation* const operation = operationOf(m_state);
+    const MoneyOperation* const operation = MoneyOperation::of(m_state);
     const MoneyAct kind = m_act.kind;
     const bool isOn = operation && operation->act == kind && !m_act.isEnded;
     endAct(note);
     if (!isOn)
         return;
-    m_act.kind = kind; // what it goes on with, it has told without an end
+    begin(kind, nullptr); // what it goes on with, it has told without an end
     m_act.isTold = true;
-    m_act.begin = here();
-    m_act.collections = m_collections;
 }
 
 void MoneyTrail::closeNote(const NoteAnswer& note, const PieceEnd& end)
@@ -444,15 +309,17 @@ void MoneyTrail::endAct(const NoteAnswer* open)
         NoteAnswer judged = note ? *note : NoteAnswer();
         if (!m_act.piece && !m_act.isInChannel && judged.isTaken())
             judged.end = Outcome::Stuck; // it may come back yet
-        judgeNote(judged);
+        judge(Contradiction::ofCredit(judged, m_act.credit), m_act.isCreditKnown, sumBit);
         if (m_act.piece) {
             m_act.piece->isInChannel = m_act.isInChannel;
             m_act.piece->isPlaceKnown =
-                !(m_act.isRegistryNew || m_act.hasGap) || !hasChannelOf(m_act.note);
+                !(m_act.isRegistryNew || m_act.hasGap) || !m_channels.haveValue(m_act.note.note);
             m_watcher.takePiece(*this, *m_act.piece);
         }
     } else if (m_act.kind == MoneyAct::Payout) {
-        judgePayout();
+        const bool isLostKnown = m_act.isPaidKnown && !m_channels.all().empty();
+        const qint64 lost = isLostKnown ? m_channels.sumLost(m_act.moved) : m_act.paid;
+        judge(Contradiction::ofPayout(m_act.isEnded, m_act.paid, lost), !m_act.isTold, paidBit);
     }
     tellUnfinished(m_watcher);
     m_act = Act();
@@ -462,8 +329,8 @@ void MoneyTrail::endAct(const NoteAnswer* open)
 void MoneyTrail::tellUnfinished(MoneyWatcher& watcher) const
 {
     // What it moved is told; of one that went on from another session nothing may be.
-    const bool isBalanced = m_act.kind == MoneyAct::Payout && m_act.isPaidKnown
-        && !m_act.isStopped && lostOfAct() == m_act.paid;
+    const bool isBalanced = m_act.kind == MoneyAct::Payout && m_act.isPaidKnown && !m_act.isStopped
+        && m_channels.sumLost(m_act.moved) == m_act.paid;
     const bool isSettled = m_act.moved.empty() ? m_act.isTold : m_act.isCalm || isBalanced;
     const bool isIntoCassette = isOperation(m_act.kind) && m_act.kind != MoneyAct::Payout;
     const bool isCounted = !isIntoCassette || !m_act.isRegistryNew;
@@ -471,10 +338,9 @@ void MoneyTrail::tellUnfinished(MoneyWatcher& watcher) const
         isOperation(m_act.kind) && !m_act.isEnded && (isIntoCassette || !isSettled);
     if (isUnfinished || !isCounted)
         watcher.takeUnfinished(*this,
-                                 {m_act.kind, m_act.collections,
-                                  m_act.isCalm ? m_act.collectionsAtEnd : m_collections,
-                                  m_act.isEnded, isCounted, isSettled, m_act.channel,
-                                  m_act.moved});
+                               {m_act.kind, m_act.collections,
+                                m_act.isCalm ? m_act.collectionsAtEnd : m_collections,
+                                m_act.isEnded, isCounted, isSettled, m_act.channel, m_act.moved});
 }
 
 void MoneyTrail::foresee(const PieceEnd* open, MoneyWatcher& watcher) const
@@ -484,7 +350,7 @@ void MoneyTrail::foresee(const PieceEnd* open, MoneyWatcher& watcher) const
         piece.isInChannel = m_act.isInChannel;
         // The registry may tell yet that it is in a channel.
         piece.isOnItsWay =
-            piece.end == Outcome::Taken && !m_act.isCalm && hasChannelOf(m_act.note);
+            piece.end == Outcome::Taken && !m_act.isCalm && m_channels.haveValue(m_act.note.note);
         watcher.takePiece(*this, piece);
     }
     if (open)
@@ -492,123 +358,42 @@ void MoneyTrail::foresee(const PieceEnd* open, MoneyWatcher& watcher) const
     tellUnfinished(watcher);
 }
 
-void MoneyTrail::judgeNote(const NoteAnswer& note)
+void MoneyTrail::seeCounter()
 {
-    if (m_act.hasGap || !m_act.isCreditKnown)
+    if (!m_newCounter)
         return;
-    m_judgedNote = note.note;
-    const QVector<qint64> lines = QVector<qint64>{m_act.begin.line} + m_act.lines;
-    const QString rise = QString::number(m_act.credit);
-    const bool isRefused = note.outcome == Outcome::Refused && !note.isTaken();
-    if (!note.isNote()) {
-        if (m_act.credit > 0)
-            tell(Rule::CreditWithoutNote, m_act.begin, lines,
-                 Diagnosis::tr("The session's sum rose by %1 while the device accepted, without a "
-                               "note. The value of one would clear this.")
-                     .arg(rise),
-                 0, 1);
-    } else if (isGivenBack(note.end) || isRefused) {
-        if (m_act.credit > 0)
-            tell(Rule::CreditedNotTaken, m_act.begin, lines,
-                 Diagnosis::tr("The session's sum rose by %1 for a %2 that was not taken. That it "
-                               "was stacked would clear this.")
-                     .arg(rise, note.what()));
-    } else if (note.isTaken() && m_act.credit == 0) {
-        tell(Rule::NotCredited, m_act.begin, lines,
-             Diagnosis::tr("A %1 was taken, and the session's sum did not rise. That it rises "
-                           "before the next note, payout or session would clear this.")
-                 .arg(note.what()),
-             sumBit);
-    } else if (note.hasValue() && m_act.credit > 0 && m_act.credit != note.note) {
-        tell(Rule::CreditDiffers, m_act.begin, lines,
-             Diagnosis::tr("The session's sum rose by %1 for a %2. That it rises by %3 in all "
-                           "would clear this.")
-                 .arg(rise, note.what(), QString::number(note.note)));
-    }
-    m_judgedNote = 0;
+    const auto jump = m_counter.take(*m_newCounter, m_line, m_collections);
+    if (!jump)
+        return;
+    m_isNoteMissing = true;
+    Contradiction found = Contradiction::ofCounter(jump->rise, jump->notes);
+    found.collections = jump->collections;
+    tell(found, here(), {jump->sinceLine, m_line});
 }
 
-// What left the channels without being rejected. What grew was filled.
-qint64 MoneyTrail::lostOfAct() const
+// Tells what does not add up with the act, unless the log may lack what would clear it.
+void MoneyTrail::judge(const std::optional<Contradiction>& found, bool isKnown, quint32 field)
 {
-    qint64 lost = 0;
-    for (const ChannelChange& change : m_act.moved) {
-        lost += (qMax<qint64>(0, -change.count) - qMax<qint64>(0, change.rejected))
-            * m_channels.at(change.channel).denomination;
-    }
-    return lost;
+    if (!found || !isKnown || m_act.hasGap)
+        return;
+    // That a field stays is only known once the log tells of it at all.
+    const bool needsField = found->rule == Rule::NotCredited || found->rule == Rule::PayoutDiffers;
+    tell(*found, m_act.begin, QVector<qint64>{m_act.begin.line} + m_act.lines,
+         needsField ? field : 0);
 }
 
-void MoneyTrail::judgePayout()
+// @param field of which the log must tell
+void MoneyTrail::tell(Contradiction found, const LogPlace& place, QVector<qint64> lines,
+                      quint32 field)
 {
-    if (m_act.hasGap || m_act.isTold)
-        return;
-    const QVector<qint64> lines = QVector<qint64>{m_act.begin.line} + m_act.lines;
-    if (!m_act.isEnded) {
-        tell(Rule::PayoutUnfinished, m_act.begin, lines,
-             Diagnosis::tr("A payout began, and the log does not tell its end. \"dispensed\" "
-                           "before the next note, payout or session would clear this."));
-        return;
-    }
-    if (!m_act.isPaidKnown || m_channels.empty())
-        return;
-    const qint64 lost = lostOfAct();
-    if (lost == m_act.paid)
-        return;
-    tell(Rule::PayoutDiffers, m_act.begin, lines,
-         Diagnosis::tr("%1 was paid, and %2 left the channels without being rejected. That both "
-                       "are the same before the next note, payout or session would clear this.")
-             .arg(m_act.paid)
-             .arg(lost),
-         paidBit);
-}
-
-// The notes that were offered since the counter was told; of those before, the last one may be
-// counted late.
-// Returns whether one is missing: what is told of it has its reason then.
-bool MoneyTrail::seeCounter(qint64 counter)
-{
-    const qint64 before = m_counter.value_or(counter);
-    const qint64 rise = counter - before;
-    if (rise > m_notes)
-        countNote(); // one that is begun
-    const qint64 missing = rise - m_notes;
-    if (missing > 0) {
-        tell(Rule::CounterJump, here(), {m_counterLine, m_line},
-             Diagnosis::tr("The device counted %1, and the log has %2 of them: %n notes are missing "
-                           "from the log. Their lines would clear this.",
-                           nullptr, int(qMin<qint64>(missing, INT_MAX)))
-                 .arg(rise)
-                 .arg(m_notes),
-             0, missing);
-    }
-    m_notes = qBound(qint64(0), m_notes - qMax<qint64>(0, rise), qint64(1));
-    m_counter = counter;
-    m_counterLine = m_line;
-    m_counterCollections = m_collections;
-    return missing > 0;
-}
-
-// Withholds what is only known once the log tells of the fields at all.
-void MoneyTrail::tell(Rule rule, const LogPlace& place, QVector<qint64> lines,
-                      const QString& sentence, quint32 fields, qint64 missing)
-{
-    Contradiction found;
     static_cast<LogPlace&>(found) = place;
-    found.rule = rule;
     lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
     lines.removeAll(0);
     found.lines = lines;
-    found.sentence = sentence;
-    found.missing = missing;
-    found.note = m_judgedNote;
-    found.collections = rule == Rule::CounterJump ? m_counterCollections : m_collections;
-    if (fields == 0 || m_device.hasReported(fields)) {
+    if (found.rule != Rule::CounterJump)
+        found.collections = m_collections;
+    if (field == 0 || m_device.hasReported(field))
         m_watcher.takeContradiction(*this, found);
-        return;
-    }
-    // A log that is silent for so long began to tell the field later, if ever.
-    if (m_withheld.size() >= mostWithheld)
-        m_withheld.clear();
-    m_withheld.emplace_back(fields, found);
+    else
+        m_withheld.add(field, found);
 }

@@ -6,6 +6,8 @@
 #include "text/devicename.h"
 #include "text/diagnosis.h"
 
+#include <algorithm>
+
 QString LogPlace::place() const
 {
     QStringList place{Diagnosis::tr("Session %1").arg(session), Diagnosis::tr("line %1").arg(line)};
@@ -22,6 +24,20 @@ QString moneyName(quint32 device, int note)
         return isCoin ? Diagnosis::tr("coin of unknown value")
                       : Diagnosis::tr("note of unknown value");
     return (isCoin ? Diagnosis::tr("coin of %1") : Diagnosis::tr("note of %1")).arg(note);
+}
+
+void NoteAnswer::addConditions(const QVector<MachineCondition>& now)
+{
+    for (const MachineCondition& condition : now) {
+        const auto same =
+            std::find_if(machine.begin(), machine.end(), [&](const MachineCondition& k) {
+                return k.line == condition.line && k.what == condition.what;
+            });
+        if (same == machine.end())
+            machine += condition;
+        else
+            *same = condition;
+    }
 }
 
 QString NoteAnswer::headline() const

@@ -65,6 +65,9 @@ struct NoteAnswer : LogPlace
             || (end == counted && (counted == Outcome::Taken || counted == Outcome::Stuck));
     }
 
+    /// Adds to what was the matter what is new, and tells of the rest what is known of it last.
+    void addConditions(const QVector<MachineCondition>& now);
+
     QString what() const { return moneyName(device, note); }
 
     /// "Session 1, line 8, 10:05:12, Bill validator (CCNet): note of 1000 refused."

@@ -38,6 +38,12 @@ inline const OutcomeWords& wordsOf(Outcome outcome)
     return outcomeWords().at(size_t(outcome));
 }
 
+/// Whether the customer has it again.
+inline bool isGivenBack(Outcome outcome)
+{
+    return outcome == Outcome::Returned || outcome == Outcome::Rejected;
+}
+
 /// "refused", "taken", ...
 QString outcomeKey(Outcome outcome);
 

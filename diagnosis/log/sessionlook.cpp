@@ -3,6 +3,7 @@
 
 #include "log/sessionlook.h"
 
+#include "log/svg.h"
 #include "text/diagnosis.h"
 #include "text/htmltext.h"
 
@@ -83,6 +84,15 @@ QString markShapes()
                           "5V-5zM-1.4-5.5V1.5H1.4V-5.5zM-1.4 3V5.8H1.4V3z\"/>\n"
                           "</defs></svg>\n")
         .arg(shapes);
+}
+
+QString markAt(double x, double y, const QString& shape, const QString& id, const QString& sentence,
+               const QString& title, const QString& more)
+{
+    return QStringLiteral("<a id=\"%1\" class=\"mark %2\" href=\"#%3\" tabindex=\"-1\">"
+                          "<title>%4</title><use href=\"#%2\" x=\"%5\" y=\"%6\"/>%7"
+                          "<circle class=\"halo\" cx=\"%5\" cy=\"%6\" r=\"11\"/></a>\n")
+        .arg(id, shape, sentence, htmlText(title), number(x), number(y), more);
 }
 
 QString markGlyph(Outcome outcome)

@@ -24,6 +24,11 @@ QString stateLegend();
 /// The shapes of the marks, which a page needs once.
 QString markShapes();
 
+/// A mark in a picture, which leads to its sentence.
+/// @param more what is drawn over it
+QString markAt(double x, double y, const QString& shape, const QString& id, const QString& sentence,
+               const QString& title, const QString& more = {});
+
 /// A line of words with the mark of an outcome.
 QString markGlyph(Outcome outcome);
 

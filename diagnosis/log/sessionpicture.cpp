@@ -213,11 +213,7 @@ void SessionPicture::drawMarks(const SessionRecord::Lane& lane)
             ? QStringLiteral("<use href=\"#ring\" x=\"%1\" y=\"%2\"/>")
                   .arg(number(x), number(middle))
             : QString();
-        m_body += QStringLiteral("<a id=\"%1\" class=\"mark %2\" href=\"#%3\" tabindex=\"-1\">"
-                                 "<title>%4</title><use href=\"#%2\" x=\"%5\" y=\"%6\"/>%7"
-                                 "<circle class=\"halo\" cx=\"%5\" cy=\"%6\" r=\"11\"/></a>\n")
-                      .arg(mark, outcome, sentence, htmlText(answer.headline()), number(x),
-                           number(middle), halo);
+        m_body += markAt(x, middle, outcome, mark, sentence, answer.headline(), halo);
         const QString value = answer.hasValue() ? QString::number(answer.note) : QString();
         const double half = textWidth(value) / 2;
         if (x - half < free)
@@ -240,12 +236,8 @@ void SessionPicture::drawWrong(const SessionRecord::Lane& lane)
             return anchorName(kind, m_session, found.line, found.device, found.thread,
                               found.ruleKey());
         };
-        drawn += QStringLiteral("<a id=\"%1\" class=\"mark wrong\" href=\"#%2\" tabindex=\"-1\">"
-                                "<title>%3</title><use href=\"#wrong\" x=\"%4\" y=\"%5\"/>"
-                                "<circle class=\"halo\" cx=\"%4\" cy=\"%5\" r=\"11\"/></a>\n")
-                     .arg(anchor(Anchor::Wrong), anchor(Anchor::WrongSentence),
-                          htmlText(found.text()), number(xOf(found.line) + markSize / 2),
-                          number(m_y + 10));
+        drawn += markAt(xOf(found.line) + markSize / 2, m_y + 10, QStringLiteral("wrong"),
+                        anchor(Anchor::Wrong), anchor(Anchor::WrongSentence), found.text());
     }
     if (drawn.isEmpty())
         return;

@@ -69,7 +69,5 @@ QString anchorName(Anchor kind, const SessionRecord& session, qint64 line, quint
                              .arg(device)
                              .arg(thread);
     // A condition outlives sessions, its place does not. Of one line several things may be wrong.
-    return !what.isEmpty()
-        ? QStringLiteral("%1-%2-%3").arg(name, what).arg(session.number)
-        : name;
+    return !what.isEmpty() ? QStringLiteral("%1-%2-%3").arg(name, what).arg(session.number) : name;
 }

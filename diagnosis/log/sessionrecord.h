@@ -56,8 +56,7 @@ struct SessionRecord
 
     bool isTold(const NoteAnswer& answer) const
     {
-        return told == Told::All
-            || (told == Told::Refusals && answer.outcome == Outcome::Refused);
+        return told == Told::All || (told == Told::Refusals && answer.outcome == Outcome::Refused);
     }
     bool isTold(const Contradiction& /*found*/) const { return told != Told::Refusals; }
 

@@ -62,8 +62,9 @@ JsonText jsonOf(const QStringList& logs, const Contradiction& found)
          {"session", found.session},
          {"device", qint64(found.device)},
          {"thread", qint64(found.thread)},
-         {"lines", JsonText::list(found.lines,
-                                  [](qint64 line) { return JsonText(LogPosition::line(line)); })},
+         {"lines",
+          JsonText::list(found.lines,
+                         [](qint64 line) { return JsonText(LogPosition::line(line)); })},
          {"time", jsonOf(found.time)},
          {"text", found.sentence}});
 }

@@ -186,10 +186,9 @@ int cashCommand(const Arguments& arguments)
     CashReading reading(arguments);
     LogStream stream(arguments.operands(), arguments.isSet(options::perFile),
                      arguments.isSet(options::keepGoing));
-    const int exitCode = stream.read([&](const StreamLine& line) { reading.take(line); },
-                                     [&](int log, const QString& kiosk, qint64 line) {
-                                         reading.skip(log, kiosk, line);
-                                     });
+    const int exitCode = stream.read(
+        [&](const StreamLine& line) { reading.take(line); },
+        [&](int log, const QString& kiosk, qint64 line) { reading.skip(log, kiosk, line); });
     CashAnswer answer = reading.answer(stream.notes());
     compareCounts(answer, counts, countsFile);
     bool isSound = true;

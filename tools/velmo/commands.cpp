@@ -20,8 +20,8 @@ const std::vector<Command>& commands()
         {"explain",
          {sessionLogs},
          {&options::session, &options::device, &options::from, &options::to, &options::note,
-          &options::outcome, &options::refusals, &options::contradictions, &options::summary, &options::utc,
-          &options::exitCode, &options::json, &options::html, &options::keepGoing},
+          &options::outcome, &options::refusals, &options::contradictions, &options::summary,
+          &options::utc, &options::exitCode, &options::json, &options::html, &options::keepGoing},
          explainCommand,
          QT_TRANSLATE_NOOP("Velmo", "Why notes were refused: one answer for every note of a log."),
          QT_TRANSLATE_NOOP(
@@ -35,7 +35,8 @@ const std::vector<Command>& commands()
         {"cash",
          {sessionLogs},
          {&options::counted, &options::from, &options::to, &options::device, &options::last,
-          &options::perFile, &options::utc, &options::exitCode, &options::json, &options::csv, &options::html, &options::keepGoing},
+          &options::perFile, &options::utc, &options::exitCode, &options::json, &options::csv,
+          &options::html, &options::keepGoing},
          cashCommand,
          QT_TRANSLATE_NOOP("Velmo", "Where the money is: what lies in each cassette and channel."),
          QT_TRANSLATE_NOOP(

@@ -252,9 +252,9 @@ private:
         if (m_page && !m_question.summaryOnly)
             m_page->page().add(answer);
         else if (!m_page && m_question.shows(answer))
-            m_text += m_json ? jsonOf(m_log, answer) + '\n'
-                             : textLine(answer.headline(), answer.text(),
-                                        colors[int(answer.outcome)]);
+            m_text += m_json
+                ? jsonOf(m_log, answer) + '\n'
+                : textLine(answer.headline(), answer.text(), colors[int(answer.outcome)]);
     }
 
     void takeContradiction(const MoneyTrail& /*trail*/, const Contradiction& found) override

@@ -58,15 +58,17 @@ constexpr Option summary{"summary", nullptr, Value(),
                          QT_TRANSLATE_NOOP("Velmo", "Show only the summary.")};
 constexpr Option exitCode{
     "exit-code", nullptr, Value(),
-    QT_TRANSLATE_NOOP("Velmo", "Make the exit code 1 when the filters refused something, or "
-                               "something does not add up.")};
+    QT_TRANSLATE_NOOP("Velmo",
+                      "Make the exit code 1 when the filters refused something, or "
+                      "something does not add up.")};
 constexpr Option html{
     "html", nullptr, Value("PAGE.html", Kind::File),
     QT_TRANSLATE_NOOP("Velmo", "Write a page with pictures to PAGE.html in place of text.")};
 constexpr Option counted{
     "counted", nullptr, Value("FILE", Kind::File),
-    QT_TRANSLATE_NOOP("Velmo", "What was counted, to be held against the ledger: a table with the "
-                               "columns device, place, denomination, count, or such a JSON list.")};
+    QT_TRANSLATE_NOOP("Velmo",
+                      "What was counted, to be held against the ledger: a table with the "
+                      "columns device, place, denomination, count, or such a JSON list.")};
 constexpr Option csv{"csv", nullptr, Value(),
                      QT_TRANSLATE_NOOP("Velmo", "Print a table for spreadsheets.")};
 constexpr Option last{"last", nullptr, Value(),

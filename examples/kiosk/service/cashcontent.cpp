@@ -32,11 +32,11 @@ QVariantList piecesOf(const CashPeriod& period)
 {
     QVariantList pieces;
     for (const CashDoubt& doubt : period.doubts) {
-        if (doubt.reason == CashDoubt::stuck || doubt.reason == CashDoubt::onItsWay)
+        if (doubt.reason == DoubtReason::Stuck || doubt.reason == DoubtReason::OnItsWay)
             pieces +=
                 QVariantMap{{QStringLiteral("denomination"), doubt.denomination},
                             {QStringLiteral("count"), doubt.pieces},
-                            {QStringLiteral("stuck"), doubt.reason == CashDoubt::stuck},
+                            {QStringLiteral("stuck"), doubt.reason == DoubtReason::Stuck},
                             {QStringLiteral("since"), doubt.examples.front().place.time.iso()}};
     }
     return pieces;
