@@ -7,6 +7,7 @@
 #include "droutemapitem.h"
 #include "filterchain.h"
 #include "filtersfile.h"
+#include "log/cashcount.h"
 #include "service/kiosksummary.h"
 #include "service/serviceanswer.h"
 #include "settings/arrayfile.h"
@@ -80,6 +81,57 @@ QVariant serviceReport(const QVariant& /*example*/)
                     .out);
 }
 
+// The counts that a file has.
+QVariantList writtenCounts(const QByteArray& file)
+{
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(file);
+    buffer->open(QIODevice::ReadOnly);
+    TextInput input(std::move(buffer), {});
+    QVariantList written;
+    for (const CashCount& count : readCashCounts(input)) {
+        QVariantMap map{{"device"_s, count.device},
+                        {"place"_s, placeKey(count.place)},
+                        {"denomination"_s, count.denomination},
+                        {"count"_s, count.count}};
+        if (count.channel)
+            map.insert("channel"_s, *count.channel);
+        if (!count.currency.isEmpty())
+            map.insert("currency"_s, count.currency);
+        written += map;
+    }
+    return written;
+}
+
+// What the tool prints of a log in which a note was not credited and two got stuck.
+QString ledger(const QStringList& options)
+{
+    return velmo(
+               QStringList{"cash"_s, "-"_s} + options,
+               R"({"session":"start","device_id":7,"thread_id":2,"state":"idling","stacker_present":false,"session_sum":0,)"
+               R"("dispenser_registry":[{"bill_type":0,"channel":1,"count":12,"currency":"RUB","denomination":100,)"
+               R"("device_id":7,"rejected":0,"thread_id":2}],"time":"2026-11-24T10:00:00Z"}
+                    {"stacker_present":true,"time":"2026-11-24T10:01:00Z"}
+                    {"state":"accepting","current_note":500,"time":"2026-11-24T10:05:12Z"}
+                    {"state":"stacked"}
+                    {"state":"idling","current_note":0}
+                    {"state":"accepting","current_note":1000}
+                    {"state":"jammed"}
+                    {"state":"idling","current_note":0}
+                    {"state":"accepting","current_note":1000}
+                    {"state":"jammed","time":"2026-11-24T10:06:00Z"})")
+        .out;
+}
+
+// The lines of JSON that the tool printed.
+QVariantList jsonLines(const QString& out)
+{
+    QVariantList lines;
+    for (const QString& line : out.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+        lines += json(line);
+    return lines;
+}
+
 // What the tool prints of a log in which notes were fished.
 QVariantList fishedLog(const QStringList& command)
 {
@@ -94,10 +146,29 @@ QVariantList fishedLog(const QStringList& command)
                  {"state":"idling"}
                  {"state":"rejected"}
                  {"state":"accepting","current_note":1000,"stacker_full":true,"time":"2026-11-24T10:05:30Z"})");
-    QVariantList lines;
-    for (const QString& line : run.outLines())
-        lines += json(line);
-    return lines;
+    return jsonLines(run.out);
+}
+
+QString page()
+{
+    QFile file(QStringLiteral(FORMATS));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+// What stands on the page as a table for a spreadsheet: the ledger's with what is counted of it,
+// and one of what was counted.
+QStringList csvExamples()
+{
+    QStringList found;
+    const QRegularExpression block("```csv\n([^`]*)```"_s);
+    for (auto example = block.globalMatch(page()); example.hasNext();)
+        found += example.next().captured(1);
+    return found;
+}
+
+QString countedTable()
+{
+    return csvExamples().value(1);
 }
 
 // Reads an example with the class that reads its format and writes it again.
@@ -152,18 +223,34 @@ const QMap<QString, std::function<QVariant(const QVariant& example)>> checks{
      }},
     {"overview of a log"_s,
      [](auto& /*v*/) {
-         return fishedLog({"explain"_s, "--summary"_s});
+         QVariantList lines = fishedLog({"explain"_s});
+         while (lines.value(0).toMap()["kind"_s] == "note"_s)
+             lines.removeFirst();
+         return lines;
      }},
+    {"contradiction"_s,
+     [](auto& /*v*/) {
+         QFile log(sample("credited-nothing.jsonl"_s));
+         log.open(QIODevice::ReadOnly);
+         QTemporaryDir folder;
+         const QString filters = writeFile(folder.filePath("f.json"_s), "[]"_s);
+         return jsonLines(velmo({"explain"_s, "-"_s, "--filters"_s, filters, "--json"_s,
+                                 "--contradictions"_s},
+                                log.readAll())
+                              .out)
+             .value(0);
+     }},
+    {"ledger"_s,
+     [](auto& /*v*/) {
+         QTemporaryDir folder;
+         return jsonLines(ledger(
+             {"--json"_s, "--counted"_s, writeFile(folder.filePath("c.csv"_s), countedTable())}));
+     }},
+    {"counted cash"_s, [](auto& v) { return writtenCounts(text(v).toUtf8()); }},
     {"replayed log"_s, [](auto& /*v*/) { return fishedLog({"replay"_s}).last(); }},
     {"names file"_s, reportedNames},
     {"service report"_s, serviceReport},
 };
-
-QString page()
-{
-    QFile file(QStringLiteral(FORMATS));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 // The models and interfaces that a setting is not written for leave the others.
 QString writtenFor(const SettingDescription& d)
@@ -223,6 +310,60 @@ private Q_SLOTS:
         }
         QCOMPARE(QStringList(unused.keys()), QStringList());
         settings.setList({});
+    }
+
+    void tablesAreRead()
+    {
+        const QString example = page().section("<!-- example: counted cash -->\n```json\n"_s, 1);
+        QCOMPARE(writtenCounts(countedTable().toUtf8()),
+                 json(example.section("```"_s, 0, 0)).toList());
+        QTemporaryDir folder;
+        const QString counts = writeFile(folder.filePath("c.csv"_s), countedTable());
+        const QStringList parts = csvExamples().value(0).split("\n\n"_s);
+        QCOMPARE(parts.size(), 2);
+        for (const bool isCounted : {false, true}) {
+            const QString out =
+                ledger(QStringList{"--csv"_s}
+                       + (isCounted ? QStringList{"--counted"_s, counts} : QStringList()));
+            const QStringList rows = out.split(QLatin1Char('\n'));
+            const QStringList expected =
+                parts.at(isCounted ? 1 : 0).trimmed().split(QLatin1Char('\n'));
+            QCOMPARE(expected.at(0), rows.at(0));
+            QVERIFY2(rows.contains(expected.at(1)), qPrintable(out));
+        }
+    }
+
+    void everyRuleIsDescribed()
+    {
+        const QString table = page().section("\n| Rule | Told when"_s, 1).section("\n\n"_s, 0, 0);
+        QStringList told;
+        const QRegularExpression row("\n\\| `(\\w+)` \\|"_s);
+        for (auto found = row.globalMatch(table); found.hasNext();)
+            told += found.next().captured(1);
+        QStringList rules;
+        for (int i = 0; i < ruleCount; ++i)
+            rules += Contradiction::keyOf(Rule(i));
+        QCOMPARE(told, rules);
+    }
+
+    // The commands of the front page that show what they print.
+    void frontPageShowsWhatIsPrinted()
+    {
+        QFile file(sample("../README.md"_s));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString frontPage = QString::fromUtf8(file.readAll());
+        const QRegularExpression block(
+            "    \\$ velmo ([^\n]*)\n\n((?:    [^\n]*\n|\n(?=    ))+)"_s);
+        int number = 0;
+        for (auto found = block.globalMatch(frontPage); found.hasNext(); ++number) {
+            const QRegularExpressionMatch example = found.next();
+            QStringList words = example.captured(1).split(QLatin1Char(' '));
+            words.replaceInStrings(QRegularExpression("^samples/"_s), SAMPLES "/"_s);
+            const QString shown = example.captured(2).simplified();
+            const VelmoRun run = velmo(words);
+            QVERIFY2(run.out.simplified().contains(shown), qPrintable(run.out + run.err));
+        }
+        QCOMPARE(number, 2);
     }
 
     void summaryOfAKioskReadsBack()
