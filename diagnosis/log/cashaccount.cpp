@@ -78,7 +78,7 @@ PieceRange CashAccount::now(const CashFlow& flow) const
     held += flow.in;
     held += flow.moved;
     held -= flow.out;
-    held.widen(0, extra);
+    held.widen(0, ofAnyValue);
     held.min = qMax<qint64>(0, held.min - flow.lost);
     if (isUnbounded)
         held.max.reset();
@@ -152,7 +152,7 @@ CashPeriod CashAccount::told(const std::vector<CashChannel>& known, const QStrin
     };
     for (const auto& [kind, flow] : merged(cassette, known)) {
         CashRow row{CashPlace::Cassette, 0, kind, flow, now(flow), {}};
-        row.flow.in.widen(0, extra);
+        row.flow.in.widen(0, ofAnyValue);
         if (isUnbounded)
             row.flow.in.max.reset();
         add(std::move(row));
@@ -193,14 +193,15 @@ QStringList CashAccount::whyOf(const CashRow& row, const std::vector<CashChannel
                 return other.number == row.channel && other.denomination == row.kind.denomination
                     && other.currency == row.kind.currency;
             });
-        if (isOpen && !channel->isTold)
+        if (!channelsTold.at(size_t(channel - known.begin())))
             why += Diagnosis::tr("the registry does not tell of it any more");
         if (row.flow.filled > 0)
             why += Diagnosis::tr("%n pieces were filled in", nullptr,
                                  int(qMin<qint64>(row.flow.filled, INT_MAX)));
     }
     for (const CashDoubt& doubt : doubts) {
-        const bool isOfExact = doubt.reason == DoubtReason::ChannelUnexplained;
+        const bool isOfExact =
+            doubt.reason == DoubtReason::ChannelUnexplained && row.place == CashPlace::Channel;
         if (!doubt.isAbout(row.place, row.channel, row.kind.denomination)
             || (row.now.isExact() && !isOfExact))
             continue;

@@ -18,12 +18,12 @@ struct CashAccount : CashPeriod
     int collections = 0; ///< of the cassette before it
     int session = 0; ///< the newest
     PieceRange opening; ///< of every kind of which nothing is known
-    qint64 extra = 0; ///< pieces of any kind may have come
-    bool isUnbounded = false; ///< or any number of them
+    bool isUnbounded = false; ///< any number of pieces may have come
     Flows cassette;
     Flows rejects;
     std::vector<CashFlow> channels; ///< by their index
     std::vector<PieceRange> channelsNow; ///< likewise, like the following known when it is told
+    std::vector<bool> channelsTold;
     bool areRejectsKnown = true;
 
     CashFlow& cassetteOf(const CashKind& kind);

@@ -158,7 +158,7 @@ void CashBook::beginHere()
     CashAccount before = std::move(m_periods.back());
     m_periods.clear();
     PieceRange opening = before.opening;
-    opening.widen(0, before.extra);
+    opening.widen(0, before.ofAnyValue);
     if (before.isUnbounded)
         opening.max.reset();
     CashAccount& period = openPeriod(opening);
@@ -182,7 +182,7 @@ void CashBook::takeContradiction(const Contradiction& found)
         for (CashAccount& each : m_periods) {
             if (&each != now && each.collections < found.collections)
                 continue;
-            each.extra += found.missing;
+            each.ofAnyValue += found.missing;
             each.addDoubt(found, reason, found.missing, CashPlace::Cassette, 0);
             each.addContent(m_now);
         }
@@ -231,7 +231,7 @@ void CashBook::takeDoubtful(CashAccount& period, const PieceEnd& piece)
     if (piece.note > 0)
         inflow(period, piece.note, piece).widen(0, 1);
     else
-        ++period.extra;
+        ++period.ofAnyValue;
     period.addDoubt(piece, doubtOf(piece), 1, CashPlace::Cassette, piece.note);
     if (piece.otherNote && *piece.otherNote > 0) {
         inflow(period, *piece.otherNote, piece).widen(0, 1);
@@ -379,8 +379,10 @@ CashPeriod CashBook::told(CashAccount period) const
 // What the channels hold now.
 void CashBook::lookAtChannels(CashAccount& period) const
 {
-    for (size_t i = 0; i < period.channels.size(); ++i)
+    for (size_t i = 0; i < period.channels.size(); ++i) {
         period.channelsNow.push_back(channelNow(i));
+        period.channelsTold.push_back(m_trail.channels().at(i).isTold);
+    }
     period.areRejectsKnown = m_trail.areChannelsKnown();
 }
 

@@ -156,7 +156,7 @@ std::vector<CashCount> readTable(const TextInput& file, const QStringList& lines
                                 .arg(names.size())
                                 .arg(values.size())};
             counts.push_back(countOf(names, values));
-            counts.back().line = i + 1;
+            counts.back().where = QStringLiteral("%1:%2").arg(file.name()).arg(i + 1);
         } catch (const Fault& fault) {
             throw file.faultAt(i + 1, fault.message);
         }
@@ -172,20 +172,24 @@ std::vector<CashCount> readList(const TextInput& file, const QByteArray& text)
     std::vector<CashCount> counts;
     const QJsonArray list = document.array();
     for (const QJsonValue& element : list) {
+        const QString where =
+            Diagnosis::tr("%1: element %2").arg(file.name()).arg(counts.size() + 1);
         try {
             if (!element.isObject())
                 throw Fault{Diagnosis::tr("expected a JSON object")};
             const QJsonObject object = element.toObject();
             QStringList values;
-            for (const QJsonValue& value : object)
+            for (const QJsonValue& value : object) {
+                if (value.isBool() || value.isArray() || value.isObject())
+                    throw Fault{Diagnosis::tr("expected texts and numbers")};
                 values += value.isDouble() ? QString::number(value.toDouble(), 'g', 17)
                                            : value.toString();
+            }
             requireColumns(object.keys());
             counts.push_back(countOf(object.keys(), values));
-            counts.back().line = qint64(counts.size());
+            counts.back().where = where;
         } catch (const Fault& fault) {
-            throw Fault{Diagnosis::tr("%1: element %2: %3")
-                            .arg(file.name(), QString::number(counts.size() + 1), fault.message)};
+            throw Fault{QStringLiteral("%1: %2").arg(where, fault.message)};
         }
     }
     return counts;

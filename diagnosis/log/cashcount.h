@@ -16,7 +16,7 @@ class TextInput;
 /// What somebody counted of one kind of money in one place.
 struct CashCount
 {
-    qint64 line = 0; ///< of the file, or the number of the element
+    QString where; ///< file and line, or element
     QString kiosk; ///< empty when it is not said
     quint32 device = 0;
     std::optional<quint32> thread;

@@ -121,6 +121,7 @@ struct CashPeriod
     bool isOpen = true;
     std::optional<quint32> cash; ///< what the device says of itself, in the end
     std::vector<CashRow> rows;
+    qint64 ofAnyValue = 0; ///< so many pieces of unknown value may have come into the cassette
     PieceRange unseen; ///< of each kind that the cassette has no row of
     std::vector<CashDoubt> doubts;
     std::vector<Contradiction> contradictions; ///< the first ones; their lines are LogPositions

@@ -38,6 +38,7 @@ JsonText jsonOf(const KioskCash& kiosk, const CashPeriod& period)
                              {"to_line", LogPosition::line(period.toPosition)},
                              {"sessions", period.sessions},
                              {"open", period.isOpen},
+                             {"of_unknown_value", period.ofAnyValue},
                              {"cash", jsonOf(period.cash)}});
 }
 
@@ -87,6 +88,12 @@ JsonText jsonOf(const QStringList& logs, const KioskCash& kiosk, const CashDiffe
                              {"explained_by", reasons}});
 }
 
+// An object with one more member.
+QByteArray withMember(const QByteArray& object, const char* name, const JsonText& value)
+{
+    return object.left(object.size() - 1) + ",\"" + name + "\":" + value + '}';
+}
+
 } // namespace
 
 QByteArray cashJson(const CashAnswer& answer)
@@ -101,12 +108,9 @@ QByteArray cashJson(const CashAnswer& answer)
         for (const CashDifference& difference : kiosk.differences)
             text += jsonOf(answer.logs, kiosk, difference) + '\n';
         for (const Contradiction& found : kiosk.contradictions)
-            text += jsonOf(answer.logs, found) + '\n';
+            text += withMember(jsonOf(answer.logs, found), "kiosk", jsonOf(kiosk.kiosk)) + '\n';
     }
-    QByteArray summary = jsonOf(answer.summary);
-    summary.insert(summary.size() - 1,
-                   QStringLiteral(R"(,"devices":%1)").arg(answer.devices).toUtf8());
-    return text + summary + '\n';
+    return text + withMember(jsonOf(answer.summary), "devices", JsonText(answer.devices)) + '\n';
 }
 
 namespace {

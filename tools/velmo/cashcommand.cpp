@@ -128,7 +128,7 @@ private:
     std::map<QString, std::unique_ptr<Kiosk>> m_kiosks;
 };
 
-void compareCounts(CashAnswer& answer, const std::vector<CashCount>& counts, const QString& file)
+void compareCounts(CashAnswer& answer, const std::vector<CashCount>& counts)
 {
     for (const CashCount& count : counts) {
         try {
@@ -141,8 +141,7 @@ void compareCounts(CashAnswer& answer, const std::vector<CashCount>& counts, con
                 throw Fault{Velmo::tr("the logs have no such kiosk")};
             kiosk->differences.push_back(compareCount(count, kiosk->periods));
         } catch (const Fault& fault) {
-            throw Fault{
-                QStringLiteral("%1:%2: %3").arg(file, QString::number(count.line), fault.message)};
+            throw Fault{QStringLiteral("%1: %2").arg(count.where, fault.message)};
         }
     }
 }
@@ -190,7 +189,7 @@ int cashCommand(const Arguments& arguments)
         [&](const StreamLine& line) { reading.take(line); },
         [&](int log, const QString& kiosk, qint64 line) { reading.skip(log, kiosk, line); });
     CashAnswer answer = reading.answer(stream.notes());
-    compareCounts(answer, counts, countsFile);
+    compareCounts(answer, counts);
     bool isSound = true;
     for (KioskCash& kiosk : answer.kiosks) {
         if (arguments.isSet(options::last))

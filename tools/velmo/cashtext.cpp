@@ -52,8 +52,14 @@ QString tableOf(const CashPeriod& period)
                               : QStringLiteral("[%1]").arg(marks.join(QLatin1Char(',')))};
         place = name;
     }
+    QString unvalued;
+    if (period.ofAnyValue > 0)
+        unvalued = Velmo::tr("Pieces of unknown value that may lie in the cassette: %1")
+                       .arg(period.ofAnyValue)
+            + QLatin1Char('\n');
     if (rows.isEmpty())
-        return Velmo::tr("Of money the log tells nothing.") + QLatin1Char('\n');
+        return unvalued.isEmpty() ? Velmo::tr("Of money the log tells nothing.") + QLatin1Char('\n')
+                                  : unvalued;
     QStringList columns = CashRow::columns();
     for (int i = 1; i < columns.size(); ++i) {
         if (i != 2) // the currency
@@ -62,7 +68,7 @@ QString tableOf(const CashPeriod& period)
     QString text = formatTable(columns + QStringList{QString()}, rows);
     for (int i = 0; i < notes.size(); ++i)
         text += wrapped(QStringLiteral("  [%1] %2").arg(i + 1).arg(notes.at(i)), 6, outputWidth());
-    return text;
+    return text + unvalued;
 }
 
 QString contradictionsText(const CashAnswer& answer, const KioskCash& kiosk)
