@@ -214,9 +214,7 @@ void MoneyTrail::takeChanges()
             || m_act.hasGap) {
             if (isOperation(m_act.kind))
                 m_act.moved.push_back(change);
-            // Of a piece it is no more.
-            m_watcher.takeChange(*this, m_act.kind == MoneyAct::Piece ? MoneyAct::None : m_act.kind,
-                                 change);
+            m_watcher.takeChange(*this, isFilling ? MoneyAct::None : m_act.kind, change);
             continue;
         }
         m_watcher.takeChange(*this, MoneyAct::None, change);
