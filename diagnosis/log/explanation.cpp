@@ -11,6 +11,7 @@
 
 namespace {
 
+const quint32 stateBit = DeviceReport::bit(deviceStateDescConst::STATE);
 const quint32 noteBit = DeviceReport::bit(deviceStateDescConst::CURRENT_NOTE);
 const quint32 sessionSumBit = DeviceReport::bit(deviceStateDescConst::SESSION_SUM);
 
@@ -85,7 +86,8 @@ void LogExplainer::takeStep(const LogStep& step, const SessionLine& line, qint64
     const LogDevice& device = *step.device;
     Trail& trail = trailOf(device);
     const auto closeUnlessInHand = [&] {
-        if (step.startsSession && trail.note && trail.note->phase != InHand)
+        if (step.startsSession && trail.note
+            && (trail.note->phase != InHand || trail.note->piece.isInChannel))
             close(device);
     };
     closeUnlessInHand();
@@ -138,15 +140,15 @@ void LogExplainer::finish()
         Trail& trail = trailOf(*device);
         Note* const note = trail.note;
         if (note && note->phase == InHand && !note->piece.isInChannel) {
-            // It is on its way still.
-            note->isInterrupted = true;
-            if (note->answer.isNote() && note->stoppedLine == 0
+            // It is on its way still, unless all that was told of it is of a session before.
+            const bool isTold = !std::exchange(note->isInterrupted, true);
+            if (isTold && note->answer.isNote() && note->stoppedLine == 0
                 && note->answer.outcome != Outcome::Refused)
                 note->stoppedLine = note->seenLine;
             note->answer.end = Outcome::Unknown;
         }
         close(*device);
-        trail.money->endAct(nullptr);
+        trail.money->finish();
     }
     giveAway();
 }
@@ -209,13 +211,19 @@ void LogExplainer::takeEvent(const LogStep& step, const SessionLine& line, qint6
         trail.note->answer.machine = before.answer.machine;
         return judge(device, *trail.note);
     }
-    if (isNewState && beginsNote(event, trail.note))
+    if (isNewState && !trail.money->isAtWork() && beginsNote(event, trail.note))
         addNote(device, line, lineNumber);
-    if (!trail.note)
+    if (!trail.note) {
+        // A value of a note that was not seen to begin is none of the next one.
+        trail.isValueNew = trail.isValueNew && !tellsOfNote(event.state);
         return;
+    }
     NoteAnswer& answer = trail.note->answer;
-    if (answer.session != device.session() && tellsOfNote(event.state))
+    if (answer.session != device.session() && (step.reported & stateBit) != 0
+        && tellsOfNote(event.state)) {
+        trail.note->isInterrupted = false;
         trail.money->resumeNote(answer);
+    }
     if (event.state != STATE_IDLING && std::exchange(trail.isValueNew, false)) {
         if (std::exchange(trail.note->isValuePresumed, false))
             takeBackValue(answer);
@@ -291,7 +299,7 @@ void LogExplainer::follow(const LogDevice& device, Note& note, bool isNewState, 
     const State state = device.state().state;
     const Outcome before = answer.end;
     const bool isKept = isNewState && (state == STATE_ACCEPTED || state == STATE_STACKING);
-    if (isKept || state == STATE_STACKED)
+    if (isKept || state == STATE_STACKED || note.piece.isInChannel)
         answer.end = Outcome::Taken;
     else if (state == STATE_REJECTED)
         answer.end = Outcome::Rejected;
@@ -311,7 +319,7 @@ void LogExplainer::follow(const LogDevice& device, Note& note, bool isNewState, 
 
     const bool isAtEnd =
         state == STATE_REJECTED || state == STATE_RETURNED || state == STATE_STACKED;
-    if (isAtEnd || isKept)
+    if (isAtEnd)
         note.stoppedLine = 0;
     if (isKept && note.phase == Idle)
         note.phase = InHand; // once more

@@ -51,6 +51,7 @@ void MoneyTrail::see(const LogStep& step, const SessionLine& line, qint64 lineNu
 {
     m_line = lineNumber;
     m_time = line.time();
+    m_isNews = step.sent;
     m_newCounter = step.notesInserted;
     const State state = m_device.state().state;
     const bool mayBegin = state != m_state && (state == STATE_ACCEPTING || state == STATE_REJECTED);
@@ -85,6 +86,7 @@ void MoneyTrail::seeSums(const LogStep& step)
         const qint64 before = m_sum.value_or(state.sessionSum);
         m_newCredit = qMax<qint64>(0, state.sessionSum - before);
         if (state.sessionSum < before) {
+            m_act.credit -= qMin(m_act.credit, before - state.sessionSum);
             tell(Contradiction::ofFall(before, state.sessionSum), here(), {m_sumLine, m_line});
         }
         m_sum = state.sessionSum;
@@ -119,18 +121,9 @@ void MoneyTrail::seeRegistry()
     m_act.isRegistryNew = m_isRegistryNew = !m_channels.all().empty();
 }
 
-const NoteAnswer* MoneyTrail::noteOfAct(const NoteAnswer* open) const
-{
-    if (m_act.kind != MoneyAct::Piece)
-        return nullptr;
-    if (m_act.piece)
-        return &m_act.note;
-    return open && open->line == m_act.begin.line ? open : nullptr;
-}
-
 bool MoneyTrail::giveToLast(const NoteAnswer* note)
 {
-    const NoteAnswer* const last = noteOfAct(note);
+    const NoteAnswer* const last = m_act.noteOf(note);
     bool isInChannel = false;
     if (last && !isGivenBack(last->end) && !m_isNoteMissing) {
         isInChannel = takeGrowth(*last);
@@ -147,7 +140,7 @@ bool MoneyTrail::giveToLast(const NoteAnswer* note)
 bool MoneyTrail::giveRest(const NoteAnswer* note)
 {
     seeCounter();
-    const NoteAnswer* const now = noteOfAct(note);
+    const NoteAnswer* const now = m_act.noteOf(note);
     const bool isInChannel = now && !isGivenBack(now->end) && !m_isNoteMissing && takeGrowth(*now);
     takeLoneCredit();
     takeChanges();
@@ -188,13 +181,30 @@ void MoneyTrail::takeCredit()
 // What of a credit is left belongs to no piece, or is one more of it.
 void MoneyTrail::takeLoneCredit()
 {
-    if (m_isNoteMissing)
-        return; // it may be that one's
-    if (m_act.kind == MoneyAct::Piece || m_act.kind == MoneyAct::Unseen)
+    if (m_newCredit == 0)
+        return;
+    const bool isOwn = m_act.kind == MoneyAct::Piece && !m_isNoteMissing
+        && (m_act.credit == 0 || m_missingNotes == 0);
+    if (isOwn || m_act.kind == MoneyAct::Unseen)
         return takeCredit();
-    if (m_newCredit > 0 && !m_act.hasGap) {
-        tell(Contradiction::ofLoneCredit(m_newCredit), here(), {m_line});
+    if (m_missingNotes > 0) {
+        --m_missingNotes; // it is that one's
+        return;
     }
+    if (m_isNoteMissing || m_act.hasGap)
+        return;
+    Contradiction found = Contradiction::ofLoneCredit(m_newCredit);
+    static_cast<LogPlace&>(found) = here();
+    found.lines = {m_line};
+    m_loneCredits.push_back(found);
+    if (!m_counter.isKnown())
+        tellLoneCredits();
+}
+
+void MoneyTrail::tellLoneCredits()
+{
+    for (const Contradiction& found : std::exchange(m_loneCredits, {}))
+        tell(found, found, found.lines);
 }
 
 // Gives the act what is left of what was paid and of the channels.
@@ -241,6 +251,8 @@ void MoneyTrail::resumeNote(const NoteAnswer& note)
 {
     if (m_act.kind != MoneyAct::None)
         return;
+    if (m_parked && m_parked->isOf(note))
+        m_act = *std::exchange(m_parked, {});
     m_act.kind = MoneyAct::Piece;
     m_act.begin = note;
 }
@@ -270,6 +282,8 @@ void MoneyTrail::follow(const NoteAnswer* note)
         m_act.collectionsAtEnd = m_collections;
     m_act.isCalm = state == STATE_IDLING || (m_act.isCalm && !operation);
     m_state = state;
+    if (m_act.isCut && state == STATE_IDLING)
+        endAct(note);
 }
 
 void MoneyTrail::begin(MoneyAct kind, const NoteAnswer* note)
@@ -282,72 +296,67 @@ void MoneyTrail::begin(MoneyAct kind, const NoteAnswer* note)
 
 void MoneyTrail::startSession(const NoteAnswer* note)
 {
-    const MoneyOperation* const operation = MoneyOperation::of(m_state);
-    const MoneyAct kind = m_act.kind;
-    const bool isOn = operation && operation->act == kind && !m_act.isEnded;
-    endAct(note);
-    if (!isOn)
-        return;
-    begin(kind, nullptr); // what it goes on with, it has told without an end
-    m_act.isTold = true;
+    if (m_act.isAtWork())
+        m_act.isCut = true; // its end may be told yet
+    else
+        endAct(note);
+    tellLoneCredits();
+    m_missingNotes = 0;
+}
+
+void MoneyTrail::finish()
+{
+    endAct(nullptr);
+    tellLoneCredits();
 }
 
 void MoneyTrail::closeNote(const NoteAnswer& note, const PieceEnd& end)
 {
-    if (m_act.kind == MoneyAct::Piece && m_act.begin.line == note.line && !m_act.piece) {
+    if (m_act.isOf(note) && !m_act.piece) {
         m_act.note = note;
         m_act.piece = end;
-    } else {
-        m_watcher.takePiece(*this, end);
+        return;
     }
+    OpenAct now = std::exchange(m_act, OpenAct());
+    if (m_parked && m_parked->isOf(note))
+        m_act = *std::exchange(m_parked, {});
+    m_act.note = note;
+    m_act.piece = end;
+    finishPiece();
+    m_act = std::move(now);
 }
 
 void MoneyTrail::endAct(const NoteAnswer* open)
 {
-    if (m_act.kind == MoneyAct::Piece) {
-        const NoteAnswer* const note = noteOfAct(open);
-        NoteAnswer judged = note ? *note : NoteAnswer();
-        if (!m_act.piece && !m_act.isInChannel && judged.isTaken())
-            judged.end = Outcome::Stuck; // it may come back yet
-        judge(Contradiction::ofCredit(judged, m_act.credit), m_act.isCreditKnown, sumBit);
-        if (m_act.piece) {
-            m_act.piece->isInChannel = m_act.isInChannel;
-            m_act.piece->isPlaceKnown =
-                !(m_act.isRegistryNew || m_act.hasGap) || !m_channels.haveValue(m_act.note.note);
-            m_watcher.takePiece(*this, *m_act.piece);
-        }
-    } else if (m_act.kind == MoneyAct::Payout) {
-        const bool isLostKnown = m_act.isPaidKnown && !m_channels.all().empty();
-        const qint64 lost = isLostKnown ? m_channels.sumLost(m_act.moved) : m_act.paid;
-        judge(Contradiction::ofPayout(m_act.isEnded, m_act.paid, lost), !m_act.isTold, paidBit);
+    if (m_act.kind == MoneyAct::Piece && !m_act.piece && m_act.noteOf(open)) {
+        m_parked = std::exchange(m_act, OpenAct());
+        return;
     }
-    tellUnfinished(m_watcher);
-    m_act = Act();
+    if (m_act.kind == MoneyAct::Piece) {
+        finishPiece();
+    } else if (m_act.kind == MoneyAct::Payout) {
+        const bool isLostKnown = m_act.isPaidKnown && !m_act.isCut && !m_channels.all().empty();
+        const qint64 lost = isLostKnown ? m_channels.sumLost(m_act.moved) : m_act.paid;
+        judge(Contradiction::ofPayout(m_act.isEnded, m_act.paid, lost), paidBit);
+    }
+    if (const auto unfinished = m_act.unfinished(m_channels, m_collections))
+        m_watcher.takeUnfinished(*this, *unfinished);
+    m_act = OpenAct();
 }
 
-// Tells of an act what the log does not, if it ended now.
-void MoneyTrail::tellUnfinished(MoneyWatcher& watcher) const
+// Nothing more is told of a piece, if it was one.
+void MoneyTrail::finishPiece()
 {
-    // What it moved is told; of one that went on from another session nothing may be.
-    const bool isBalanced = m_act.kind == MoneyAct::Payout && m_act.isPaidKnown && !m_act.isStopped
-        && m_channels.sumLost(m_act.moved) == m_act.paid;
-    const bool isSettled = m_act.moved.empty() ? m_act.isTold : m_act.isCalm || isBalanced;
-    const bool isIntoCassette = isOperation(m_act.kind) && m_act.kind != MoneyAct::Payout;
-    const bool isCounted = !isIntoCassette || !m_act.isRegistryNew;
-    const bool isUnfinished =
-        isOperation(m_act.kind) && !m_act.isEnded && (isIntoCassette || !isSettled);
-    if (isUnfinished || !isCounted)
-        watcher.takeUnfinished(*this,
-                               {m_act.kind, m_act.collections,
-                                m_act.isCalm ? m_act.collectionsAtEnd : m_collections,
-                                m_act.isEnded, isCounted, isSettled, m_act.channel, m_act.moved});
+    if (m_act.isCreditKnown && m_sum)
+        judge(Contradiction::ofCredit(m_act.note, m_act.credit), sumBit);
+    if (m_act.piece)
+        m_watcher.takePiece(*this, m_act.pieceEnd(m_channels));
 }
 
 void MoneyTrail::foresee(const PieceEnd* open, MoneyWatcher& watcher) const
 {
     if (m_act.piece) {
-        PieceEnd piece = *m_act.piece;
-        piece.isInChannel = m_act.isInChannel;
+        PieceEnd piece = m_act.pieceEnd(m_channels);
         // The registry may tell yet that it is in a channel.
         piece.isOnItsWay =
             piece.end == Outcome::Taken && !m_act.isCalm && m_channels.haveValue(m_act.note.note);
@@ -355,14 +364,19 @@ void MoneyTrail::foresee(const PieceEnd* open, MoneyWatcher& watcher) const
     }
     if (open)
         watcher.takePiece(*this, *open);
-    tellUnfinished(watcher);
+    if (const auto unfinished = m_act.unfinished(m_channels, m_collections))
+        watcher.takeUnfinished(*this, *unfinished);
 }
 
 void MoneyTrail::seeCounter()
 {
     if (!m_newCounter)
         return;
-    const auto jump = m_counter.take(*m_newCounter, m_line, m_collections);
+    const auto jump = m_counter.take(*m_newCounter, m_isNews, m_line, m_collections);
+    m_missingNotes += jump ? jump->rise - jump->notes : 0;
+    for (; m_missingNotes > 0 && !m_loneCredits.empty(); --m_missingNotes)
+        m_loneCredits.pop_back(); // it is that one's
+    tellLoneCredits();
     if (!jump)
         return;
     m_isNoteMissing = true;
@@ -372,9 +386,9 @@ void MoneyTrail::seeCounter()
 }
 
 // Tells what does not add up with the act, unless the log may lack what would clear it.
-void MoneyTrail::judge(const std::optional<Contradiction>& found, bool isKnown, quint32 field)
+void MoneyTrail::judge(const std::optional<Contradiction>& found, quint32 field)
 {
-    if (!found || !isKnown || m_act.hasGap)
+    if (!found || m_act.hasGap)
         return;
     // That a field stays is only known once the log tells of it at all.
     const bool needsField = found->rule == Rule::NotCredited || found->rule == Rule::PayoutDiffers;

@@ -6,6 +6,7 @@
 #include "log/moneywatcher.h"
 #include "log/noteanswer.h"
 #include "log/notecounter.h"
+#include "log/openact.h"
 #include "log/withheld.h"
 
 #include <optional>
@@ -39,7 +40,7 @@ public:
 
     // The note of the following is the one that is open; null without one.
 
-    /// A session begins: what was on ends.
+    /// A session begins. What was on ends; of a payout, a float or an emptying its device tells.
     void startSession(const NoteAnswer* note);
 
     void see(const LogStep& step, const SessionLine& line, qint64 lineNumber);
@@ -51,14 +52,17 @@ public:
     /// Takes a new state.
     void follow(const NoteAnswer* note);
 
-    /// What was on ends.
-    void endAct(const NoteAnswer* note);
+    /// The log ends.
+    void finish();
 
     /// @param isSame it is the note that began last, of which only the value was new
     void beginNote(const NoteAnswer& note, bool isSame);
 
     /// A session began while the device had the note, and now it tells of it.
     void resumeNote(const NoteAnswer& note);
+
+    /// Whether it pays out, floats or empties: what it rejects then is no note that was offered.
+    bool isAtWork() const { return m_act.isAtWork(); }
 
     /// What was begun turned out to be a note.
     void countNote() { m_counter.count(); }
@@ -74,47 +78,25 @@ public:
     void foresee(const PieceEnd* open, MoneyWatcher& watcher) const;
 
 private:
-    struct Act
-    {
-        MoneyAct kind = MoneyAct::None;
-        LogPlace begin;
-        bool isEnded = false; // as its device told
-        bool isCalm = false; // its device idled since
-        bool isStopped = false; // its device jammed or the like
-        bool hasGap = false; // lines were skipped
-        bool isTold = false; // that it is unfinished
-        qint64 credit = 0;
-        QVector<qint64> lines; // of credits, or of what was paid
-        bool isCreditKnown = true;
-        int collections = 0; // of the cassette when it began
-        int collectionsAtEnd = 0; // when it was calm
-        int channel = 0; // at work
-        qint64 paid = 0;
-        bool isPaidKnown = true;
-        std::vector<ChannelChange> moved;
-        bool isInChannel = false; // of a piece
-        bool isRegistryNew = false; // it was told for the first time
-        std::optional<PieceEnd> piece; // once its note is closed
-        NoteAnswer note; // likewise
-    };
-
     void seeSums(const LogStep& step);
     void seeRegistry();
     void seeCounter();
-    const NoteAnswer* noteOfAct(const NoteAnswer* open) const;
     bool takeGrowth(const NoteAnswer& note);
     void takeCredit();
     void takeLoneCredit();
     void takeChanges();
     void begin(MoneyAct kind, const NoteAnswer* note);
-    void tellUnfinished(MoneyWatcher& watcher) const;
-    void judge(const std::optional<Contradiction>& found, bool isKnown, quint32 field);
+    void endAct(const NoteAnswer* note);
+    void finishPiece();
+    void tellLoneCredits();
+    void judge(const std::optional<Contradiction>& found, quint32 field);
     void tell(Contradiction found, const LogPlace& place, QVector<qint64> lines, quint32 field = 0);
     LogPlace here() const;
 
     const LogDevice& m_device;
     MoneyWatcher& m_watcher;
-    Act m_act;
+    OpenAct m_act;
+    std::optional<OpenAct> m_parked; // that is over, while its note is open
     qint64 m_skippedLines = 0;
     bool m_isFirst = true; // line of the device
     bool m_isRegistryNew = false; // the line tells it for the first time
@@ -132,7 +114,10 @@ private:
     int m_collections = 0;
     bool m_isCassetteIn = true;
     NoteCounter m_counter;
+    bool m_isNews = false; // what the line tells differs from before
     std::optional<qint64> m_newCounter; // of this line
+    qint64 m_missingNotes = 0; // of this session, of which no credit was seen yet
+    std::vector<Contradiction> m_loneCredits; // until the counter tells that no note is missing
     bool m_isNoteMissing = false; // as the counter of this line seems to tell
     Withheld m_withheld;
 };

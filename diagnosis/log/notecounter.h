@@ -8,7 +8,7 @@
 #include <optional>
 
 /// Holds the notes of a log against the counter that their device publishes. The last one may be
-/// counted late.
+/// counted a state late.
 class NoteCounter
 {
 public:
@@ -34,11 +34,15 @@ public:
     };
 
     /// Takes the counter; a jump when it tells of more notes than the log.
-    std::optional<Jump> take(qint64 counter, qint64 line, int collections);
+    /// @param isNews it is of another state than before
+    std::optional<Jump> take(qint64 counter, bool isNews, qint64 line, int collections);
+
+    bool isKnown() const { return m_counter.has_value(); }
 
 private:
     bool m_isUncounted = false; // the note that was begun last
-    qint64 m_notes = 0; // that the counter may not have yet
+    qint64 m_notes = 0; // since the counter was told
+    qint64 m_late = 0; // of those before, which it may not have yet
     std::optional<qint64> m_counter; // as told last
     qint64 m_line = 0;
     int m_collections = 0;
