@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
+#include "moneylog.h"
 #include "velmorun.h"
 
 #include "logstream.h"
@@ -36,47 +37,6 @@ void writeLogs(const QString& shorthand)
         }
         writeFile(QString(QLatin1Char(name++)), text);
     }
-}
-
-// A log of the words of a shorthand, a line each, perhaps with a minute: "5=a500" is that a note of
-// 500 is accepted. "!" is bad, "+" goes on with the kiosk of that name.
-QString moneyLog(const QString& shorthand, const QString& currency = "XTS"_s)
-{
-    const QString row = R"({"device_id":7,"thread_id":2,"channel":1,"bill_type":0,)"
-                        R"("currency":"%1","denomination":100,"count":4,"rejected":0})"_s;
-    const QHash<QString, QString> words{
-        {"s"_s,
-         R"("session":"start","state":"idling","session_sum":0,"stacker_present":true,)"
-         R"("cash":77,"dispenser_registry":[%1])"_s.arg(row.arg(currency))},
-        {"a"_s, R"("state":"accepting","current_note":%1)"_s},
-        {"k"_s, R"("state":"stacked")"_s},
-        {"c"_s, R"("state":"stacked","session_sum":%1)"_s},
-        {"j"_s, R"("state":"jammed")"_s},
-        {"i"_s, R"("state":"idling","current_note":0)"_s},
-        {"o"_s, R"("stacker_present":false)"_s},
-        {"n"_s, R"("stacker_present":true)"_s}};
-    QString text;
-    QString kiosk;
-    for (const QString& word : shorthand.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        if (word.startsWith(QLatin1Char('+'))) {
-            kiosk = R"("kiosk":%1,)"_s.arg(
-                QString::fromUtf8(QJsonDocument(QJsonArray{word.mid(1).replace("_"_s, " "_s)})
-                                      .toJson(QJsonDocument::Compact))
-                    .mid(1)
-                    .chopped(1));
-            continue;
-        }
-        const QString what = word.section(QLatin1Char('='), -1);
-        const QString line = words.value(what.left(1));
-        text +=
-            R"({"device_id":7,"thread_id":2,%1%2%3})"_s.arg(
-                kiosk,
-                what == word ? QString()
-                             : R"("time":"2026-01-01T10:%1:00Z",)"_s.arg(word.section("="_s, 0, 0)),
-                line.contains("%1"_s) ? line.arg(what.mid(1)) : line)
-            + QLatin1Char('\n');
-    }
-    return text;
 }
 
 // How a range of the JSON is shown.
