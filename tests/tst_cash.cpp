@@ -216,6 +216,9 @@ a50 k i                          |  | [1-3) c50 0+ 1 0 0 1+
 o n a50 k i                      |  | [2-5) c50 0 1 0 0 1
 S o n a50 k i S a20 k i          |  | [1-2] [3-10) c20 0 1 0 0 1 c50 0 1 0 0 1
 S a500 k i o a50 k i n a50 k i   |  | [1-5] c500 0+ 1 0 0 1+ [9-12) c50 0 2 0 0 2
+S a500 k i o a50 k i             |  | [1-5] c500 0+ 1 0 0 1+ [8-8) c50 0 1 0 0 1
+S o a50 g j n i                  |  | [1-2] [6-7) c50 0 0~1 0 0 0~1
+S o o n a50 k i                  |  | [1-2] [4-7) c50 0 1 0 0 1
 S o n a500 k o n i               |  | [1-2] [3-6] c500 0 1 0 0 1 [7-8)
 S o n a500 g j o n i             |  | [1-2] [3-7] c500 0 0~1 0 0 0~1 [8-9) c500 0 0~1 0 0 0~1 | 1 pieces got stuck on their way
 S o n a500 g j i o n             |  | [1-2] [3-8] c500 0 0~1 0 0 0~1 [9-9)
@@ -237,6 +240,7 @@ s o n e #2 o n i                 |  | [1-2] [3-6] c100 0 0 0 0~2 0~2 h100 4 0 0 
 s o n e #2 j                     |  | [1-2] [3-6) c100 0 0 0 0~3 0~3 h100 4 0 0 -3~-2 1~2  | the log does not tell the end of a payout, a float or an emptying, 3 pieces may be on their way
 S o n a100 g #4 k i              |  | [1-2] [3-8) c100 0 0~1 0 0 0~1                       | of 1 pieces the registry does not tell whether they are in a channel
 S o n a100 k i #4                |  | [1-2] [3-7) c100 0 0~1 0 0 0~1
+S o n a100 k i e #2 E i          |  | [1-2] [3-10) c100 0 1+ 0 0 1+                        | the registry was told for the first time while channels were floated or emptied
 S o n a50 k i #4                 |  | [1-2] [3-7) c50 0 1 0 0 1
 
 s o n a500 k i ! a500 k i        | --keep-going | [1-2] [3-10) c500 0 2+ 0 0 2+            | 1 lines were skipped

@@ -307,6 +307,7 @@ private Q_SLOTS:
             s a100 g j #6 i                      | 100 stuck            |
             s a50 g j #5 i                       | 50 stuck             |
             s a100 b #5 i                        | 100 returned         |
+            s r,#5 i                             | ? rejected           |
             s a100 c100 #5 i #6 i                | 100 taken            |
             s A d #5,$100 i                      | ? taken              |
 
@@ -364,6 +365,7 @@ private Q_SLOTS:
             s p #3,-100 #9 q i                   |                      |
             s p #3 q i                           |                      |
             s p #3 q i p #2,-100 q i             |                      | payout_differs@2
+            s p #3,-100 q i S p #2,-100 q i      |                      |
             p -100 #3 q i                        |                      |
             s p ! #3 q i                         |                      |
             S p -100 q i                         |                      |
@@ -372,6 +374,7 @@ private Q_SLOTS:
             s p #3,-100 i p #2,-200 q i          |                      | payout_unfinished@2,3
             s p #3,-100 j i a50 c50 i            | 50 taken             | payout_unfinished@2,3
             s p s,p #3,-100 q i                  |                      | payout_unfinished@2
+            s p S i                              |                      | payout_unfinished@2
             s p ! i                              |                      |
 
             s #3                                 |                      | registry_changed@2
