@@ -3,12 +3,14 @@
 # SPDX-License-Identifier: MIT
 """Holds velmo cash against simulated kiosks of which is known where every note and coin lies.
 
-Usage: check_cash.py VELMO [--histories N] [--seed N]
+Usage: check_cash.py VELMO [--histories N] [--seed N] [--jobs N]
 Each history has a seed of its own: the first that of --seed, those after it the next numbers. Where velmo is
 wrong, the log stays in a folder that is named, and "--histories 1 --seed" with its seed runs it again.
 """
 
 import argparse
+import concurrent.futures
+import functools
 import json
 import math
 import os
@@ -131,7 +133,7 @@ class Check:
                             f"{where}: opening {row['opening']}, truly {period.opening[place]}")
 
 
-def run(velmo, seed, folder):
+def run(velmo, folder, seed):
     """The faults of a history, whose log is kept where there are some."""
     kiosk = Kiosk(seed)
     log = os.path.join(folder, f"{seed}.jsonl")
@@ -154,16 +156,20 @@ def main():
     parser.add_argument("velmo")
     parser.add_argument("--histories", type=int, default=300)
     parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--jobs", type=int, default=1)
     options = parser.parse_args()
     folder = tempfile.mkdtemp(prefix="check_cash")
     wrong = 0
-    for seed in range(options.seed, options.seed + options.histories):
-        faults = run(options.velmo.split(), seed, folder)
-        wrong += bool(faults)
-        for fault in faults[:5]:
-            print(f"check_cash.py: {folder}/{seed}.jsonl, seed {seed}: {fault}")
-        if wrong == 5:
-            break
+    seeds = range(options.seed, options.seed + options.histories)
+    with concurrent.futures.ProcessPoolExecutor(options.jobs) as pool:
+        all_faults = pool.map(functools.partial(run, options.velmo.split(), folder), seeds, chunksize=20)
+        for seed, faults in zip(seeds, all_faults):
+            wrong += bool(faults)
+            for fault in faults[:5]:
+                print(f"check_cash.py: {folder}/{seed}.jsonl, seed {seed}: {fault}")
+            if wrong == 5:
+                pool.shutdown(wait=False, cancel_futures=True)
+                break
     if wrong:
         sys.exit(1)
     os.rmdir(folder)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
+#include "moneylog.h"
 #include "velmorun.h"
 
 #include "logstream.h"
@@ -38,47 +39,6 @@ void writeLogs(const QString& shorthand)
     }
 }
 
-// A log of the words of a shorthand, a line each, perhaps with a minute: "5=a500" is that a note of
-// 500 is accepted. "!" is bad, "+" goes on with the kiosk of that name.
-QString moneyLog(const QString& shorthand, const QString& currency = "XTS"_s)
-{
-    const QString row = R"({"device_id":7,"thread_id":2,"channel":1,"bill_type":0,)"
-                        R"("currency":"%1","denomination":100,"count":4,"rejected":0})"_s;
-    const QHash<QString, QString> words{
-        {"s"_s,
-         R"("session":"start","state":"idling","session_sum":0,"stacker_present":true,)"
-         R"("cash":77,"dispenser_registry":[%1])"_s.arg(row.arg(currency))},
-        {"a"_s, R"("state":"accepting","current_note":%1)"_s},
-        {"k"_s, R"("state":"stacked")"_s},
-        {"c"_s, R"("state":"stacked","session_sum":%1)"_s},
-        {"j"_s, R"("state":"jammed")"_s},
-        {"i"_s, R"("state":"idling","current_note":0)"_s},
-        {"o"_s, R"("stacker_present":false)"_s},
-        {"n"_s, R"("stacker_present":true)"_s}};
-    QString text;
-    QString kiosk;
-    for (const QString& word : shorthand.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        if (word.startsWith(QLatin1Char('+'))) {
-            kiosk = R"("kiosk":%1,)"_s.arg(
-                QString::fromUtf8(QJsonDocument(QJsonArray{word.mid(1).replace("_"_s, " "_s)})
-                                      .toJson(QJsonDocument::Compact))
-                    .mid(1)
-                    .chopped(1));
-            continue;
-        }
-        const QString what = word.section(QLatin1Char('='), -1);
-        const QString line = words.value(what.left(1));
-        text +=
-            R"({"device_id":7,"thread_id":2,%1%2%3})"_s.arg(
-                kiosk,
-                what == word ? QString()
-                             : R"("time":"2026-01-01T10:%1:00Z",)"_s.arg(word.section("="_s, 0, 0)),
-                line.contains("%1"_s) ? line.arg(what.mid(1)) : line)
-            + QLatin1Char('\n');
-    }
-    return text;
-}
-
 // How a range of the JSON is shown.
 QString rangeText(const QJsonValue& range, int value = 1)
 {
@@ -87,6 +47,52 @@ QString rangeText(const QJsonValue& range, int value = 1)
     return range["max"_s].isNull() ? "at least %1"_s.arg(min)
         : min == max               ? QString::number(min)
                                    : "%1 to %2"_s.arg(min).arg(max);
+}
+
+// A period and a row of the JSON in short.
+QString periodText(const QJsonObject& period)
+{
+    const QString device =
+        period["device"_s] == 7 ? QString() : QString::number(period["device"_s].toInt());
+    return "%1%2[%3-%4%5"_s.arg(period["kiosk"_s].toString(), device)
+        .arg(period["from_line"_s].toInt())
+        .arg(period["to_line"_s].toInt())
+        .arg(period["open"_s].toBool() ? ")"_s : "]"_s);
+}
+
+QStringList rowTexts(const QJsonObject& row)
+{
+    const QString place = row["place"_s].toString();
+    QStringList texts{(place == "channel"_s ? "h"_s : place.left(1))
+                      + QString::number(row["denomination"_s].toInt())};
+    for (const char* const key : {"opening", "in", "out", "moved", "now"})
+        texts += rangeText(row[QLatin1String(key)])
+                     .replace(QRegularExpression("at least (.*)"_s), "\\1+"_s)
+                     .replace(" to "_s, "~"_s);
+    return texts;
+}
+
+// A row as the CSV has it, without the times of its period.
+QString csvRow(const QJsonObject& row)
+{
+    QStringList cells;
+    for (const char* const key : {"kiosk", "device", "thread", "period", "place", "channel",
+                                  "denomination", "currency", "bill_type"})
+        cells += row[QLatin1String(key)].toVariant().toString();
+    for (const char* const key : {"opening", "in", "out", "moved", "now"}) {
+        const QJsonValue range = row[QLatin1String(key)];
+        cells += {range["min"_s].toVariant().toString(), range["max"_s].toVariant().toString()};
+    }
+    cells += row["certainty"_s].toString();
+    QStringList why;
+    for (const QJsonValue reason : row["why"_s].toArray())
+        why += reason.toString();
+    cells += why.join("; "_s);
+    for (QString& cell : cells) {
+        if (cell.contains(QRegularExpression("[\",;]"_s)))
+            cell = "\"%1\""_s.arg(cell.replace("\""_s, "\"\""_s));
+    }
+    return cells.join(QLatin1Char(','));
 }
 
 // The files that letters stand for: "Z" is A compressed, "T" that cut off, "P" A from a pipe.
@@ -197,6 +203,170 @@ b c;1a                          |ABAB| |b c a                  |A: no line has a
         QCOMPARE(told.join(QLatin1Char(' ')), expected);
         QCOMPARE(saidAll, notes);
         QCOMPARE(exitCode, !isStopped && expected.contains(QLatin1Char('!')) ? 2 : 0);
+    }
+
+    // Logs (between semicolons), options, and what is told: the lines of a period, ")" being that
+    // it runs on, and its rows in which something is not plainly nothing, as "c500 0+ 1 0 0 1+".
+    // What a row says of why.
+    void ledgerIsTold_data()
+    {
+        addRows(R"(
+S a500 c500 i o n a500 k i o     |  | [1-5] c500 0+ 1 0 0 1+ [6-10] c500 0 1 0 0 1     | what lay in it when the log began is not known; taken to have come back empty
+a50 k i                          |  | [1-3) c50 0+ 1 0 0 1+
+o n a50 k i                      |  | [2-5) c50 0 1 0 0 1
+S o n a50 k i S a20 k i          |  | [1-2] [3-10) c20 0 1 0 0 1 c50 0 1 0 0 1
+S a500 k i o a50 k i n a50 k i   |  | [1-5] c500 0+ 1 0 0 1+ [9-12) c50 0 2 0 0 2
+S a500 k i o a50 k i             |  | [1-5] c500 0+ 1 0 0 1+ [8-8) c50 0 1 0 0 1
+S o a50 g j n i                  |  | [1-2] [6-7) c50 0 0~1 0 0 0~1
+S o o n a50 k i                  |  | [1-2] [4-7) c50 0 1 0 0 1
+S o n a500 k o n i               |  | [1-2] [3-6] c500 0 1 0 0 1 [7-8)
+S o n a500 g j o n i             |  | [1-2] [3-7] c500 0 0~1 0 0 0~1 [8-9) c500 0 0~1 0 0 0~1 | 1 pieces got stuck on their way
+S o n a500 g j i o n             |  | [1-2] [3-8] c500 0 0~1 0 0 0~1 [9-9)
+S o n a50 k i S a50 d S i        |  | [1-2] [3-11) c50 0 1~2 0 0 1~2                       | of 1 pieces the log does not say what became of them
+S o n a50 k i A k i              |  | [1-2] [3-9) c50 0 1~2 0 0 1~2                        | 1 pieces of unknown value were taken
+S o n a50 k i a50 b i a50 r i    |  | [1-2] [3-12) c50 0 1 0 0 1
+S C5 o n a50 k i C7              |  | [1-3] [4-8) c50 0 1~2 0 0 1~2                        | by the device's counter 1 pieces are missing
+s o n a50 c50 i $90              |  | [1-2] [3-7) c50 0 1 0 0 1
+s o n a50 c50 i S $20            |  | [1-2] [3-8) c50 0 1~2 0 0 1~2
+
+s o n a100 c100 #5 i             |  | [1-2] [3-7) h100 4 1 0 0 5
+s o n a100 g #5 j                |  | [1-2] [3-7) h100 4 1 0 0 5
+s o n a100 c100 i #9             |  | [1-2] [3-7) c100 0 1 0 0 1 h100 4 5 0 0 9
+s o n p #2/1,-100 q i            |  | [1-2] [3-7) h100 4 0 1 -1 2 r100 0 0 0 1 1
+s o n p #2/1 o n q i             |  | [1-2] [3-6] h100 4 0 1 -1 2 r100 0 0 0 1 1 [7-9)
+s o n f #2 F i                   |  | [1-2] [3-7) c100 0 0 0 2 2 h100 4 0 0 -2 2
+s o n e #2 o n E i               |  | [1-2] [3-6] c100 0 0 0 2 2 h100 4 0 0 -2 2 [7-9)
+s o n e #2 o n i                 |  | [1-2] [3-6] c100 0 0 0 0~2 0~2 h100 4 0 0 -2 2 [7-8) c100 0 0 0 0~2 0~2
+s o n e #2 j                     |  | [1-2] [3-6) c100 0 0 0 0~3 0~3 h100 4 0 0 -3~-2 1~2  | the log does not tell the end of a payout, a float or an emptying, 3 pieces may be on their way
+S o n a100 g #4 k i              |  | [1-2] [3-8) c100 0 0~1 0 0 0~1                       | of 1 pieces the registry does not tell whether they are in a channel
+S o n a100 k i #4                |  | [1-2] [3-7) c100 0 0~1 0 0 0~1
+S o n a100 k i e #2 E i          |  | [1-2] [3-10) c100 0 1+ 0 0 1+                        | the registry was told for the first time while channels were floated or emptied
+S o n a50 k i #4                 |  | [1-2] [3-7) c50 0 1 0 0 1
+
+s o n a500 k i ! a500 k i        | --keep-going | [1-2] [3-10) c500 0 2+ 0 0 2+            | 1 lines were skipped
+s o n a500 k i ! o n a500 k i    | --keep-going | [1-2] [3-8] c500 0 1+ 0 0 1+ [9-12) c500 0 1 0 0 1 h100 0+ 0 0 0 0+ r100 0+ 0 0 0 0+
+s o n a500 d ! i                 | --keep-going | [1-2] [3-7) c500 0 0+ 0 0 0+             | lines were skipped while 1 pieces were on their way
+s o n ! #2                       | --keep-going | [1-2] [3-5) c100 0 0+ 0 0~2 0+ h100 4 0 0~2 -2~0 2
+
+00=S 01=o 02=n 03=a50 04=k 05=i 06=a20 07=k 08=i 09=o 10=n | --from 2026-01-01T10:06Z | [7-10] c20 0 1 0 0 1 c50 1 0 0 0 1 [11-11)
+00=S 01=o 02=n 03=a50 04=k 05=i 06=a20 07=k 08=i 09=o 10=n | --to 2026-01-01T10:05Z   | [1-2] [3-6) c50 0 1 0 0 1
+00=S 01=o 02=n 03=a50 04=k 05=i 06=a50 07=k 08=i 09=a50    | --from 2026-01-01T10:06Z --to 2026-01-01T10:08Z | [7-9) c50 1 1 0 0 2
+00=S 01=o 02=n 03=a50 04=k 05=i 06=a20 07=k 08=i 09=o 10=n | --last | [11-11)
+00=s 01=p 02=#3 03=q 04=i 05=a100 06=k,#4               | --from 2026-01-01T10:05Z | [6-7) h100 3 1 0 0 4
+00=S 01=o 02=n 03=a50;04=k 05=i 06=a50 07=k              |  | [1-2] [3-4) c50 0 2 0 0 2
+@7 S o n a50 k i @9 S o n a20 k i                |  | [1-2] [3-6) c50 0 1 0 0 1 9[7-8] 9[9-12) c20 0 1 0 0 1
+@7 S o n a50 k i @9 S o n a20 k i                | --device 9 | 9[7-8] 9[9-12) c20 0 1 0 0 1
++A S o n a50 k i +B S o n a20 k i                |  | A[1-2] A[3-6) c50 0 1 0 0 1 B[7-8] B[9-12) c20 0 1 0 0 1
+S o n a50 k i;S o n a20 k i                      | --per-file | log1[1-2] log1[3-6) c50 0 1 0 0 1 log2[1-2] log2[3-6) c20 0 1 0 0 1
++a,"b" s o n a50 g j i                           |  | a,"b"[1-2] a,"b"[3-7) c50 0 0~1 0 0 0~1
+)"_s);
+    }
+
+    void ledgerIsTold()
+    {
+        const auto [words, options, expected, reasons] = cells<4>();
+        QStringList arguments{"cash"_s};
+        for (const QString& log : words.split(QLatin1Char(';')))
+            arguments += writeFile("log%1"_s.arg(arguments.size()), moneyLog(log));
+        arguments += options.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        const QStringList json = velmo(arguments + QStringList{"--json"_s}).outLines();
+        QStringList told;
+        QStringList table; // what the CSV has of the places
+        QString why;
+        for (const QString& line : json) {
+            const QJsonObject o = QJsonDocument::fromJson(line.toUtf8()).object();
+            if (o["kind"_s] == "period"_s)
+                told += periodText(o);
+            if (o["kind"_s] != "place"_s)
+                continue;
+            const QStringList row = rowTexts(o);
+            table += csvRow(o);
+            const bool isPlain = row.mid(2, 3) == QStringList{"0"_s, "0"_s, "0"_s};
+            if (!isPlain || row.at(0).startsWith(QLatin1Char('c')) || row.at(1).size() > 1)
+                told += row;
+            for (const QJsonValue reason : o["why"_s].toArray())
+                why += reason.toString() + QLatin1Char('\n');
+        }
+        QCOMPARE(told.join(QLatin1Char(' ')), expected);
+        QStringList csv = velmo(arguments + QStringList{"--csv"_s}).outLines().mid(1);
+        for (QString& line : csv) // times and whether it runs on are the period's
+            line.remove(
+                QRegularExpression("(?<=,\\d),[^,]*,[^,]*,[01](?=,(cassette|channel|reject),)"_s));
+        QCOMPARE(csv, table);
+        for (const QString& reason : reasons.split(QLatin1Char(';'), Qt::SkipEmptyParts))
+            QVERIFY2(why.contains(reason.trimmed()), qPrintable(why));
+    }
+
+    // Log, what was counted (";" between the lines, a header of its own where it begins with a
+    // name), the differences with the lines that can explain them, likeliest first, or the fault.
+    void countsAreHeldAgainstTheLedger_data()
+    {
+        addRows(R"(
+s o n a50 c50 i a50 k i a50 g j S a50 c50 i o | 7,cassette,50,2;7,cassette,50,3;7,cassette,50,4;7,cassette,50,5 | 2: -1 7 10, 2: 0, 2: 0, 2: 1 10
+s o n a50 c50 i o n a20 c70 i        | 7,cassette,50,1;7,cassette,20,1  | 2: 0, 2: 1
+s o n a50 c50 i o n a20 c70 i        | device,place,denomination,count,period;7,cassette,20,0,3;7,cassette,20,0,2 | 3: -1, 2: 0
+s o n a50 b,$50 i a50 c50 i o        | 7,cassette,50,2;7,cassette,50,0  | 2: 1 4, 2: -1 7
+s o n a50 c100 i a20 c120 i o        | 7,cassette,20,2                  | 2: 1 4
+S C5 o n a50 c50 i C7 o              | 7,cassette,50,2;7,cassette,50,3  | 2: 0, 2: 1 8 8
+s p #3,-200 q i o                    | 7,channel,100,2;7,channel,100,3  | 1: -1 2, 1: 0
+s #4+2                               | device,place,channel,denomination,count;7,channel,2,500,2;7,reject,,100,1 | 1: 0, 1: 1
+s a50 c50 i                          | 7,cassette,50,0                  | 1: -1
+S                                    | 7,cassette,50,9                  | 1: 0
+s                                    | Device;Place;Denomination;Count\r;"7";"Cassette";" 50";9 | 1: 0
+s                                    | \ufeffdevice\tplace\tdenomination\tcount;7\tcassette\t50\t1 | 1: 0
++A s +B s #3                         | kiosk,device,place,denomination,count;B,7,channel,100,2;A,7,channel,100,4 | 1: 0, 1: -1 3 3
+s                                    | [{"device":7,"place":"channel","denomination":100,"count":3}] | 1: -1
+s                                    | 7,cassette,50,1;7,cassette,50    | counts:3: expected 4 cells as in the header, not 3
+s                                    | 7,casette,50,1                   | counts:2: "place": expected cassette, channel or reject
+s                                    | 7,cassette,50,1.5                | counts:2: "count": expected a whole number from 0 to 2147483647
+s                                    | 7,cassette,50,-1                 | counts:2: "count": expected a whole number
+s                                    | 7,"cassette,50,1;7,"cassette,50,1 | counts:2: a quotation mark is not closed
+s                                    | 8,cassette,50,1                  | counts:2: the logs have no such device or period
+s                                    | 7,channel,500,1                  | counts:2: the device has no such place
+s                                    | device,place,denomination;7,cassette,50 | counts:1: column "count" is missing
+s                                    | device,place,denomination,count,count;7,cassette,50,1,1 | counts:1: column "count" stands twice
+s                                    | device,place,denomination,count,box;7,cassette,50,1,1 | counts:1: unknown column "box"
+s                                    | device,place,denomination,count  | counts: nothing is counted
+s                                    | [{"device":7,"place":"channel","denomination":100}] | counts: element 1: column "count" is missing
+s                                    | {"device":7}                     | counts: expected a list
++A s +B s                            | 7,channel,100,4                  | counts:2: the logs have no such kiosk
+)"_s);
+    }
+
+    void countsAreHeldAgainstTheLedger()
+    {
+        const auto [words, counted, expected] = cells<3>();
+        QString text = counted;
+        // In a table of the one separator, the other one ends the lines.
+        const bool isSemicolons = text.startsWith("Device;"_s);
+        text.replace(isSemicolons ? "\\r;"_s : ";"_s, isSemicolons ? "\r\n"_s : "\n"_s)
+            .replace("\\t"_s, "\t"_s)
+            .replace("\\ufeff"_s, QString(QChar(QChar::ByteOrderMark)));
+        if (text.at(0).isDigit())
+            text.prepend("device,place,denomination,count\n"_s);
+        const VelmoRun run = velmo({"cash"_s, writeFile("log"_s, moneyLog(words)), "--counted"_s,
+                                    writeFile("counts"_s, text), "--json"_s, "--exit-code"_s});
+        if (!run.err.isEmpty()) {
+            QCOMPARE(run.exitCode, 2);
+            QCOMPARE(run.out, QString());
+            QVERIFY2(!expected.isEmpty() && run.err.startsWith("velmo: "_s + expected),
+                     qPrintable(run.err));
+            return;
+        }
+        QStringList told;
+        for (const QString& line : run.outLines().filter("\"counted\""_s)) {
+            const QJsonObject o = QJsonDocument::fromJson(line.toUtf8()).object();
+            if (o["kind"_s] != "counted"_s)
+                continue;
+            QString row = "%1: %2"_s.arg(o["period"_s].toInt()).arg(o["difference"_s].toInt());
+            for (const QJsonValue reason : o["explained_by"_s].toArray())
+                row += " %1"_s.arg(reason["line"_s].toInt());
+            told += row;
+        }
+        QCOMPARE(told.join(", "_s), expected);
+        const bool isSound = !run.out.contains("\"rule\""_s)
+            && !expected.contains(QRegularExpression(": -?[1-9]"_s));
+        QCOMPARE(run.exitCode, isSound ? 0 : 1);
     }
 
     void pageTellsTheNumbersOfTheJson_data()
