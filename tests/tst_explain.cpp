@@ -213,8 +213,8 @@ private Q_SLOTS:
             S;accepting 100;accepted;{"session":"start"};idling     | 100 unknown
             S;accepting 100;accepted;{"session":"start","state":"stacking"};idling | 100 taken
             S;accepting 100;jammed;{"session":"start"};idling       | 100 stuck
-            S;accepting 100;{"online":false};accepted;{"online":true};idling | 100 taken
-            S;accepting 100;{"halt":true};stacking;idling           | 100 taken
+            S;accepting 100;{"online":false};accepted;{"online":true};idling | 100 stuck offline@3
+            S;accepting 100;{"halt":true};stacking;idling           | 100 stuck halted@3
             S;accepting 100;accepted;returning;idling               | 100 unknown
             S;accepting 100;accepted;stacking                       | 100 stuck
             S;accepting 100;{"session":"start"};accepting 100;stacked | 100 taken
@@ -245,7 +245,7 @@ private Q_SLOTS:
             S;accepting 100;{"halt":true};{"halt":false};{"halt":true};rejected | 100 rejected halted@3 halted@5
             S;accepting 100;jammed;stacked                          | 100 taken
             S;accepting 100;jammed;returned                         | 100 returned
-            S;accepting 100;accepted;jammed;stacking;idling         | 100 taken
+            S;accepting 100;accepted;jammed;stacking;idling         | 100 stuck
             S;accepting 100;returning;{"halt":true};idling          | 100 stuck halted@4
             S;accepting 100;accepted;{"online":false};{"online":true};idling | 100 stuck offline@4
             S;accepting 100;accepted;idling;jammed                  | 100 taken
@@ -373,7 +373,7 @@ private Q_SLOTS:
             s p #3,-100                          |                      | payout_unfinished@2,3
             s p #3,-100 i p #2,-200 q i          |                      | payout_unfinished@2,3
             s p #3,-100 j i a50 c50 i            | 50 taken             | payout_unfinished@2,3
-            s p s,p #3,-100 q i                  |                      | payout_unfinished@2
+            s p s,p #3,-100 q i                  |                      |
             s p S i                              |                      | payout_unfinished@2
             s p ! i                              |                      |
 

@@ -86,7 +86,7 @@ void MoneyTrail::seeSums(const LogStep& step)
         const qint64 before = m_sum.value_or(state.sessionSum);
         m_newCredit = qMax<qint64>(0, state.sessionSum - before);
         if (state.sessionSum < before) {
-            m_act.credit -= qMin(m_act.credit, before - state.sessionSum);
+            m_act.fallen += qMin(m_act.credit, before - state.sessionSum);
             tell(Contradiction::ofFall(before, state.sessionSum), here(), {m_sumLine, m_line});
         }
         m_sum = state.sessionSum;
@@ -174,7 +174,10 @@ void MoneyTrail::takeCredit()
 {
     if (m_newCredit == 0)
         return;
-    m_act.credit += std::exchange(m_newCredit, 0);
+    // What fell and comes back is no more credit.
+    const qint64 back = qMin(m_act.fallen, m_newCredit);
+    m_act.fallen -= back;
+    m_act.credit += std::exchange(m_newCredit, 0) - back;
     m_act.lines += m_line;
 }
 

@@ -22,6 +22,7 @@ struct OpenAct
     bool isCut = false; ///< a session began meanwhile
     bool hasGap = false; ///< lines were skipped
     qint64 credit = 0;
+    qint64 fallen = 0; ///< of it, and did not come back
     QVector<qint64> lines; ///< of credits, or of what was paid
     bool isCreditKnown = true;
     int collections = 0; ///< of the cassette when it began
