@@ -216,7 +216,7 @@ a50 k i                          |  | [1-3) c50 0+ 1 0 0 1+
 o n a50 k i                      |  | [2-5) c50 0 1 0 0 1
 S o n a50 k i S a20 k i          |  | [1-2] [3-10) c20 0 1 0 0 1 c50 0 1 0 0 1
 S a500 k i o a50 k i n a50 k i   |  | [1-5] c500 0+ 1 0 0 1+ [9-12) c50 0 2 0 0 2
-S a500 k i o a50 k i             |  | [1-5] c500 0+ 1 0 0 1+ [8-8) c50 0 1 0 0 1
+S a500 k i o a50 k i             |  | [1-5] c500 0+ 1 0 0 1+ [6-8) c50 0 1 0 0 1
 S o a50 g j n i                  |  | [1-2] [6-7) c50 0 0~1 0 0 0~1
 S o o n a50 k i                  |  | [1-2] [4-7) c50 0 1 0 0 1
 S o n a500 k o n i               |  | [1-2] [3-6] c500 0 1 0 0 1 [7-8)
@@ -307,7 +307,7 @@ s o n a50 c50 i o n a20 c70 i        | 7,cassette,50,1;7,cassette,20,1  | 2: 0, 
 s o n a50 c50 i o n a20 c70 i        | device,place,denomination,count,period;7,cassette,20,0,3;7,cassette,20,0,2 | 3: -1, 2: 0
 s o n a50 b,$50 i a50 c50 i o        | 7,cassette,50,2;7,cassette,50,0  | 2: 1 4, 2: -1 7
 s o n a50 c100 i a20 c120 i o        | 7,cassette,20,2                  | 2: 1 4
-S C5 o n a50 c50 i C7 o              | 7,cassette,50,2;7,cassette,50,3  | 2: 0, 2: 1 8 8
+S C5 o n a50 c50 i C7 o              | 7,cassette,50,2;7,cassette,50,3  | 2: 0, 2: 1 8
 s p #3,-200 q i o                    | 7,channel,100,2;7,channel,100,3  | 1: -1 2, 1: 0
 s #4+2                               | device,place,channel,denomination,count;7,channel,2,500,2;7,reject,,100,1 | 1: 0, 1: 1
 s a50 c50 i                          | 7,cassette,50,0                  | 1: -1

@@ -200,8 +200,9 @@ QStringList CashAccount::whyOf(const CashRow& row, const std::vector<CashChannel
                                  int(qMin<qint64>(row.flow.filled, INT_MAX)));
     }
     for (const CashDoubt& doubt : doubts) {
-        const bool isOfExact =
-            doubt.reason == DoubtReason::ChannelUnexplained && row.place == CashPlace::Channel;
+        const bool isOfExact = row.place == CashPlace::Channel
+            && (doubt.reason == DoubtReason::ChannelUnexplained
+                || doubt.reason == DoubtReason::CassetteOut);
         if (!doubt.isAbout(row.place, row.channel, row.kind.denomination)
             || (row.now.isExact() && !isOfExact))
             continue;

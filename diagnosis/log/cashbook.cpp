@@ -43,7 +43,7 @@ LogPlace CashBook::here() const
             device.name(),    m_now.position,    m_now.time};
 }
 
-CashAccount& CashBook::openPeriod(const PieceRange& opening)
+CashAccount& CashBook::openPeriod(const PieceRange& opening, const LogMoment& at)
 {
     m_isOut = false;
     CashAccount& period = m_periods.emplace_back();
@@ -53,14 +53,16 @@ CashAccount& CashBook::openPeriod(const PieceRange& opening)
     period.device = m_trail.device().deviceId();
     period.thread = m_trail.device().threadId();
     period.deviceName = m_trail.device().name();
-    period.from = period.to = m_now.time;
-    period.fromPosition = period.toPosition = m_now.position;
+    period.from = at.time;
+    period.fromPosition = at.position;
+    period.to = m_now.time;
+    period.toPosition = m_now.position;
     for (size_t i = 0; i < m_trail.channels().size(); ++i) {
         const CashChannel& channel = m_trail.channels().at(i);
         CashFlow& flow = period.channels.emplace_back();
         flow.opening = channelNow(i);
-        if (i < m_fewer.size() && m_fewer.at(i) > 0)
-            period.addDoubt(here(), DoubtReason::EndMissing, m_fewer.at(i), CashPlace::Channel,
+        if (untoldOf(i) > 0)
+            period.addDoubt(here(), DoubtReason::EndMissing, untoldOf(i), CashPlace::Channel,
                             channel.denomination, channel.number);
         CashFlow& reject = period.rejects[channel.kind()];
         reject.opening += m_trail.areChannelsKnown() ? PieceRange::exactly(channel.rejected)
@@ -75,9 +77,9 @@ CashAccount& CashBook::openPeriod(const PieceRange& opening)
 // The one that is on; null while the cassette is out.
 CashAccount* CashBook::period()
 {
-    if (m_isOut)
+    if (m_isOut && !m_isPrologue)
         return nullptr;
-    return m_periods.empty() ? &openPeriod(PieceRange::atLeast(0)) : &m_periods.back();
+    return m_periods.empty() ? &openPeriod(PieceRange::atLeast(0), m_now) : &m_periods.back();
 }
 
 // The one in which a piece came to its end; null for one that is not told. That the cassette came
@@ -87,14 +89,22 @@ CashAccount* CashBook::periodOf(const PieceEnd& piece)
     const auto found =
         std::find_if(m_periods.rbegin(), m_periods.rend(),
                      [&](const CashAccount& p) { return p.collections <= piece.collectionsAtEnd; });
-    if (found == m_periods.rend())
-        return m_periods.empty() && piece.end == Outcome::Taken
-            ? &openPeriod(PieceRange::exactly(0))
-            : nullptr;
-    const bool isWithout = m_isOut && found->collections < piece.collectionsAtEnd;
-    if (!isWithout)
+    const bool isThere = found != m_periods.rend()
+        && (!m_isOut || m_isPrologue || found->collections == piece.collectionsAtEnd);
+    if (isThere)
         return &*found;
-    return piece.end == Outcome::Taken ? &openPeriod(PieceRange::exactly(0)) : nullptr;
+    if (piece.end != Outcome::Taken || (found == m_periods.rend() && !m_periods.empty()))
+        return nullptr;
+    CashAccount& period = openPeriod(PieceRange::exactly(0), {piece.line, piece.time});
+    period.session = piece.session;
+    period.sessions = 1;
+    return &period;
+}
+
+// So many pieces may have left a channel that its row does not tell of.
+qint64 CashBook::untoldOf(size_t channel) const
+{
+    return channel < m_untold.size() ? m_untold.at(channel).pieces : 0;
 }
 
 PieceRange CashBook::channelNow(size_t channel) const
@@ -102,8 +112,7 @@ PieceRange CashBook::channelNow(size_t channel) const
     const CashChannel& row = m_trail.channels().at(channel);
     if (!m_trail.areChannelsKnown() || !row.isTold)
         return PieceRange::atLeast(0);
-    const qint64 fewer = channel < m_fewer.size() ? m_fewer.at(channel) : 0;
-    return {qMax<qint64>(0, row.count - fewer), row.count};
+    return {qMax<qint64>(0, row.count - untoldOf(channel)), qMax<qint64>(0, row.count)};
 }
 
 void CashBook::takeReport(bool hasCash)
@@ -126,7 +135,7 @@ void CashBook::takeReport(bool hasCash)
 void CashBook::skipLine()
 {
     ++m_skipped;
-    if (m_isOut || m_periods.empty())
+    if (!period())
         return;
     CashAccount& now = m_periods.back();
     now.isUnbounded = true;
@@ -161,7 +170,7 @@ void CashBook::beginHere()
     opening.widen(0, before.ofAnyValue);
     if (before.isUnbounded)
         opening.max.reset();
-    CashAccount& period = openPeriod(opening);
+    CashAccount& period = openPeriod(opening, m_now);
     for (const auto& [kind, flow] : before.cassette)
         period.cassetteOf(kind).opening = before.now(flow);
     period.course.clear();
@@ -171,11 +180,13 @@ void CashBook::beginHere()
 
 void CashBook::takeContradiction(const Contradiction& found)
 {
-    CashAccount* now = period();
-    if (!now && !m_periods.empty())
-        now = &m_periods.back();
-    if (!now)
+    period();
+    const auto begun =
+        std::find_if(m_periods.rbegin(), m_periods.rend(),
+                     [&](const CashAccount& p) { return p.collections <= found.collections; });
+    if (begun == m_periods.rend())
         return;
+    CashAccount* const now = &*begun;
     if (found.missing > 0) {
         const DoubtReason reason =
             found.rule == Rule::CounterJump ? DoubtReason::NoteMissing : DoubtReason::CreditAlone;
@@ -253,14 +264,24 @@ void CashBook::takeChannel(size_t channel)
 
 void CashBook::takeChange(MoneyAct act, const ChannelChange& change)
 {
-    if (change.channel < m_fewer.size())
-        m_fewer.at(change.channel) = 0; // counted anew
-    CashAccount* const now = period();
-    if (!now)
-        return;
+    period();
+    forgetUntold(change.channel); // it is counted anew
     const CashChannel& channel = m_trail.channels().at(change.channel);
-    const CashKind kind = channel.kind();
-    CashFlow& flow = now->channels.at(change.channel);
+    std::vector<CashAccount*> periods; // in one of which it was
+    for (CashAccount& period : m_periods) {
+        if (period.collections >= change.first && period.collections <= change.last
+            && change.channel < period.channels.size())
+            periods.push_back(&period);
+    }
+    if (periods.empty()) {
+        if (!m_periods.empty())
+            m_periods.back().addDoubt(here(), DoubtReason::CassetteOut, qAbs(change.count),
+                                      CashPlace::Channel, channel.denomination, channel.number);
+        return;
+    }
+    CashAccount& at = *periods.back();
+    shiftAfter(at, change);
+    CashFlow& flow = at.channels.at(change.channel);
     flow.in += PieceRange::exactly(qMax<qint64>(0, change.count));
     if (act != MoneyAct::Piece)
         flow.filled += qMax<qint64>(0, change.count);
@@ -269,28 +290,68 @@ void CashBook::takeChange(MoneyAct act, const ChannelChange& change)
     const qint64 fromChannel = qMin(lost, rejected);
     const qint64 rest = lost - fromChannel;
     flow.moved -= PieceRange::exactly(fromChannel);
-    if (rejected > 0)
-        now->rejects[channel.kind()].moved += PieceRange::exactly(rejected);
-    if (change.rejected < 0)
-        now->rejects[channel.kind()].out += PieceRange::exactly(-change.rejected);
+    CashFlow& rejects = at.rejects[channel.kind()];
+    rejects.moved += PieceRange::exactly(rejected);
+    rejects.out += PieceRange::exactly(qMax<qint64>(0, -change.rejected));
     if (rest == 0)
         return;
     if (act == MoneyAct::Payout) {
         flow.out += PieceRange::exactly(rest);
         return;
     }
-    CashFlow& into = now->cassetteOf(kind);
-    if (act == MoneyAct::Float || act == MoneyAct::Emptying) {
-        flow.moved -= PieceRange::exactly(rest);
-        into.moved += PieceRange::exactly(rest);
-    } else {
+    const bool isIntoCassette = act == MoneyAct::Float || act == MoneyAct::Emptying;
+    flow.moved -= PieceRange::exactly(rest);
+    if (!isIntoCassette) {
         flow.out.widen(0, rest);
-        flow.moved.widen(rest, 0);
-        into.moved.widen(0, rest);
-        now->addDoubt(here(), DoubtReason::ChannelUnexplained, rest, {}, channel.denomination,
-                      channel.number);
+        flow.moved.widen(0, rest);
     }
-    now->addContent(m_now);
+    for (CashAccount* const period : periods) {
+        PieceRange& into = period->cassetteOf(channel.kind()).moved;
+        if (isIntoCassette && periods.size() == 1 && change.first == change.last) {
+            into += PieceRange::exactly(rest);
+        } else {
+            into.widen(0, rest);
+            period->addDoubt(
+                here(), isIntoCassette ? DoubtReason::EndMissing : DoubtReason::ChannelUnexplained,
+                rest, {}, channel.denomination, channel.number);
+        }
+        period->addContent(m_now);
+    }
+}
+
+// A change that is told after the cassette was taken out: it was before.
+void CashBook::shiftAfter(CashAccount& at, const ChannelChange& change)
+{
+    const CashKind kind = m_trail.channels().at(change.channel).kind();
+    if (!at.isOpen)
+        at.channelsNow.at(change.channel) += PieceRange::exactly(change.count);
+    bool isLater = false;
+    for (CashAccount& period : m_periods) {
+        if (isLater && change.channel < period.channels.size()) {
+            period.channels.at(change.channel).opening += PieceRange::exactly(change.count);
+            period.rejects[kind].opening += PieceRange::exactly(change.rejected);
+            if (!period.isOpen)
+                period.channelsNow.at(change.channel) += PieceRange::exactly(change.count);
+        }
+        isLater = isLater || &period == &at;
+    }
+}
+
+// What may have left a channel unseen is told now.
+void CashBook::forgetUntold(size_t channel)
+{
+    if (untoldOf(channel) == 0)
+        return;
+    const Untold untold = std::exchange(m_untold.at(channel), Untold());
+    for (CashAccount& period : m_periods) {
+        if (period.collections < untold.first || period.collections > untold.last
+            || channel >= period.channels.size())
+            continue;
+        CashFlow& flow = period.channels.at(channel);
+        flow.moved.widen(-untold.pieces, 0);
+        flow.out.widen(0, untold.isPayout ? -untold.pieces : 0);
+        period.cassetteOf(m_trail.channels().at(channel).kind()).moved.widen(0, -untold.pieces);
+    }
 }
 
 void CashBook::takeUnfinished(const UnfinishedAct& act)
@@ -307,13 +368,13 @@ void CashBook::takeUnfinished(const UnfinishedAct& act)
         period->addDoubt(here(), DoubtReason::RegistryNew, 1, CashPlace::Cassette, 0);
         period->addContent(m_now);
     }
-    m_fewer.resize(m_trail.channels().size());
-    for (size_t i = 0; i < m_fewer.size() && !act.isEnded; ++i) {
+    m_untold.resize(m_trail.channels().size());
+    for (size_t i = 0; i < m_untold.size() && !act.isEnded; ++i) {
         const CashChannel& row = m_trail.channels().at(i);
         const auto lost = [&](const CashAccount* period) {
             qint64 sum = 0;
             for (const ChannelChange& change : act.moved) {
-                if (change.channel == i && (!period || change.collections == period->collections))
+                if (change.channel == i && (!period || change.last == period->collections))
                     sum += qMax<qint64>(0, -change.count);
             }
             return sum;
@@ -322,14 +383,18 @@ void CashBook::takeUnfinished(const UnfinishedAct& act)
         const bool isAtWork = act.channel <= 0 || row.number == act.channel;
         const qint64 most = act.moved.empty() ? row.count : 1;
         const qint64 untold = act.areCounted || !isAtWork ? 0 : qMin(most, row.count);
-        m_fewer.at(i) = qMax(m_fewer.at(i), untold);
+        const bool isPayout = act.kind == MoneyAct::Payout;
+        forgetUntold(i);
+        m_untold.at(i) = {untold, act.collections, act.collectionsAtEnd, isPayout};
         const qint64 left = lost(nullptr);
         for (CashAccount* const period : periods) {
             if (left + untold == 0)
                 break;
             // What left it for the cassette may not have come there, what was to be paid may have.
-            const qint64 counted = act.kind == MoneyAct::Payout ? 0 : lost(period);
-            period->channels.at(i).moved.widen(untold, 0);
+            const qint64 counted = isPayout ? 0 : lost(period);
+            CashFlow& flow = period->channels.at(i);
+            flow.moved.widen(untold + (isPayout ? left : 0), 0);
+            flow.out.widen(isPayout ? left : 0, isPayout ? untold : 0);
             period->cassetteOf(row.kind()).moved.widen(counted, untold + left - counted);
             period->addDoubt(here(), DoubtReason::EndMissing, left + untold, {}, row.denomination,
                              row.number);
@@ -341,12 +406,24 @@ void CashBook::takeUnfinished(const UnfinishedAct& act)
 void CashBook::takeCassette(bool isIn)
 {
     const bool mayHaveBeenOut = std::exchange(m_skipped, 0) > 0;
-    if (!isIn && !m_isOut) {
-        if (!m_periods.empty())
+    const bool isNews = std::exchange(m_isToldIn, isIn) != isIn;
+    if (!isIn && isNews) {
+        // Of a log that begins without it, the first period begins when it comes, if ever.
+        m_isPrologue = m_periods.empty();
+        if (m_isPrologue)
+            openPeriod(PieceRange::atLeast(0), m_now);
+        else if (!m_isOut)
             close(m_periods.back());
         m_isOut = true;
     } else if (isIn && m_isOut) {
-        openPeriod(PieceRange::exactly(0));
+        const bool isIdle =
+            m_isPrologue && m_periods.back().cassette.empty() && m_periods.back().ofAnyValue == 0;
+        if (isIdle)
+            m_periods.clear();
+        else if (m_isPrologue)
+            close(m_periods.back());
+        m_isPrologue = false;
+        openPeriod(PieceRange::exactly(0), m_now);
     } else if (isIn && mayHaveBeenOut && !m_periods.empty()) {
         mayBeCollected(m_periods.back());
     }
@@ -389,5 +466,5 @@ void CashBook::lookAtChannels(CashAccount& period) const
 CashPeriod CashBook::current()
 {
     CashAccount* const now = period();
-    return told(now ? *now : openPeriod(PieceRange::exactly(0)));
+    return told(now ? *now : openPeriod(PieceRange::exactly(0), m_now));
 }

@@ -39,12 +39,23 @@ public:
     CashPeriod current();
 
 private:
-    CashAccount& openPeriod(const PieceRange& opening);
+    struct Untold
+    {
+        qint64 pieces = 0;
+        int first = 0; // collections, between which they may have left
+        int last = 0;
+        bool isPayout = false;
+    };
+
+    CashAccount& openPeriod(const PieceRange& opening, const LogMoment& at);
     CashAccount* period();
     CashAccount* periodOf(const PieceEnd& piece);
     PieceRange channelNow(size_t channel) const;
     PieceRange& inflow(CashAccount& period, int note, const PieceEnd& piece) const;
     void takeDoubtful(CashAccount& period, const PieceEnd& piece);
+    qint64 untoldOf(size_t channel) const;
+    void forgetUntold(size_t channel);
+    void shiftAfter(CashAccount& at, const ChannelChange& change);
     void mayBeCollected(CashAccount& period);
     void close(CashAccount& period);
     CashPeriod told(CashAccount period) const;
@@ -59,6 +70,8 @@ private:
     std::optional<LogMoment> m_beginning; // of the time that is asked for
     qint64 m_emptiedAfter = 0; // so many lines were skipped when it may have been emptied at last
     int m_skipped = 0; // lines since it was told whether it is in
-    std::vector<qint64> m_fewer; // that a channel may hold less than its row says
+    std::vector<Untold> m_untold; // of each channel
+    std::optional<bool> m_isToldIn;
+    bool m_isPrologue = false; // the log began while it was out
     std::vector<PieceEnd> m_waiting; // of unknown place since the cassette was taken out
 };

@@ -127,7 +127,9 @@ std::vector<CashPeriod> CashLedger::periods(bool isLogMissing) const
         for (CashPeriod::Content& content : period.course)
             content.sum = period.unseen;
         for (CashRow& row : period.rows) {
-            row.now = PieceRange::atLeast(0);
+            row.now = row.flow.opening = PieceRange::atLeast(0);
+            row.flow.in.max.reset();
+            row.flow.out.max.reset();
             row.why += Diagnosis::tr("a log could not be read");
         }
     }

@@ -65,6 +65,10 @@ QString CashDoubt::textOf(DoubtReason reason, qint64 pieces)
         {DoubtReason::ChannelUnexplained,
          QT_TRANSLATE_N_NOOP("Diagnosis",
                              "%n pieces left a channel, and the log does not say why")},
+        {DoubtReason::CassetteOut,
+         QT_TRANSLATE_N_NOOP(
+             "Diagnosis",
+             "%n pieces came or went while the cassette was out, and are not counted here")},
         {DoubtReason::EndMissing,
          QT_TRANSLATE_N_NOOP("Diagnosis",
                              "the log does not tell the end of a payout, a float or an "

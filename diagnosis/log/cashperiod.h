@@ -48,6 +48,7 @@ enum class DoubtReason {
     CollectionUnseen, ///< in lines that were skipped
     RegistryNew, ///< told for the first time while something left the channels
     ChannelUnexplained, ///< it lost pieces
+    CassetteOut, ///< while it was, pieces came into a channel or left it
     EndMissing, ///< of a payout, a float or an emptying
 };
 

@@ -130,21 +130,27 @@ Contradiction Contradiction::ofLoneCredit(qint64 credit)
     return found;
 }
 
-Contradiction Contradiction::ofFall(qint64 before, qint64 sum)
+Contradiction Contradiction::ofFall(qint64 before, qint64 sum, int collections)
 {
-    return made(Rule::CreditFell,
-                Diagnosis::tr("The session's sum fell from %1 to %2. The start of a session before "
-                              "this line would clear this.")
-                    .arg(before)
-                    .arg(sum));
+    Contradiction found =
+        made(Rule::CreditFell,
+             Diagnosis::tr("The session's sum fell from %1 to %2. The start of a session before "
+                           "this line would clear this.")
+                 .arg(before)
+                 .arg(sum));
+    found.collections = collections;
+    return found;
 }
 
-Contradiction Contradiction::ofRegistry(const QStringList& changes)
+Contradiction Contradiction::ofRegistry(const QStringList& changes, int collections)
 {
-    return made(Rule::RegistryChanged,
-                Diagnosis::tr("The registry changed: %1. A payout, a float or an emptying that "
-                              "began before, with nothing between, would clear this.")
-                    .arg(changes.join(QStringLiteral(", "))));
+    Contradiction found =
+        made(Rule::RegistryChanged,
+             Diagnosis::tr("The registry changed: %1. A payout, a float or an emptying that "
+                           "began before, with nothing between, would clear this.")
+                 .arg(changes.join(QStringLiteral(", "))));
+    found.collections = collections;
+    return found;
 }
 
 Contradiction Contradiction::ofCounter(qint64 counted, qint64 notes)

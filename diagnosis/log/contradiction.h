@@ -77,10 +77,10 @@ struct Contradiction : LogPlace
     static std::optional<Contradiction> ofPayout(bool isEnded, qint64 paid, qint64 lost);
 
     static Contradiction ofLoneCredit(qint64 credit);
-    static Contradiction ofFall(qint64 before, qint64 sum);
+    static Contradiction ofFall(qint64 before, qint64 sum, int collections);
 
     /// @param changes each for people
-    static Contradiction ofRegistry(const QStringList& changes);
+    static Contradiction ofRegistry(const QStringList& changes, int collections);
 
     /// @param counted by the device, more than the @p notes of the log
     static Contradiction ofCounter(qint64 counted, qint64 notes);

@@ -22,7 +22,7 @@ DeviceChannels::News DeviceChannels::take(const QList<DispenserRegistryItem>& ro
     std::vector<ChannelChange> told;
     for (CashChannel& channel : m_all) {
         channel.isTold = false;
-        told.push_back({told.size(), -channel.count, -channel.rejected, collections});
+        told.push_back({told.size(), -channel.count, -channel.rejected, collections, collections});
     }
     for (const DispenserRegistryItem& row : rows) {
         auto channel = std::find_if(m_all.begin(), m_all.end(),
@@ -31,7 +31,7 @@ DeviceChannels::News DeviceChannels::take(const QList<DispenserRegistryItem>& ro
             m_all.push_back({row.channel, row.denomination, row.billType, row.currency});
             channel = m_all.end() - 1;
             news.added.push_back(told.size());
-            told.push_back({told.size(), 0, 0, collections});
+            told.push_back({told.size(), 0, 0, collections, collections});
         }
         channel->isTold = true;
         if (channel->currency.isEmpty())

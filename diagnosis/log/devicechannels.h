@@ -34,7 +34,8 @@ struct ChannelChange
     size_t channel; ///< its index
     qint64 count;
     qint64 rejected;
-    int collections; ///< of the cassette before it
+    int first; ///< how many collections of the cassette there were before it, at least
+    int last; ///< and at most
 };
 
 /// The channels of a device, as its registry tells of them.

@@ -87,7 +87,8 @@ void MoneyTrail::seeSums(const LogStep& step)
         m_newCredit = qMax<qint64>(0, state.sessionSum - before);
         if (state.sessionSum < before) {
             m_act.fallen += qMin(m_act.credit, before - state.sessionSum);
-            tell(Contradiction::ofFall(before, state.sessionSum), here(), {m_sumLine, m_line});
+            tell(Contradiction::ofFall(before, state.sessionSum, m_collections), here(),
+                 {m_sumLine, m_line});
         }
         m_sum = state.sessionSum;
         m_sumLine = m_line;
@@ -166,7 +167,9 @@ bool MoneyTrail::takeGrowth(const NoteAnswer& note)
         return false;
     m_act.isInChannel = true;
     --grown->count;
-    m_watcher.takeChange(*this, MoneyAct::Piece, {grown->channel, 1, 0, m_collections});
+    m_watcher.takeChange(
+        *this, MoneyAct::Piece,
+        {grown->channel, 1, 0, m_act.firstCollections(), m_act.lastCollections(m_collections)});
     return true;
 }
 
@@ -197,6 +200,7 @@ void MoneyTrail::takeLoneCredit()
     if (m_isNoteMissing || m_act.hasGap)
         return;
     Contradiction found = Contradiction::ofLoneCredit(m_newCredit);
+    found.collections = m_collections;
     static_cast<LogPlace&>(found) = here();
     found.lines = {m_line};
     m_loneCredits.push_back(found);
@@ -219,8 +223,12 @@ void MoneyTrail::takeChanges()
     }
     m_newPaid = 0;
     QStringList unexplained;
-    for (const ChannelChange& change : m_changes) {
+    for (ChannelChange& change : m_changes) {
         const bool isFilling = change.count >= 0 && change.rejected == 0;
+        if (isOperation(m_act.kind) && !isFilling) {
+            change.first = m_act.firstCollections();
+            change.last = m_act.lastCollections(m_collections);
+        }
         if (change.count == 0 && change.rejected == 0)
             continue;
         if (isOperation(m_act.kind) || isFilling || m_act.kind == MoneyAct::Unseen
@@ -235,7 +243,7 @@ void MoneyTrail::takeChanges()
     }
     m_changes.clear();
     if (!unexplained.isEmpty()) {
-        tell(Contradiction::ofRegistry(unexplained), here(), {m_line});
+        tell(Contradiction::ofRegistry(unexplained, m_collections), here(), {m_line});
     }
 }
 
@@ -265,6 +273,8 @@ void MoneyTrail::follow(const NoteAnswer* note)
     const State state = m_device.state().state;
     if (state == m_state)
         return;
+    if (!m_act.isDone())
+        m_act.collectionsAtEnd = m_collections;
     const MoneyOperation* const operation = MoneyOperation::of(state);
     if (operation) {
         const bool isOn = m_act.kind == operation->act && !m_act.isEnded;
@@ -281,8 +291,6 @@ void MoneyTrail::follow(const NoteAnswer* note)
                && !m_device.sessionStartSeen()) {
         m_act.kind = MoneyAct::Unseen;
     }
-    if (!m_act.isCalm)
-        m_act.collectionsAtEnd = m_collections;
     m_act.isCalm = state == STATE_IDLING || (m_act.isCalm && !operation);
     m_state = state;
     if (m_act.isCut && state == STATE_IDLING)
@@ -389,12 +397,13 @@ void MoneyTrail::seeCounter()
 }
 
 // Tells what does not add up with the act, unless the log may lack what would clear it.
-void MoneyTrail::judge(const std::optional<Contradiction>& found, quint32 field)
+void MoneyTrail::judge(std::optional<Contradiction> found, quint32 field)
 {
     if (!found || m_act.hasGap)
         return;
     // That a field stays is only known once the log tells of it at all.
     const bool needsField = found->rule == Rule::NotCredited || found->rule == Rule::PayoutDiffers;
+    found->collections = m_act.lastCollections(m_collections);
     tell(*found, m_act.begin, QVector<qint64>{m_act.begin.line} + m_act.lines,
          needsField ? field : 0);
 }
@@ -407,8 +416,6 @@ void MoneyTrail::tell(Contradiction found, const LogPlace& place, QVector<qint64
     lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
     lines.removeAll(0);
     found.lines = lines;
-    if (found.rule != Rule::CounterJump)
-        found.collections = m_collections;
     if (field == 0 || m_device.hasReported(field))
         m_watcher.takeContradiction(*this, found);
     else

@@ -89,7 +89,7 @@ private:
     void endAct(const NoteAnswer* note);
     void finishPiece();
     void tellLoneCredits();
-    void judge(const std::optional<Contradiction>& found, quint32 field);
+    void judge(std::optional<Contradiction> found, quint32 field);
     void tell(Contradiction found, const LogPlace& place, QVector<qint64> lines, quint32 field = 0);
     LogPlace here() const;
 

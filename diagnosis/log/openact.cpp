@@ -32,7 +32,6 @@ std::optional<UnfinishedAct> OpenAct::unfinished(const DeviceChannels& channels,
     const bool isCounted = !isIntoCassette || !isRegistryNew;
     if (isCounted && (isEnded || (isSettled && !isIntoCassette)))
         return {};
-    return UnfinishedAct{kind,    collections, isCalm ? collectionsAtEnd : now,
-                         isEnded, isCounted,   isSettled,
+    return UnfinishedAct{kind,    collections, lastCollections(now), isEnded, isCounted, isSettled,
                          channel, moved};
 }

@@ -26,7 +26,7 @@ struct OpenAct
     QVector<qint64> lines; ///< of credits, or of what was paid
     bool isCreditKnown = true;
     int collections = 0; ///< of the cassette when it began
-    int collectionsAtEnd = 0; ///< when it was calm
+    int collectionsAtEnd = 0; ///< when it was done
     int channel = 0; ///< at work
     qint64 paid = 0;
     bool isPaidKnown = true;
@@ -35,6 +35,13 @@ struct OpenAct
     bool isRegistryNew = false; ///< it was told for the first time
     std::optional<PieceEnd> piece; ///< once its note is closed
     NoteAnswer note; ///< likewise
+
+    /// Whether it moves nothing any more.
+    bool isDone() const { return isEnded || isCalm; }
+
+    /// Between how many collections it moved what is told of it now.
+    int firstCollections() const { return isDone() ? collectionsAtEnd : collections; }
+    int lastCollections(int now) const { return isDone() ? collectionsAtEnd : now; }
 
     bool isAtWork() const { return isOperation(kind) && !isEnded && !isCalm; }
 
