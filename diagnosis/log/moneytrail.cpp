@@ -3,19 +3,14 @@
 
 #include "log/moneytrail.h"
 
-#include "dispenserregistrymodel.h"
-
 #include <QStringList>
 
 #include <algorithm>
 
 namespace {
 
-const quint32 sumBit = DeviceReport::bit(deviceStateDescConst::SESSION_SUM);
-const quint32 paidBit = DeviceReport::bit(deviceStateDescConst::DISPENSED_SUM);
-const quint32 cassetteBit = DeviceReport::bit(deviceStateDescConst::STACKER_PRESENT);
-const quint32 stateBit = DeviceReport::bit(deviceStateDescConst::STATE);
-const quint32 registryBit = DeviceReport::bit(DispenserRegistryModel::DISPENSER_REGISTRY);
+const quint32 creditField = DeviceReport::bit(deviceStateDescConst::SESSION_SUM);
+const quint32 payoutField = DeviceReport::bit(deviceStateDescConst::DISPENSED_SUM);
 
 } // namespace
 
@@ -45,81 +40,6 @@ void MoneyTrail::skipLine()
     m_channels.skipLine();
     m_sum.reset();
     m_paid.reset();
-}
-
-void MoneyTrail::see(const LogStep& step, const SessionLine& line, qint64 lineNumber)
-{
-    m_line = lineNumber;
-    m_time = line.time();
-    m_isNews = step.sent;
-    m_newCounter = step.notesInserted;
-    const State state = m_device.state().state;
-    const bool mayBegin = state != m_state && (state == STATE_ACCEPTING || state == STATE_REJECTED);
-    m_isNoteMissing = m_counter.missesNotes(m_newCounter, mayBegin);
-    if (step.startsSession)
-        m_sum = m_paid = 0;
-    else if (m_isFirst && !m_device.sessionStartSeen() && (step.reported & stateBit) == 0)
-        m_act.kind = MoneyAct::Unseen;
-    if ((step.reported & cassetteBit) != 0) {
-        const bool isIn = m_device.state().stackerPresent;
-        if (!isIn && m_isCassetteIn)
-            ++m_collections;
-        m_watcher.takeCassette(*this, isIn);
-        m_isCassetteIn = isIn;
-    }
-    m_watcher.takeReport(*this, step);
-    seeSums(step);
-    m_changes.clear();
-    if ((step.reported & registryBit) != 0)
-        seeRegistry();
-    for (const Contradiction& found : m_withheld.take(step.reported))
-        m_watcher.takeContradiction(*this, found);
-}
-
-void MoneyTrail::seeSums(const LogStep& step)
-{
-    const DeviceState& state = m_device.state();
-    m_newCredit = m_newPaid = 0;
-    if ((step.reported & sumBit) != 0) {
-        if (!m_sum)
-            m_act.isCreditKnown = false;
-        const qint64 before = m_sum.value_or(state.sessionSum);
-        m_newCredit = qMax<qint64>(0, state.sessionSum - before);
-        if (state.sessionSum < before) {
-            m_act.fallen += qMin(m_act.credit, before - state.sessionSum);
-            tell(Contradiction::ofFall(before, state.sessionSum, m_collections), here(),
-                 {m_sumLine, m_line});
-        }
-        m_sum = state.sessionSum;
-        m_sumLine = m_line;
-    } else if (step.startsSession) {
-        m_sumLine = m_line;
-    }
-    if ((step.reported & paidBit) != 0) {
-        const qint64 before = m_paid.value_or(state.dispensedSum);
-        if (!m_paid || state.dispensedSum < before)
-            m_act.isPaidKnown = false;
-        m_newPaid = qMax<qint64>(0, qint64(state.dispensedSum) - before);
-        m_paid = state.dispensedSum;
-    }
-}
-
-void MoneyTrail::seeRegistry()
-{
-    const DeviceChannels::News news =
-        m_channels.take(m_device.state().dispenserRegistry, m_collections);
-    for (const size_t channel : news.added)
-        m_watcher.takeChannel(*this, channel);
-    if (!news.areLinesMissing)
-        m_changes = news.changes;
-    for (const ChannelChange& change : news.changes) {
-        if (news.areLinesMissing)
-            m_watcher.takeChange(*this, MoneyAct::Unseen, change);
-    }
-    if (!news.isRegistryNew && !news.areLinesMissing)
-        return;
-    m_act.isPaidKnown = false;
-    m_act.isRegistryNew = m_isRegistryNew = !m_channels.all().empty();
 }
 
 bool MoneyTrail::giveToLast(const NoteAnswer* note)
@@ -302,7 +222,7 @@ void MoneyTrail::begin(MoneyAct kind, const NoteAnswer* note)
     endAct(note);
     m_act.kind = kind;
     m_act.begin = here();
-    m_act.collections = m_collections;
+    m_act.collections = m_act.collectionsAtEnd = m_collections;
 }
 
 void MoneyTrail::startSession(const NoteAnswer* note)
@@ -348,7 +268,7 @@ void MoneyTrail::endAct(const NoteAnswer* open)
     } else if (m_act.kind == MoneyAct::Payout) {
         const bool isLostKnown = m_act.isPaidKnown && !m_act.isCut && !m_channels.all().empty();
         const qint64 lost = isLostKnown ? m_channels.sumLost(m_act.moved) : m_act.paid;
-        judge(Contradiction::ofPayout(m_act.isEnded, m_act.paid, lost), paidBit);
+        judge(Contradiction::ofPayout(m_act.isEnded, m_act.paid, lost), payoutField);
     }
     if (const auto unfinished = m_act.unfinished(m_channels, m_collections))
         m_watcher.takeUnfinished(*this, *unfinished);
@@ -359,7 +279,7 @@ void MoneyTrail::endAct(const NoteAnswer* open)
 void MoneyTrail::finishPiece()
 {
     if (m_act.isCreditKnown && m_sum)
-        judge(Contradiction::ofCredit(m_act.note, m_act.credit), sumBit);
+        judge(Contradiction::ofCredit(m_act.note, m_act.credit), creditField);
     if (m_act.piece)
         m_watcher.takePiece(*this, m_act.pieceEnd(m_channels));
 }
@@ -377,23 +297,6 @@ void MoneyTrail::foresee(const PieceEnd* open, MoneyWatcher& watcher) const
         watcher.takePiece(*this, *open);
     if (const auto unfinished = m_act.unfinished(m_channels, m_collections))
         watcher.takeUnfinished(*this, *unfinished);
-}
-
-void MoneyTrail::seeCounter()
-{
-    if (!m_newCounter)
-        return;
-    const auto jump = m_counter.take(*m_newCounter, m_isNews, m_line, m_collections);
-    m_missingNotes += jump ? jump->rise - jump->notes : 0;
-    for (; m_missingNotes > 0 && !m_loneCredits.empty(); --m_missingNotes)
-        m_loneCredits.pop_back(); // it is that one's
-    tellLoneCredits();
-    if (!jump)
-        return;
-    m_isNoteMissing = true;
-    Contradiction found = Contradiction::ofCounter(jump->rise, jump->notes);
-    found.collections = jump->collections;
-    tell(found, here(), {jump->sinceLine, m_line});
 }
 
 // Tells what does not add up with the act, unless the log may lack what would clear it.
