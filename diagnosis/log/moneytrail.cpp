@@ -184,7 +184,8 @@ void MoneyTrail::resumeNote(const NoteAnswer& note)
         return;
     if (m_parked && m_parked->isOf(note))
         m_act = *std::exchange(m_parked, {});
-    m_act.kind = MoneyAct::Piece;
+    else
+        begin(MoneyAct::Piece, nullptr);
     m_act.begin = note;
 }
 
