@@ -80,11 +80,12 @@ std::optional<Contradiction> Contradiction::ofCredit(const NoteAnswer& note, qin
             found->missing = 1;
         }
     } else if (isNotTaken) {
-        if (credit > 0)
+        if (credit > 0) {
             found = made(Rule::CreditedNotTaken,
                          Diagnosis::tr("The session's sum rose by %1 for a %2 that was not taken. "
                                        "That it was stacked would clear this.")
                              .arg(rise, note.what()));
+        }
     } else if (note.isTaken() && credit == 0) {
         found =
             made(Rule::NotCredited,
@@ -104,11 +105,12 @@ std::optional<Contradiction> Contradiction::ofCredit(const NoteAnswer& note, qin
 
 std::optional<Contradiction> Contradiction::ofPayout(bool isEnded, qint64 paid, qint64 lost)
 {
-    if (!isEnded)
+    if (!isEnded) {
         return made(Rule::PayoutUnfinished,
                     Diagnosis::tr("A payout began, and the log does not tell its end. "
                                   "\"dispensed\" before the next note, payout or session would "
                                   "clear this."));
+    }
     if (paid == lost)
         return {};
     return made(Rule::PayoutDiffers,

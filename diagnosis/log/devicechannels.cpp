@@ -75,15 +75,17 @@ QStringList DeviceChannels::told(const ChannelChange& change) const
     const QString name =
         Diagnosis::tr("channel %1 (%2)").arg(channel.number).arg(channel.denomination);
     QStringList texts;
-    if (change.count != 0)
+    if (change.count != 0) {
         texts += Diagnosis::tr("%1 went from %2 to %3")
                      .arg(name)
                      .arg(channel.count - change.count)
                      .arg(channel.count);
-    if (change.rejected != 0)
+    }
+    if (change.rejected != 0) {
         texts += Diagnosis::tr("rejects of %1 went from %2 to %3")
                      .arg(name)
                      .arg(channel.rejected - change.rejected)
                      .arg(channel.rejected);
+    }
     return texts;
 }

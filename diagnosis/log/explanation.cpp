@@ -68,6 +68,7 @@ void LogExplainer::take(const SessionLine& line, qint64 lineNumber)
         takeStep(taken.front(), line, lineNumber);
     } else {
         std::vector<const LogStep*> steps;
+        steps.reserve(taken.size());
         for (const LogStep& step : taken)
             steps.push_back(&step);
         // In whatever order they are published.

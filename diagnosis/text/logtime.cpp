@@ -115,7 +115,8 @@ std::optional<qint64> LogTime::moment() const
                          .toMSecsSinceEpoch();
     }
     const int fraction = size > secondsEnd ? m_text.mid(secondsEnd + 1, 3).toInt() : 0;
-    return hourBegins + (twoDigits(m_text, 14) * 60 + twoDigits(m_text, 17)) * 1000 + fraction;
+    const qint64 seconds = twoDigits(m_text, 14) * 60 + twoDigits(m_text, 17);
+    return hourBegins + seconds * 1000 + fraction;
 }
 
 std::optional<qint64> LogTime::latestMoment() const
