@@ -191,7 +191,9 @@ void LogExplainer::takeEvent(const LogStep& step, const SessionLine& line, qint6
     const bool isNewValue =
         event.currentNote != trail.value || (isTold && event.state != STATE_IDLING);
     trail.state = event.state;
-    trail.value = event.currentNote;
+    // A start sets it to 0 and tells nothing of it.
+    if (!step.startsSession || (step.reported & noteBit) != 0)
+        trail.value = event.currentNote;
     trail.isValueNew = event.currentNote > 0 && (trail.isValueNew || isNewValue);
     if (trail.note && trail.note->phase == Ended && isNewState)
         close(device);
