@@ -1121,5 +1121,594 @@
         <source>its value became %1 in line %2</source>
         <translation>её номинал в строке %2 стал %1</translation>
     </message>
+    <message>
+        <source>what lay in it when the log began is not known</source>
+        <translation>что в ней было в начале журнала, неизвестно</translation>
+    </message>
+    <message>
+        <source>taken to have come back empty</source>
+        <translation>считается, что она вернулась пустой</translation>
+    </message>
+    <message>
+        <source>the registry does not tell of it any more</source>
+        <translation>реестр об этом больше не сообщает</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces were filled in</source>
+        <translation>
+            <numerusform>загружена %n шт.</numerusform>
+            <numerusform>загружены %n шт.</numerusform>
+            <numerusform>загружено %n шт.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>lines were skipped since it was told</source>
+        <translation>после последних сведений об этом пропущены строки</translation>
+    </message>
+    <message>
+        <source>expected cassette, channel or reject</source>
+        <translation>ожидается cassette, channel или reject</translation>
+    </message>
+    <message>
+        <source>unknown column &quot;%1&quot;</source>
+        <translation>неизвестный столбец &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>column &quot;%1&quot; stands twice</source>
+        <translation>столбец &quot;%1&quot; задан дважды</translation>
+    </message>
+    <message>
+        <source>column &quot;%1&quot; is missing</source>
+        <translation>нет столбца &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>a quotation mark is not closed</source>
+        <translation>кавычка не закрыта</translation>
+    </message>
+    <message>
+        <source>expected %1 cells as in the header, not %2</source>
+        <translation>ожидается ячеек: %1, как в заголовке, а не %2</translation>
+    </message>
+    <message>
+        <source>expected a list</source>
+        <translation>ожидается список</translation>
+    </message>
+    <message>
+        <source>%1: element %2</source>
+        <translation>%1: элемент %2</translation>
+    </message>
+    <message>
+        <source>expected texts and numbers</source>
+        <translation>ожидаются тексты и числа</translation>
+    </message>
+    <message>
+        <source>the logs have no such device or period</source>
+        <translation>в журналах нет такого устройства или периода</translation>
+    </message>
+    <message>
+        <source>several threads drive the device: say which in a column &quot;thread&quot;</source>
+        <translation>устройством управляет несколько потоков: укажите нужный в столбце &quot;thread&quot;</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>верно</translation>
+    </message>
+    <message>
+        <source>%1 short</source>
+        <translation>недостача %1</translation>
+    </message>
+    <message>
+        <source>%1 over</source>
+        <translation>излишек %1</translation>
+    </message>
+    <message>
+        <source>nothing is counted</source>
+        <translation>ничего не пересчитано</translation>
+    </message>
+    <message>
+        <source>several rows fit: say which in a column &quot;channel&quot; or &quot;currency&quot;</source>
+        <translation>подходит несколько строк: укажите нужную в столбце &quot;channel&quot; или &quot;currency&quot;</translation>
+    </message>
+    <message>
+        <source>the device has no such place</source>
+        <translation>у устройства нет такого места</translation>
+    </message>
+    <message>
+        <source>What the cassette held, from time to time</source>
+        <translation>Что было в кассете, по времени</translation>
+    </message>
+    <message>
+        <source>may be</source>
+        <translation>возможно</translation>
+    </message>
+    <message>
+        <source>at least</source>
+        <translation>не меньше</translation>
+    </message>
+    <message>
+        <source>Period %1, %2: %3 taken out</source>
+        <translation>Период %1, %2: изъято %3</translation>
+    </message>
+    <message>
+        <source>In the end: %1</source>
+        <translation>В конце: %1</translation>
+    </message>
+    <message>
+        <source>a log could not be read</source>
+        <translation>один из журналов не удалось прочесть</translation>
+    </message>
+    <message>
+        <source>%1:%2 to %3:%4</source>
+        <translation>с %1:%2 по %3:%4</translation>
+    </message>
+    <message>
+        <source>taken out with %1</source>
+        <translation>изъята, в ней %1</translation>
+    </message>
+    <message>
+        <source>Of money the log tells nothing.</source>
+        <translation>О деньгах в журнале ничего нет.</translation>
+    </message>
+    <message>
+        <source>in all</source>
+        <translation>всего</translation>
+    </message>
+    <message>
+        <source>as of %1</source>
+        <translation>на момент: %1</translation>
+    </message>
+    <message>
+        <source>What lies where</source>
+        <translation>Что где лежит</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Почему</translation>
+    </message>
+    <message>
+        <source>in the cassette: %1</source>
+        <translation>в кассете: %1</translation>
+    </message>
+    <message>
+        <source>taken out: %1</source>
+        <translation>изъято: %1</translation>
+    </message>
+    <message>
+        <source>The device says of its cash: %1</source>
+        <translation>О своих деньгах устройство сообщает: %1</translation>
+    </message>
+    <message>
+        <source>Period %1</source>
+        <translation>Период %1</translation>
+    </message>
+    <message>
+        <source>since %1</source>
+        <translation>начало: %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>device %1, thread %2</source>
+        <translation>устройство %1, поток %2</translation>
+    </message>
+    <message>
+        <source>What the cassette held</source>
+        <translation>Что было в кассете</translation>
+    </message>
+    <message>
+        <source>The curve adds up the face values of all currencies.</source>
+        <translation>Кривая складывает номиналы всех валют.</translation>
+    </message>
+    <message>
+        <source>What does not add up</source>
+        <translation>Что не сходится</translation>
+    </message>
+    <message>
+        <source>Kiosk</source>
+        <translation>Терминал</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Место</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Номинал</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Период</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>Ожидается</translation>
+    </message>
+    <message>
+        <source>Counted</source>
+        <translation>Пересчитано</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Разница</translation>
+    </message>
+    <message>
+        <source>nothing in the logs</source>
+        <translation>в журналах ничего нет</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3: %4. What can explain it:</source>
+        <translation>%1, номинал %3, %2: %4. Чем это можно объяснить:</translation>
+    </message>
+    <message>
+        <source>pieces</source>
+        <translation>шт.</translation>
+    </message>
+    <message>
+        <source>What was counted</source>
+        <translation>Результаты пересчёта</translation>
+    </message>
+    <message>
+        <source>Everything adds up.</source>
+        <translation>Всё сходится.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things do not add up.</source>
+        <translation>
+            <numerusform>Найдено %n противоречие.</numerusform>
+            <numerusform>Найдены %n противоречия.</numerusform>
+            <numerusform>Найдено %n противоречий.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything that was counted is right.</source>
+        <translation>Всё, что пересчитано, верно.</translation>
+    </message>
+    <message>
+        <source>Of %1 counts %2 are not right.</source>
+        <translation>Не сходится результатов пересчёта: %2 из %1.</translation>
+    </message>
+    <message>
+        <source>certain to be there</source>
+        <translation>есть наверняка</translation>
+    </message>
+    <message>
+        <source>may be there besides</source>
+        <translation>может быть ещё</translation>
+    </message>
+    <message>
+        <source>at least so much; the log does not tell how much more</source>
+        <translation>не меньше этого; сколько ещё, из журнала не видно</translation>
+    </message>
+    <message>
+        <source>the cassette is taken out, with so much</source>
+        <translation>кассета изъята с такой суммой</translation>
+    </message>
+    <message>
+        <source>Where is the money?</source>
+        <translation>Где деньги?</translation>
+    </message>
+    <message>
+        <source>How the logs were read</source>
+        <translation>Как прочитаны журналы</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces got stuck on their way</source>
+        <translation>
+            <numerusform>%n шт. застряла в пути</numerusform>
+            <numerusform>%n шт. застряли в пути</numerusform>
+            <numerusform>%n шт. застряло в пути</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces are on their way</source>
+        <translation>
+            <numerusform>%n шт. в пути</numerusform>
+            <numerusform>%n шт. в пути</numerusform>
+            <numerusform>%n шт. в пути</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>of %n pieces the log does not say what became of them</source>
+        <translation>
+            <numerusform>что стало с %n шт., из журнала не видно</numerusform>
+            <numerusform>что стало с %n шт., из журнала не видно</numerusform>
+            <numerusform>что стало с %n шт., из журнала не видно</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>lines were skipped while %n pieces were on their way</source>
+        <translation>
+            <numerusform>пропущены строки, пока %n шт. была в пути</numerusform>
+            <numerusform>пропущены строки, пока %n шт. были в пути</numerusform>
+            <numerusform>пропущены строки, пока %n шт. было в пути</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the value of %n pieces changed while they were on their way</source>
+        <translation>
+            <numerusform>номинал %n шт. изменился в пути</numerusform>
+            <numerusform>номинал %n шт. изменился в пути</numerusform>
+            <numerusform>номинал %n шт. изменился в пути</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces of unknown value were taken</source>
+        <translation>
+            <numerusform>принята %n шт. неизвестного номинала</numerusform>
+            <numerusform>приняты %n шт. неизвестного номинала</numerusform>
+            <numerusform>принято %n шт. неизвестного номинала</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>of %n pieces the registry does not tell whether they are in a channel</source>
+        <translation>
+            <numerusform>находится ли %n шт. в канале, из реестра не видно</numerusform>
+            <numerusform>находится ли %n шт. в канале, из реестра не видно</numerusform>
+            <numerusform>находится ли %n шт. в канале, из реестра не видно</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>by the device&apos;s counter %n pieces are missing from the log</source>
+        <translation>
+            <numerusform>по счётчику устройства в журнале не хватает %n шт.</numerusform>
+            <numerusform>по счётчику устройства в журнале не хватает %n шт.</numerusform>
+            <numerusform>по счётчику устройства в журнале не хватает %n шт.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n credits came without a piece</source>
+        <translation>
+            <numerusform>%n зачисление без купюры или монеты</numerusform>
+            <numerusform>%n зачисления без купюры или монеты</numerusform>
+            <numerusform>%n зачислений без купюры или монеты</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines were skipped</source>
+        <translation>
+            <numerusform>пропущена %n строка</numerusform>
+            <numerusform>пропущены %n строки</numerusform>
+            <numerusform>пропущено %n строк</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>lines were skipped in which the cassette may have been emptied</source>
+        <translation>
+            <numerusform>пропущены строки, в которых кассету могли опорожнить</numerusform>
+            <numerusform>пропущены строки, в которых кассету могли опорожнить</numerusform>
+            <numerusform>пропущены строки, в которых кассету могли опорожнить</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the registry was told for the first time while channels were floated or emptied</source>
+        <translation>
+            <numerusform>реестр впервые сообщён во время размена или выгрузки каналов</numerusform>
+            <numerusform>реестр впервые сообщён во время размена или выгрузки каналов</numerusform>
+            <numerusform>реестр впервые сообщён во время размена или выгрузки каналов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces left a channel, and the log does not say why</source>
+        <translation>
+            <numerusform>%n шт. ушла из канала, почему - из журнала не видно</numerusform>
+            <numerusform>%n шт. ушли из канала, почему - из журнала не видно</numerusform>
+            <numerusform>%n шт. ушло из канала, почему - из журнала не видно</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pieces came or went while the cassette was out, and are not counted here</source>
+        <translation>
+            <numerusform>%n шт. пришла или ушла, пока кассета была изъята; здесь она не учтена</numerusform>
+            <numerusform>%n шт. пришли или ушли, пока кассета была изъята; здесь они не учтены</numerusform>
+            <numerusform>%n шт. пришло или ушло, пока кассета была изъята; здесь они не учтены</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the log does not tell the end of a payout, a float or an emptying, %n pieces may be on their way</source>
+        <translation>
+            <numerusform>в журнале нет конца выдачи, размена или выгрузки, %n шт. может быть в пути</numerusform>
+            <numerusform>в журнале нет конца выдачи, размена или выгрузки, %n шт. могут быть в пути</numerusform>
+            <numerusform>в журнале нет конца выдачи, размена или выгрузки, %n шт. может быть в пути</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>cassette</source>
+        <translation>кассета</translation>
+    </message>
+    <message>
+        <source>channel %1</source>
+        <translation>канал %1</translation>
+    </message>
+    <message>
+        <source>reject</source>
+        <translation>отбраковка</translation>
+    </message>
+    <message>
+        <source>Currency</source>
+        <translation>Валюта</translation>
+    </message>
+    <message>
+        <source>Opening</source>
+        <translation>Начало</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>Приход</translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation>Расход</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>Перенос</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Остаток</translation>
+    </message>
+    <message>
+        <source>Sum now</source>
+        <translation>Сумма</translation>
+    </message>
+    <message>
+        <source>Kiosk %1: %2</source>
+        <translation>Терминал %1: %2</translation>
+    </message>
+    <message>
+        <source>channels</source>
+        <translation>каналы</translation>
+    </message>
+    <message>
+        <source>the end</source>
+        <translation>конец журнала</translation>
+    </message>
+    <message>
+        <source>no coin until then</source>
+        <translation>до этого ни одной монеты</translation>
+    </message>
+    <message>
+        <source>no note until then</source>
+        <translation>до этого ни одной купюры</translation>
+    </message>
+    <message>
+        <source>last coin %1</source>
+        <translation>последняя монета - %1</translation>
+    </message>
+    <message>
+        <source>last note %1</source>
+        <translation>последняя купюра - %1</translation>
+    </message>
+    <message>
+        <source>%1: from %2 to %3: %4; %5</source>
+        <extracomment>&quot;DEVICE: from 10:05:12 (line 3) to the end: disabled, stacker full; last note ...&quot;</extracomment>
+        <translation>%1: %2 – %3: %4; %5</translation>
+    </message>
+    <message>
+        <source>taken and not credited</source>
+        <translation>принята, но не зачислена</translation>
+    </message>
+    <message>
+        <source>credited with another amount</source>
+        <translation>зачислена другая сумма</translation>
+    </message>
+    <message>
+        <source>credited and not taken</source>
+        <translation>зачислена, но не принята</translation>
+    </message>
+    <message>
+        <source>credited without a note</source>
+        <translation>зачислено без купюры</translation>
+    </message>
+    <message>
+        <source>less credit within a session</source>
+        <translation>сумма в течение сеанса уменьшилась</translation>
+    </message>
+    <message>
+        <source>paid another amount than left the channels</source>
+        <translation>выдано не столько, сколько ушло из каналов</translation>
+    </message>
+    <message>
+        <source>a payout without an end</source>
+        <translation>выдача без завершения</translation>
+    </message>
+    <message>
+        <source>a channel&apos;s content changed for no reason</source>
+        <translation>содержимое канала изменилось без причины</translation>
+    </message>
+    <message>
+        <source>notes that the log does not have</source>
+        <translation>купюры, которых нет в журнале</translation>
+    </message>
+    <message>
+        <source>The session&apos;s sum rose by %1 while the device accepted, without a note. The value of one would clear this.</source>
+        <translation>Сумма сеанса выросла на %1 во время приёма, без купюры. Противоречие снимет номинал купюры.</translation>
+    </message>
+    <message>
+        <source>The session&apos;s sum rose by %1 for a %2 that was not taken. That it was stacked would clear this.</source>
+        <translation>Сумма сеанса выросла на %1, но %2 не принята. Противоречие снимется, если она уложена.</translation>
+    </message>
+    <message>
+        <source>A %1 was taken, and the session&apos;s sum did not rise. That it rises before the next note, payout or session would clear this.</source>
+        <translation>Принята %1, а сумма сеанса не выросла. Противоречие снимется, если сумма вырастет до следующей купюры, выдачи или сеанса.</translation>
+    </message>
+    <message>
+        <source>The session&apos;s sum rose by %1 for a %2. That it rises by %3 in all would clear this.</source>
+        <translation>Сумма сеанса выросла на %1, а принята %2. Противоречие снимется, если всего сумма вырастет на %3.</translation>
+    </message>
+    <message>
+        <source>A payout began, and the log does not tell its end. &quot;dispensed&quot; before the next note, payout or session would clear this.</source>
+        <translation>Выдача началась, а её конца в журнале нет. Противоречие снимет &quot;dispensed&quot; до следующей купюры, выдачи или сеанса.</translation>
+    </message>
+    <message>
+        <source>%1 was paid, and %2 left the channels without being rejected. That both are the same before the next note, payout or session would clear this.</source>
+        <translation>Выдано %1, а из каналов без отбраковки ушло %2. Противоречие снимется, если эти суммы сравняются до следующей купюры, выдачи или сеанса.</translation>
+    </message>
+    <message>
+        <source>The session&apos;s sum rose by %1 without a note. A note that was offered before, with nothing between, would clear this.</source>
+        <translation>Сумма сеанса выросла на %1 без купюры. Противоречие снимет купюра, предложенная перед этим, если между ними ничего нет.</translation>
+    </message>
+    <message>
+        <source>The session&apos;s sum fell from %1 to %2. The start of a session before this line would clear this.</source>
+        <translation>Сумма сеанса уменьшилась с %1 до %2. Противоречие снимет начало сеанса перед этой строкой.</translation>
+    </message>
+    <message>
+        <source>The registry changed: %1. A payout, a float or an emptying that began before, with nothing between, would clear this.</source>
+        <translation>Реестр изменился: %1. Противоречие снимет выдача, размен или выгрузка, начатая перед этим, если между ними ничего нет.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The device counted %1, and the log has %2 of them: %n notes are missing from the log. Their lines would clear this.</source>
+        <translation>
+            <numerusform>Устройство насчитало %1, в журнале из них %2: не хватает %n купюры. Противоречие снимут её строки.</numerusform>
+            <numerusform>Устройство насчитало %1, в журнале из них %2: не хватает %n купюр. Противоречие снимут их строки.</numerusform>
+            <numerusform>Устройство насчитало %1, в журнале из них %2: не хватает %n купюр. Противоречие снимут их строки.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>channel %1 (%2)</source>
+        <translation>канал %1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 went from %2 to %3</source>
+        <translation>%1 с %2 до %3</translation>
+    </message>
+    <message>
+        <source>rejects of %1 went from %2 to %3</source>
+        <translation>отбраковано (%1) с %2 до %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n that do not add up</source>
+        <translation>
+            <numerusform>не сходится: %n</numerusform>
+            <numerusform>не сходится: %n</numerusform>
+            <numerusform>не сходится: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the log is of kiosk &quot;%1&quot; so far, and of &quot;%2&quot; here; velmo cash tells kiosks apart</source>
+        <translation>до сих пор это был журнал терминала &quot;%1&quot;, а здесь - &quot;%2&quot;; терминалы различает velmo cash</translation>
+    </message>
+    <message>
+        <source>Does not add up</source>
+        <translation>Не сходится</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>от %1</translation>
+    </message>
+    <message>
+        <source>&quot;kiosk&quot;: expected a name</source>
+        <translation>&quot;kiosk&quot;: ожидается имя</translation>
+    </message>
+    <message>
+        <source>does not add up</source>
+        <translation>не сходится</translation>
+    </message>
 </context>
 </TS>

@@ -38,5 +38,19 @@
             <numerusform>removed %1: %2 (%n elements)</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n sessions</source>
+        <translation>
+            <numerusform>%n session</numerusform>
+            <numerusform>%n sessions</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines that are in both are taken once</source>
+        <translation>
+            <numerusform>%n line that is in both is taken once</numerusform>
+            <numerusform>%n lines that are in both are taken once</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

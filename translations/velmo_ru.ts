@@ -164,10 +164,6 @@
         <translation>Показать только итоги.</translation>
     </message>
     <message>
-        <source>Make the exit code 1 when the filters refused something.</source>
-        <translation>Код завершения 1, когда фильтры что-нибудь не приняли.</translation>
-    </message>
-    <message>
         <source>Display names by device identifier: {&quot;1&quot;: &quot;Validator&quot;}.</source>
         <translation>Имена для показа по номерам устройств: {&quot;1&quot;: &quot;Купюроприёмник&quot;}.</translation>
     </message>
@@ -814,6 +810,262 @@
     <message>
         <source>changed %1: %2 in each &quot;value&quot;</source>
         <translation>изменено %1: %2 в каждом &quot;value&quot;</translation>
+    </message>
+    <message>
+        <source>no line has a time: nothing can be selected by it</source>
+        <translation>ни в одной строке нет времени: выбрать по нему ничего нельзя</translation>
+    </message>
+    <message>
+        <source>the logs have nothing of the device that is asked for</source>
+        <translation>в журналах нет ничего об устройстве, о котором спрашивают</translation>
+    </message>
+    <message>
+        <source>the logs have no such kiosk</source>
+        <translation>в журналах нет такого терминала</translation>
+    </message>
+    <message>
+        <source>--json, --csv and --html exclude each other</source>
+        <translation>--json, --csv и --html вместе не работают</translation>
+    </message>
+    <message>
+        <source>log and counts cannot both come from standard input</source>
+        <translation>журнал и результаты пересчёта нельзя читать вместе со стандартного ввода</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>строка %1</translation>
+    </message>
+    <message>
+        <source>%1 line %2</source>
+        <translation>%1, строка %2</translation>
+    </message>
+    <message>
+        <source>Period %1: from %2 to the end, %3</source>
+        <translation>Период %1: начало - %2, конец - %3</translation>
+    </message>
+    <message>
+        <source>Period %1: from %2 to its collection, %3</source>
+        <translation>Период %1: начало - %2, инкассация - %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sessions</source>
+        <translation>
+            <numerusform>%n сеанс</numerusform>
+            <numerusform>%n сеанса</numerusform>
+            <numerusform>%n сеансов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pieces of unknown value that may lie in the cassette: %1</source>
+        <translation>Купюр и монет неизвестного номинала, которые могут быть в кассете: %1</translation>
+    </message>
+    <message>
+        <source>Of money the log tells nothing.</source>
+        <translation>О деньгах в журнале ничего нет.</translation>
+    </message>
+    <message>
+        <source>Everything adds up.</source>
+        <translation>Всё сходится.</translation>
+    </message>
+    <message>
+        <source>What does not add up:</source>
+        <translation>Что не сходится:</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Период</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Место</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>Ожидается</translation>
+    </message>
+    <message>
+        <source>Counted</source>
+        <translation>Пересчитано</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3: %4. What can explain it:</source>
+        <translation>%1, номинал %3, %2: %4. Чем это можно объяснить:</translation>
+    </message>
+    <message>
+        <source>pieces</source>
+        <translation>шт.</translation>
+    </message>
+    <message>
+        <source>nothing in the logs</source>
+        <translation>в журналах ничего нет</translation>
+    </message>
+    <message>
+        <source>Kiosk %1</source>
+        <translation>Терминал %1</translation>
+    </message>
+    <message>
+        <source>The device says of its cash: %1</source>
+        <translation>О своих деньгах устройство сообщает: %1</translation>
+    </message>
+    <message>
+        <source>Where the money is: what lies in each cassette and channel.</source>
+        <translation>Где деньги: что лежит в каждой кассете и в каждом канале.</translation>
+    </message>
+    <message>
+        <source>Tells for each device, from one collection of its cassette to the next, what came, went and moved, what must lie there now, within which range that is known and why, and what in the logs does not add up. Several logs are of one kiosk, and are put in the order of their times.</source>
+        <translation>Говорит о каждом устройстве, от одной инкассации его кассеты до следующей, что пришло, ушло и переместилось, что должно лежать там сейчас, в каких пределах это известно и почему, и что в журналах не сходится. Несколько журналов считаются журналами одного терминала и берутся в порядке времени.</translation>
+    </message>
+    <message>
+        <source>Incomplete: the logs were not read to the end.</source>
+        <translation>Неполно: журналы прочитаны не до конца.</translation>
+    </message>
+    <message>
+        <source>%1: notes before the first time, left out: %2</source>
+        <translation>%1: опущено купюр до первой строки с временем: %2</translation>
+    </message>
+    <message>
+        <source>%1: no line has a time: nothing can be selected by it</source>
+        <translation>%1: ни в одной строке нет времени: выбрать по нему ничего нельзя</translation>
+    </message>
+    <message>
+        <source>%1 and %2 overlap from %3 to %4: %5</source>
+        <translation>%1 и %2 пересекаются с %3 по %4: %5</translation>
+    </message>
+    <message>
+        <source>taken together by their times</source>
+        <translation>сведены по времени</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines that are in both are taken once</source>
+        <translation>
+            <numerusform>%n строка, которая есть в обоих, взята один раз</numerusform>
+            <numerusform>%n строки, которые есть в обоих, взяты один раз</numerusform>
+            <numerusform>%n строк, которые есть в обоих, взяты один раз</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the clock goes back from %1 to %2; the lines stay in their order</source>
+        <translation>часы идут назад, с %1 на %2; порядок строк сохраняется</translation>
+    </message>
+    <message>
+        <source>a line of kiosk &quot;%1&quot; in the log of &quot;%2&quot;</source>
+        <translation>строка терминала &quot;%1&quot; в журнале терминала &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>the line does not say which kiosk it is of</source>
+        <translation>в строке не сказано, какого она терминала</translation>
+    </message>
+    <message>
+        <source>%1: no line has a time; the logs are taken in the order in which they are given</source>
+        <translation>%1: ни в одной строке нет времени; журналы взяты в том порядке, в каком заданы</translation>
+    </message>
+    <message>
+        <source>standard input can be given only once</source>
+        <translation>стандартный ввод можно задать только один раз</translation>
+    </message>
+    <message>
+        <source>%1: given more than once, taken once</source>
+        <translation>%1: задан несколько раз, взят один раз</translation>
+    </message>
+    <message>
+        <source>Only from that time on, as 2026-11-16T10:05:12 of the local zone, with Z or an offset, or from the beginning of a date.</source>
+        <translation>Только с этого времени, например 2026-11-16T10:05:12 в местном часовом поясе, с Z или смещением, или с начала даты.</translation>
+    </message>
+    <message>
+        <source>Only up to that time, or to the end of a date.</source>
+        <translation>Только до этого времени или до конца даты.</translation>
+    </message>
+    <message>
+        <source>Only notes of that face value.</source>
+        <translation>Только купюры этого номинала.</translation>
+    </message>
+    <message>
+        <source>Only notes of which that became: refused, taken, stuck, rejected, returned or unknown.</source>
+        <translation>Только купюры с этим исходом: refused, taken, stuck, rejected, returned или unknown.</translation>
+    </message>
+    <message>
+        <source>Show times in UTC.</source>
+        <translation>Показывать время в UTC.</translation>
+    </message>
+    <message>
+        <source>Show only what does not add up.</source>
+        <translation>Показать только то, что не сходится.</translation>
+    </message>
+    <message>
+        <source>Make the exit code 1 when the filters refused something, or something does not add up.</source>
+        <translation>Код завершения 1, когда фильтры что-нибудь не приняли или что-нибудь не сходится.</translation>
+    </message>
+    <message>
+        <source>What was counted, to be held against the ledger: a table with the columns device, place, denomination, count, or such a JSON list.</source>
+        <translation>Результаты пересчёта для сверки с учётом: таблица со столбцами device, place, denomination, count или такой же список JSON.</translation>
+    </message>
+    <message>
+        <source>Print a table for spreadsheets.</source>
+        <translation>Печатать таблицу для электронных таблиц.</translation>
+    </message>
+    <message>
+        <source>Only the newest period of each device.</source>
+        <translation>Только самый новый период каждого устройства.</translation>
+    </message>
+    <message>
+        <source>Each log is of a kiosk of its own.</source>
+        <translation>Каждый журнал - отдельного терминала.</translation>
+    </message>
+    <message>
+        <source>all devices</source>
+        <translation>все устройства</translation>
+    </message>
+    <message>
+        <source>%1: earlier ones, not shown: %2</source>
+        <translation>%1: более ранних не показано: %2</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Журнал</translation>
+    </message>
+    <message>
+        <source>Offered</source>
+        <translation>Предложены</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Приняты</translation>
+    </message>
+    <message>
+        <source>Rejected</source>
+        <translation>Отклонены</translation>
+    </message>
+    <message>
+        <source>Rejected %</source>
+        <translation>Отклонены, %</translation>
+    </message>
+    <message>
+        <source>Refused %</source>
+        <translation>Не приняты, %</translation>
+    </message>
+    <message>
+        <source>Stuck</source>
+        <translation>Застряли</translation>
+    </message>
+    <message>
+        <source>What was the matter:</source>
+        <translation>Что было не так:</translation>
+    </message>
+    <message>
+        <source>%1: expected an ISO 8601 time or date, as 2026-11-16T10:05:12Z</source>
+        <translation>%1: ожидается время или дата ISO 8601, например 2026-11-16T10:05:12Z</translation>
+    </message>
+    <message>
+        <source>--from is after --to</source>
+        <translation>--from позже --to</translation>
+    </message>
+    <message>
+        <source>%1: unknown outcome &quot;%2&quot; (known: %3)</source>
+        <translation>%1: неизвестный исход &quot;%2&quot; (известны: %3)</translation>
+    </message>
+    <message>
+        <source>--refusals and --contradictions do not go together</source>
+        <translation>--refusals и --contradictions вместе не работают</translation>
     </message>
 </context>
 </TS>
