@@ -140,7 +140,7 @@ private Q_SLOTS:
 2b 2b 3c 3c 4d;1a 2b 2b 3c      |AB  | |a b b c c d            |A and B overlap from 2 to 3: 3 lines that are in both are taken once
 1a 1a 2b                        |AZ  | |a a b                  |A and Z overlap from 1 to 2: 3 lines that are in both are taken once
 1a 2b                           |AA  | |a b                    |A and A overlap from 1 to 2: 2 lines that are in both are taken once
-1a 2b;2b;2b                     |ABC | |a b                    |A and B overlap from 2 to 2: 1 lines that are in both are taken once, A and C overlap from 2 to 2: 1 lines that are in both are taken once, B and C overlap from 2 to 2: 1 lines that are in both are taken once
+1a 2b;2b;2b                     |ABC | |a b                    |A and B overlap from 2 to 2: 1 line that is in both is taken once, A and C overlap from 2 to 2: 1 line that is in both is taken once, B and C overlap from 2 to 2: 1 line that is in both is taken once
 1a 3b 5c;2d 4e                  |AB  | |a d b e c              |A and B overlap from 2 to 4: taken together by their times
 1c 2d;1a 2b                     |BA  | |a c b d                |B and A overlap from 1 to 2: taken together by their times
 a 2b c;1d 2e 3f                 |AB  | |d e a b c f
@@ -164,7 +164,7 @@ b c;1a                          |ABAB| |b c a                  |A: no line has a
 ! 2a;1b                         |AB  |k|b !A1 a
 1a                              |AM  | |                       |M: No such file or directory
 1a                              |MA  |k|!M0 a
-1a                              |AT  |k|a !T1                  |A and T overlap from 1 to 1: 1 lines that are in both are taken once
+1a                              |AT  |k|a !T1                  |A and T overlap from 1 to 1: 1 line that is in both is taken once
 1a                              |--  |k|                       |standard input can be given only once
 )"_s);
     }
@@ -220,12 +220,12 @@ S a500 k i o a50 k i             |  | [1-5] c500 0+ 1 0 0 1+ [6-8) c50 0 1 0 0 1
 S o a50 g j n i                  |  | [1-2] [6-7) c50 0 0~1 0 0 0~1
 S o o n a50 k i                  |  | [1-2] [4-7) c50 0 1 0 0 1
 S o n a500 k o n i               |  | [1-2] [3-6] c500 0 1 0 0 1 [7-8)
-S o n a500 g j o n i             |  | [1-2] [3-7] c500 0 0~1 0 0 0~1 [8-9) c500 0 0~1 0 0 0~1 | 1 pieces got stuck on their way
+S o n a500 g j o n i             |  | [1-2] [3-7] c500 0 0~1 0 0 0~1 [8-9) c500 0 0~1 0 0 0~1 | 1 piece got stuck on its way
 S o n a500 g j i o n             |  | [1-2] [3-8] c500 0 0~1 0 0 0~1 [9-9)
-S o n a50 k i S a50 d S i        |  | [1-2] [3-11) c50 0 1~2 0 0 1~2                       | of 1 pieces the log does not say what became of them
-S o n a50 k i A k i              |  | [1-2] [3-9) c50 0 1~2 0 0 1~2                        | 1 pieces of unknown value were taken
+S o n a50 k i S a50 d S i        |  | [1-2] [3-11) c50 0 1~2 0 0 1~2                       | of 1 piece the log does not say what became of it
+S o n a50 k i A k i              |  | [1-2] [3-9) c50 0 1~2 0 0 1~2                        | 1 piece of unknown value was taken
 S o n a50 k i a50 b i a50 r i    |  | [1-2] [3-12) c50 0 1 0 0 1
-S C5 o n a50 k i C7              |  | [1-3] [4-8) c50 0 1~2 0 0 1~2                        | by the device's counter 1 pieces are missing
+S C5 o n a50 k i C7              |  | [1-3] [4-8) c50 0 1~2 0 0 1~2                        | by the device's counter 1 piece is missing
 s o n a50 c50 i $90              |  | [1-2] [3-7) c50 0 1 0 0 1
 s o n a50 c50 i S $20            |  | [1-2] [3-8) c50 0 1~2 0 0 1~2
 
@@ -238,14 +238,14 @@ s o n f #2 F i                   |  | [1-2] [3-7) c100 0 0 0 2 2 h100 4 0 0 -2 2
 s o n e #2 o n E i               |  | [1-2] [3-6] c100 0 0 0 2 2 h100 4 0 0 -2 2 [7-9)
 s o n e #2 o n i                 |  | [1-2] [3-6] c100 0 0 0 0~2 0~2 h100 4 0 0 -2 2 [7-8) c100 0 0 0 0~2 0~2
 s o n e #2 j                     |  | [1-2] [3-6) c100 0 0 0 0~3 0~3 h100 4 0 0 -3~-2 1~2  | the log does not tell the end of a payout, a float or an emptying, 3 pieces may be on their way
-S o n a100 g #4 k i              |  | [1-2] [3-8) c100 0 0~1 0 0 0~1                       | of 1 pieces the registry does not tell whether they are in a channel
+S o n a100 g #4 k i              |  | [1-2] [3-8) c100 0 0~1 0 0 0~1                       | of 1 piece the registry does not tell whether it is in a channel
 S o n a100 k i #4                |  | [1-2] [3-7) c100 0 0~1 0 0 0~1
 S o n a100 k i e #2 E i          |  | [1-2] [3-10) c100 0 1+ 0 0 1+                        | the registry was told for the first time while channels were floated or emptied
 S o n a50 k i #4                 |  | [1-2] [3-7) c50 0 1 0 0 1
 
-s o n a500 k i ! a500 k i        | --keep-going | [1-2] [3-10) c500 0 2+ 0 0 2+            | 1 lines were skipped
+s o n a500 k i ! a500 k i        | --keep-going | [1-2] [3-10) c500 0 2+ 0 0 2+            | 1 line was skipped
 s o n a500 k i ! o n a500 k i    | --keep-going | [1-2] [3-8] c500 0 1+ 0 0 1+ [9-12) c500 0 1 0 0 1 h100 0+ 0 0 0 0+ r100 0+ 0 0 0 0+
-s o n a500 d ! i                 | --keep-going | [1-2] [3-7) c500 0 0+ 0 0 0+             | lines were skipped while 1 pieces were on their way
+s o n a500 d ! i                 | --keep-going | [1-2] [3-7) c500 0 0+ 0 0 0+             | lines were skipped while 1 piece was on its way
 s o n ! #2                       | --keep-going | [1-2] [3-5) c100 0 0+ 0 0~2 0+ h100 4 0 0~2 -2~0 2
 
 00=S 01=o 02=n 03=a50 04=k 05=i 06=a20 07=k 08=i 09=o 10=n | --from 2026-01-01T10:06Z | [7-10] c20 0 1 0 0 1 c50 1 0 0 0 1 [11-11)
@@ -376,9 +376,9 @@ s                                    | {"device":7}                     | counts
 recycler-payout.jsonl                 |             | Everything adds up.
 fished-note.jsonl                     |             |
 jam.jsonl                             |             | taken out: at least 0<
-+A s a500 c500 i o n a50 k i a20 j i  |             | 1 things do not add up.; taken and not credited; in the cassette: 50 to 70 XTS<; taken out: at least 500 XTS<; The device says of its cash: 77
++A s a500 c500 i o n a50 k i a20 j i  |             | 1 thing does not add up.; taken and not credited; in the cassette: 50 to 70 XTS<; taken out: at least 500 XTS<; The device says of its cash: 77
 +A s a500 c500 i o n a50 c550 i       | --last      | in the cassette: 50 XTS<; >450 XTS<
-+A s a500 c500 i o n s a50 j i o      | --counted F | Of 2 counts 2 are not right.; data-name="Difference">2 short<; data-name="Difference">1 over<; 1 pieces got stuck on their way; >taken out with 0 to 50 XTS<
++A s a500 c500 i o n s a50 j i o      | --counted F | Of 2 counts 2 are not right.; data-name="Difference">2 short<; data-name="Difference">1 over<; 1 piece got stuck on its way; >taken out with 0 to 50 XTS<
 s a500 c500 i                         | --counted F | Of 2 counts 1 are not right.; >right<; nothing in the logs
 s a100 c100 i s ! !                   | --keep-going | in the cassette: at least 0 XTS<
 +A s a5 c5 i o +B s a6 c6 i o         |             | >Kiosk A: Note recycler; >Kiosk B: Note recycler
