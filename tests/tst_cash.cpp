@@ -140,7 +140,7 @@ private Q_SLOTS:
 2b 2b 3c 3c 4d;1a 2b 2b 3c      |AB  | |a b b c c d            |A and B overlap from 2 to 3: 3 lines that are in both are taken once
 1a 1a 2b                        |AZ  | |a a b                  |A and Z overlap from 1 to 2: 3 lines that are in both are taken once
 1a 2b                           |AA  | |a b                    |A and A overlap from 1 to 2: 2 lines that are in both are taken once
-1a 2b;2b;2b                     |ABC | |a b                    |A and B overlap from 2 to 2: 1 line that is in both is taken once, A and C overlap from 2 to 2: 1 line that is in both is taken once, B and C overlap from 2 to 2: 1 line that is in both is taken once
+1a 2b;2b;2b                     |ABC | |a b                    |A and B overlap from 2 to 2: 1 lines that are in both are taken once, A and C overlap from 2 to 2: 1 lines that are in both are taken once, B and C overlap from 2 to 2: 1 lines that are in both are taken once
 1a 3b 5c;2d 4e                  |AB  | |a d b e c              |A and B overlap from 2 to 4: taken together by their times
 1c 2d;1a 2b                     |BA  | |a c b d                |B and A overlap from 1 to 2: taken together by their times
 a 2b c;1d 2e 3f                 |AB  | |d e a b c f
@@ -164,7 +164,7 @@ b c;1a                          |ABAB| |b c a                  |A: no line has a
 ! 2a;1b                         |AB  |k|b !A1 a
 1a                              |AM  | |                       |M: No such file or directory
 1a                              |MA  |k|!M0 a
-1a                              |AT  |k|a !T1                  |A and T overlap from 1 to 1: 1 line that is in both is taken once
+1a                              |AT  |k|a !T1                  |A and T overlap from 1 to 1: 1 lines that are in both are taken once
 1a                              |--  |k|                       |standard input can be given only once
 )"_s);
     }
