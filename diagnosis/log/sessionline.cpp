@@ -178,18 +178,26 @@ private:
 
 bool read(JsonReader& json, QList<Row>& field)
 {
+    // Those of the line before, mostly: they are then shared.
+    static thread_local QString lastText;
+    static thread_local QList<Row> lastRows;
+    if (json.skipText(lastText)) {
+        field = lastRows;
+        return true;
+    }
+    const QStringView begin = json.rest();
     field.clear();
-    std::optional<Fault> fault; // that of a text which is no JSON further on comes before it
+    QString fault; // that of a text which is no JSON further on comes before it
     const auto readRow = [&] {
-        RowReader reader(field.isEmpty() ? QString() : field.last().currency);
+        RowReader reader(field.isEmpty() ? QString() : field.constLast().currency);
         const bool isSound = reader.read(json);
-        if (!isSound || fault)
+        if (!isSound || !fault.isNull())
             return isSound;
         try {
             field.append(reader.row());
         } catch (const Fault& found) {
-            fault = Fault{
-                Diagnosis::tr("row %1: %2").arg(QString::number(field.size() + 1), found.message)};
+            fault =
+                Diagnosis::tr("row %1: %2").arg(QString::number(field.size() + 1), found.message);
         }
         return true;
     };
@@ -198,8 +206,10 @@ bool read(JsonReader& json, QList<Row>& field)
         return false;
     if (!isList)
         throw Fault{Diagnosis::tr("expected a list of registry rows")};
-    if (fault)
-        throw *fault;
+    if (!fault.isNull())
+        throw Fault{fault};
+    lastText = begin.chopped(json.rest().size()).toString();
+    lastRows = field;
     return true;
 }
 
