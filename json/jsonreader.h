@@ -79,6 +79,19 @@ public:
     bool isAtArray() const { return current() == u'['; }
     bool isAtEnd() const { return m_next == m_end; }
 
+    /// The text that is not read yet.
+    QStringView rest() const { return {m_next, m_end}; }
+
+    /// Passes over an object or array that was read before, if its text stands here again.
+    bool skipText(QStringView text)
+    {
+        if (text.isEmpty() || !isAt(m_next, text))
+            return false;
+        m_next += text.size();
+        skipSpace();
+        return true;
+    }
+
     /// Reads an object: @p readMember(key) reads the value of each member. The key is valid until
     /// then.
     template <typename Read>

@@ -79,12 +79,21 @@ private Q_SLOTS:
             {"current_channel":40000}                       | expected a whole number from -32768
             {"session":"end"}                               | "session": expected "start"
             {"dispenser_registry":[{"currency":"RUB"}]}     | row 1: key "denomination" is missing
+            {"dispenser_registry":[{ROW},5]}                | row 2: key "currency" is missing
+            {"dispenser_registry":[{ROW,"rejected":1.5}]}   | row 1: "rejected" cannot hold this value
+            {"dispenser_registry":[{ROW,"d":1,"count":""}]} | row 1: "count" cannot hold this value
+            {"dispenser_registry":[{ROW,"count":1,"d":1}]}  | row 1: unknown key "d"
+            {"dispenser_registry":[{ROW,"count":null},}     | not JSON
             {"dispenser_registry":{}}                       | expected a list of registry rows)"_s);
     }
 
     void badSessionLineIsNamed()
     {
-        const auto [line, fault] = cells<2>();
+        const auto [cell, fault] = cells<2>();
+        const QString row =
+            R"("currency":"","denomination":5,"bill_type":1,"count":"of doubled keys the last",)"
+            R"("count":1e3,"thread_id":0,"device_id":0,"channel":65535)"_s;
+        const QString line = QString(cell).replace("ROW"_s, row);
         const QString session = writeFile(m_folder.filePath("bad.jsonl"_s),
                                           "{\"state\":\"idling\"}\n"_s + line + "\n{}\n"_s);
         const VelmoRun run =

@@ -11,11 +11,11 @@
 #include "text/diagnosis.h"
 #include "text/textinput.h"
 
-#include <QJsonObject>
-
 #include <array>
+#include <bitset>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <tuple>
 #include <type_traits>
 
@@ -83,41 +83,133 @@ bool read(JsonReader& json, State& field)
     return true;
 }
 
-DispenserRegistryItem registryRow(const QVariantMap& map)
+bool read(JsonReader& json, Acceptors::billTypes& field)
 {
-    DispenserRegistryItem row;
-    QString missingKey;
-    if (!row.fromMap(map, &missingKey))
-        throw Fault{Diagnosis::tr("key \"%1\" is missing").arg(missingKey)};
-    // The row reads leniently, but must say what the line says.
-    const QJsonObject said = QJsonObject::fromVariantMap(map);
-    const QJsonObject taken = QJsonObject::fromVariantMap(row.toMap());
-    for (auto field = said.begin(); field != said.end(); ++field) {
-        if (!taken.contains(field.key()))
-            throw unknownKey(field.key());
-        if (taken.value(field.key()) != field.value())
-            throw Fault{Diagnosis::tr("\"%1\" cannot hold this value").arg(field.key())};
-    }
-    return row;
+    qint32 number = 0;
+    const bool isSound = read(json, number);
+    field = static_cast<Acceptors::billTypes>(number);
+    return isSound;
 }
 
-bool read(JsonReader& json, QList<DispenserRegistryItem>& field)
+using Row = DispenserRegistryItem;
+
+struct RowField
 {
-    QVariant value;
-    if (!json.readValue(value))
-        return false;
-    if (value.userType() != QMetaType::QVariantList)
-        throw Fault{Diagnosis::tr("expected a list of registry rows")};
-    field.clear();
-    const QVariantList rows = value.toList();
-    for (const QVariant& row : rows) {
-        try {
-            field.append(registryRow(row.toMap()));
-        } catch (const Fault& fault) {
-            throw Fault{
-                Diagnosis::tr("row %1: %2").arg(QString::number(field.size() + 1), fault.message)};
-        }
+    const QString* key;
+    bool (*read)(JsonReader& json, Row& row);
+};
+
+template <auto Member>
+RowField rowField(const QString& key)
+{
+    return {&key, [](JsonReader& json, Row& row) { return read(json, row.*Member); }};
+}
+
+// In the order in which the row misses them.
+const auto& rowFields()
+{
+    static const std::array fields{
+        rowField<&Row::currency>(Row::CURRENCY),  rowField<&Row::denomination>(Row::DENOMINATION),
+        rowField<&Row::billType>(Row::BILL_TYPE), rowField<&Row::count>(Row::COUNT),
+        rowField<&Row::threadId>(Row::THREAD_ID), rowField<&Row::deviceId>(Row::DEVICE_ID),
+        rowField<&Row::channel>(Row::CHANNEL),    rowField<&Row::rejected>(Row::REJECTED)};
+    return fields;
+}
+
+const auto& rowKeys()
+{
+    static const KeyOrder order(keysOf(rowFields()));
+    return order;
+}
+
+// A row as it is read. Of doubled keys the last one counts, so that its faults show at its end.
+class RowReader
+{
+public:
+    explicit RowReader(const QString& likelyCurrency) { m_row.currency = likelyCurrency; }
+
+    bool read(JsonReader& json)
+    {
+        if (!json.isAtObject())
+            return json.skipValue(); // misses every key
+        return json.readObject(rowKeys(), [&](size_t index, QStringView key) {
+            if (index == rowFields().size()) {
+                if (!m_unknown || key < *m_unknown)
+                    m_unknown = key.toString();
+                return json.skipValue();
+            }
+            m_isTold.set(index);
+            m_isRefused.reset(index);
+            try {
+                return rowFields()[index].read(json, m_row);
+            } catch (const Fault&) {
+                m_isRefused.set(index);
+                return true;
+            }
+        });
     }
+
+    // Throws Fault for the first one in the order of the keys; what is missing comes before all.
+    const Row& row() const
+    {
+        for (size_t i = 0; i < rowFields().size(); ++i) {
+            const QString& key = *rowFields()[i].key;
+            if (!m_isTold[i] && key != Row::REJECTED)
+                throw Fault{Diagnosis::tr("key \"%1\" is missing").arg(key)};
+        }
+        for (const size_t i : rowKeys().ascending()) {
+            const QString& key = *rowFields()[i].key;
+            if (m_isRefused[i] && (!m_unknown || key < *m_unknown))
+                throw Fault{Diagnosis::tr("\"%1\" cannot hold this value").arg(key)};
+        }
+        if (m_unknown)
+            throw unknownKey(*m_unknown);
+        return m_row;
+    }
+
+private:
+    using Fields = std::decay_t<decltype(rowFields())>;
+
+    Row m_row;
+    std::bitset<std::tuple_size_v<Fields>> m_isTold;
+    std::bitset<std::tuple_size_v<Fields>> m_isRefused; // by its field
+    std::optional<QString> m_unknown; // the first one in the order of the keys
+};
+
+bool read(JsonReader& json, QList<Row>& field)
+{
+    // Those of the line before, mostly: they are then shared.
+    static thread_local QString lastText;
+    static thread_local QList<Row> lastRows;
+    if (json.skipText(lastText)) {
+        field = lastRows;
+        return true;
+    }
+    const QStringView begin = json.rest();
+    field.clear();
+    QString fault; // that of a text which is no JSON further on comes before it
+    const auto readRow = [&] {
+        RowReader reader(field.isEmpty() ? QString() : field.constLast().currency);
+        const bool isSound = reader.read(json);
+        if (!isSound || !fault.isNull())
+            return isSound;
+        try {
+            field.append(reader.row());
+        } catch (const Fault& found) {
+            fault =
+                Diagnosis::tr("row %1: %2").arg(QString::number(field.size() + 1), found.message);
+        }
+        return true;
+    };
+    const bool isList = json.isAtArray();
+    if (isList ? !json.readArray(readRow) : !json.skipValue())
+        return false;
+    if (!isList)
+        throw Fault{Diagnosis::tr("expected a list of registry rows")};
+    if (!fault.isNull())
+        throw Fault{fault};
+    lastText = begin.chopped(json.rest().size()).toString();
+    lastRows = field;
     return true;
 }
 
