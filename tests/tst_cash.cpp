@@ -141,6 +141,9 @@ private Q_SLOTS:
 1a 1a 2b                        |AZ  | |a a b                  |A and Z overlap from 1 to 2: 3 lines that are in both are taken once
 1a 2b                           |AA  | |a b                    |A and A overlap from 1 to 2: 2 lines that are in both are taken once
 1a 2b;2b;2b                     |ABC | |a b                    |A and B overlap from 2 to 2: 1 lines that are in both are taken once, A and C overlap from 2 to 2: 1 lines that are in both are taken once, B and C overlap from 2 to 2: 1 lines that are in both are taken once
+0a 0b;0a 0b 0c                  |AB  | |a b !B1 c              |B begins in the second in which A ends, with lines of that: taken once, though they may have happened twice, A and B overlap from 0 to 0: 2 lines that are in both are taken once
+0a 0b;0b 1a                     |AB  | |a b a                  |A and B overlap from 0 to 0: 1 lines that are in both are taken once
+1a 2b;1c 2b                     |AB  | |a c b b                |A and B overlap from 1 to 2: taken together by their times
 1a 3b 5c;2d 4e                  |AB  | |a d b e c              |A and B overlap from 2 to 4: taken together by their times
 1c 2d;1a 2b                     |BA  | |a c b d                |B and A overlap from 1 to 2: taken together by their times
 a 2b c;1d 2e 3f                 |AB  | |d e a b c f
@@ -187,8 +190,8 @@ b c;1a                          |ABAB| |b c a                  |A: no line has a
                     told += QString(QChar(line.line.reports().at(0).fields.currentNote))
                         + (line.kiosk.isEmpty() ? QString() : QLatin1Char('@') + line.kiosk);
                 },
-                [&](int log, const QString&, qint64 line) {
-                    told += "!%1%2"_s.arg(files.at(log)).arg(line);
+                [&](const StreamGap& gap) {
+                    told += "!%1%2"_s.arg(files.at(gap.log)).arg(gap.number);
                 });
             said = stream.notes();
         } catch (const Fault& fault) {
@@ -254,6 +257,9 @@ s o n ! #2                       | --keep-going | [1-2] [3-5) c100 0 0+ 0 0~2 0+
 00=S 01=o 02=n 03=a50 04=k 05=i 06=a20 07=k 08=i 09=o 10=n | --last | [11-11)
 00=s 01=p 02=#3 03=q 04=i 05=a100 06=k,#4               | --from 2026-01-01T10:05Z | [6-7) h100 3 1 0 0 4
 00=S 01=o 02=n 03=a50;04=k 05=i 06=a50 07=k              |  | [1-2] [3-4) c50 0 2 0 0 2
+00=S 01=o 02=n 03=a50 04=k;09=S;05=S 06=o 07=n 08=a20 09=k | --per-file --to 2026-01-01T10:08Z | log1[1-2] log1[3-5) c50 0 1 0 0 1 log3[1-2] log3[3-4) c20 0 0~1 0 0 0~1
+00=S 01=o 02=n 03=a50 @ 05=k 07=i;@9 00=S 01=o 02=n 04=a20 @ 06=k | | [1-2] [3-6) c50 0 1 0 0 1 9[1-2] 9[3-5) c20 0 1 0 0 1
+00=S 01=o 02=n 03=a50 @ 05=k 07=i;@9 00=S 01=o 02=n 03=a20 @ 05=k 07=i | | [1-2] [3-6) c50 0 1 0 0 1 9[1-2] 9[3-6) c20 0 1 0 0 1
 @7 S o n a50 k i @9 S o n a20 k i                |  | [1-2] [3-6) c50 0 1 0 0 1 9[7-8] 9[9-12) c20 0 1 0 0 1
 @7 S o n a50 k i @9 S o n a20 k i                | --device 9 | 9[7-8] 9[9-12) c20 0 1 0 0 1
 +A S o n a50 k i +B S o n a20 k i                |  | A[1-2] A[3-6) c50 0 1 0 0 1 B[7-8] B[9-12) c20 0 1 0 0 1

@@ -30,8 +30,7 @@ public:
     void take(const StreamLine& line)
     {
         m_isAnyTimed = m_isAnyTimed || line.moment;
-        m_isOver = m_isOver || m_period.isBefore(line.moment);
-        if (m_isOver)
+        if (m_period.isBefore(line.moment))
             return;
         Kiosk& kiosk = ledgerOf(line.kiosk);
         const qint64 position = LogPosition::of(line.log, line.number);
@@ -43,15 +42,14 @@ public:
         kiosk.ledger.take(shown, position);
     }
 
-    // Line 0 stands for a whole log.
-    void skip(int log, const QString& kiosk, qint64 line)
+    void doubt(const StreamGap& gap)
     {
-        m_isLogMissing = m_isLogMissing || line == 0;
-        if (m_isOver && line > 0)
+        m_isLogMissing = m_isLogMissing || gap.number == 0;
+        if (m_period.isBefore(gap.moment))
             return;
         for (const auto& [name, known] : m_kiosks) {
-            if (kiosk.isEmpty() || name == kiosk)
-                known->ledger.skipLine(LogPosition::of(log, line));
+            if (gap.kiosks.empty() || gap.kiosks.count(QString()) > 0 || gap.kiosks.count(name) > 0)
+                known->ledger.skipLine(LogPosition::of(gap.log, gap.number));
         }
     }
 
@@ -123,7 +121,6 @@ private:
     const bool m_utc;
     std::optional<quint32> m_device;
     bool m_isAnyTimed = false;
-    bool m_isOver = false; // the time that is asked for
     bool m_isLogMissing = false;
     std::map<QString, std::unique_ptr<Kiosk>> m_kiosks;
 };
@@ -187,7 +184,7 @@ int cashCommand(const Arguments& arguments)
                      arguments.isSet(options::keepGoing));
     const int exitCode = stream.read(
         [&](const StreamLine& line) { reading.take(line); },
-        [&](int log, const QString& kiosk, qint64 line) { reading.skip(log, kiosk, line); });
+        [&](const StreamGap& gap) { reading.doubt(gap); });
     CashAnswer answer = reading.answer(stream.notes());
     compareCounts(answer, counts);
     bool isSound = true;

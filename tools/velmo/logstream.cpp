@@ -16,6 +16,7 @@
 #include <map>
 #include <set>
 #include <tuple>
+#include <vector>
 
 namespace {
 
@@ -54,20 +55,30 @@ public:
         m_begin = m_last;
         if (!isReadOnce)
             open();
+        m_entry = {};
         return m_begin || !anyLine;
     }
 
     bool next()
     {
+        m_isFirst = m_lastText.isNull() && m_entry.text.isNull();
+        m_lastText = m_entry.text.isNull() ? m_lastText : m_entry.text;
         if (m_ahead.empty())
-            return read();
+            return m_hasMore = read();
         m_entry = std::move(m_ahead.front());
         m_ahead.pop_front();
         return true;
     }
 
+    bool hasMore() const { return m_hasMore; }
+
+    // Whether no line was before the entry, and what the last one says.
+    bool isFirst() const { return m_isFirst; }
+    const QByteArray& lastText() const { return m_lastText; }
+
     const TextInput& file() const { return *m_file; }
     Entry& entry() { return m_entry; }
+    const Entry& entry() const { return m_entry; }
 
     // Where the entry stands among those of other logs.
     qint64 moment() const { return m_last.value_or(begin()); }
@@ -95,6 +106,8 @@ public:
 
     QString namedKiosk; // by the last line that names one
     std::set<QString> kiosks; // that its lines are of
+    bool isCopied = false; // the line before the entry
+    bool isDoubted = false; // whether its beginning is a copy
 
 private:
     void open()
@@ -147,6 +160,9 @@ private:
     const bool m_keepGoing;
     std::optional<TextInput> m_file;
     bool m_isAtEnd = false;
+    bool m_hasMore = true;
+    bool m_isFirst = true;
+    QByteArray m_lastText;
     Entry m_entry;
     std::deque<Entry> m_ahead; // read already, before the entry
     std::optional<qint64> m_begin; // where it was looked for
@@ -162,22 +178,26 @@ class Repeats
 public:
     bool isAt(qint64 moment) const { return m_moment == moment; }
 
-    // Whether another log had this line as often before.
-    bool isOne(qint64 moment, int log, const QString& kiosk, const QByteArray& text)
+    // The other logs that had this line as often before.
+    std::vector<int> logsWith(qint64 moment, int log, const QString& kiosk, const QByteArray& text)
     {
         if (!isAt(moment))
             m_counts.clear();
         m_moment = moment;
         std::map<int, int>& counts = m_counts[{kiosk, text}];
         const int count = ++counts[log];
-        bool isRepeated = false;
+        std::vector<int> logs;
         for (const auto& [other, otherCount] : counts) {
-            if (other == log || otherCount < count)
-                continue;
-            isRepeated = true;
-            ++m_common[std::minmax(log, other)];
+            if (other != log && otherCount >= count)
+                logs.push_back(other);
         }
-        return isRepeated;
+        return logs;
+    }
+
+    void addCommon(int log, const std::vector<int>& others)
+    {
+        for (const int other : others)
+            ++m_common[std::minmax(log, other)];
     }
 
     qint64 between(int log, int other) const
@@ -233,6 +253,23 @@ private:
 
 using Logs = std::map<int, Log>; // by index
 
+bool namesDevice(const SessionLine& line)
+{
+    static const quint32 deviceBit = DeviceReport::bit(deviceStateDescConst::DEVICE_ID);
+    return line.isPublished() || line.reports().front().has(deviceBit);
+}
+
+// Whether a line that others have as well may have happened again: they end in the second in which
+// its log begins. The very same line once more would say nothing new.
+bool mayBeAnother(const Log& log, const Logs& logs, const std::vector<int>& others)
+{
+    return log.moment() == log.begin() && log.moment() % 1000 == 0
+        && std::all_of(others.begin(), others.end(), [&](int other) {
+               const Log& known = logs.at(other);
+               return !known.hasMore() && !(log.isFirst() && known.lastText() == log.entry().text);
+           });
+}
+
 // Those that can be opened.
 Logs openLogs(const QStringList& fileNames, bool keepGoing,
               const std::function<void(int index)>& skipped)
@@ -286,10 +323,10 @@ LogStream::LogStream(const QStringList& logs, bool perFile, bool keepGoing)
         throw Fault{Velmo::tr("standard input can be given only once")};
 }
 
-int LogStream::read(const Take& take, const Skip& skipped)
+int LogStream::read(const Take& take, const Doubt& doubt)
 {
     Logs logs = openLogs(m_logs, m_keepGoing, [&](int index) {
-        skipped(index, m_perFile ? m_logs.at(index) : QString(), 0);
+        doubt({index, 0, m_perFile ? std::set<QString>{m_logs.at(index)} : std::set<QString>(), {}});
     });
     const bool byTimes = logs.size() > 1 && !m_perFile && findBegins(logs, m_notes);
 
@@ -322,15 +359,34 @@ int LogStream::read(const Take& take, const Skip& skipped)
             entry.fault = fault.message;
         }
         const QString kiosk = kiosks.of(log);
+        if (byTimes)
+            entry.moment = moment;
+        const StreamGap gap{index, entry.number, {kiosk}, entry.moment};
         const bool isShared = byTimes
             && (repeats.isAt(moment) || (!heads.empty() && std::get<0>(*heads.begin()) == moment));
         if (!entry.fault.isNull()) {
             printError(entry.fault);
             ++badLines;
-            skipped(index, kiosk, entry.number);
-        } else if (log.kiosks.insert(kiosk);
-                   !isShared || !repeats.isOne(moment, index, kiosk, entry.text)) {
-            take({std::move(*entry.line), index, entry.number, kiosk, entry.moment});
+            doubt(gap);
+        } else {
+            log.kiosks.insert(kiosk);
+            std::vector<int> others;
+            if (isShared)
+                others = repeats.logsWith(moment, index, kiosk, entry.text);
+            const bool isInRun = log.isFirst() || log.isCopied || namesDevice(*entry.line);
+            log.isCopied = !others.empty() && isInRun;
+            if (!log.isCopied) {
+                take({std::move(*entry.line), index, entry.number, kiosk, entry.moment});
+            } else {
+                repeats.addCommon(index, others);
+                if (!log.isDoubted && mayBeAnother(log, logs, others)) {
+                    log.isDoubted = true;
+                    m_notes += Velmo::tr("%1 begins in the second in which %2 ends, with lines of "
+                                         "that: taken once, though they may have happened twice")
+                                   .arg(log.file().name(), logs.at(others.front()).file().name());
+                    doubt(gap);
+                }
+            }
         }
         if (log.next()) {
             head.value() = placeOf(index, log);
