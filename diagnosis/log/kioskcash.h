@@ -17,6 +17,7 @@ struct KioskCash
     std::vector<CashPeriod> periods;
     std::vector<Contradiction> contradictions;
     std::vector<CashDifference> differences; ///< one for each count
+    bool isCut = false; ///< lines behind the time that is asked for are left out
 };
 
 /// Of all kiosks that the logs are of.

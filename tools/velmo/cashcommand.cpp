@@ -30,8 +30,12 @@ public:
     void take(const StreamLine& line)
     {
         m_isAnyTimed = m_isAnyTimed || line.moment;
-        if (m_period.isBefore(line.moment))
+        if (m_period.isBefore(line.moment)) {
+            const auto known = m_kiosks.find(line.kiosk);
+            if (known != m_kiosks.end())
+                known->second->isCut = true;
             return;
+        }
         Kiosk& kiosk = ledgerOf(line.kiosk);
         const qint64 position = LogPosition::of(line.log, line.number);
         SessionLine shown = line.line;
@@ -67,9 +71,9 @@ public:
             answer.kiosks.push_back({name,
                                      known->ledger.periods(m_isLogMissing),
                                      std::move(known->contradictions),
-                                     {}});
+                                     {},
+                                     known->isCut});
             answer.summary.add(known->ledger.summary());
-            answer.summary.contradictions += qint64(answer.kiosks.back().contradictions.size());
             answer.devices += known->ledger.devices();
         }
         if (m_device && answer.devices == 0)
@@ -97,6 +101,7 @@ private:
         std::vector<Contradiction> contradictions;
         CashLedger ledger;
         bool hasBegun = false;
+        bool isCut = false; // lines came behind the time that is asked for
     };
 
     Kiosk& ledgerOf(const QString& name)
@@ -143,18 +148,28 @@ void compareCounts(CashAnswer& answer, const std::vector<CashCount>& counts)
     }
 }
 
-// Leaves the newest period of each device.
+// Leaves the newest period of each device, and what does not add up in it.
 void leaveLast(KioskCash& kiosk)
 {
     std::vector<CashPeriod>& periods = kiosk.periods;
     std::vector<CashPeriod> last;
     for (size_t i = 0; i < periods.size(); ++i) {
-        const bool isLast = i + 1 == periods.size() || periods.at(i + 1).number == 1
-            || periods.at(i + 1).device != periods.at(i).device
-            || periods.at(i + 1).thread != periods.at(i).thread;
-        if (isLast)
+        if (i + 1 == periods.size() || !periods.at(i).isOfSameDevice(periods.at(i + 1)))
             last.push_back(std::move(periods.at(i)));
     }
+    const auto isBefore = [](const Contradiction& found, const CashPeriod& period) {
+        return found.device == period.device && found.thread == period.thread
+            && LogMoment{found.line, found.time}.isBefore({period.fromPosition, period.from});
+    };
+    std::vector<Contradiction>& all = kiosk.contradictions;
+    all.erase(std::remove_if(all.begin(), all.end(),
+                             [&](const Contradiction& found) {
+                                 return std::any_of(last.begin(), last.end(),
+                                                    [&](const CashPeriod& period) {
+                                                        return isBefore(found, period);
+                                                    });
+                             }),
+              all.end());
     periods = std::move(last);
 }
 
@@ -191,6 +206,7 @@ int cashCommand(const Arguments& arguments)
     for (KioskCash& kiosk : answer.kiosks) {
         if (arguments.isSet(options::last))
             leaveLast(kiosk);
+        answer.summary.contradictions += qint64(kiosk.contradictions.size());
         isSound = isSound && kiosk.contradictions.empty()
             && std::all_of(kiosk.differences.begin(), kiosk.differences.end(),
                            [](const CashDifference& d) { return d.difference == 0; });

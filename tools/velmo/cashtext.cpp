@@ -20,12 +20,13 @@ QString momentText(const QStringList& logs, const LogTime& time, qint64 position
         : place;
 }
 
-QString periodText(const QStringList& logs, const CashPeriod& period)
+QString periodText(const QStringList& logs, const KioskCash& kiosk, const CashPeriod& period)
 {
     const QString from = momentText(logs, period.from, period.fromPosition);
     const QString to = momentText(logs, period.to, period.toPosition);
-    return (period.isOpen ? Velmo::tr("Period %1: from %2 to the end, %3")
-                          : Velmo::tr("Period %1: from %2 to its collection, %3"))
+    return (!period.isOpen     ? Velmo::tr("Period %1: from %2 to its collection, %3")
+                : kiosk.isCut ? Velmo::tr("Period %1: from %2 to the time that is asked for, %3")
+                              : Velmo::tr("Period %1: from %2 to the end, %3"))
                .arg(QString::number(period.number), from, to)
         + QStringLiteral("; ") + Velmo::tr("%n sessions", nullptr, period.sessions);
 }
@@ -129,18 +130,24 @@ QString countsText(const CashAnswer& answer, const KioskCash& kiosk)
 QString cashText(const CashAnswer& answer)
 {
     QString text;
+    if (answer.devices == 0)
+        text = Velmo::tr("The logs tell of no device.") + QLatin1Char('\n');
     for (const KioskCash& kiosk : answer.kiosks) {
+        if (kiosk.periods.empty())
+            continue;
         if (!kiosk.kiosk.isEmpty())
             text += Velmo::tr("Kiosk %1").arg(printable(kiosk.kiosk)) + QStringLiteral("\n\n");
+        const CashPeriod* before = nullptr;
         for (const CashPeriod& period : kiosk.periods) {
-            if (period.number == kiosk.periods.front().number || period.number == 1)
+            if (!before || !before->isOfSameDevice(period))
                 text += printable(period.deviceName) + QLatin1Char('\n');
             text +=
-                printable(periodText(answer.logs, period)) + QLatin1Char('\n') + tableOf(period);
+                printable(periodText(answer.logs, kiosk, period)) + QLatin1Char('\n') + tableOf(period);
             if (period.cash)
                 text += Velmo::tr("The device says of its cash: %1").arg(*period.cash)
                     + QLatin1Char('\n');
             text += QLatin1Char('\n');
+            before = &period;
         }
         if (!kiosk.differences.empty())
             text += countsText(answer, kiosk) + QLatin1Char('\n');

@@ -231,6 +231,7 @@ public:
     // Throws Fault where it cannot be told.
     void take(Log& log)
     {
+        m_isNew = false;
         const QString named = log.entry().line->kiosk();
         const auto fault = [&](const QString& what) {
             return log.file().faultAt(log.entry().number, what);
@@ -240,15 +241,28 @@ public:
                 throw fault(Velmo::tr(R"(a line of kiosk "%1" in the log of "%2")")
                                 .arg(named, log.namedKiosk));
             log.namedKiosk = named;
-            m_named.insert(named);
+            m_isNew = m_named.insert(named).second;
+            m_first = m_first.isEmpty() ? named : m_first;
         }
+        m_anyUnnamed = m_anyUnnamed || log.namedKiosk.isEmpty();
         if (!m_perFile && log.namedKiosk.isEmpty() && m_named.size() > 1)
             throw fault(Velmo::tr("the line does not say which kiosk it is of"));
     }
 
+    // The kiosks that lines without a name may be of, when the line that was taken names one more.
+    std::set<QString> doubted() const
+    {
+        const bool areDoubted = m_isNew && m_anyUnnamed && m_named.size() > 1 && !m_perFile;
+        return areDoubted ? m_named : std::set<QString>();
+    }
+    QString first() const { return m_first; }
+
 private:
     const bool m_perFile;
     std::set<QString> m_named;
+    QString m_first; // that was named
+    bool m_isNew = false; // what the line names
+    bool m_anyUnnamed = false; // line
 };
 
 using Logs = std::map<int, Log>; // by index
@@ -361,12 +375,14 @@ int LogStream::read(const Take& take, const Doubt& doubt)
         const QString kiosk = kiosks.of(log);
         if (byTimes)
             entry.moment = moment;
-        const StreamGap gap{index, entry.number, {kiosk}, entry.moment};
+        StreamGap gap{index, entry.number, {kiosk}, entry.moment};
         const bool isShared = byTimes
             && (repeats.isAt(moment) || (!heads.empty() && std::get<0>(*heads.begin()) == moment));
         if (!entry.fault.isNull()) {
             printError(entry.fault);
             ++badLines;
+            log.kiosks.erase(QString());
+            gap.kiosks.insert(log.kiosks.begin(), log.kiosks.end());
             doubt(gap);
         } else {
             log.kiosks.insert(kiosk);
@@ -387,6 +403,13 @@ int LogStream::read(const Take& take, const Doubt& doubt)
                     doubt(gap);
                 }
             }
+        }
+        gap.kiosks = kiosks.doubted();
+        if (!gap.kiosks.empty()) {
+            m_notes += Velmo::tr("lines before the one that names kiosk \"%1\" do not say which "
+                                 "kiosk they are of: taken to be of \"%2\"")
+                           .arg(kiosk, kiosks.first());
+            doubt(gap);
         }
         if (log.next()) {
             head.value() = placeOf(index, log);

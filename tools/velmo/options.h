@@ -33,7 +33,7 @@ constexpr Option keepGoing{
         "Velmo", "Skip bad lines and what cannot be read of a log; the exit code is still 2.")};
 constexpr Option session{"session", nullptr, Value("N", Kind::Number),
                          QT_TRANSLATE_NOOP("Velmo", "Only session N, counted from 1 in each log.")};
-constexpr Option device{"device", nullptr, Value("ID", Kind::Number),
+constexpr Option device{"device", nullptr, Value("ID", Kind::Number, 0, std::numeric_limits<quint32>::max()),
                         QT_TRANSLATE_NOOP("Velmo", "Only the device with that identifier.")};
 constexpr Option from{
     "from", nullptr, Value("TIME", Kind::Text),
