@@ -72,6 +72,7 @@ public:
                                      known->ledger.periods(m_isLogMissing),
                                      std::move(known->contradictions),
                                      {},
+                                     {},
                                      known->isCut});
             answer.summary.add(known->ledger.summary());
             answer.devices += known->ledger.devices();
@@ -141,11 +142,18 @@ void compareCounts(CashAnswer& answer, const std::vector<CashCount>& counts)
             });
             if (kiosk == kiosks.end())
                 throw Fault{Velmo::tr("the logs have no such kiosk")};
-            kiosk->differences.push_back(compareCount(count, kiosk->periods));
+            CashDifference difference = compareCount(count, kiosk->periods);
+            for (const CashDifference& other : kiosk->differences) {
+                if (other.isOfRowOf(difference))
+                    throw Fault{Velmo::tr("the same is counted at %1").arg(other.count.where)};
+            }
+            kiosk->differences.push_back(std::move(difference));
         } catch (const Fault& fault) {
             throw Fault{QStringLiteral("%1: %2").arg(count.where, fault.message)};
         }
     }
+    for (KioskCash& kiosk : answer.kiosks)
+        kiosk.notCounted = rowsNotCounted(kiosk.differences, kiosk.periods);
 }
 
 // Leaves the newest period of each device, and what does not add up in it.
@@ -197,9 +205,8 @@ int cashCommand(const Arguments& arguments)
     CashReading reading(arguments);
     LogStream stream(arguments.operands(), arguments.isSet(options::perFile),
                      arguments.isSet(options::keepGoing));
-    const int exitCode = stream.read(
-        [&](const StreamLine& line) { reading.take(line); },
-        [&](const StreamGap& gap) { reading.doubt(gap); });
+    const int exitCode = stream.read([&](const StreamLine& line) { reading.take(line); },
+                                     [&](const StreamGap& gap) { reading.doubt(gap); });
     CashAnswer answer = reading.answer(stream.notes());
     compareCounts(answer, counts);
     bool isSound = true;

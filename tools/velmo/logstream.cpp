@@ -4,173 +4,18 @@
 #include "logstream.h"
 
 #include "command.h"
-#include "input.h"
-#include "jsonlines.h"
+#include "streamlog.h"
 
 #include <QHash>
 #include <QPair>
 
 #include <algorithm>
-#include <deque>
-#include <limits>
 #include <map>
 #include <set>
 #include <tuple>
 #include <vector>
 
 namespace {
-
-// What stands at a place of a log.
-struct Entry
-{
-    std::optional<SessionLine> line; // none where it is skipped
-    QString fault; // why it is
-    QByteArray text;
-    qint64 number = 0;
-    std::optional<qint64> moment;
-};
-
-// One of the logs, read as far as its entry.
-class Log
-{
-public:
-    Log(const QString& fileName, bool keepGoing)
-        : m_fileName(fileName)
-        , m_keepGoing(keepGoing)
-    {
-        open();
-    }
-
-    // Looks for the first time, which the lines before it need. False if there are lines and none
-    // has one.
-    bool findBegin()
-    {
-        const bool isReadOnce = m_fileName == QLatin1String("-") || m_file->isLive();
-        bool anyLine = false;
-        while (!m_last && read()) {
-            anyLine = anyLine || m_entry.line;
-            if (isReadOnce)
-                m_ahead.push_back(std::move(m_entry));
-        }
-        m_begin = m_last;
-        if (!isReadOnce)
-            open();
-        m_entry = {};
-        return m_begin || !anyLine;
-    }
-
-    bool next()
-    {
-        m_isFirst = m_lastText.isNull() && m_entry.text.isNull();
-        m_lastText = m_entry.text.isNull() ? m_lastText : m_entry.text;
-        if (m_ahead.empty())
-            return m_hasMore = read();
-        m_entry = std::move(m_ahead.front());
-        m_ahead.pop_front();
-        return true;
-    }
-
-    bool hasMore() const { return m_hasMore; }
-
-    // Whether no line was before the entry, and what the last one says.
-    bool isFirst() const { return m_isFirst; }
-    const QByteArray& lastText() const { return m_lastText; }
-
-    const TextInput& file() const { return *m_file; }
-    Entry& entry() { return m_entry; }
-    const Entry& entry() const { return m_entry; }
-
-    // Where the entry stands among those of other logs.
-    qint64 moment() const { return m_last.value_or(begin()); }
-    qint64 begin() const { return m_begin.value_or(std::numeric_limits<qint64>::min()); }
-
-    const QString& clockNote() const { return m_clockNote; }
-
-    // How the times of this log and another one overlap; empty if they do not.
-    QString overlap(const Log& other, qint64 commonLines) const
-    {
-        const Log& later = begin() < other.begin() ? other : *this;
-        const Log& sooner = moment() < other.moment() ? *this : other;
-        const bool areOfOneKiosk =
-            std::any_of(kiosks.begin(), kiosks.end(),
-                        [&](const QString& kiosk) { return other.kiosks.count(kiosk) > 0; });
-        if (commonLines == 0 && (!areOfOneKiosk || later.begin() >= sooner.moment()))
-            return {};
-        return Velmo::tr("%1 and %2 overlap from %3 to %4: %5")
-            .arg(m_file->name(), other.m_file->name(), later.m_beginTime.iso(),
-                 sooner.m_lastTime.iso(),
-                 commonLines == 0 ? Velmo::tr("taken together by their times")
-                                  : Velmo::tr("%n lines that are in both are taken once", nullptr,
-                                              int(commonLines)));
-    }
-
-    QString namedKiosk; // by the last line that names one
-    std::set<QString> kiosks; // that its lines are of
-    bool isCopied = false; // the line before the entry
-    bool isDoubted = false; // whether its beginning is a copy
-
-private:
-    void open()
-    {
-        m_file.emplace(openInput(m_fileName));
-        m_last.reset();
-        m_isAtEnd = false;
-    }
-
-    bool read()
-    {
-        if (m_isAtEnd)
-            return false;
-        m_entry = {};
-        m_isAtEnd = !takeLine(
-            *m_file, m_keepGoing,
-            [this](const QByteArray& text) {
-                m_entry.line = SessionLine::read(*m_file, text);
-                m_entry.text = text.trimmed();
-                passTime(m_entry.line->time());
-            },
-            [this](const QString& fault) { m_entry.fault = fault; });
-        m_entry.number = m_file->lineNumber();
-        m_entry.moment = m_last;
-        return m_entry.line || !m_entry.fault.isNull();
-    }
-
-    void passTime(const LogTime& time)
-    {
-        const std::optional<qint64> moment = time.moment();
-        if (!moment)
-            return;
-        if (moment < m_last) {
-            if (m_clockNote.isNull()) {
-                const QString note = Velmo::tr("the clock goes back from %1 to %2; the lines stay "
-                                               "in their order");
-                m_clockNote =
-                    m_file->faultAt(m_file->lineNumber(), note.arg(m_lastTime.iso(), time.iso()))
-                        .message;
-            }
-            return;
-        }
-        if (!m_last)
-            m_beginTime = time;
-        m_last = moment;
-        m_lastTime = time;
-    }
-
-    const QString m_fileName;
-    const bool m_keepGoing;
-    std::optional<TextInput> m_file;
-    bool m_isAtEnd = false;
-    bool m_hasMore = true;
-    bool m_isFirst = true;
-    QByteArray m_lastText;
-    Entry m_entry;
-    std::deque<Entry> m_ahead; // read already, before the entry
-    std::optional<qint64> m_begin; // where it was looked for
-    std::optional<qint64> m_last;
-    LogTime m_beginTime;
-    LogTime m_lastTime;
-    QString m_clockNote;
-};
 
 // The lines that several logs have at one moment.
 class Repeats
@@ -221,7 +66,7 @@ public:
     {
     }
 
-    QString of(const Log& log) const
+    QString of(const StreamLog& log) const
     {
         if (m_perFile)
             return log.file().name();
@@ -229,7 +74,7 @@ public:
     }
 
     // Throws Fault where it cannot be told.
-    void take(Log& log)
+    void take(StreamLog& log)
     {
         m_isNew = false;
         const QString named = log.entry().line->kiosk();
@@ -265,7 +110,7 @@ private:
     bool m_anyUnnamed = false; // line
 };
 
-using Logs = std::map<int, Log>; // by index
+using Logs = std::map<int, StreamLog>; // by index
 
 bool namesDevice(const SessionLine& line)
 {
@@ -275,11 +120,11 @@ bool namesDevice(const SessionLine& line)
 
 // Whether a line that others have as well may have happened again: they end in the second in which
 // its log begins. The very same line once more would say nothing new.
-bool mayBeAnother(const Log& log, const Logs& logs, const std::vector<int>& others)
+bool mayBeAnother(const StreamLog& log, const Logs& logs, const std::vector<int>& others)
 {
     return log.moment() == log.begin() && log.moment() % 1000 == 0
         && std::all_of(others.begin(), others.end(), [&](int other) {
-               const Log& known = logs.at(other);
+               const StreamLog& known = logs.at(other);
                return !known.hasMore() && !(log.isFirst() && known.lastText() == log.entry().text);
            });
 }
@@ -340,12 +185,13 @@ LogStream::LogStream(const QStringList& logs, bool perFile, bool keepGoing)
 int LogStream::read(const Take& take, const Doubt& doubt)
 {
     Logs logs = openLogs(m_logs, m_keepGoing, [&](int index) {
-        doubt({index, 0, m_perFile ? std::set<QString>{m_logs.at(index)} : std::set<QString>(), {}});
+        doubt(
+            {index, 0, m_perFile ? std::set<QString>{m_logs.at(index)} : std::set<QString>(), {}});
     });
     const bool byTimes = logs.size() > 1 && !m_perFile && findBegins(logs, m_notes);
 
     using Place = std::tuple<qint64, qint64, int>; // moment, where its log begins, which that is
-    const auto placeOf = [&](int index, const Log& log) {
+    const auto placeOf = [&](int index, const StreamLog& log) {
         return byTimes ? Place(log.moment(), log.begin(), index) : Place(0, 0, index);
     };
     std::set<Place> heads; // of the logs that are not at their end
@@ -362,8 +208,8 @@ int LogStream::read(const Take& take, const Doubt& doubt)
     while (!heads.empty()) {
         auto head = heads.extract(heads.begin());
         const auto [moment, begin, index] = head.value();
-        Log& log = logs.at(index);
-        Entry& entry = log.entry();
+        StreamLog& log = logs.at(index);
+        StreamEntry& entry = log.entry();
         try {
             if (entry.line)
                 kiosks.take(log);
@@ -375,15 +221,18 @@ int LogStream::read(const Take& take, const Doubt& doubt)
         const QString kiosk = kiosks.of(log);
         if (byTimes)
             entry.moment = moment;
-        StreamGap gap{index, entry.number, {kiosk}, entry.moment};
+        const auto tellGap = [&](const std::set<QString>& of) {
+            doubt({index, entry.number, of, entry.moment});
+        };
         const bool isShared = byTimes
             && (repeats.isAt(moment) || (!heads.empty() && std::get<0>(*heads.begin()) == moment));
         if (!entry.fault.isNull()) {
             printError(entry.fault);
             ++badLines;
-            log.kiosks.erase(QString());
-            gap.kiosks.insert(log.kiosks.begin(), log.kiosks.end());
-            doubt(gap);
+            std::set<QString> known = log.kiosks;
+            known.erase(QString()); // its lines are of the first one that was named
+            known.insert(kiosk);
+            tellGap(known);
         } else {
             log.kiosks.insert(kiosk);
             std::vector<int> others;
@@ -400,16 +249,15 @@ int LogStream::read(const Take& take, const Doubt& doubt)
                     m_notes += Velmo::tr("%1 begins in the second in which %2 ends, with lines of "
                                          "that: taken once, though they may have happened twice")
                                    .arg(log.file().name(), logs.at(others.front()).file().name());
-                    doubt(gap);
+                    tellGap({kiosk});
                 }
             }
-        }
-        gap.kiosks = kiosks.doubted();
-        if (!gap.kiosks.empty()) {
-            m_notes += Velmo::tr("lines before the one that names kiosk \"%1\" do not say which "
-                                 "kiosk they are of: taken to be of \"%2\"")
-                           .arg(kiosk, kiosks.first());
-            doubt(gap);
+            if (const std::set<QString> doubted = kiosks.doubted(); !doubted.empty()) {
+                m_notes += Velmo::tr("lines before the one that names kiosk \"%1\" do not say "
+                                     "which kiosk they are of: taken to be of \"%2\"")
+                               .arg(kiosk, kiosks.first());
+                tellGap(doubted);
+            }
         }
         if (log.next()) {
             head.value() = placeOf(index, log);
