@@ -319,7 +319,7 @@ S o n a50 k i +A a20 k i +B S o n a10 k i        |  | A[1-2] A[3-9) c20 0 1+ 0 0
     void textSaysWhatIsTold_data()
     {
         addRows(R"(
-@7 s o n @9 s o n                 | --last | ^[ND]  | Note recycler (JCM iPRO ID003), Device 9
+@7 s o n @9 s o n o n                 | --last | ^[ND]  | Note recycler (JCM iPRO ID003), Device 9
 s a50 i k i o n a50 c50 i         |        | adds? up | What does not add up:
 s a50 i k i o n a50 c50 i         | --last | adds? up | Everything adds up.
 00=s 05=a50 06=k 07=i 08=a10 09=c10 10=i | --from 2026-01-01T10:06Z | add  | Everything adds up.
@@ -348,6 +348,8 @@ s                                 | --counted F | add      | In the logs themsel
         QCOMPARE(velmo(cash + QStringList{"--exit-code"_s}).exitCode, isRight ? 0 : 1);
         const QString summary = velmo(cash + QStringList{"--json"_s}).outLines().last();
         QCOMPARE(summary.contains("\"contradictions\":0"_s), isSound);
+        if (options.startsWith("--from"_s))
+            QVERIFY(summary.contains(R"("offered":{"count":1,)"_s));
     }
 
     // Log, what was counted (";" between the lines, a header of its own where it begins with a
