@@ -53,7 +53,8 @@ inline QString moneyFields(const QString& part, const QString& currency)
 
 /// A log of a recycler in the words of a shorthand, a line each: parts between commas, perhaps with
 /// a minute, as "5=a500,$0". "C6" is a published state with that counter, "!" is bad, "+" goes on
-/// with the kiosk of that name, "@" with the device of that number.
+/// with the kiosk of that name, "@" with the device of that number
+/// or, without one, that no line names.
 inline QString moneyLog(const QString& shorthand, const QString& currency = "XTS"_s)
 {
     QString text;
@@ -69,7 +70,9 @@ inline QString moneyLog(const QString& shorthand, const QString& currency = "XTS
             continue;
         }
         const QString what = word.section(QLatin1Char('='), -1);
-        QStringList fields{R"("device_id":%1,"thread_id":2)"_s.arg(device)};
+        QStringList fields;
+        if (!device.isEmpty())
+            fields += R"("device_id":%1,"thread_id":2)"_s.arg(device);
         for (const QString& part : what.split(QLatin1Char(',')))
             fields += moneyFields(part, currency);
         QString line = "{%1}"_s.arg(fields.join(QLatin1Char(',')));

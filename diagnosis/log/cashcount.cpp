@@ -4,196 +4,15 @@
 #include "log/cashcount.h"
 
 #include "text/diagnosis.h"
-#include "text/textinput.h"
-
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QStringList>
+#include "text/fault.h"
 
 #include <algorithm>
 #include <array>
-#include <limits>
+#include <set>
 
 namespace {
 
 constexpr std::array<const char*, cashPlaceCount> placeKeys{"cassette", "channel", "reject"};
-
-qint64 wholeNumber(const QString& text, qint64 most)
-{
-    bool isNumber = false;
-    const qint64 number = text.toLongLong(&isNumber);
-    if (!isNumber || number < 0 || number > most)
-        throw Fault{Diagnosis::tr("expected a whole number from %1 to %2").arg(0).arg(most)};
-    return number;
-}
-
-constexpr qint64 mostInt = std::numeric_limits<int>::max();
-constexpr qint64 mostId = std::numeric_limits<quint32>::max();
-
-// What a file may say of a count.
-struct Column
-{
-    const char* name;
-    bool isNeeded;
-    void (*read)(CashCount& count, const QString& text);
-};
-
-constexpr Column columns[] = {
-    {"kiosk", false, [](CashCount& count, const QString& text) { count.kiosk = text; }},
-    {"device", true,
-     [](CashCount& count, const QString& text) {
-         count.device = quint32(wholeNumber(text, mostId));
-     }},
-    {"thread", false,
-     [](CashCount& count, const QString& text) {
-         count.thread = quint32(wholeNumber(text, mostId));
-     }},
-    {"place", true,
-     [](CashCount& count, const QString& text) {
-         const auto* const found =
-             std::find(placeKeys.begin(), placeKeys.end(), text.toLower().toStdString());
-         if (found == placeKeys.end())
-             throw Fault{Diagnosis::tr("expected cassette, channel or reject")};
-         count.place = CashPlace(found - placeKeys.begin());
-     }},
-    {"channel", false,
-     [](CashCount& count, const QString& text) {
-         count.channel = int(wholeNumber(text, mostInt));
-     }},
-    {"denomination", true,
-     [](CashCount& count, const QString& text) {
-         count.denomination = int(wholeNumber(text, mostInt));
-     }},
-    {"currency", false, [](CashCount& count, const QString& text) { count.currency = text; }},
-    {"period", false,
-     [](CashCount& count, const QString& text) { count.period = int(wholeNumber(text, mostInt)); }},
-    {"count", true,
-     [](CashCount& count, const QString& text) { count.count = wholeNumber(text, mostInt); }},
-};
-
-const Column& columnOf(const QString& name)
-{
-    const auto* const found =
-        std::find_if(std::begin(columns), std::end(columns),
-                     [&](const Column& column) { return name == QLatin1String(column.name); });
-    if (found == std::end(columns))
-        throw Fault{Diagnosis::tr("unknown column \"%1\"").arg(name)};
-    return *found;
-}
-
-void requireColumns(const QStringList& names)
-{
-    for (const Column& column : columns) {
-        const auto count = names.count(QLatin1String(column.name));
-        if (count > 1 || (column.isNeeded && count == 0))
-            throw Fault{(count > 1 ? Diagnosis::tr("column \"%1\" stands twice")
-                                   : Diagnosis::tr("column \"%1\" is missing"))
-                            .arg(QLatin1String(column.name))};
-    }
-}
-
-CashCount countOf(const QStringList& names, const QStringList& values)
-{
-    CashCount count;
-    for (int i = 0; i < names.size(); ++i) {
-        const Column& column = columnOf(names.at(i));
-        const QString value = values.at(i).trimmed();
-        if (value.isEmpty() && !column.isNeeded)
-            continue;
-        try {
-            column.read(count, value);
-        } catch (const Fault& fault) {
-            throw Fault{QStringLiteral("\"%1\": %2").arg(names.at(i), fault.message)};
-        }
-    }
-    return count;
-}
-
-// The cells of a line; one in quotation marks may have the separator and doubled marks in it.
-QStringList cellsOf(const QString& line, QChar separator)
-{
-    QStringList cells{QString()};
-    bool isQuoted = false;
-    for (int i = 0; i < line.size(); ++i) {
-        const QChar c = line.at(i);
-        if (c == QLatin1Char('"') && isQuoted && line.mid(i + 1, 1) == QLatin1String("\""))
-            cells.last() += line.at(++i);
-        else if (c == QLatin1Char('"'))
-            isQuoted = !isQuoted;
-        else if (c == separator && !isQuoted)
-            cells += QString();
-        else
-            cells.last() += c;
-    }
-    if (isQuoted)
-        throw Fault{Diagnosis::tr("a quotation mark is not closed")};
-    return cells;
-}
-
-std::vector<CashCount> readTable(const TextInput& file, const QStringList& lines)
-{
-    std::vector<CashCount> counts;
-    QStringList names;
-    QChar separator;
-    for (int i = 0; i < lines.size(); ++i) {
-        const QString line = lines.at(i).trimmed();
-        if (line.isEmpty())
-            continue;
-        try {
-            if (names.isEmpty()) {
-                separator = line.contains(QLatin1Char(';')) ? QLatin1Char(';')
-                    : line.contains(QLatin1Char('\t'))      ? QLatin1Char('\t')
-                                                            : QLatin1Char(',');
-                const QStringList head = cellsOf(line, separator);
-                for (const QString& name : head)
-                    names += QLatin1String(columnOf(name.trimmed().toLower()).name);
-                requireColumns(names);
-                continue;
-            }
-            const QStringList values = cellsOf(lines.at(i), separator);
-            if (values.size() != names.size())
-                throw Fault{Diagnosis::tr("expected %1 cells as in the header, not %2")
-                                .arg(names.size())
-                                .arg(values.size())};
-            counts.push_back(countOf(names, values));
-            counts.back().where = QStringLiteral("%1:%2").arg(file.name()).arg(i + 1);
-        } catch (const Fault& fault) {
-            throw file.faultAt(i + 1, fault.message);
-        }
-    }
-    return counts;
-}
-
-std::vector<CashCount> readList(const TextInput& file, const QByteArray& text)
-{
-    const QJsonDocument document = file.parseJson(text, 1);
-    if (!document.isArray())
-        throw Fault{QStringLiteral("%1: %2").arg(file.name(), Diagnosis::tr("expected a list"))};
-    std::vector<CashCount> counts;
-    const QJsonArray list = document.array();
-    for (const QJsonValue& element : list) {
-        const QString where =
-            Diagnosis::tr("%1: element %2").arg(file.name()).arg(counts.size() + 1);
-        try {
-            if (!element.isObject())
-                throw Fault{Diagnosis::tr("expected a JSON object")};
-            const QJsonObject object = element.toObject();
-            QStringList values;
-            for (const QJsonValue& value : object) {
-                if (value.isBool() || value.isArray() || value.isObject())
-                    throw Fault{Diagnosis::tr("expected texts and numbers")};
-                values += value.isDouble() ? QString::number(value.toDouble(), 'g', 17)
-                                           : value.toString();
-            }
-            requireColumns(object.keys());
-            counts.push_back(countOf(object.keys(), values));
-            counts.back().where = where;
-        } catch (const Fault& fault) {
-            throw Fault{QStringLiteral("%1: %2").arg(where, fault.message)};
-        }
-    }
-    return counts;
-}
 
 const CashPeriod& periodOf(const CashCount& count, const std::vector<CashPeriod>& periods)
 {
@@ -228,6 +47,10 @@ bool isOf(const CashRow& row, const CashCount& count)
 std::optional<int> rankOf(const Contradiction& found, const CashCount& count, bool isShort)
 {
     const bool isOfKind = found.note == count.denomination;
+    const bool isOfPayout = found.rule == Rule::PayoutDiffers
+        || found.rule == Rule::PayoutUnfinished || found.rule == Rule::RegistryChanged;
+    if (!isOfPayout && count.place != CashPlace::Cassette)
+        return {};
     switch (found.rule) {
     case Rule::NotCredited:
         return isShort && isOfKind ? std::optional<int>(0) : std::nullopt;
@@ -246,6 +69,33 @@ std::optional<int> rankOf(const Contradiction& found, const CashCount& count, bo
         break;
     }
     return {};
+}
+
+// Whether what is counted may be less for it, too.
+bool explainsShort(DoubtReason reason)
+{
+    return reason == DoubtReason::LinesSkipped || reason == DoubtReason::CollectionUnseen
+        || reason == DoubtReason::ChannelUnexplained || reason == DoubtReason::EndMissing;
+}
+
+// The row that a count is of; null for one of a value that the cassette has no row of.
+const CashRow* rowOf(const CashCount& count, const std::vector<CashRow>& rows)
+{
+    std::vector<const CashRow*> fitting;
+    for (const CashRow& row : rows) {
+        if (!isOf(row, count))
+            continue;
+        if (!count.currency.isEmpty() && row.kind.currency == count.currency && !fitting.empty()
+            && fitting.back()->kind.currency.isEmpty())
+            fitting.clear();
+        fitting.push_back(&row);
+    }
+    if (fitting.size() > 1)
+        throw Fault{Diagnosis::tr("several rows fit: say which in a column \"channel\" or "
+                                  "\"currency\"")};
+    if (fitting.empty() && count.place != CashPlace::Cassette)
+        throw Fault{Diagnosis::tr("the device has no such place")};
+    return fitting.empty() ? nullptr : fitting.front();
 }
 
 } // namespace
@@ -271,47 +121,29 @@ QString CashDifference::verdict() const
                           : Diagnosis::tr("%1 over").arg(difference);
 }
 
-std::vector<CashCount> readCashCounts(TextInput& file)
+bool CashDifference::isOfPlaceOf(const CashDifference& other) const
 {
-    const QByteArray bytes = file.readAll();
-    const QByteArray start = bytes.trimmed();
-    std::vector<CashCount> counts;
-    if (start.startsWith('[') || start.startsWith('{')) {
-        counts = readList(file, bytes);
-    } else {
-        QString text;
-        try {
-            text = decoded(bytes);
-        } catch (const Fault& fault) {
-            throw Fault{QStringLiteral("%1: %2").arg(file.name(), fault.message)};
-        }
-        if (text.startsWith(QChar(QChar::ByteOrderMark)))
-            text.remove(0, 1);
-        counts = readTable(file, text.split(QLatin1Char('\n')));
-    }
-    if (counts.empty())
-        throw Fault{QStringLiteral("%1: %2").arg(file.name(), Diagnosis::tr("nothing is counted"))};
-    return counts;
+    return count.device == other.count.device && thread == other.thread && period == other.period
+        && count.place == other.count.place
+        && (count.place != CashPlace::Channel || channel == other.channel);
+}
+
+bool CashDifference::isOfRowOf(const CashDifference& other) const
+{
+    return isOfPlaceOf(other) && count.denomination == other.count.denomination
+        && count.currency == other.count.currency;
 }
 
 CashDifference compareCount(const CashCount& count, const std::vector<CashPeriod>& periods)
 {
     const CashPeriod& period = periodOf(count, periods);
     CashDifference answer{count, period.thread, count.channel, period.number, {}, 0, {}};
-    const auto found = std::find_if(period.rows.begin(), period.rows.end(),
-                                    [&](const CashRow& row) { return isOf(row, count); });
-    if (found != period.rows.end()) {
-        answer.expected = found->now;
+    answer.expected = period.unseen;
+    if (const CashRow* const row = rowOf(count, period.rows)) {
+        answer.expected = row->now;
+        answer.count.currency = row->kind.currency;
         if (count.place == CashPlace::Channel)
-            answer.channel = found->channel;
-        if (std::any_of(found + 1, period.rows.end(),
-                        [&](const CashRow& row) { return isOf(row, count); }))
-            throw Fault{Diagnosis::tr("several rows fit: say which in a column \"channel\" or "
-                                      "\"currency\"")};
-    } else if (count.place != CashPlace::Cassette) {
-        throw Fault{Diagnosis::tr("the device has no such place")};
-    } else {
-        answer.expected = period.unseen;
+            answer.channel = row->channel;
     }
     if (count.count < answer.expected.min)
         answer.difference = count.count - answer.expected.min;
@@ -319,20 +151,53 @@ CashDifference compareCount(const CashCount& count, const std::vector<CashPeriod
         answer.difference = count.count - *answer.expected.max;
     if (answer.difference == 0)
         return answer;
+    const bool isShort = answer.difference < 0;
     std::vector<std::pair<int, CashDoubt::Example>> reasons;
     for (const Contradiction& contradiction : period.contradictions) {
-        if (const auto rank = rankOf(contradiction, count, answer.difference < 0))
+        if (const auto rank = rankOf(contradiction, count, isShort))
             reasons.push_back({*rank, {contradiction, contradiction.sentence}});
     }
     for (const CashDoubt& doubt : period.doubts) {
-        if (!doubt.isAbout(count.place, answer.channel.value_or(0), count.denomination))
+        if (!doubt.isAbout(count.place, answer.channel.value_or(0), count.denomination)
+            || (isShort && !explainsShort(doubt.reason)))
             continue;
         for (const CashDoubt::Example& example : doubt.examples)
             reasons.push_back({doubt.denomination == 0 ? 3 : 1, example});
     }
     std::stable_sort(reasons.begin(), reasons.end(),
                      [](const auto& a, const auto& b) { return a.first < b.first; });
-    for (auto& reason : reasons)
-        answer.explanations.push_back(std::move(reason.second));
+    std::set<qint64> lines;
+    for (auto& reason : reasons) {
+        if (lines.insert(reason.second.place.line).second)
+            answer.explanations.push_back(std::move(reason.second));
+    }
     return answer;
+}
+
+std::vector<CashDifference> rowsNotCounted(const std::vector<CashDifference>& counts,
+                                           const std::vector<CashPeriod>& periods)
+{
+    std::vector<CashDifference> found;
+    for (const CashPeriod& period : periods) {
+        for (const CashRow& row : period.rows) {
+            if (row.now.min == 0 && row.now.max)
+                continue;
+            CashDifference missing;
+            missing.count.device = period.device;
+            missing.count.place = row.place;
+            missing.count.denomination = row.kind.denomination;
+            missing.count.currency = row.kind.currency;
+            missing.thread = period.thread;
+            if (row.place == CashPlace::Channel)
+                missing.channel = row.channel;
+            missing.period = period.number;
+            missing.expected = row.now;
+            const auto isOfPlace = [&](const CashDifference& d) { return d.isOfPlaceOf(missing); };
+            const auto isOfRow = [&](const CashDifference& d) { return d.isOfRowOf(missing); };
+            if (std::any_of(counts.begin(), counts.end(), isOfPlace)
+                && std::none_of(counts.begin(), counts.end(), isOfRow))
+                found.push_back(missing);
+        }
+    }
+    return found;
 }

@@ -31,7 +31,7 @@ struct CashCount
 /// A count held against the ledger.
 struct CashDifference
 {
-    CashCount count;
+    CashCount count; ///< with the currency of the row that it is of
     quint32 thread = 0;
     std::optional<int> channel;
     int period = 0;
@@ -44,6 +44,9 @@ struct CashDifference
 
     /// "right", "2 short", "1 over"
     QString verdict() const;
+
+    bool isOfPlaceOf(const CashDifference& other) const;
+    bool isOfRowOf(const CashDifference& other) const;
 };
 
 /// Reads what was counted: CSV with a header, or a JSON list of objects. Throws Fault, which names
@@ -53,6 +56,11 @@ std::vector<CashCount> readCashCounts(TextInput& file);
 /// Holds a count against the period that it says, or else the newest that is over, or else the one
 /// that is on. Throws Fault when no period or no channel fits, or several do.
 CashDifference compareCount(const CashCount& count, const std::vector<CashPeriod>& periods);
+
+/// The rows that may hold something in places that are counted otherwise, each as if 0 had been
+/// counted and is right.
+std::vector<CashDifference> rowsNotCounted(const std::vector<CashDifference>& counts,
+                                           const std::vector<CashPeriod>& periods);
 
 /// "cassette", "channel", "reject"
 QString placeKey(CashPlace place);

@@ -57,7 +57,7 @@ CashLedger::CashLedger(const QStringList& logs, std::optional<quint32> device, R
     , m_explainer(
           FilterSet({}),
           [this](const NoteAnswer& answer) {
-              if (isAsked(answer.device))
+              if (isAsked(answer))
                   m_summary.add(answer);
           },
           this)
@@ -91,12 +91,18 @@ void CashLedger::beginHere(qint64 position, const LogTime& time)
 {
     if (m_books.empty())
         return;
-    if (position > 0)
-        m_now = {position, time};
+    m_now = position > 0 ? LogMoment{position, time} : LogMoment{m_now.position + 1, m_now.time};
+    m_beginning = m_now;
     m_summary = Summary();
     m_sessionsBefore = qMax(0, m_explainer.sessions() - 1);
     for (const auto& [device, book] : m_books)
         book->beginHere();
+}
+
+bool CashLedger::isAsked(const LogPlace& place) const
+{
+    return isAsked(place.device)
+        && !(m_beginning && LogMoment{place.line, place.time}.isBefore(*m_beginning));
 }
 
 void CashLedger::finish()
@@ -155,7 +161,7 @@ void CashLedger::takeReport(const MoneyTrail& trail, const LogStep& step)
 void CashLedger::takeContradiction(const MoneyTrail& trail, const Contradiction& found)
 {
     bookOf(trail).takeContradiction(found);
-    if (isAsked(found.device))
+    if (isAsked(found))
         m_receiver(found);
 }
 

@@ -34,8 +34,9 @@ public:
     /// Tells that a line could not be read.
     void skipLine(qint64 position);
 
-    /// Begins to count anew: what lies where becomes the opening.
-    /// @param position of the line from which on, which is not taken yet
+    /// Begins to count anew: what lies where becomes the opening, and of what began before no more
+    /// is told.
+    /// @param position of the line from which on, which is not taken yet; 0 for behind all lines
     void beginHere(qint64 position, const LogTime& time);
 
     /// To be called once, when all lines are taken.
@@ -62,6 +63,7 @@ private:
     void takeCassette(const MoneyTrail& trail, bool isIn) override;
     void takeUnfinished(const MoneyTrail& trail, const UnfinishedAct& act) override;
     bool isAsked(quint32 device) const { return !m_device || device == *m_device; }
+    bool isAsked(const LogPlace& place) const;
     CashBook& bookOf(const MoneyTrail& trail);
 
     const QStringList m_logs;
@@ -69,6 +71,7 @@ private:
     const Receiver m_receiver;
     Summary m_summary;
     int m_sessionsBefore = 0; // the counting began
+    std::optional<LogMoment> m_beginning; // of the counting
     std::map<std::pair<quint32, quint32>, std::unique_ptr<CashBook>>
         m_books; // by device and thread
     LogMoment m_now;

@@ -133,4 +133,9 @@ struct CashPeriod
         PieceRange sum;
     };
     std::vector<Content> course;
+
+    bool isOfSameDevice(const CashPeriod& other) const
+    {
+        return device == other.device && thread == other.thread;
+    }
 };

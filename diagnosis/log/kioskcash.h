@@ -17,6 +17,8 @@ struct KioskCash
     std::vector<CashPeriod> periods;
     std::vector<Contradiction> contradictions;
     std::vector<CashDifference> differences; ///< one for each count
+    std::vector<CashDifference> notCounted; ///< of places of which others are
+    bool isCut = false; ///< lines behind the time that is asked for are left out
 };
 
 /// Of all kiosks that the logs are of.

@@ -4,6 +4,7 @@
 #include "log/logplayer.h"
 
 #include "acceptors.h"
+#include "log/logposition.h"
 #include "text/devicename.h"
 #include "text/diagnosis.h"
 #include "text/fault.h"
@@ -131,6 +132,8 @@ const std::vector<LogStep>& LogPlayer::take(const SessionLine& line, qint64 line
     }
     m_kiosk = line.kiosk().isEmpty() ? m_kiosk : line.kiosk();
     m_steps.clear();
+    LogDevice*& lastOfLog = m_lastOf[LogPosition::log(lineNumber)];
+    m_last = lastOfLog ? lastOfLog : m_lastOfAny;
     const std::vector<DeviceReport>& reports = line.reports();
     const bool namesDevice = !line.isPublished() && reports.front().has(deviceBit | threadBit);
     if (line.startsSession() && !namesDevice)
@@ -156,8 +159,8 @@ const std::vector<LogStep>& LogPlayer::take(const SessionLine& line, qint64 line
         step.notesInserted = report.notesInserted;
         if (line.isPublished())
             continue;
-        device.m_lastOwnLine = lineNumber;
-        m_last = &device;
+        device.m_lastOwnLine = ++m_ownLines;
+        m_last = m_lastOfAny = lastOfLog = &device;
     }
     for (LogStep& step : m_steps)
         step.sent = step.device->send(lineNumber);

@@ -14,6 +14,7 @@
 #include <QVector>
 
 #include <array>
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -84,7 +85,7 @@ private:
     int m_session = 0;
     bool m_sessionStartSeen = false;
     qint64 m_skippedBefore = 0;
-    qint64 m_lastOwnLine = 0; // that was of it alone; 0 before there was one
+    qint64 m_lastOwnLine = 0; // that was of it alone, counted through; 0 before there was one
     std::unique_ptr<DeviceStateWorker> m_worker;
     std::unique_ptr<FilterChain> m_chain;
     std::vector<FilterMemory> m_filters; // of those that the chain owns, in its order
@@ -118,6 +119,7 @@ public:
 
     /// The steps of one line, in the order in which the devices came; valid until the next call.
     /// Throws Fault, and takes nothing, when the line names another kiosk than those before.
+    /// @param lineNumber of several logs a LogPosition
     const std::vector<LogStep>& take(const SessionLine& line, qint64 lineNumber);
 
     /// Those of the line that was taken last.
@@ -146,7 +148,10 @@ private:
     std::vector<LogStep> m_steps;
     QString m_kiosk; // empty while no line named it
     std::vector<LogDevice*> m_reporting; // of each report of a line; null for a new one
-    LogDevice* m_last = nullptr; // that had a line of its own
+    std::map<int, LogDevice*> m_lastOf; // by log: that had a line of its own in it
+    LogDevice* m_last = nullptr; // for a line of this log: that, or else the last of any log
+    LogDevice* m_lastOfAny = nullptr;
+    qint64 m_ownLines = 0; // of any device
     int m_session = 0; // the newest
     bool m_everySessionStarted = false; // once at least
     qint64 m_skippedBefore = 0; // when every session was started last

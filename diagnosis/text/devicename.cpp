@@ -82,7 +82,7 @@ QString deviceName(int model, const QString& givenName)
 {
     const QString protocol = modelName(model);
     if (protocol.isEmpty())
-        return givenName.isEmpty() ? Diagnosis::tr("Device %1").arg(model) : givenName;
+        return givenName.isEmpty() ? Diagnosis::tr("Device %1").arg(quint32(model)) : givenName;
     return QStringLiteral("%1 (%2)").arg(givenName.isEmpty() ? kindName(model) : givenName,
                                          protocol);
 }

@@ -3,6 +3,8 @@
 
 #include "answerjson.h"
 
+#include <algorithm>
+
 namespace {
 
 JsonText jsonOf(const QVector<Objection>& objections)
@@ -55,7 +57,7 @@ JsonText jsonOf(const QString& log, const NoteAnswer& answer)
 
 JsonText jsonOf(const QStringList& logs, const Contradiction& found)
 {
-    return JsonText::object(
+    JsonText text = JsonText::object(
         {{"kind", QStringLiteral("contradiction")},
          {"rule", found.ruleKey()},
          {"log", logs.value(LogPosition::log(found.line))},
@@ -67,6 +69,15 @@ JsonText jsonOf(const QStringList& logs, const Contradiction& found)
                          [](qint64 line) { return JsonText(LogPosition::line(line)); })},
          {"time", jsonOf(found.time)},
          {"text", found.sentence}});
+    const auto isOfOther = [&](qint64 line) {
+        return LogPosition::log(line) != LogPosition::log(found.line);
+    };
+    if (std::any_of(found.lines.begin(), found.lines.end(), isOfOther)) {
+        const JsonText all = JsonText::list(
+            found.lines, [&](qint64 line) { return JsonText(logs.value(LogPosition::log(line))); });
+        text.replace(text.size() - 1, 1, ",\"logs\":" + all + '}');
+    }
+    return text;
 }
 
 JsonText jsonOf(const QString& log, const ConditionSpan& span)

@@ -24,7 +24,7 @@ JsonText jsonOf(const PieceRange& range)
     return JsonText::object({{"min", range.min}, {"max", jsonOf(range.max)}});
 }
 
-JsonText jsonOf(const KioskCash& kiosk, const CashPeriod& period)
+JsonText jsonOf(const QStringList& logs, const KioskCash& kiosk, const CashPeriod& period)
 {
     return JsonText::object({{"kind", QStringLiteral("period")},
                              {"kiosk", jsonOf(kiosk.kiosk)},
@@ -34,6 +34,8 @@ JsonText jsonOf(const KioskCash& kiosk, const CashPeriod& period)
                              {"name", period.deviceName},
                              {"from", jsonOf(period.from)},
                              {"to", jsonOf(period.to)},
+                             {"from_log", logs.value(LogPosition::log(period.fromPosition))},
+                             {"to_log", logs.value(LogPosition::log(period.toPosition))},
                              {"from_line", LogPosition::line(period.fromPosition)},
                              {"to_line", LogPosition::line(period.toPosition)},
                              {"sessions", period.sessions},
@@ -88,6 +90,20 @@ JsonText jsonOf(const QStringList& logs, const KioskCash& kiosk, const CashDiffe
                              {"explained_by", reasons}});
 }
 
+JsonText jsonOfMissing(const KioskCash& kiosk, const CashDifference& missing)
+{
+    return JsonText::object({{"kind", QStringLiteral("not_counted")},
+                             {"kiosk", jsonOf(kiosk.kiosk)},
+                             {"device", missing.count.device},
+                             {"thread", missing.thread},
+                             {"period", missing.period},
+                             {"place", placeKey(missing.count.place)},
+                             {"channel", jsonOf(missing.channel)},
+                             {"denomination", missing.count.denomination},
+                             {"currency", jsonOf(missing.count.currency)},
+                             {"expected", jsonOf(missing.expected)}});
+}
+
 // An object with one more member.
 QByteArray withMember(const QByteArray& object, const char* name, const JsonText& value)
 {
@@ -101,12 +117,14 @@ QByteArray cashJson(const CashAnswer& answer)
     QByteArray text;
     for (const KioskCash& kiosk : answer.kiosks) {
         for (const CashPeriod& period : kiosk.periods) {
-            text += jsonOf(kiosk, period) + '\n';
+            text += jsonOf(answer.logs, kiosk, period) + '\n';
             for (const CashRow& row : period.rows)
                 text += jsonOf(kiosk, period, row) + '\n';
         }
         for (const CashDifference& difference : kiosk.differences)
             text += jsonOf(answer.logs, kiosk, difference) + '\n';
+        for (const CashDifference& missing : kiosk.notCounted)
+            text += jsonOfMissing(kiosk, missing) + '\n';
         for (const Contradiction& found : kiosk.contradictions)
             text += withMember(jsonOf(answer.logs, found), "kiosk", jsonOf(kiosk.kiosk)) + '\n';
     }
@@ -123,6 +141,13 @@ QString cell(const QString& text)
         return text;
     return QLatin1Char('"') + QString(text).replace(QLatin1Char('"'), QLatin1String("\"\""))
         + QLatin1Char('"');
+}
+
+// What a log says, which a spreadsheet must not take for a formula.
+QString plain(const QString& text)
+{
+    static const QString formulas = QStringLiteral("=+-@");
+    return !text.isEmpty() && formulas.contains(text.at(0)) ? QLatin1Char('\'') + text : text;
 }
 
 QStringList cells(const PieceRange& range)
@@ -146,7 +171,7 @@ QString number(const std::optional<int>& value)
 QString csvRow(const KioskCash& kiosk, const CashPeriod& period, const CashRow& row)
 {
     const bool isChannel = row.place == CashPlace::Channel;
-    QStringList values{kiosk.kiosk,
+    QStringList values{plain(kiosk.kiosk),
                        QString::number(period.device),
                        QString::number(period.thread),
                        QString::number(period.number),
@@ -156,7 +181,7 @@ QString csvRow(const KioskCash& kiosk, const CashPeriod& period, const CashRow& 
                        placeKey(row.place),
                        isChannel ? QString::number(row.channel) : QString(),
                        QString::number(row.kind.denomination),
-                       row.kind.currency,
+                       plain(row.kind.currency),
                        number(row.kind.billType)};
     for (const PieceRange& range :
          {row.flow.opening, row.flow.in, row.flow.out, row.flow.moved, row.now})
@@ -184,16 +209,16 @@ QByteArray cashCsv(const CashAnswer& answer)
                                    .arg(answer.logs.value(LogPosition::log(example.place.line)),
                                         QString::number(LogPosition::line(example.place.line)),
                                         example.text);
-                text += csvLine(QStringList{kiosk.kiosk, QString::number(difference.count.device),
-                                            QString::number(difference.thread),
-                                            QString::number(difference.period),
-                                            placeKey(difference.count.place),
-                                            number(difference.channel),
-                                            QString::number(difference.count.denomination)}
-                                + cells(difference.expected)
-                                + QStringList{QString::number(difference.count.count),
-                                              QString::number(difference.difference),
-                                              reasons.join(QStringLiteral("; "))});
+                text += csvLine(
+                    QStringList{plain(kiosk.kiosk), QString::number(difference.count.device),
+                                QString::number(difference.thread),
+                                QString::number(difference.period),
+                                placeKey(difference.count.place), number(difference.channel),
+                                QString::number(difference.count.denomination)}
+                    + cells(difference.expected)
+                    + QStringList{QString::number(difference.count.count),
+                                  QString::number(difference.difference),
+                                  plain(reasons.join(QStringLiteral("; ")))});
             }
         }
         return text.toUtf8();

@@ -30,9 +30,12 @@ public:
     void take(const StreamLine& line)
     {
         m_isAnyTimed = m_isAnyTimed || line.moment;
-        m_isOver = m_isOver || m_period.isBefore(line.moment);
-        if (m_isOver)
+        if (m_period.isBefore(line.moment)) {
+            const auto known = m_kiosks.find(line.kiosk);
+            if (known != m_kiosks.end())
+                known->second->isCut = true;
             return;
+        }
         Kiosk& kiosk = ledgerOf(line.kiosk);
         const qint64 position = LogPosition::of(line.log, line.number);
         SessionLine shown = line.line;
@@ -43,15 +46,14 @@ public:
         kiosk.ledger.take(shown, position);
     }
 
-    // Line 0 stands for a whole log.
-    void skip(int log, const QString& kiosk, qint64 line)
+    void doubt(const StreamGap& gap)
     {
-        m_isLogMissing = m_isLogMissing || line == 0;
-        if (m_isOver && line > 0)
+        m_isLogMissing = m_isLogMissing || gap.number == 0;
+        if (m_period.isBefore(gap.moment))
             return;
         for (const auto& [name, known] : m_kiosks) {
-            if (kiosk.isEmpty() || name == kiosk)
-                known->ledger.skipLine(LogPosition::of(log, line));
+            if (gap.kiosks.empty() || gap.kiosks.count(QString()) > 0 || gap.kiosks.count(name) > 0)
+                known->ledger.skipLine(LogPosition::of(gap.log, gap.number));
         }
     }
 
@@ -69,9 +71,10 @@ public:
             answer.kiosks.push_back({name,
                                      known->ledger.periods(m_isLogMissing),
                                      std::move(known->contradictions),
-                                     {}});
+                                     {},
+                                     {},
+                                     known->isCut});
             answer.summary.add(known->ledger.summary());
-            answer.summary.contradictions += qint64(answer.kiosks.back().contradictions.size());
             answer.devices += known->ledger.devices();
         }
         if (m_device && answer.devices == 0)
@@ -99,6 +102,7 @@ private:
         std::vector<Contradiction> contradictions;
         CashLedger ledger;
         bool hasBegun = false;
+        bool isCut = false; // lines came behind the time that is asked for
     };
 
     Kiosk& ledgerOf(const QString& name)
@@ -123,7 +127,6 @@ private:
     const bool m_utc;
     std::optional<quint32> m_device;
     bool m_isAnyTimed = false;
-    bool m_isOver = false; // the time that is asked for
     bool m_isLogMissing = false;
     std::map<QString, std::unique_ptr<Kiosk>> m_kiosks;
 };
@@ -139,25 +142,42 @@ void compareCounts(CashAnswer& answer, const std::vector<CashCount>& counts)
             });
             if (kiosk == kiosks.end())
                 throw Fault{Velmo::tr("the logs have no such kiosk")};
-            kiosk->differences.push_back(compareCount(count, kiosk->periods));
+            CashDifference difference = compareCount(count, kiosk->periods);
+            for (const CashDifference& other : kiosk->differences) {
+                if (other.isOfRowOf(difference))
+                    throw Fault{Velmo::tr("the same is counted at %1").arg(other.count.where)};
+            }
+            kiosk->differences.push_back(std::move(difference));
         } catch (const Fault& fault) {
             throw Fault{QStringLiteral("%1: %2").arg(count.where, fault.message)};
         }
     }
+    for (KioskCash& kiosk : answer.kiosks)
+        kiosk.notCounted = rowsNotCounted(kiosk.differences, kiosk.periods);
 }
 
-// Leaves the newest period of each device.
+// Leaves the newest period of each device, and what does not add up in it.
 void leaveLast(KioskCash& kiosk)
 {
     std::vector<CashPeriod>& periods = kiosk.periods;
     std::vector<CashPeriod> last;
     for (size_t i = 0; i < periods.size(); ++i) {
-        const bool isLast = i + 1 == periods.size() || periods.at(i + 1).number == 1
-            || periods.at(i + 1).device != periods.at(i).device
-            || periods.at(i + 1).thread != periods.at(i).thread;
-        if (isLast)
+        if (i + 1 == periods.size() || !periods.at(i).isOfSameDevice(periods.at(i + 1)))
             last.push_back(std::move(periods.at(i)));
     }
+    const auto isBefore = [](const Contradiction& found, const CashPeriod& period) {
+        return found.device == period.device && found.thread == period.thread
+            && LogMoment{found.line, found.time}.isBefore({period.fromPosition, period.from});
+    };
+    std::vector<Contradiction>& all = kiosk.contradictions;
+    all.erase(std::remove_if(all.begin(), all.end(),
+                             [&](const Contradiction& found) {
+                                 return std::any_of(last.begin(), last.end(),
+                                                    [&](const CashPeriod& period) {
+                                                        return isBefore(found, period);
+                                                    });
+                             }),
+              all.end());
     periods = std::move(last);
 }
 
@@ -185,15 +205,15 @@ int cashCommand(const Arguments& arguments)
     CashReading reading(arguments);
     LogStream stream(arguments.operands(), arguments.isSet(options::perFile),
                      arguments.isSet(options::keepGoing));
-    const int exitCode = stream.read(
-        [&](const StreamLine& line) { reading.take(line); },
-        [&](int log, const QString& kiosk, qint64 line) { reading.skip(log, kiosk, line); });
+    const int exitCode = stream.read([&](const StreamLine& line) { reading.take(line); },
+                                     [&](const StreamGap& gap) { reading.doubt(gap); });
     CashAnswer answer = reading.answer(stream.notes());
     compareCounts(answer, counts);
     bool isSound = true;
     for (KioskCash& kiosk : answer.kiosks) {
         if (arguments.isSet(options::last))
             leaveLast(kiosk);
+        answer.summary.contradictions += qint64(kiosk.contradictions.size());
         isSound = isSound && kiosk.contradictions.empty()
             && std::all_of(kiosk.differences.begin(), kiosk.differences.end(),
                            [](const CashDifference& d) { return d.difference == 0; });

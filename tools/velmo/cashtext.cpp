@@ -6,6 +6,8 @@
 #include "terminal/table.h"
 #include "terminal/velmo.h"
 
+#include <algorithm>
+
 namespace {
 
 // When it was, on the clock of the log, and the line.
@@ -20,12 +22,13 @@ QString momentText(const QStringList& logs, const LogTime& time, qint64 position
         : place;
 }
 
-QString periodText(const QStringList& logs, const CashPeriod& period)
+QString periodText(const QStringList& logs, const KioskCash& kiosk, const CashPeriod& period)
 {
     const QString from = momentText(logs, period.from, period.fromPosition);
     const QString to = momentText(logs, period.to, period.toPosition);
-    return (period.isOpen ? Velmo::tr("Period %1: from %2 to the end, %3")
-                          : Velmo::tr("Period %1: from %2 to its collection, %3"))
+    return (!period.isOpen    ? Velmo::tr("Period %1: from %2 to its collection, %3")
+                : kiosk.isCut ? Velmo::tr("Period %1: from %2 to the time that is asked for, %3")
+                              : Velmo::tr("Period %1: from %2 to the end, %3"))
                .arg(QString::number(period.number), from, to)
         + QStringLiteral("; ") + Velmo::tr("%n sessions", nullptr, period.sessions);
 }
@@ -73,6 +76,11 @@ QString tableOf(const CashPeriod& period)
 
 QString contradictionsText(const CashAnswer& answer, const KioskCash& kiosk)
 {
+    const bool areCountsRight = kiosk.notCounted.empty()
+        && std::all_of(kiosk.differences.begin(), kiosk.differences.end(),
+                       [](const CashDifference& d) { return d.difference == 0; });
+    if (kiosk.contradictions.empty() && !areCountsRight)
+        return Velmo::tr("In the logs themselves everything adds up.") + QLatin1Char('\n');
     if (kiosk.contradictions.empty())
         return Velmo::tr("Everything adds up.") + QLatin1Char('\n');
     QString text = Velmo::tr("What does not add up:") + QLatin1Char('\n');
@@ -97,9 +105,15 @@ QString countsText(const CashAnswer& answer, const KioskCash& kiosk)
     }
     const QString right(QLatin1Char('>'));
     text += formatTable({right + Velmo::tr("Device"), right + Velmo::tr("Period"),
-                         Velmo::tr("Place"), right + Velmo::tr("Value"),
+                         Velmo::tr("Place"), right + Velmo::tr("Face value"),
                          right + Velmo::tr("Expected"), right + Velmo::tr("Counted"), QString()},
                         rows);
+    for (const CashDifference& missing : kiosk.notCounted)
+        text += Velmo::tr("Not counted: device %1, period %2, %3, %4; expected: %5")
+                    .arg(QString::number(missing.count.device), QString::number(missing.period),
+                         missing.placeName(), QString::number(missing.count.denomination),
+                         missing.expected.text())
+            + QLatin1Char('\n');
     for (int i = 0; i < int(kiosk.differences.size()); ++i) {
         const CashDifference& difference = kiosk.differences.at(size_t(i));
         if (difference.difference == 0)
@@ -129,18 +143,24 @@ QString countsText(const CashAnswer& answer, const KioskCash& kiosk)
 QString cashText(const CashAnswer& answer)
 {
     QString text;
+    if (answer.devices == 0)
+        text = Velmo::tr("The logs tell of no device.") + QLatin1Char('\n');
     for (const KioskCash& kiosk : answer.kiosks) {
+        if (kiosk.periods.empty())
+            continue;
         if (!kiosk.kiosk.isEmpty())
             text += Velmo::tr("Kiosk %1").arg(printable(kiosk.kiosk)) + QStringLiteral("\n\n");
+        const CashPeriod* before = nullptr;
         for (const CashPeriod& period : kiosk.periods) {
-            if (period.number == kiosk.periods.front().number || period.number == 1)
+            if (!before || !before->isOfSameDevice(period))
                 text += printable(period.deviceName) + QLatin1Char('\n');
-            text +=
-                printable(periodText(answer.logs, period)) + QLatin1Char('\n') + tableOf(period);
+            text += printable(periodText(answer.logs, kiosk, period)) + QLatin1Char('\n')
+                + tableOf(period);
             if (period.cash)
                 text += Velmo::tr("The device says of its cash: %1").arg(*period.cash)
                     + QLatin1Char('\n');
             text += QLatin1Char('\n');
+            before = &period;
         }
         if (!kiosk.differences.empty())
             text += countsText(answer, kiosk) + QLatin1Char('\n');

@@ -4,157 +4,18 @@
 #include "logstream.h"
 
 #include "command.h"
-#include "input.h"
-#include "jsonlines.h"
+#include "streamlog.h"
 
 #include <QHash>
 #include <QPair>
 
 #include <algorithm>
-#include <deque>
-#include <limits>
 #include <map>
 #include <set>
 #include <tuple>
+#include <vector>
 
 namespace {
-
-// What stands at a place of a log.
-struct Entry
-{
-    std::optional<SessionLine> line; // none where it is skipped
-    QString fault; // why it is
-    QByteArray text;
-    qint64 number = 0;
-    std::optional<qint64> moment;
-};
-
-// One of the logs, read as far as its entry.
-class Log
-{
-public:
-    Log(const QString& fileName, bool keepGoing)
-        : m_fileName(fileName)
-        , m_keepGoing(keepGoing)
-    {
-        open();
-    }
-
-    // Looks for the first time, which the lines before it need. False if there are lines and none
-    // has one.
-    bool findBegin()
-    {
-        const bool isReadOnce = m_fileName == QLatin1String("-") || m_file->isLive();
-        bool anyLine = false;
-        while (!m_last && read()) {
-            anyLine = anyLine || m_entry.line;
-            if (isReadOnce)
-                m_ahead.push_back(std::move(m_entry));
-        }
-        m_begin = m_last;
-        if (!isReadOnce)
-            open();
-        return m_begin || !anyLine;
-    }
-
-    bool next()
-    {
-        if (m_ahead.empty())
-            return read();
-        m_entry = std::move(m_ahead.front());
-        m_ahead.pop_front();
-        return true;
-    }
-
-    const TextInput& file() const { return *m_file; }
-    Entry& entry() { return m_entry; }
-
-    // Where the entry stands among those of other logs.
-    qint64 moment() const { return m_last.value_or(begin()); }
-    qint64 begin() const { return m_begin.value_or(std::numeric_limits<qint64>::min()); }
-
-    const QString& clockNote() const { return m_clockNote; }
-
-    // How the times of this log and another one overlap; empty if they do not.
-    QString overlap(const Log& other, qint64 commonLines) const
-    {
-        const Log& later = begin() < other.begin() ? other : *this;
-        const Log& sooner = moment() < other.moment() ? *this : other;
-        const bool areOfOneKiosk =
-            std::any_of(kiosks.begin(), kiosks.end(),
-                        [&](const QString& kiosk) { return other.kiosks.count(kiosk) > 0; });
-        if (commonLines == 0 && (!areOfOneKiosk || later.begin() >= sooner.moment()))
-            return {};
-        return Velmo::tr("%1 and %2 overlap from %3 to %4: %5")
-            .arg(m_file->name(), other.m_file->name(), later.m_beginTime.iso(),
-                 sooner.m_lastTime.iso(),
-                 commonLines == 0 ? Velmo::tr("taken together by their times")
-                                  : Velmo::tr("%n lines that are in both are taken once", nullptr,
-                                              int(commonLines)));
-    }
-
-    QString namedKiosk; // by the last line that names one
-    std::set<QString> kiosks; // that its lines are of
-
-private:
-    void open()
-    {
-        m_file.emplace(openInput(m_fileName));
-        m_last.reset();
-        m_isAtEnd = false;
-    }
-
-    bool read()
-    {
-        if (m_isAtEnd)
-            return false;
-        m_entry = {};
-        m_isAtEnd = !takeLine(
-            *m_file, m_keepGoing,
-            [this](const QByteArray& text) {
-                m_entry.line = SessionLine::read(*m_file, text);
-                m_entry.text = text.trimmed();
-                passTime(m_entry.line->time());
-            },
-            [this](const QString& fault) { m_entry.fault = fault; });
-        m_entry.number = m_file->lineNumber();
-        m_entry.moment = m_last;
-        return m_entry.line || !m_entry.fault.isNull();
-    }
-
-    void passTime(const LogTime& time)
-    {
-        const std::optional<qint64> moment = time.moment();
-        if (!moment)
-            return;
-        if (moment < m_last) {
-            if (m_clockNote.isNull()) {
-                const QString note = Velmo::tr("the clock goes back from %1 to %2; the lines stay "
-                                               "in their order");
-                m_clockNote =
-                    m_file->faultAt(m_file->lineNumber(), note.arg(m_lastTime.iso(), time.iso()))
-                        .message;
-            }
-            return;
-        }
-        if (!m_last)
-            m_beginTime = time;
-        m_last = moment;
-        m_lastTime = time;
-    }
-
-    const QString m_fileName;
-    const bool m_keepGoing;
-    std::optional<TextInput> m_file;
-    bool m_isAtEnd = false;
-    Entry m_entry;
-    std::deque<Entry> m_ahead; // read already, before the entry
-    std::optional<qint64> m_begin; // where it was looked for
-    std::optional<qint64> m_last;
-    LogTime m_beginTime;
-    LogTime m_lastTime;
-    QString m_clockNote;
-};
 
 // The lines that several logs have at one moment.
 class Repeats
@@ -162,22 +23,26 @@ class Repeats
 public:
     bool isAt(qint64 moment) const { return m_moment == moment; }
 
-    // Whether another log had this line as often before.
-    bool isOne(qint64 moment, int log, const QString& kiosk, const QByteArray& text)
+    // The other logs that had this line as often before.
+    std::vector<int> logsWith(qint64 moment, int log, const QString& kiosk, const QByteArray& text)
     {
         if (!isAt(moment))
             m_counts.clear();
         m_moment = moment;
         std::map<int, int>& counts = m_counts[{kiosk, text}];
         const int count = ++counts[log];
-        bool isRepeated = false;
+        std::vector<int> logs;
         for (const auto& [other, otherCount] : counts) {
-            if (other == log || otherCount < count)
-                continue;
-            isRepeated = true;
-            ++m_common[std::minmax(log, other)];
+            if (other != log && otherCount >= count)
+                logs.push_back(other);
         }
-        return isRepeated;
+        return logs;
+    }
+
+    void addCommon(int log, const std::vector<int>& others)
+    {
+        for (const int other : others)
+            ++m_common[std::minmax(log, other)];
     }
 
     qint64 between(int log, int other) const
@@ -201,7 +66,7 @@ public:
     {
     }
 
-    QString of(const Log& log) const
+    QString of(const StreamLog& log) const
     {
         if (m_perFile)
             return log.file().name();
@@ -209,8 +74,9 @@ public:
     }
 
     // Throws Fault where it cannot be told.
-    void take(Log& log)
+    void take(StreamLog& log)
     {
+        m_isNew = false;
         const QString named = log.entry().line->kiosk();
         const auto fault = [&](const QString& what) {
             return log.file().faultAt(log.entry().number, what);
@@ -220,18 +86,48 @@ public:
                 throw fault(Velmo::tr(R"(a line of kiosk "%1" in the log of "%2")")
                                 .arg(named, log.namedKiosk));
             log.namedKiosk = named;
-            m_named.insert(named);
+            m_isNew = m_named.insert(named).second;
+            m_first = m_first.isEmpty() ? named : m_first;
         }
+        m_anyUnnamed = m_anyUnnamed || log.namedKiosk.isEmpty();
         if (!m_perFile && log.namedKiosk.isEmpty() && m_named.size() > 1)
             throw fault(Velmo::tr("the line does not say which kiosk it is of"));
     }
 
+    // The kiosks that lines without a name may be of, when the line that was taken names one more.
+    std::set<QString> doubted() const
+    {
+        const bool areDoubted = m_isNew && m_anyUnnamed && m_named.size() > 1 && !m_perFile;
+        return areDoubted ? m_named : std::set<QString>();
+    }
+    QString first() const { return m_first; }
+
 private:
     const bool m_perFile;
     std::set<QString> m_named;
+    QString m_first; // that was named
+    bool m_isNew = false; // what the line names
+    bool m_anyUnnamed = false; // line
 };
 
-using Logs = std::map<int, Log>; // by index
+using Logs = std::map<int, StreamLog>; // by index
+
+bool namesDevice(const SessionLine& line)
+{
+    static const quint32 deviceBit = DeviceReport::bit(deviceStateDescConst::DEVICE_ID);
+    return line.isPublished() || line.reports().front().has(deviceBit);
+}
+
+// Whether a line that others have as well may have happened again: they end in the second in which
+// its log begins. The very same line once more would say nothing new.
+bool mayBeAnother(const StreamLog& log, const Logs& logs, const std::vector<int>& others)
+{
+    return log.moment() == log.begin() && log.moment() % 1000 == 0
+        && std::all_of(others.begin(), others.end(), [&](int other) {
+               const StreamLog& known = logs.at(other);
+               return !known.hasMore() && !(log.isFirst() && known.lastText() == log.entry().text);
+           });
+}
 
 // Those that can be opened.
 Logs openLogs(const QStringList& fileNames, bool keepGoing,
@@ -286,15 +182,16 @@ LogStream::LogStream(const QStringList& logs, bool perFile, bool keepGoing)
         throw Fault{Velmo::tr("standard input can be given only once")};
 }
 
-int LogStream::read(const Take& take, const Skip& skipped)
+int LogStream::read(const Take& take, const Doubt& doubt)
 {
     Logs logs = openLogs(m_logs, m_keepGoing, [&](int index) {
-        skipped(index, m_perFile ? m_logs.at(index) : QString(), 0);
+        doubt(
+            {index, 0, m_perFile ? std::set<QString>{m_logs.at(index)} : std::set<QString>(), {}});
     });
     const bool byTimes = logs.size() > 1 && !m_perFile && findBegins(logs, m_notes);
 
     using Place = std::tuple<qint64, qint64, int>; // moment, where its log begins, which that is
-    const auto placeOf = [&](int index, const Log& log) {
+    const auto placeOf = [&](int index, const StreamLog& log) {
         return byTimes ? Place(log.moment(), log.begin(), index) : Place(0, 0, index);
     };
     std::set<Place> heads; // of the logs that are not at their end
@@ -311,8 +208,8 @@ int LogStream::read(const Take& take, const Skip& skipped)
     while (!heads.empty()) {
         auto head = heads.extract(heads.begin());
         const auto [moment, begin, index] = head.value();
-        Log& log = logs.at(index);
-        Entry& entry = log.entry();
+        StreamLog& log = logs.at(index);
+        StreamEntry& entry = log.entry();
         try {
             if (entry.line)
                 kiosks.take(log);
@@ -322,15 +219,45 @@ int LogStream::read(const Take& take, const Skip& skipped)
             entry.fault = fault.message;
         }
         const QString kiosk = kiosks.of(log);
+        if (byTimes)
+            entry.moment = moment;
+        const auto tellGap = [&](const std::set<QString>& of) {
+            doubt({index, entry.number, of, entry.moment});
+        };
         const bool isShared = byTimes
             && (repeats.isAt(moment) || (!heads.empty() && std::get<0>(*heads.begin()) == moment));
         if (!entry.fault.isNull()) {
             printError(entry.fault);
             ++badLines;
-            skipped(index, kiosk, entry.number);
-        } else if (log.kiosks.insert(kiosk);
-                   !isShared || !repeats.isOne(moment, index, kiosk, entry.text)) {
-            take({std::move(*entry.line), index, entry.number, kiosk, entry.moment});
+            std::set<QString> known = log.kiosks;
+            known.erase(QString()); // its lines are of the first one that was named
+            known.insert(kiosk);
+            tellGap(known);
+        } else {
+            log.kiosks.insert(kiosk);
+            std::vector<int> others;
+            if (isShared)
+                others = repeats.logsWith(moment, index, kiosk, entry.text);
+            const bool isInRun = log.isFirst() || log.isCopied || namesDevice(*entry.line);
+            log.isCopied = !others.empty() && isInRun;
+            if (!log.isCopied) {
+                take({std::move(*entry.line), index, entry.number, kiosk, entry.moment});
+            } else {
+                repeats.addCommon(index, others);
+                if (!log.isDoubted && mayBeAnother(log, logs, others)) {
+                    log.isDoubted = true;
+                    m_notes += Velmo::tr("%1 begins in the second in which %2 ends, with lines of "
+                                         "that: taken once, though they may have happened twice")
+                                   .arg(log.file().name(), logs.at(others.front()).file().name());
+                    tellGap({kiosk});
+                }
+            }
+            if (const std::set<QString> doubted = kiosks.doubted(); !doubted.empty()) {
+                m_notes += Velmo::tr("lines before the one that names kiosk \"%1\" do not say "
+                                     "which kiosk they are of: taken to be of \"%2\"")
+                               .arg(kiosk, kiosks.first());
+                tellGap(doubted);
+            }
         }
         if (log.next()) {
             head.value() = placeOf(index, log);

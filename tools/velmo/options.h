@@ -33,7 +33,8 @@ constexpr Option keepGoing{
         "Velmo", "Skip bad lines and what cannot be read of a log; the exit code is still 2.")};
 constexpr Option session{"session", nullptr, Value("N", Kind::Number),
                          QT_TRANSLATE_NOOP("Velmo", "Only session N, counted from 1 in each log.")};
-constexpr Option device{"device", nullptr, Value("ID", Kind::Number),
+constexpr Option device{"device", nullptr,
+                        Value("ID", Kind::Number, 0, std::numeric_limits<quint32>::max()),
                         QT_TRANSLATE_NOOP("Velmo", "Only the device with that identifier.")};
 constexpr Option from{
     "from", nullptr, Value("TIME", Kind::Text),
@@ -69,8 +70,9 @@ constexpr Option counted{
     QT_TRANSLATE_NOOP("Velmo",
                       "What was counted, to be held against the ledger: a table with the "
                       "columns device, place, denomination, count, or such a JSON list.")};
-constexpr Option csv{"csv", nullptr, Value(),
-                     QT_TRANSLATE_NOOP("Velmo", "Print a table for spreadsheets.")};
+constexpr Option csv{
+    "csv", nullptr, Value(),
+    QT_TRANSLATE_NOOP("Velmo", "Print a table for spreadsheets: with --counted, of the counts.")};
 constexpr Option last{"last", nullptr, Value(),
                       QT_TRANSLATE_NOOP("Velmo", "Only the newest period of each device.")};
 constexpr Option perFile{"per-file", nullptr, Value(),
