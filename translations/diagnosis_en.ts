@@ -206,5 +206,54 @@
             <numerusform>%n that do not add up</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n refused</source>
+        <translation>
+            <numerusform>%n refused</numerusform>
+            <numerusform>%n refused</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n taken</source>
+        <translation>
+            <numerusform>%n taken</numerusform>
+            <numerusform>%n taken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stuck</source>
+        <translation>
+            <numerusform>%n stuck</numerusform>
+            <numerusform>%n stuck</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rejected</source>
+        <translation>
+            <numerusform>%n rejected</numerusform>
+            <numerusform>%n rejected</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n returned</source>
+        <translation>
+            <numerusform>%n returned</numerusform>
+            <numerusform>%n returned</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unknown</source>
+        <translation>
+            <numerusform>%n unknown</numerusform>
+            <numerusform>%n unknown</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows were not counted.</source>
+        <translation>
+            <numerusform>%n row was not counted.</numerusform>
+            <numerusform>%n rows were not counted.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -555,25 +555,45 @@
         <source>Show:</source>
         <translation>Показать:</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%n refused</source>
-        <translation>не принято: %n</translation>
+        <translation>
+            <numerusform>не принято: %n</numerusform>
+            <numerusform>не принято: %n</numerusform>
+            <numerusform>не принято: %n</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%n taken</source>
-        <translation>принято: %n</translation>
+        <translation>
+            <numerusform>принято: %n</numerusform>
+            <numerusform>принято: %n</numerusform>
+            <numerusform>принято: %n</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%n rejected</source>
-        <translation>отклонено: %n</translation>
+        <translation>
+            <numerusform>отклонено: %n</numerusform>
+            <numerusform>отклонено: %n</numerusform>
+            <numerusform>отклонено: %n</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%n returned</source>
-        <translation>возвращено: %n</translation>
+        <translation>
+            <numerusform>возвращено: %n</numerusform>
+            <numerusform>возвращено: %n</numerusform>
+            <numerusform>возвращено: %n</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%n unknown</source>
-        <translation>неизвестно: %n</translation>
+        <translation>
+            <numerusform>неизвестно: %n</numerusform>
+            <numerusform>неизвестно: %n</numerusform>
+            <numerusform>неизвестно: %n</numerusform>
+        </translation>
     </message>
     <message>
         <source>refused by the filters</source>
@@ -1077,9 +1097,13 @@
         <source>its value came too late to ask the filters about it</source>
         <translation>номинал стал известен слишком поздно, чтобы спросить о ней фильтры</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%n stuck</source>
-        <translation>застряло: %n</translation>
+        <translation>
+            <numerusform>застряло: %n</numerusform>
+            <numerusform>застряло: %n</numerusform>
+            <numerusform>застряло: %n</numerusform>
+        </translation>
     </message>
     <message>
         <source> (nearest known: %1)</source>
@@ -1709,6 +1733,22 @@
     <message>
         <source>does not add up</source>
         <translation>не сходится</translation>
+    </message>
+    <message>
+        <source>%1 may be thousands or a decimal: expected a whole number without a comma or point</source>
+        <translation>%1 может означать тысячи или дробь: ожидается целое число без запятой и точки</translation>
+    </message>
+    <message>
+        <source>In the logs everything adds up.</source>
+        <translation>В журналах всё сходится.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows were not counted.</source>
+        <translation>
+            <numerusform>Не пересчитана %n строка.</numerusform>
+            <numerusform>Не пересчитаны %n строки.</numerusform>
+            <numerusform>Не пересчитано %n строк.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -1000,10 +1000,6 @@
         <translation>Результаты пересчёта для сверки с учётом: таблица со столбцами device, place, denomination, count или такой же список JSON.</translation>
     </message>
     <message>
-        <source>Print a table for spreadsheets.</source>
-        <translation>Печатать таблицу для электронных таблиц.</translation>
-    </message>
-    <message>
         <source>Only the newest period of each device.</source>
         <translation>Только самый новый период каждого устройства.</translation>
     </message>
@@ -1066,6 +1062,38 @@
     <message>
         <source>--refusals and --contradictions do not go together</source>
         <translation>--refusals и --contradictions вместе не работают</translation>
+    </message>
+    <message>
+        <source>the same is counted at %1</source>
+        <translation>то же уже указано в %1</translation>
+    </message>
+    <message>
+        <source>Period %1: from %2 to the time that is asked for, %3</source>
+        <translation>Период %1: %2 – до указанного времени, %3</translation>
+    </message>
+    <message>
+        <source>In the logs themselves everything adds up.</source>
+        <translation>В самих журналах всё сходится.</translation>
+    </message>
+    <message>
+        <source>Not counted: device %1, period %2, %3, %4; expected: %5</source>
+        <translation>Не пересчитано: устройство %1, период %2, %3, %4; ожидается: %5</translation>
+    </message>
+    <message>
+        <source>The logs tell of no device.</source>
+        <translation>В журналах нет ни одного устройства.</translation>
+    </message>
+    <message>
+        <source>%1 begins in the second in which %2 ends, with lines of that: taken once, though they may have happened twice</source>
+        <translation>%1 начинается в ту секунду, в которую кончается %2, с его же строк: они учтены один раз, хотя могли быть и дважды</translation>
+    </message>
+    <message>
+        <source>lines before the one that names kiosk &quot;%1&quot; do not say which kiosk they are of: taken to be of &quot;%2&quot;</source>
+        <translation>в строках до той, что называет терминал «%1», терминал не указан: они отнесены к «%2»</translation>
+    </message>
+    <message>
+        <source>Print a table for spreadsheets: with --counted, of the counts.</source>
+        <translation>Вывести таблицу для табличного процессора, с --counted – таблицу пересчёта.</translation>
     </message>
 </context>
 </TS>

@@ -162,7 +162,7 @@ CashDifference compareCount(const CashCount& count, const std::vector<CashPeriod
             || (isShort && !explainsShort(doubt.reason)))
             continue;
         for (const CashDoubt::Example& example : doubt.examples)
-            reasons.push_back({doubt.denomination == 0 ? 3 : 1, example});
+            reasons.emplace_back(doubt.denomination == 0 ? 3 : 1, example);
     }
     std::stable_sort(reasons.begin(), reasons.end(),
                      [](const auto& a, const auto& b) { return a.first < b.first; });

@@ -21,10 +21,11 @@ qint64 wholeNumber(const QString& text, qint64 most)
     static const QRegularExpression form(
         QStringLiteral("^(\\d+|\\d{1,3}(?:[ \u00a0\u2009\u202f]\\d{3})+)(?:[.,]0{1,2})?$"));
     static const QRegularExpression thousands(QStringLiteral("^\\d{1,3}([.,]\\d{3})+$"));
-    if (thousands.match(text).hasMatch())
+    if (thousands.match(text).hasMatch()) {
         throw Fault{Diagnosis::tr("%1 may be thousands or a decimal: expected a whole number "
                                   "without a comma or point")
                         .arg(text)};
+    }
     QString digits = form.match(text).captured(1);
     digits.remove(QRegularExpression(QStringLiteral("\\D")));
     bool isNumber = false;
@@ -93,10 +94,11 @@ void requireColumns(const QStringList& names)
 {
     for (const Column& column : columns) {
         const auto count = names.count(QLatin1String(column.name));
-        if (count > 1 || (column.isNeeded && count == 0))
+        if (count > 1 || (column.isNeeded && count == 0)) {
             throw Fault{(count > 1 ? Diagnosis::tr("column \"%1\" stands twice")
                                    : Diagnosis::tr("column \"%1\" is missing"))
                             .arg(QLatin1String(column.name))};
+        }
     }
 }
 
@@ -170,10 +172,11 @@ std::vector<CashCount> readTable(const TextInput& file, const QStringList& lines
             if (std::all_of(values.begin(), values.end(),
                             [](const QString& value) { return value.trimmed().isEmpty(); }))
                 continue;
-            if (values.size() != names.size())
+            if (values.size() != names.size()) {
                 throw Fault{Diagnosis::tr("expected %1 cells as in the header, not %2")
                                 .arg(names.size())
                                 .arg(values.size())};
+            }
             counts.push_back(countOf(names, values));
             counts.back().where = QStringLiteral("%1:%2").arg(file.name()).arg(i + 1);
         } catch (const Fault& fault) {

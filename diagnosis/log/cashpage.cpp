@@ -308,14 +308,18 @@ QString verdict(const CashAnswer& answer)
     int odd = 0;
     int counted = 0;
     int wrong = 0;
+    int missing = 0;
     for (const KioskCash& kiosk : answer.kiosks) {
         odd += int(kiosk.contradictions.size());
         counted += int(kiosk.differences.size());
+        missing += int(kiosk.notCounted.size());
         wrong += int(std::count_if(kiosk.differences.begin(), kiosk.differences.end(),
                                    [](const CashDifference& d) { return d.difference != 0; }));
     }
+    const QString sound = counted == 0 ? Diagnosis::tr("Everything adds up.")
+                                       : Diagnosis::tr("In the logs everything adds up.");
     QStringList texts{
-        odd == 0 ? htmlText(Diagnosis::tr("Everything adds up."))
+        odd == 0 ? htmlText(sound)
                  : anchored("odd", Diagnosis::tr("%n things do not add up.", nullptr, odd))};
     if (counted > 0) {
         texts += anchored(
@@ -323,6 +327,8 @@ QString verdict(const CashAnswer& answer)
             wrong == 0 ? Diagnosis::tr("Everything that was counted is right.")
                        : Diagnosis::tr("Of %1 counts %2 are not right.").arg(counted).arg(wrong));
     }
+    if (missing > 0)
+        texts += htmlText(Diagnosis::tr("%n rows were not counted.", nullptr, missing));
     return QStringLiteral("<p class=\"verdict\">%1</p>\n").arg(texts.join(QLatin1Char(' ')));
 }
 

@@ -204,11 +204,12 @@ QByteArray cashCsv(const CashAnswer& answer)
         for (const KioskCash& kiosk : answer.kiosks) {
             for (const CashDifference& difference : kiosk.differences) {
                 QStringList reasons;
-                for (const CashDoubt::Example& example : difference.explanations)
+                for (const CashDoubt::Example& example : difference.explanations) {
                     reasons += QStringLiteral("%1:%2: %3")
                                    .arg(answer.logs.value(LogPosition::log(example.place.line)),
                                         QString::number(LogPosition::line(example.place.line)),
                                         example.text);
+                }
                 text += csvLine(
                     QStringList{plain(kiosk.kiosk), QString::number(difference.count.device),
                                 QString::number(difference.thread),

@@ -214,7 +214,7 @@ int cashCommand(const Arguments& arguments)
         if (arguments.isSet(options::last))
             leaveLast(kiosk);
         answer.summary.contradictions += qint64(kiosk.contradictions.size());
-        isSound = isSound && kiosk.contradictions.empty()
+        isSound = isSound && kiosk.contradictions.empty() && kiosk.notCounted.empty()
             && std::all_of(kiosk.differences.begin(), kiosk.differences.end(),
                            [](const CashDifference& d) { return d.difference == 0; });
     }

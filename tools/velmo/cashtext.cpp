@@ -56,10 +56,11 @@ QString tableOf(const CashPeriod& period)
         place = name;
     }
     QString unvalued;
-    if (period.ofAnyValue > 0)
+    if (period.ofAnyValue > 0) {
         unvalued = Velmo::tr("Pieces of unknown value that may lie in the cassette: %1")
                        .arg(period.ofAnyValue)
             + QLatin1Char('\n');
+    }
     if (rows.isEmpty())
         return unvalued.isEmpty() ? Velmo::tr("Of money the log tells nothing.") + QLatin1Char('\n')
                                   : unvalued;
@@ -108,12 +109,13 @@ QString countsText(const CashAnswer& answer, const KioskCash& kiosk)
                          Velmo::tr("Place"), right + Velmo::tr("Face value"),
                          right + Velmo::tr("Expected"), right + Velmo::tr("Counted"), QString()},
                         rows);
-    for (const CashDifference& missing : kiosk.notCounted)
+    for (const CashDifference& missing : kiosk.notCounted) {
         text += Velmo::tr("Not counted: device %1, period %2, %3, %4; expected: %5")
                     .arg(QString::number(missing.count.device), QString::number(missing.period),
                          missing.placeName(), QString::number(missing.count.denomination),
                          missing.expected.text())
             + QLatin1Char('\n');
+    }
     for (int i = 0; i < int(kiosk.differences.size()); ++i) {
         const CashDifference& difference = kiosk.differences.at(size_t(i));
         if (difference.difference == 0)

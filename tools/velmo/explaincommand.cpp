@@ -190,10 +190,11 @@ private:
         const bool isUntimed =
             !m_question.period.isAll() && !times.anyKnown() && file->lineNumber() > 0;
         finish(explainer, !isUntimed);
-        if (m_untimed > 0 && !isUntimed)
+        if (m_untimed > 0 && !isUntimed) {
             tell(Velmo::tr("%1: notes before the first time, left out: %2")
                      .arg(file->name())
                      .arg(m_untimed));
+        }
         if (ending)
             return takeFault(*ending);
         if (isUntimed)
@@ -251,10 +252,11 @@ private:
         m_summary.add(answer);
         if (m_page && !m_question.summaryOnly)
             m_page->page().add(answer);
-        else if (!m_page && m_question.shows(answer))
+        else if (!m_page && m_question.shows(answer)) {
             m_text += m_json
                 ? jsonOf(m_log, answer) + '\n'
                 : textLine(answer.headline(), answer.text(), colors[int(answer.outcome)]);
+        }
     }
 
     void takeContradiction(const MoneyTrail& /*trail*/, const Contradiction& found) override

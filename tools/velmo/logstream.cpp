@@ -221,8 +221,8 @@ int LogStream::read(const Take& take, const Doubt& doubt)
         const QString kiosk = kiosks.of(log);
         if (byTimes)
             entry.moment = moment;
-        const auto tellGap = [&](const std::set<QString>& of) {
-            doubt({index, entry.number, of, entry.moment});
+        const auto tellGap = [&, which = index](const std::set<QString>& of) {
+            doubt({which, entry.number, of, entry.moment});
         };
         const bool isShared = byTimes
             && (repeats.isAt(moment) || (!heads.empty() && std::get<0>(*heads.begin()) == moment));

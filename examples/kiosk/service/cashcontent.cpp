@@ -32,12 +32,13 @@ QVariantList piecesOf(const CashPeriod& period)
 {
     QVariantList pieces;
     for (const CashDoubt& doubt : period.doubts) {
-        if (doubt.reason == DoubtReason::Stuck || doubt.reason == DoubtReason::OnItsWay)
+        if (doubt.reason == DoubtReason::Stuck || doubt.reason == DoubtReason::OnItsWay) {
             pieces +=
                 QVariantMap{{QStringLiteral("denomination"), doubt.denomination},
                             {QStringLiteral("count"), doubt.pieces},
                             {QStringLiteral("stuck"), doubt.reason == DoubtReason::Stuck},
                             {QStringLiteral("since"), doubt.examples.front().place.time.iso()}};
+        }
     }
     return pieces;
 }
@@ -61,11 +62,12 @@ QVariantList CashContent::toList() const
     for (const CashPeriod& period : m_ledger.now()) {
         const QVariantList places = placesOf(period);
         const QVariantList pieces = piecesOf(period);
-        if (!places.isEmpty() || !pieces.isEmpty())
+        if (!places.isEmpty() || !pieces.isEmpty()) {
             devices += QVariantMap{{deviceStateDescConst::DEVICE_ID, period.device},
                                    {deviceStateDescConst::THREAD_ID, period.thread},
                                    {QStringLiteral("places"), places},
                                    {QStringLiteral("pieces"), pieces}};
+        }
     }
     return devices;
 }
