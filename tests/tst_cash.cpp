@@ -327,6 +327,8 @@ s a50 i k i o n a50 c50 i         | --last | adds? up | Everything adds up.
 00=s 01=a50 02=c50 03=i           | --to 2025-01-01        | .        | The logs tell of no device.
 00=s 01=a50 02=c50 03=i           | --to 2026-01-01T10:02Z | ^Period  | Period 1: from 2026-01-01 10:00:00 UTC (line 1) to the time that is asked for
 00=s 01=a50 02=c50 03=i           | --to 2026-01-01T10:03Z | ^Period  | Period 1: from 2026-01-01 10:00:00 UTC (line 1) to the end
+00=s 05=p 06=#3,-100 07=q         | --to 2026-01-01T10:06Z | add      | Everything adds up.
+00=s 05=p 06=#3,-100              |                        | adds? up | What does not add up:
 @3000000000 s                     | --device 3000000000    | ^Device  | Device 3000000000
 s                                 | --counted F | add      | In the logs themselves everything adds up.
 )"_s);

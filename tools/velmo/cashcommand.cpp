@@ -67,6 +67,7 @@ public:
         for (const auto& [name, known] : m_kiosks) {
             if (!known->hasBegun) // all was before
                 known->begin(0, {});
+            known->isOver = known->isCut;
             known->ledger.finish();
             answer.kiosks.push_back({name,
                                      known->ledger.periods(m_isLogMissing),
@@ -86,8 +87,10 @@ private:
     struct Kiosk
     {
         Kiosk(const QStringList& logs, std::optional<quint32> device)
-            : ledger(logs, device,
-                     [this](const Contradiction& found) { contradictions.push_back(found); })
+            : ledger(logs, device, [this](const Contradiction& found) {
+                if (!isOver)
+                    contradictions.push_back(found);
+            })
         {
         }
 
@@ -103,6 +106,7 @@ private:
         CashLedger ledger;
         bool hasBegun = false;
         bool isCut = false; // lines came behind the time that is asked for
+        bool isOver = false; // what does not add up at its end, those may clear
     };
 
     Kiosk& ledgerOf(const QString& name)
