@@ -30,7 +30,7 @@ qint64 wholeNumber(const QString& text, qint64 most)
     digits.remove(QRegularExpression(QStringLiteral("\\D")));
     bool isNumber = false;
     const qint64 number = digits.toLongLong(&isNumber);
-    if (!isNumber || number < 0 || number > most)
+    if (!isNumber || number > most)
         throw Fault{Diagnosis::tr("expected a whole number from %1 to %2").arg(0).arg(most)};
     return number;
 }

@@ -136,14 +136,11 @@ QString barsOf(const CashDevice& device, const CashPeriod& period, qint64 most)
 QString ledgerOf(const CashPeriod& period)
 {
     WideTable table(CashRow::columns() << Diagnosis::tr("Why"));
-    QStringList notes;
+    const QStringList notes = period.notes();
     for (const CashRow& cashRow : period.rows) {
         QStringList marks;
-        for (const QString& why : cashRow.why) {
-            if (!notes.contains(why))
-                notes += why;
+        for (const QString& why : cashRow.why)
             marks += QStringLiteral("[%1]").arg(notes.indexOf(why) + 1);
-        }
         table.add(cashRow.cells() << marks.join(QLatin1Char(' ')));
     }
     QString html = table.html();

@@ -112,3 +112,12 @@ QStringList CashRow::columns()
             Diagnosis::tr("Opening"), Diagnosis::tr("In"),    Diagnosis::tr("Out"),
             Diagnosis::tr("Moved"),   Diagnosis::tr("Now"),   Diagnosis::tr("Sum now")};
 }
+
+QStringList CashPeriod::notes() const
+{
+    QStringList texts;
+    for (const CashRow& row : rows)
+        texts += row.why;
+    texts.removeDuplicates();
+    return texts;
+}

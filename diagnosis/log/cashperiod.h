@@ -134,6 +134,9 @@ struct CashPeriod
     };
     std::vector<Content> course;
 
+    /// What the rows say besides numbers, each text once; rows have them as footnotes.
+    QStringList notes() const;
+
     bool isOfSameDevice(const CashPeriod& other) const
     {
         return device == other.device && thread == other.thread;

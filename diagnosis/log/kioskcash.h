@@ -8,6 +8,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <vector>
 
 /// Where the money of one kiosk is.
@@ -19,6 +20,14 @@ struct KioskCash
     std::vector<CashDifference> differences; ///< one for each count
     std::vector<CashDifference> notCounted; ///< of places of which others are
     bool isCut = false; ///< lines behind the time that is asked for are left out
+
+    /// Whether nothing is short, over or not counted.
+    bool areCountsRight() const
+    {
+        return notCounted.empty()
+            && std::all_of(differences.begin(), differences.end(),
+                           [](const CashDifference& d) { return d.difference == 0; });
+    }
 };
 
 /// Of all kiosks that the logs are of.

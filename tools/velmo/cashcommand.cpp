@@ -218,9 +218,7 @@ int cashCommand(const Arguments& arguments)
         if (arguments.isSet(options::last))
             leaveLast(kiosk);
         answer.summary.contradictions += qint64(kiosk.contradictions.size());
-        isSound = isSound && kiosk.contradictions.empty() && kiosk.notCounted.empty()
-            && std::all_of(kiosk.differences.begin(), kiosk.differences.end(),
-                           [](const CashDifference& d) { return d.difference == 0; });
+        isSound = isSound && kiosk.contradictions.empty() && kiosk.areCountsRight();
     }
     for (const QString& note : stream.notes()) {
         if (json || csv)

@@ -6,8 +6,6 @@
 #include "terminal/table.h"
 #include "terminal/velmo.h"
 
-#include <algorithm>
-
 namespace {
 
 // When it was, on the clock of the log, and the line.
@@ -36,15 +34,12 @@ QString periodText(const QStringList& logs, const KioskCash& kiosk, const CashPe
 QString tableOf(const CashPeriod& period)
 {
     QList<QStringList> rows;
-    QStringList notes;
+    const QStringList notes = period.notes();
     QString place;
     for (const CashRow& row : period.rows) {
         QStringList marks;
-        for (const QString& why : row.why) {
-            if (!notes.contains(why))
-                notes += why;
+        for (const QString& why : row.why)
             marks += QString::number(notes.indexOf(why) + 1);
-        }
         QStringList cells = row.cells();
         const QString name = cells.at(0);
         if (name == place)
@@ -77,10 +72,7 @@ QString tableOf(const CashPeriod& period)
 
 QString contradictionsText(const CashAnswer& answer, const KioskCash& kiosk)
 {
-    const bool areCountsRight = kiosk.notCounted.empty()
-        && std::all_of(kiosk.differences.begin(), kiosk.differences.end(),
-                       [](const CashDifference& d) { return d.difference == 0; });
-    if (kiosk.contradictions.empty() && !areCountsRight)
+    if (kiosk.contradictions.empty() && !kiosk.areCountsRight())
         return Velmo::tr("In the logs themselves everything adds up.") + QLatin1Char('\n');
     if (kiosk.contradictions.empty())
         return Velmo::tr("Everything adds up.") + QLatin1Char('\n');
