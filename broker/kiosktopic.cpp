@@ -6,28 +6,78 @@
 #include "text/diagnosis.h"
 #include "text/fault.h"
 
+#include <QRegularExpression>
+
+namespace {
+
+const QLatin1String anyName("+");
+const QLatin1String partLevel("%part");
+
+} // namespace
+
 KioskTopic::KioskTopic(const QString& pattern)
+    : m_levels(pattern.split(QLatin1Char('/')))
 {
-    QString plain = pattern;
-    plain.replace(QLatin1String("%1"), QLatin1String("+"));
-    const auto place = plain.indexOf(QLatin1Char('+'));
-    m_before = plain.left(place);
-    m_after = plain.mid(place + 1);
-    const bool isWholeLevel = (m_before.isEmpty() || m_before.endsWith(QLatin1Char('/')))
-        && (m_after.isEmpty() || m_after.startsWith(QLatin1Char('/')));
-    if (place < 0 || !isWholeLevel || m_after.contains(QLatin1Char('+'))
-        || plain.contains(QLatin1Char('#')) || plain.startsWith(QLatin1Char('$'))) {
-        throw Fault{Diagnosis::tr("topic \"%1\": expected one level that is + or %2")
-                        .arg(pattern, QStringLiteral("%1"))};
+    static const QRegularExpression wild(QStringLiteral("[+#%]|^\\$"));
+    bool isSound = true;
+    for (QString& level : m_levels) {
+        if (level == QLatin1String("%1") || level == QLatin1String("%kiosk"))
+            level = anyName;
+        isSound = isSound && (level == anyName || level == partLevel || !level.contains(wild));
     }
+    const auto names = m_levels.count(anyName);
+    if (!isSound || names < 1 || names > 2 || m_levels.count(partLevel) > 1) {
+        throw Fault{Diagnosis::tr("topic \"%1\": expected one or two levels that are + or %2, and "
+                                  "no more than one that is %3")
+                        .arg(pattern, QStringLiteral("%kiosk"), partLevel)};
+    }
+}
+
+QString KioskTopic::filter(int part) const
+{
+    return QStringList(m_levels)
+        .replaceInStrings(partLevel, part == 0 ? QString(anyName) : QString::number(part))
+        .join(QLatin1Char('/'));
+}
+
+QString KioskTopic::of(const QString& kiosk, int part) const
+{
+    QString topic = filter(part);
+    const QStringList names = kiosk.split(QLatin1Char('/'));
+    for (const QString& name : names) {
+        const auto place = topic.indexOf(QLatin1Char('+'));
+        topic.replace(place, 1, name);
+    }
+    return topic;
 }
 
 QString KioskTopic::kioskOf(const QString& topic) const
 {
-    if (topic.size() <= m_before.size() + m_after.size() || !topic.startsWith(m_before)
-        || !topic.endsWith(m_after))
+    const auto levels = topic.split(QLatin1Char('/'));
+    if (levels.size() != m_levels.size())
         return {};
-    const QString kiosk =
-        topic.mid(m_before.size(), topic.size() - m_before.size() - m_after.size());
-    return kiosk.contains(QLatin1Char('/')) ? QString() : kiosk;
+    QString kiosk;
+    for (int i = 0; i < levels.size(); ++i) {
+        if (m_levels[i] == anyName) {
+            if (levels[i].isEmpty())
+                return {};
+            kiosk += (kiosk.isEmpty() ? QString() : QStringLiteral("/")) + levels[i];
+        } else if (m_levels[i] != partLevel && m_levels[i] != levels[i]) {
+            return {};
+        }
+    }
+    return kiosk;
+}
+
+int KioskTopic::partOf(const QString& topic) const
+{
+    const auto level = m_levels.indexOf(partLevel);
+    return level < 0 ? 0 : topic.section(QLatin1Char('/'), int(level), int(level)).toInt();
+}
+
+QString regionOf(const QString& kiosk)
+{
+    static const QRegularExpression separator(QStringLiteral("[-/_.]"));
+    const auto end = kiosk.indexOf(separator);
+    return end < 0 ? QString() : kiosk.left(end);
 }

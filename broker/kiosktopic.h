@@ -4,27 +4,43 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
-/// Where summaries are published unless told otherwise.
-constexpr char usualSummaries[] = "kiosks/%1/summary";
+/// Where summaries are published unless told otherwise, and where the workers tell of themselves.
+constexpr char usualSummaries[] = "kiosks/+/summary";
+constexpr char usualStatus[] = "velmo-fleet/+/status";
 
-/// The topics of all kiosks: one level of the topic is the kiosk's name.
+/// The topics of all kiosks: one or two levels of the topic are the kiosk's name, and one may be
+/// the number of its part.
 class KioskTopic
 {
 public:
-    /// @param pattern a topic with "+" or "%1" for that level, for example "kiosks/+/state". Throws
-    /// Fault for one that has not exactly one.
+    /// @param pattern a topic with "+", "%1" or "%kiosk" for the levels of the name and "%part" for
+    /// that of the part, for example "kiosks/%part/%kiosk/state". Throws Fault for any other.
     explicit KioskTopic(const QString& pattern);
 
     /// What to subscribe to.
-    QString filter() const { return m_before + QLatin1Char('+') + m_after; }
+    /// @param part 0 for all of them
+    QString filter(int part = 0) const;
 
-    QString of(const QString& kiosk) const { return m_before + kiosk + m_after; }
+    /// @param kiosk a name that kioskOf() gives
+    QString of(const QString& kiosk, int part = 0) const;
 
-    /// Empty for a topic that is of no kiosk.
+    /// The name, its two levels joined by "/"; empty for a topic that is of no kiosk.
     QString kioskOf(const QString& topic) const;
 
+    /// The number that its level of the part has; 0 without one.
+    int partOf(const QString& topic) const;
+
+    bool hasPart() const { return m_levels.contains(QLatin1String("%part")); }
+
+    /// How many levels the names have.
+    int nameLevels() const { return int(m_levels.count(QLatin1String("+"))); }
+
 private:
-    QString m_before;
-    QString m_after;
+    QStringList m_levels; // "+" and "%part" where they vary
 };
+
+/// What kiosks of one place have in common: the name up to the first of "/", "-", "_" and ".".
+/// Empty for a name without one.
+QString regionOf(const QString& kiosk);

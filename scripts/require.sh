@@ -32,7 +32,7 @@ wait_for_apt()
     [ -z "$errors" ] || echo "$errors" >&2
 }
 
-build_packages=(cmake g++ ninja-build qtbase5-dev libqt5serialport5-dev qttools5-dev
+build_packages=(cmake g++ ninja-build qtbase5-dev libqt5serialport5-dev libqt5sql5-sqlite libqt5sql5-psql qttools5-dev
     qttools5-dev-tools zlib1g-dev dbus fonts-dejavu-core
     libmosquitto-dev prometheus-cpp-dev mosquitto python3 python3-paho-mqtt
     qtdeclarative5-dev qtdeclarative5-dev-tools qml-module-qtquick2 qml-module-qtquick-controls2

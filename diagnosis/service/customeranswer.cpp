@@ -4,8 +4,12 @@
 #include "service/customeranswer.h"
 
 #include "devicestate.h"
+#include "text/conditions.h"
 #include "text/devicename.h"
 #include "text/diagnosis.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -16,28 +20,43 @@ bool isOpen(const PublishedDevice& device)
         || device.state() == deviceStatesConst::DS_IDLING;
 }
 
+bool hasCondition(const PublishedDevice& device)
+{
+    return std::any_of(std::begin(Condition::table), std::end(Condition::table),
+                       [&](const Condition& condition) { return condition.holds(device); });
+}
+
+// Whether its state is one in which a device works.
+bool isStateSound(const PublishedDevice& device)
+{
+    State state = STATE_BUSY;
+    return DeviceState::stateFromString(device.state(), state) && state != STATE_JAMMED
+        && state != STATE_ERROR;
+}
+
 } // namespace
 
-QStringList whyNotWorking(const PublishedDevice& device)
+std::vector<DeviceFault> whyNotWorking(const PublishedDevice& device)
 {
-    QStringList reasons = deviceFaults(device);
-    const QString name = device.state();
-    const bool isStuck =
-        name == deviceStatesConst::DS_JAMMED || name == deviceStatesConst::DS_ERROR;
-    State state = STATE_BUSY;
-    const bool isKnown = DeviceState::stateFromString(name, state);
-    if (reasons.isEmpty() && (isStuck || !isKnown)) {
-        const QString reason = isKnown
+    std::vector<DeviceFault> faults;
+    for (const Condition::Kind kind : Condition::publishedOrder) {
+        const Condition& condition = Condition::table[kind];
+        if (condition.holds(device))
+            faults.push_back({condition.key, condition.told(device)});
+    }
+    if (faults.empty() && !isStateSound(device)) {
+        State state = STATE_BUSY;
+        const QString text = DeviceState::stateFromString(device.state(), state)
             ? Diagnosis::tr("The device does not work; its state: %1.")
             : Diagnosis::tr("It is not known whether the device works; its state: %1.");
-        reasons += reason.arg(AcceptorState::stateDescr(name));
+        faults.push_back({"state", text.arg(AcceptorState::stateDescr(device.state()))});
     }
-    return reasons;
+    return faults;
 }
 
 bool isWorking(const PublishedDevice& device)
 {
-    return whyNotWorking(device).isEmpty();
+    return !hasCondition(device) && isStateSound(device);
 }
 
 bool takesMoney(const PublishedDevice& device)

@@ -7,9 +7,18 @@
 
 #include <QString>
 
-/// Why a device that is told of so could not take money at all, a sentence for each reason: its
-/// deviceFaults(), or that it is jammed, in error, or in a state that nobody knows.
-QStringList whyNotWorking(const PublishedDevice& device);
+#include <vector>
+
+/// Why a device could not take money at all.
+struct DeviceFault
+{
+    const char* reason; ///< as answers for programs name it; "state" for what it is in
+    QString text; ///< a sentence
+};
+
+/// Of a device that is told of so: its deviceFaults(), or that it is jammed, in error, or in a state
+/// that nobody knows.
+std::vector<DeviceFault> whyNotWorking(const PublishedDevice& device);
 
 /// Whether there is no such reason.
 bool isWorking(const PublishedDevice& device);

@@ -18,30 +18,53 @@
 
 namespace {
 
-constexpr const char* conditions[] = {"silent", "out_of_order", "faulty", "fine"};
+constexpr const char* conditions[] = {"unknown", "silent", "out_of_order", "faulty", "fine"};
 
 qint64 timeOf(const QDateTime& time)
 {
     return time.isValid() ? time.toMSecsSinceEpoch() : KioskSummary::noTime;
 }
 
-QStringList faultsOf(const PublishedState& state)
+std::vector<KioskFault> faultsOf(const PublishedState& state)
 {
-    QStringList faults;
+    std::vector<KioskFault> faults;
     for (const PublishedDevice& device : state.devices) {
-        const QStringList reasons = whyNotWorking(device);
-        for (const QString& reason : reasons)
-            faults += QStringLiteral("%1: %2").arg(deviceName(device.deviceId()), reason);
+        for (const DeviceFault& fault : whyNotWorking(device)) {
+            faults.push_back(
+                {device.deviceId(), device.threadId(), QLatin1String(fault.reason),
+                 QStringLiteral("%1: %2").arg(deviceName(device.deviceId()), fault.text)});
+        }
     }
-    if (state.devices.empty())
-        faults += Diagnosis::tr("The service tells of no device.");
+    if (state.devices.empty()) {
+        faults.push_back({KioskFault::noDevice, KioskFault::noDevice, QStringLiteral("no_devices"),
+                          Diagnosis::tr("The service tells of no device.")});
+    }
     return faults;
 }
 
-QByteArray ending(KioskSummary::Condition condition, const QStringList& faults)
+QByteArray causeOf(const KioskFault& fault)
 {
-    return QByteArrayLiteral(",\"condition\":\"") + KioskSummary::name(condition) + R"(","faults":)"
-        + JsonText::list(faults) + '}';
+    const auto number = [](int of) {
+        return of == KioskFault::noDevice ? JsonText::null() : JsonText(of);
+    };
+    return JsonText::object({{"device", number(fault.device)},
+                             {"thread", number(fault.thread)},
+                             {"reason", fault.reason}});
+}
+
+// The members after "devices", and the end of the object.
+QByteArray ending(const KioskSummary& summary)
+{
+    QByteArray since;
+    if (summary.since != KioskSummary::noTime) {
+        since = ",\"since\":"
+            + JsonText(QDateTime::fromMSecsSinceEpoch(summary.since, Qt::UTC)
+                           .toString(Qt::ISODateWithMs));
+    }
+    return since + ",\"condition\":\"" + KioskSummary::name(summary.condition) + R"(","faults":)"
+        + JsonText::list(summary.faults,
+                         [](const KioskFault& fault) { return JsonText(fault.text); })
+        + ",\"causes\":" + JsonText::list(summary.faults, causeOf) + '}';
 }
 
 // Reads the members of a summary; false for a text that is no JSON object.
@@ -54,6 +77,25 @@ bool readMembers(const QByteArray& text, Read readMember)
         && reader.isAtEnd();
 }
 
+QVariantMap membersOf(const QByteArray& text)
+{
+    QVariantMap members;
+    readMembers(text, [&](JsonReader& reader, QStringView key) {
+        return reader.readValue(members[key.toString()]);
+    });
+    return members;
+}
+
+KioskFault faultOf(const QString& text, const QVariantMap& cause)
+{
+    const auto number = [&](const QString& key) {
+        const QVariant value = cause.value(key);
+        return value.isNull() ? KioskFault::noDevice : value.toInt();
+    };
+    return {number(QStringLiteral("device")), number(QStringLiteral("thread")),
+            cause.value(QStringLiteral("reason")).toString(), text};
+}
+
 } // namespace
 
 const char* KioskSummary::name(Condition condition)
@@ -61,14 +103,20 @@ const char* KioskSummary::name(Condition condition)
     return conditions[condition];
 }
 
+KioskSummary::Condition KioskSummary::conditionOf(const QString& name)
+{
+    const auto known = std::find_if(std::begin(conditions), std::end(conditions),
+                                    [&](const char* each) { return name == QLatin1String(each); });
+    return known == std::end(conditions) ? Unknown : Condition(known - std::begin(conditions));
+}
+
 KioskSummary::KioskSummary(const QString& kiosk, const PublishedState& state, StateWriter& writer)
     : time(timeOf(state.service.dt()))
     , faults(faultsOf(state))
 {
-    if (!faults.isEmpty())
+    if (!faults.empty())
         condition = CustomerAnswer(state).inService ? Faulty : OutOfOrder;
-    text =
-        "{\"kiosk\":" + JsonText(kiosk) + ',' + writer.members(state) + ending(condition, faults);
+    text = "{\"kiosk\":" + JsonText(kiosk) + ',' + writer.members(state) + ending(*this);
     for (const PublishedDevice& device : state.devices) {
         inserted = wrappingSum(inserted, device.insertedInFull);
         rejected = wrappingSum(rejected, device.rejectedInFull);
@@ -76,24 +124,41 @@ KioskSummary::KioskSummary(const QString& kiosk, const PublishedState& state, St
     }
 }
 
-KioskSummary KioskSummary::silent(const KioskSummary& last, const QString& kiosk,
-                                  const QString& reason)
+KioskSummary KioskSummary::withoutState(const KioskSummary& last, const QString& kiosk,
+                                        Condition condition, const KioskFault& fault, qint64 now)
 {
-    QVariant time;
-    QVariant devices;
-    readMembers(last.text, [&](JsonReader& reader, QStringView key) {
-        if (key == QLatin1String("time"))
-            return reader.readValue(time);
-        return key == QLatin1String("devices") ? reader.readValue(devices) : reader.skipValue();
-    });
+    const QVariantMap members = membersOf(last.text);
     KioskSummary summary = last;
-    summary.condition = Silent;
-    summary.faults = QStringList{reason};
-    summary.text = "{\"kiosk\":" + JsonText(kiosk) + ",\"time\":" + JsonText::of(time)
-        + ",\"payment_text\":" + JsonText(outOfServiceText()) + R"(,"accepting":false,"reasons":)"
-        + JsonText::list(summary.faults) + ",\"devices\":" + JsonText::of(devices)
-        + ending(Silent, summary.faults);
+    if (last.condition != condition || last.since == noTime || last.since > now)
+        summary.since = now;
+    summary.condition = condition;
+    summary.faults = {fault};
+    summary.text = "{\"kiosk\":" + JsonText(kiosk)
+        + ",\"time\":" + JsonText::of(members.value(QStringLiteral("time")))
+        + ",\"payment_text\":" + JsonText(outOfServiceText())
+        + R"(,"accepting":false,"reasons":)" + JsonText::list(QStringList{fault.text})
+        + ",\"devices\":" + JsonText::of(members.value(QStringLiteral("devices")))
+        + ending(summary);
     return summary;
+}
+
+bool KioskSummary::cutTo(qsizetype bytes, const QString& kiosk)
+{
+    const QVariantMap members = membersOf(text);
+    const KioskFault cut{KioskFault::noDevice, KioskFault::noDevice, QStringLiteral("too_large"),
+                         Diagnosis::tr("Devices are left out: the broker has no room for all.")};
+    if (condition == Fine)
+        condition = Faulty;
+    do {
+        faults.resize(faults.size() / 2);
+        faults.push_back(cut);
+        text = "{\"kiosk\":" + JsonText(kiosk)
+            + ",\"time\":" + JsonText::of(members.value(QStringLiteral("time")))
+            + ",\"payment_text\":" + JsonText::of(members.value(QStringLiteral("payment_text")))
+            + ",\"accepting\":" + JsonText::of(members.value(QStringLiteral("accepting")))
+            + R"(,"reasons":[],"devices":[])" + ending(*this);
+    } while (text.size() > bytes && faults.size() > 1);
+    return text.size() <= bytes;
 }
 
 KioskSummary::KioskSummary(const QByteArray& json)
@@ -102,6 +167,8 @@ KioskSummary::KioskSummary(const QByteArray& json)
     bool hasDevices = false;
     QVariant value;
     QString conditionName;
+    QStringList texts;
+    QVariantList causes;
     const auto readDevice = [&](JsonReader& reader) {
         return reader.readObject([&](QStringView key) {
             qint64* const count = key == QLatin1String("notes_inserted") ? &inserted
@@ -120,25 +187,28 @@ KioskSummary::KioskSummary(const QByteArray& json)
             hasDevices = true;
             return reader.readArray([&] { return readDevice(reader); });
         }
-        if (key == QLatin1String("time")) {
-            const bool isTime = reader.readValue(value);
-            time = timeOf(QDateTime::fromString(value.toString(), Qt::ISODateWithMs));
-            return isTime;
-        }
+        qint64* const moment = key == QLatin1String("time") ? &time
+            : key == QLatin1String("since")                 ? &since
+                                                            : nullptr;
+        const bool isFault = key == QLatin1String("faults");
+        const bool isCause = key == QLatin1String("causes");
         const bool isCondition = key == QLatin1String("condition");
-        if (!isCondition && key != QLatin1String("faults"))
+        if (!moment && !isFault && !isCause && !isCondition)
             return reader.skipValue();
         const bool isRead = reader.readValue(value);
-        if (isCondition)
-            conditionName = value.toString();
+        if (moment)
+            *moment = timeOf(QDateTime::fromString(value.toString(), Qt::ISODateWithMs));
+        else if (isFault)
+            texts = value.toStringList();
+        else if (isCause)
+            causes = value.toList();
         else
-            faults = value.toStringList();
+            conditionName = value.toString();
         return isRead;
     });
-    const auto known =
-        std::find_if(std::begin(conditions), std::end(conditions),
-                     [&](const char* name) { return conditionName == QLatin1String(name); });
-    if (!isSound || !hasDevices || known == std::end(conditions))
+    condition = conditionOf(conditionName);
+    if (!isSound || !hasDevices || conditionName != QLatin1String(name(condition)))
         throw Fault{Diagnosis::tr("expected a kiosk's summary")};
-    condition = Condition(known - std::begin(conditions));
+    for (const QString& fault : texts)
+        faults.push_back(faultOf(fault, causes.value(int(faults.size())).toMap()));
 }

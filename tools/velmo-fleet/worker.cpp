@@ -141,7 +141,9 @@ void Worker::tellSilent(const QString& kiosk, const QString& reason)
     const Kiosks::Kiosk* const known = m_kiosks.find(kiosk);
     const KioskSummary last =
         known ? known->newest : KioskSummary(kiosk, PublishedState(), m_writer);
-    const KioskSummary summary = KioskSummary::silent(last, kiosk, reason);
+    const KioskSummary summary = KioskSummary::withoutState(
+        last, kiosk, KioskSummary::Silent, {-1, -1, QStringLiteral("silent"), reason},
+        QDateTime::currentMSecsSinceEpoch());
     if (m_kiosks.take(kiosk, summary))
         publish(kiosk, summary);
 }

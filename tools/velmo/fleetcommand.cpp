@@ -30,11 +30,10 @@ constexpr int longestName = 40; // in the table; --json has all of it
 constexpr int alwaysRoomFor = 1000;
 constexpr seconds droppedPause{11};
 
-// One that is not to be read is the worst: nothing is known of the kiosk.
-constexpr int unknown = -1;
+constexpr int unknown = KioskSummary::Unknown;
 
 const char* const conditionTexts[] = {
-    QT_TRANSLATE_NOOP("Velmo", "silent"), QT_TRANSLATE_NOOP("Velmo", "out of order"),
+    QT_TRANSLATE_NOOP("Velmo", "unknown"), QT_TRANSLATE_NOOP("Velmo", "silent"), QT_TRANSLATE_NOOP("Velmo", "out of order"),
     QT_TRANSLATE_NOOP("Velmo", "faulty"), QT_TRANSLATE_NOOP("Velmo", "fine")};
 
 struct Kiosk
@@ -73,7 +72,10 @@ public:
         }
         try {
             const KioskSummary summary(text);
-            m_kiosks.insert(name, {name, summary.condition, summary.time, summary.faults});
+            QStringList faults;
+            for (const KioskFault& fault : summary.faults)
+                faults += fault.text;
+            m_kiosks.insert(name, {name, summary.condition, summary.time, faults});
         } catch (const Fault& fault) {
             m_kiosks.insert(name, {name, unknown, KioskSummary::noTime, {fault.message}});
         }
