@@ -17,6 +17,7 @@
 #include <netinet/tcp.h>
 #include <poll.h>
 #include <sys/socket.h>
+#include <utility>
 
 namespace {
 
@@ -24,6 +25,7 @@ Q_LOGGING_CATEGORY(brokerLog, "velmo.broker")
 
 constexpr int keepAlive = 30; // seconds
 constexpr int inFlight = 1000; // messages without an acknowledgement, where the broker allows it
+constexpr int firstRefusal = 128; // of the reasons that MQTT 5 knows
 constexpr std::chrono::seconds longestPause{30};
 constexpr char droppedTopic[] = "$SYS/broker/publish/messages/dropped";
 
@@ -51,52 +53,81 @@ void require(int result, const QString& what)
     }
 }
 
-class SessionExpiry
+// A property of a message: for how many seconds the broker keeps it.
+class Expiry
 {
 public:
-    explicit SessionExpiry(quint32 seconds)
+    explicit Expiry(quint32 seconds)
     {
-        Mosquitto::library().property_add_int32(&m_property, MQTT_PROP_SESSION_EXPIRY_INTERVAL,
-                                                seconds);
+        if (seconds > 0) {
+            Mosquitto::library().property_add_int32(&m_property, MQTT_PROP_MESSAGE_EXPIRY_INTERVAL,
+                                                    seconds);
+        }
     }
-    ~SessionExpiry() { Mosquitto::library().property_free_all(&m_property); }
-    SessionExpiry(const SessionExpiry&) = delete;
-    SessionExpiry& operator=(const SessionExpiry&) = delete;
+    ~Expiry() { Mosquitto::library().property_free_all(&m_property); }
+    Expiry(const Expiry&) = delete;
+    Expiry& operator=(const Expiry&) = delete;
 
     const mosquitto_property* property() const { return m_property; }
+
+    // Whoever takes it frees it.
+    mosquitto_property* release() { return std::exchange(m_property, nullptr); }
 
 private:
     mosquitto_property* m_property = nullptr;
 };
 
+// "Not authorized" as "not_authorized".
+QString nameOfReason(int reason)
+{
+    if (reason == MQTT_RC_PACKET_TOO_LARGE)
+        return QLatin1String(BrokerConnection::tooLarge);
+    const QString text = QString::fromLatin1(Mosquitto::library().reason_string(reason));
+    return text.toLower().remove(QLatin1Char('.')).replace(QLatin1Char(' '), QLatin1Char('_'));
+}
+
 } // namespace
 
-BrokerConnection::BrokerConnection(const BrokerOptions& options, const QString& session,
-                                   quint32 expiry, Receiver receive)
+BrokerConnection::BrokerConnection(const BrokerOptions& options, Receiver receive)
     : m_options(options)
-    , m_expiry(session.isEmpty() ? 0 : expiry)
     , m_receive(std::move(receive))
 {
+    create();
+}
+
+// A new client, which knows nothing of what the one before had in hand.
+void BrokerConnection::create()
+{
     const Mosquitto& library = Mosquitto::library();
-    m_client = library.create(textOrNull(session.toUtf8()), session.isEmpty(), this);
+    if (m_client)
+        library.destroy(m_client);
+    m_unacknowledged = 0;
+    m_client = library.create(nullptr, true, this);
     if (!m_client)
-        throw Fault{Diagnosis::tr("session \"%1\": cannot be used").arg(session)};
+        throw Fault{QString::fromLocal8Bit(library.strerror(MOSQ_ERR_NOMEM))};
     library.int_option(m_client, MOSQ_OPT_PROTOCOL_VERSION, MQTT_PROTOCOL_V5);
     library.int_option(m_client, MOSQ_OPT_RECEIVE_MAXIMUM, inFlight);
     library.int_option(m_client, MOSQ_OPT_SEND_MAXIMUM, inFlight);
     library.int_option(m_client, MOSQ_OPT_TCP_NODELAY, 1);
-    // Nothing is sent but by loop_write(): acknowledgements wait until what they are of is done.
+    // Nothing is sent but by loop_write(), in few and large pieces.
     library.threaded_set(m_client, true);
-    if (!options.user.isEmpty()) {
-        require(library.username_pw_set(m_client, options.user.toUtf8().constData(),
-                                        options.password.toUtf8().constData()),
-                options.user);
+    if (!m_options.user.isEmpty()) {
+        require(library.username_pw_set(m_client, m_options.user.toUtf8().constData(),
+                                        m_options.password.toUtf8().constData()),
+                m_options.user);
     }
-    if (!options.caFile.isEmpty()) {
-        require(library.tls_set(m_client, QFile::encodeName(options.caFile).constData(), nullptr,
-                                textOrNull(QFile::encodeName(options.certificateFile)),
-                                textOrNull(QFile::encodeName(options.keyFile)), nullptr),
+    if (!m_options.caFile.isEmpty()) {
+        require(library.tls_set(m_client, QFile::encodeName(m_options.caFile).constData(), nullptr,
+                                textOrNull(QFile::encodeName(m_options.certificateFile)),
+                                textOrNull(QFile::encodeName(m_options.keyFile)), nullptr),
                 QStringLiteral("TLS"));
+    }
+    if (!m_willTopic.isEmpty()) {
+        Expiry expiry(m_willExpiry);
+        require(library.will_set_v5(m_client, m_willTopic.toUtf8().constData(),
+                                    int(m_will.size()), m_will.constData(), 1, true,
+                                    expiry.release()),
+                m_willTopic);
     }
     library.connect_v5_callback_set(
         m_client, [](mosquitto*, void* self, int reason, int, const mosquitto_property*) {
@@ -113,14 +144,20 @@ BrokerConnection::BrokerConnection(const BrokerOptions& options, const QString& 
                 connectionOf(self)->m_receive(QString::fromUtf8(message->topic), payload,
                                               message->retain);
         });
-    library.publish_callback_set(m_client, [](mosquitto*, void* self, int /*message*/) {
-        ++connectionOf(self)->m_events;
-        --connectionOf(self)->m_unacknowledged;
-    });
+    library.publish_v5_callback_set(
+        m_client,
+        [](mosquitto*, void* self, int message, int reason, const mosquitto_property*) {
+            ++connectionOf(self)->m_events;
+            --connectionOf(self)->m_unacknowledged;
+            if (connectionOf(self)->m_acknowledged) {
+                connectionOf(self)->m_acknowledged(
+                    message, reason < firstRefusal ? QString() : nameOfReason(reason));
+            }
+        });
     library.subscribe_callback_set(
         m_client, [](mosquitto*, void* self, int message, int /*count*/, const int* granted) {
             ++connectionOf(self)->m_events;
-            if (granted[0] >= 128 && message != connectionOf(self)->m_droppedRequest) {
+            if (granted[0] >= firstRefusal && message != connectionOf(self)->m_droppedRequest) {
                 connectionOf(self)->m_fault = Diagnosis::tr("The broker refuses a subscription.");
                 warn(connectionOf(self)->m_fault);
             }
@@ -137,6 +174,13 @@ BrokerConnection::~BrokerConnection()
     Mosquitto::library().destroy(m_client);
 }
 
+void BrokerConnection::setWill(const QString& topic, const QByteArray& payload, quint32 expiry)
+{
+    m_willTopic = topic;
+    m_will = payload;
+    m_willExpiry = expiry;
+}
+
 void BrokerConnection::connect()
 {
     const auto now = std::chrono::steady_clock::now();
@@ -144,10 +188,10 @@ void BrokerConnection::connect()
         return;
     m_pause = m_pause.count() == 0 ? std::chrono::seconds(1) : std::min(2 * m_pause, longestPause);
     m_nextAttempt = now + m_pause;
-    const SessionExpiry expiry(m_expiry);
+    create();
     const int result =
         Mosquitto::library().connect_bind_v5(m_client, m_options.host.toUtf8().constData(),
-                                             m_options.port, keepAlive, nullptr, expiry.property());
+                                             m_options.port, keepAlive, nullptr, nullptr);
     m_isOpen = result == MOSQ_ERR_SUCCESS;
     if (!m_isOpen)
         lose(QString::fromLocal8Bit(Mosquitto::library().strerror(result)));
@@ -161,10 +205,10 @@ void BrokerConnection::takeConnect(int reason)
         return;
     }
     m_isConnected = true;
+    ++m_connections;
     m_fault.clear();
     m_pause = std::chrono::seconds(0);
     m_unanswered = 1; // this one
-    // A broker that kept the session has the subscriptions; to repeat them brings what is retained.
     for (const Subscription& subscription : m_subscriptions)
         request(subscription);
     takeAnswer();
@@ -200,9 +244,14 @@ void BrokerConnection::lose(const QString& why)
 
 void BrokerConnection::subscribe(const QString& filter, int qos, bool ownToo)
 {
-    m_subscriptions.push_back({filter, qos, ownToo ? 0 : MQTT_SUB_OPT_NO_LOCAL});
+    const Subscription subscription{filter, qos, ownToo ? 0 : MQTT_SUB_OPT_NO_LOCAL};
+    const bool isNew =
+        std::none_of(m_subscriptions.begin(), m_subscriptions.end(),
+                     [&](const Subscription& known) { return known.filter == filter; });
+    if (isNew)
+        m_subscriptions.push_back(subscription);
     if (m_isConnected)
-        request(m_subscriptions.back());
+        request(subscription);
 }
 
 void BrokerConnection::request(const Subscription& subscription)
@@ -219,10 +268,6 @@ void BrokerConnection::request(const Subscription& subscription)
 
 void BrokerConnection::unsubscribe(const QString& filter)
 {
-    m_subscriptions.erase(
-        std::remove_if(m_subscriptions.begin(), m_subscriptions.end(),
-                       [&](const Subscription& known) { return known.filter == filter; }),
-        m_subscriptions.end());
     if (!m_isConnected)
         return;
     ++m_unanswered;
@@ -255,33 +300,44 @@ void BrokerConnection::takeDropped(const QByteArray& count)
     m_droppedBefore = told;
 }
 
-void BrokerConnection::publish(const QString& topic, const QByteArray& payload)
+int BrokerConnection::publish(const QString& topic, const QByteArray& payload, quint32 expiry)
 {
-    const int result =
-        Mosquitto::library().publish(m_client, nullptr, topic.toUtf8().constData(),
-                                     int(payload.size()), payload.constData(), 1, true);
-    // Without a connection it waits for the next one.
-    if (result != MOSQ_ERR_SUCCESS && result != MOSQ_ERR_NO_CONN)
-        require(result, topic);
+    if (!m_isConnected)
+        return 0;
+    const Expiry property(expiry);
+    int message = 0;
+    const int result = Mosquitto::library().publish_v5(
+        m_client, &message, topic.toUtf8().constData(), int(payload.size()), payload.constData(), 1,
+        true, property.property());
+    if (result == MOSQ_ERR_OVERSIZE_PACKET)
+        return tooBig;
+    if (result != MOSQ_ERR_SUCCESS) {
+        warn(QStringLiteral("%1: %2").arg(
+            topic, QString::fromLocal8Bit(Mosquitto::library().strerror(result))));
+        return 0;
+    }
     ++m_unacknowledged;
+    return message;
 }
 
-void BrokerConnection::read(int most)
+bool BrokerConnection::read(int most)
 {
     if (!m_isOpen) {
         connect();
-        return;
+        return false;
     }
     const Mosquitto& library = Mosquitto::library();
     int result = library.loop_misc(m_client);
     const quint64 first = m_events;
-    for (quint64 before = m_events - 1; result == MOSQ_ERR_SUCCESS && m_isOpen && before != m_events
-         && m_events - first < quint64(most);) {
+    quint64 before = m_events - 1;
+    while (result == MOSQ_ERR_SUCCESS && m_isOpen && before != m_events
+           && m_events - first < quint64(most)) {
         before = m_events;
         result = library.loop_read(m_client, 1);
     }
     if (result != MOSQ_ERR_SUCCESS && m_isOpen) // else the broker has said why
         lose(QString::fromLocal8Bit(library.strerror(result)));
+    return m_isOpen && before != m_events;
 }
 
 void BrokerConnection::write()
@@ -294,34 +350,30 @@ void BrokerConnection::write()
         lose(QString::fromLocal8Bit(library.strerror(result)));
 }
 
-void BrokerConnection::wait(const std::vector<BrokerConnection*>& connections,
-                            std::chrono::milliseconds timeout)
+void BrokerConnection::wait(std::chrono::milliseconds timeout)
 {
-    const Mosquitto& library = Mosquitto::library();
-    std::vector<pollfd> sockets;
-    for (const BrokerConnection* connection : connections) {
-        if (!connection->m_isOpen)
-            continue;
-        const bool wantsWrite = library.want_write(connection->m_client);
-        const int socket = library.socket(connection->m_client);
+    pollfd socket{-1, POLLIN, 0}; // poll passes over a negative one
+    if (m_isOpen) {
+        const Mosquitto& library = Mosquitto::library();
+        socket.fd = library.socket(m_client);
+        if (library.want_write(m_client))
+            socket.events |= POLLOUT;
         // A broker that gathers what it sends waits for the acknowledgement of what it has sent,
         // which the system would delay by 40 ms. The option lasts for a while only.
         const int now = 1;
-        setsockopt(socket, IPPROTO_TCP, TCP_QUICKACK, &now, sizeof now);
-        sockets.push_back({socket, short(POLLIN | (wantsWrite ? POLLOUT : 0)), 0});
+        setsockopt(socket.fd, IPPROTO_TCP, TCP_QUICKACK, &now, sizeof now);
         // What TLS has read already, poll does not tell of.
-        if (!connection->m_options.caFile.isEmpty())
+        if (!m_options.caFile.isEmpty())
             timeout = std::min(timeout, std::chrono::milliseconds(10));
     }
-    ::poll(sockets.data(), sockets.size(), int(timeout.count()));
+    ::poll(&socket, 1, int(timeout.count()));
 }
 
-void BrokerConnection::disconnect(bool endSession)
+void BrokerConnection::disconnect()
 {
     m_isEnding = true;
     if (!m_isOpen)
         return;
-    const SessionExpiry expiry(endSession ? 0 : m_expiry);
-    Mosquitto::library().disconnect_v5(m_client, 0, expiry.property());
+    Mosquitto::library().disconnect_v5(m_client, 0, nullptr);
     write();
 }

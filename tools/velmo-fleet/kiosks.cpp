@@ -6,71 +6,119 @@
 #include "metrics.h"
 
 #include <QDateTime>
+#include <QSet>
 
-bool tellsOrder(const KioskSummary& summary)
+#include <cstring>
+
+namespace {
+
+JsonText jsonOf(qint64 time)
 {
-    // A kiosk's clock may be ahead a little; one that is far ahead would hold back all that
-    // follows.
-    constexpr qint64 tolerance = 300000; // milliseconds
-    return summary.time != KioskSummary::noTime
-        && summary.time <= QDateTime::currentMSecsSinceEpoch() + tolerance;
+    return time == KioskSummary::noTime
+        ? JsonText::null()
+        : JsonText(QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODateWithMs));
 }
 
-Kiosks::Kiosks(Metrics& metrics)
-    : m_metrics(metrics)
-{
-}
+} // namespace
 
-bool Kiosks::take(const QString& kiosk, const KioskSummary& summary)
+// Eight bytes at a time: each state is hashed.
+quint64 Kiosk::hash(const QByteArray& text)
 {
-    const auto known = m_kiosks.find(kiosk);
-    if (known == m_kiosks.end()) {
-        m_kiosks.insert(kiosk, {summary, Clock::now()});
-        count(summary, 1);
-        return true;
+    constexpr quint64 factor = 0x9e3779b97f4a7c15;
+    quint64 hash = quint64(text.size()) * factor;
+    for (qsizetype i = 0; i < text.size(); i += 8) {
+        quint64 word = 0;
+        std::memcpy(&word, text.constData() + i, std::min<size_t>(8, size_t(text.size() - i)));
+        hash = (hash ^ word) * factor;
+        hash ^= hash >> 32;
     }
-    const bool isOlder =
-        tellsOrder(summary) && tellsOrder(known->newest) && summary.time < known->newest.time;
-    if (isOlder)
-        return false;
-    count(known->newest, -1);
-    count(summary, 1);
-    if (summary.condition != KioskSummary::Silent)
-        known->heardOf = Clock::now();
-    known->newest = summary;
-    return true;
+    return hash == 0 ? 1 : hash;
 }
 
-void Kiosks::forget(const QString& kiosk)
+Kiosk* Kiosks::find(const QString& name)
 {
-    const auto known = m_kiosks.find(kiosk);
+    const auto known = m_kiosks.find(name);
+    return known == m_kiosks.end() ? nullptr : &*known;
+}
+
+Kiosk& Kiosks::set(const QString& name, const KioskSummary& summary)
+{
+    const auto known = m_kiosks.find(name);
+    count(summary, 1);
+    if (known == m_kiosks.end())
+        return *m_kiosks.insert(name, Kiosk{summary});
+    count(known->summary, -1);
+    known->summary = summary;
+    return *known;
+}
+
+bool Kiosks::cut(const QString& name, Kiosk& kiosk, qsizetype bytes)
+{
+    KioskSummary summary = kiosk.summary;
+    const bool isCut = summary.cutTo(bytes, name);
+    if (isCut)
+        set(name, summary);
+    return isCut;
+}
+
+void Kiosks::setClockWrong(Kiosk& kiosk, bool isWrong)
+{
+    m_metrics.wrongClocks.Increment(int(isWrong) - int(kiosk.isClockWrong));
+    kiosk.isClockWrong = isWrong;
+}
+
+void Kiosks::remove(const QString& name)
+{
+    const auto known = m_kiosks.find(name);
     if (known == m_kiosks.end())
         return;
-    count(known->newest, -1);
+    setClockWrong(*known, false);
+    count(known->summary, -1);
     m_kiosks.erase(known);
-}
-
-const Kiosks::Kiosk* Kiosks::find(const QString& kiosk) const
-{
-    const auto known = m_kiosks.constFind(kiosk);
-    return known == m_kiosks.constEnd() ? nullptr : &*known;
-}
-
-std::vector<QString> Kiosks::silentFor(std::chrono::seconds time) const
-{
-    const Clock::time_point latest = Clock::now() - time;
-    std::vector<QString> silent;
-    for (auto kiosk = m_kiosks.begin(); kiosk != m_kiosks.end(); ++kiosk) {
-        if (kiosk->newest.condition != KioskSummary::Silent && kiosk->heardOf < latest)
-            silent.push_back(kiosk.key());
-    }
-    return silent;
 }
 
 void Kiosks::count(const KioskSummary& summary, int sign)
 {
+    m_counts[summary.condition] += sign;
     m_metrics.kiosks(summary.condition).Increment(sign);
     m_metrics.inserted.Increment(double(sign * summary.inserted));
     m_metrics.rejected.Increment(double(sign * summary.rejected));
     m_metrics.returned.Increment(double(sign * summary.returned));
+    QStringList reasons; // a kiosk counts once for each
+    for (const KioskFault& fault : summary.faults) {
+        if (!reasons.contains(fault.reason)) {
+            reasons += fault.reason;
+            m_metrics.faults(fault.reason).Increment(sign);
+        }
+    }
+}
+
+QByteArray Kiosks::json(bool all) const
+{
+    QByteArray counts;
+    for (int i = 0; i <= KioskSummary::Fine; ++i) {
+        counts += (i == 0 ? "\"" : ",\"")
+            + QByteArray(KioskSummary::name(KioskSummary::Condition(i)))
+            + "\":" + QByteArray::number(m_counts[i]);
+    }
+    QByteArray kiosks;
+    for (auto kiosk = m_kiosks.begin(); kiosk != m_kiosks.end(); ++kiosk) {
+        const KioskSummary& summary = kiosk->summary;
+        if (!all && summary.condition == KioskSummary::Fine)
+            continue;
+        const auto list = [&](auto member) {
+            return JsonText::list(summary.faults, [&](const KioskFault& fault) {
+                return JsonText(fault.*member);
+            });
+        };
+        kiosks += (kiosks.isEmpty() ? "" : ",")
+            + JsonText::object(
+                      {{"kiosk", kiosk.key()},
+                       {"condition", QString(QLatin1String(KioskSummary::name(summary.condition)))},
+                       {"time", jsonOf(summary.time)},
+                       {"since", jsonOf(summary.since)},
+                       {"faults", list(&KioskFault::text)},
+                       {"causes", list(&KioskFault::reason)}});
+    }
+    return "\"counts\":{" + counts + "},\"kiosks\":[" + kiosks + ']';
 }

@@ -4,49 +4,88 @@
 #pragma once
 
 #include "service/kiosksummary.h"
+#include "silenceclock.h"
 
 #include <QHash>
 #include <QString>
 
-#include <chrono>
 #include <vector>
 
 class Metrics;
 
-/// Whether a summary's time says what is newer: it has one, which is not in the future. Otherwise
-/// the order of arrival counts.
-bool tellsOrder(const KioskSummary& summary);
+/// What a worker knows of a kiosk.
+struct Kiosk
+{
+    KioskSummary summary; ///< the newest
+    quint64 message = 0; ///< hash of the state that it is of; 0 while that is not known
+    quint64 will = 0; ///< hash of the last word of its end; 0 for none
+    quint64 atBroker = 0; ///< hash of the summary that the broker has; 0 while that is not known
+    SilenceClock::Duration heardOf{0}; ///< when it last said something
+    bool isWaiting = false; ///< to be published
+    bool isClockWrong = false;
 
-/// The newest summary of each kiosk that a worker has seen, its own and those of the other workers.
+    bool isTold() const { return atBroker == hash(summary.text); }
+    bool isSilent() const { return summary.condition == KioskSummary::Silent; }
+
+    /// Of a message, never 0. Not for what others could choose so that it collides.
+    static quint64 hash(const QByteArray& text);
+};
+
+/// The kiosks of a worker's part, and how many there are of what kind.
 class Kiosks
 {
 public:
-    using Clock = std::chrono::steady_clock;
-
-    struct Kiosk
+    explicit Kiosks(Metrics& metrics)
+        : m_metrics(metrics)
     {
-        KioskSummary newest;
-        Clock::time_point heardOf;
-    };
-
-    explicit Kiosks(Metrics& metrics);
-
-    /// Takes a summary unless it is older than the one that is known.
-    /// @return whether it was taken
-    bool take(const QString& kiosk, const KioskSummary& summary);
-
-    /// The kiosk is no longer one of the fleet.
-    void forget(const QString& kiosk);
+    }
 
     /// Null for a kiosk that is not known.
-    const Kiosk* find(const QString& kiosk) const;
+    Kiosk* find(const QString& name);
 
-    /// The kiosks of which nothing was heard for so long, and that are not told of as silent.
-    std::vector<QString> silentFor(std::chrono::seconds time) const;
+    /// Gives the kiosk a summary; makes it when it is not known. What find() gave before may be
+    /// somewhere else then.
+    Kiosk& set(const QString& name, const KioskSummary& summary);
+
+    /// Makes the kiosk's summary so short, with a fault that says so.
+    /// @return false when that cannot be
+    bool cut(const QString& name, Kiosk& kiosk, qsizetype bytes);
+
+    void setClockWrong(Kiosk& kiosk, bool isWrong);
+
+    /// The kiosk is no longer one of the fleet.
+    void remove(const QString& name);
+
+    int size() const { return int(m_kiosks.size()); }
+
+    /// The names of those for which @p isWanted.
+    template <typename Condition>
+    std::vector<QString> namesOf(Condition isWanted) const
+    {
+        std::vector<QString> names;
+        for (auto kiosk = m_kiosks.begin(); kiosk != m_kiosks.end(); ++kiosk) {
+            if (isWanted(kiosk.key(), *kiosk))
+                names.push_back(kiosk.key());
+        }
+        return names;
+    }
+
+    template <typename Change>
+    void forEach(Change change)
+    {
+        for (auto kiosk = m_kiosks.begin(); kiosk != m_kiosks.end(); ++kiosk)
+            change(kiosk.key(), *kiosk);
+    }
+
+    /// Members of a JSON object for people who look at the fleet: "counts" of all by condition and
+    /// "kiosks".
+    /// @param all whether those that are fine are listed too
+    QByteArray json(bool all) const;
 
 private:
     void count(const KioskSummary& summary, int sign);
 
     Metrics& m_metrics;
     QHash<QString, Kiosk> m_kiosks;
+    int m_counts[KioskSummary::Fine + 1] = {};
 };

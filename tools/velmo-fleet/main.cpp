@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
+#include "historyrecorder.h"
 #include "terminal/option.h"
 #include "terminal/output.h"
 #include "text/fault.h"
@@ -12,6 +13,7 @@
 #include <QSysInfo>
 
 #include <csignal>
+#include <memory>
 
 namespace options {
 
@@ -27,36 +29,40 @@ constexpr Option wills{
     "wills", nullptr, Value("TOPIC", Kind::Text),
     QT_TRANSLATE_NOOP("Velmo", "Where a message, its will, says that a kiosk is gone."),
     "kiosks/+/will"};
-constexpr Option group{"group", nullptr, Value("NAME", Kind::Text),
-                       QT_TRANSLATE_NOOP("Velmo", "The workers that share the states."), "velmo"};
+constexpr Option status{
+    "status", nullptr, Value("TOPIC", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo", "Where workers tell of themselves."), usualStatus};
 constexpr Option name{
     "name", nullptr, Value("NAME", Kind::Text),
     QT_TRANSLATE_NOOP("Velmo",
-                      "What its session at the broker goes by; each worker has its own, the same "
-                      "at each start.")};
-constexpr Option expire{
-    "expire", nullptr, seconds,
-    QT_TRANSLATE_NOOP("Velmo", "How long the broker keeps states for it while it is away."),
-    "86400"};
+                      "What the worker goes by among the others; host and process without it.")};
+constexpr Option partition{
+    "partition", nullptr, Value("I/N", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo", "Which part of the kiosks it summarises, of so many."), "1/1"};
 constexpr Option silent{
     "silent", nullptr, seconds,
     QT_TRANSLATE_NOOP("Velmo", "After how long a kiosk is told of as silent; 0 for never."), "120"};
+constexpr Option forgetAfter{
+    "forget", nullptr, Value("DAYS", Kind::Number, 0, 36500),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "After how many days a kiosk that stays silent is forgotten; 0 for never."),
+    "30"};
+constexpr Option history{
+    "history", nullptr, Value("PLACE", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "Where to remember what kiosks were in: a file of SQLite, or "
+                      "postgresql://USER@HOST/DATABASE.")};
 constexpr Option metrics{"metrics", nullptr, Value("ADDRESS", Kind::Text),
                          QT_TRANSLATE_NOOP("Velmo", "Where Prometheus fetches the metrics.")};
 constexpr Option language{
     "lang", nullptr, Value("LANG", Kind::Language),
     QT_TRANSLATE_NOOP("Velmo",
                       "The language of the summaries, as \"ru\", in place of the system's.")};
-constexpr Option retire{
-    "retire", nullptr, Value(),
-    QT_TRANSLATE_NOOP("Velmo",
-                      "Take what waits for the session, then end it: for a worker that is not to "
-                      "come back.")};
-
 // In the order of the help.
-const Option* const every[] = {&broker, &states,  &summaries, &wills,    &group,
-                               &name,   &expire,  &silent,    &metrics,  &passwordFile,
-                               &tlsCa,  &tlsCert, &tlsKey,    &language, &retire};
+const Option* const every[] = {&broker,      &states,  &summaries, &wills,        &status,
+                               &name,        &partition, &silent,  &forgetAfter,  &history,
+                               &metrics,     &passwordFile, &tlsCa, &tlsCert,     &tlsKey,
+                               &language};
 
 } // namespace options
 
@@ -66,19 +72,27 @@ std::atomic<bool> stopAsked{false};
 
 WorkerOptions workerOptions(const GivenOptions& given)
 {
-    const WorkerOptions worker{given.broker(),
-                               given.isSet(options::name) ? given.value(options::name)
-                                                          : QSysInfo::machineHostName(),
-                               given.value(options::group),
-                               quint32(given.number(options::expire)),
-                               KioskTopic(given.value(options::states)),
-                               KioskTopic(given.value(options::summaries)),
-                               KioskTopic(given.value(options::wills)),
-                               std::chrono::seconds(given.number(options::silent)),
-                               given.isSet(options::retire)};
+    const WorkerOptions worker{
+        given.broker(),
+        given.isSet(options::name)
+            ? given.value(options::name)
+            : QStringLiteral("%1.%2")
+                  .arg(QSysInfo::machineHostName())
+                  .arg(QCoreApplication::applicationPid()),
+        Partition(given.value(options::partition)),
+        KioskTopic(given.value(options::states)),
+        KioskTopic(given.value(options::summaries)),
+        KioskTopic(given.value(options::wills)),
+        KioskTopic(given.value(options::status)),
+        std::chrono::seconds(given.number(options::silent)),
+        int(given.number(options::forgetAfter))};
     static const QRegularExpression separators(QStringLiteral("[/+#]"));
-    if (worker.name.isEmpty() || worker.group.isEmpty() || worker.group.contains(separators))
-        throw Fault{Velmo::tr("--name and --group: expected a name without /, + and #")};
+    if (worker.name.contains(separators))
+        throw Fault{Velmo::tr("--name: expected a name without /, + and #")};
+    const int levels = worker.states.nameLevels();
+    if (levels != worker.summaries.nameLevels() || levels != worker.wills.nameLevels())
+        throw Fault{Velmo::tr("--states, --summaries and --wills: expected as many levels of the "
+                              "kiosk's name in each")};
     return worker;
 }
 
@@ -102,9 +116,14 @@ void run()
     if (!parser.positionalArguments().isEmpty())
         throw Fault{
             Velmo::tr("unknown argument \"%1\"").arg(parser.positionalArguments().constFirst())};
-    Metrics metrics(given.value(options::metrics));
-    Worker worker(workerOptions(given), metrics);
-    worker.run(stopAsked);
+    const WorkerOptions worker = workerOptions(given);
+    Metrics metrics(worker.part.text());
+    std::unique_ptr<HistoryRecorder> history;
+    if (given.isSet(options::history)) {
+        history = std::make_unique<HistoryRecorder>(given.value(options::history),
+                                                    worker.part.text(), worker.name);
+    }
+    Worker(worker, metrics, history.get()).run(stopAsked);
 }
 
 } // namespace

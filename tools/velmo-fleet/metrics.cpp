@@ -3,59 +3,114 @@
 
 #include "metrics.h"
 
-#include "terminal/velmo.h"
-#include "text/fault.h"
-
-#include <prometheus/exposer.h>
-
-#include <exception>
-
 using prometheus::BuildCounter;
 using prometheus::BuildGauge;
 using prometheus::BuildHistogram;
 
-Metrics::Metrics(const QString& address)
+Metrics::Metrics(const QString& part)
     : m_registry(std::make_shared<prometheus::Registry>())
-    , m_messages(BuildCounter()
-                     .Name("velmo_fleet_messages_total")
-                     .Help("Messages by what they were.")
+    , m_part{{"part", part.toStdString()}}
+    , m_received(BuildCounter()
+                     .Name("velmo_fleet_messages_received_total")
+                     .Help("Messages from the broker by what they were.")
+                     .Labels(m_part)
                      .Register(*m_registry))
+    , m_refused(BuildCounter()
+                    .Name("velmo_fleet_messages_refused_total")
+                    .Help("Messages that were not taken, by reason.")
+                    .Labels(m_part)
+                    .Register(*m_registry))
+    , m_publishRefused(BuildCounter()
+                           .Name("velmo_fleet_publish_refusals_total")
+                           .Help("Messages that the broker did not take, by its reason.")
+                           .Labels(m_part)
+                           .Register(*m_registry))
     , m_kiosks(BuildGauge()
                    .Name("velmo_fleet_kiosks")
                    .Help("Kiosks by condition.")
+                   .Labels(m_part)
+                   .Register(*m_registry))
+    , m_faults(BuildGauge()
+                   .Name("velmo_fleet_faults")
+                   .Help("Kiosks that have a fault, by its reason.")
+                   .Labels(m_part)
                    .Register(*m_registry))
     , m_notes(BuildGauge()
                   .Name("velmo_fleet_notes")
                   .Help("Notes and coins that the devices of all kiosks counted.")
+                  .Labels(m_part)
                   .Register(*m_registry))
-    , states(m_messages.Add({{"kind", "state"}}))
-    , faults(m_messages.Add({{"kind", "fault"}}))
-    , outdated(m_messages.Add({{"kind", "outdated"}}))
-    , summaries(m_messages.Add({{"kind", "summary"}}))
-    , corrections(m_messages.Add({{"kind", "correction"}}))
+    , states(m_received.Add({{"kind", "state"}}))
+    , wills(m_received.Add({{"kind", "will"}}))
+    , summariesRead(m_received.Add({{"kind", "summary"}}))
+    , otherParts(m_received.Add({{"kind", "other_part"}}))
+    , published(counter("velmo_fleet_summaries_published_total", "Summaries sent to the broker."))
+    , acknowledged(counter("velmo_fleet_summaries_acknowledged_total",
+                           "Summaries that the broker has taken."))
+    , reconnects(counter("velmo_fleet_reconnects_total",
+                         "Connections to the broker after the first one."))
+    , dropped(counter("velmo_fleet_dropped_messages_total",
+                      "Messages of all its clients that the broker had no room for."))
+    , forgotten(counter("velmo_fleet_forgotten_total", "Kiosks that were forgotten."))
+    , connected(gauge("velmo_fleet_connected", "Whether there is a connection to the broker."))
+    , ready(gauge("velmo_fleet_ready", "Whether all that the broker has retained is read."))
+    , wrongClocks(gauge("velmo_fleet_wrong_clocks", "Kiosks whose clock is wrong."))
     , inserted(m_notes.Add({{"outcome", "inserted"}}))
     , rejected(m_notes.Add({{"outcome", "rejected"}}))
     , returned(m_notes.Add({{"outcome", "returned"}}))
     , latency(BuildHistogram()
                   .Name("velmo_fleet_latency_seconds")
                   .Help("From a state's own time to when its summary was published.")
+                  .Labels(m_part)
                   .Register(*m_registry)
                   .Add({},
                        prometheus::Histogram::BucketBoundaries{0.001, 0.005, 0.01, 0.05, 0.1, 0.5,
                                                                1, 5, 30, 120}))
+    , historyConnected(gauge("velmo_fleet_history_connected", "Whether the history answers."))
+    , historyWriter(gauge("velmo_fleet_history_writer",
+                          "Whether this worker writes the history of its part."))
+    , historyWaiting(gauge("velmo_fleet_history_waiting", "Changes that are not written yet."))
+    , historyWritten(counter("velmo_fleet_history_written_total", "Changes that were written."))
+    , historyLost(
+          counter("velmo_fleet_history_lost_total", "Changes for which there was no room."))
 {
-    for (int i = 0; i <= KioskSummary::Fine; ++i)
+    for (int i = 0; i <= KioskSummary::Fine; ++i) {
         m_conditions[i] =
             &m_kiosks.Add({{"condition", KioskSummary::name(KioskSummary::Condition(i))}});
-    if (address.isEmpty())
-        return;
-    try {
-        m_exposer = std::make_unique<prometheus::Exposer>(address.toStdString(), 1);
-        m_exposer->RegisterCollectable(m_registry);
-    } catch (const std::exception& error) {
-        throw Fault{
-            Velmo::tr("metrics at \"%1\": %2").arg(address, QString::fromLocal8Bit(error.what()))};
     }
+    BuildGauge()
+        .Name("velmo_fleet_build_info")
+        .Help("Always 1.")
+        .Labels(m_part)
+        .Register(*m_registry)
+        .Add({{"version", VERSION}})
+        .Set(1);
 }
 
-Metrics::~Metrics() = default;
+prometheus::Counter& Metrics::counter(const char* name, const char* help)
+{
+    return BuildCounter().Name(name).Help(help).Labels(m_part).Register(*m_registry).Add({});
+}
+
+prometheus::Gauge& Metrics::gauge(const char* name, const char* help)
+{
+    return BuildGauge().Name(name).Help(help).Labels(m_part).Register(*m_registry).Add({});
+}
+
+prometheus::Gauge& Metrics::faults(const QString& reason)
+{
+    prometheus::Gauge*& known = m_reasons[reason];
+    if (!known)
+        known = &m_faults.Add({{"reason", reason.toStdString()}});
+    return *known;
+}
+
+prometheus::Counter& Metrics::refused(const char* reason)
+{
+    return m_refused.Add({{"reason", reason}});
+}
+
+prometheus::Counter& Metrics::publishRefused(const QString& reason)
+{
+    return m_publishRefused.Add({{"reason", reason.toStdString()}});
+}

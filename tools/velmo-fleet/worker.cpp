@@ -3,12 +3,12 @@
 
 #include "worker.h"
 
+#include "historyrecorder.h"
 #include "terminal/velmo.h"
 #include "text/fault.h"
 #include "text/textinput.h"
-
-#include <QDateTime>
-#include <QLoggingCategory>
+#include "json/jsonreader.h"
+#include "json/variants.h"
 
 #include <algorithm>
 
@@ -17,164 +17,521 @@ using std::chrono::seconds;
 
 namespace {
 
-Q_LOGGING_CATEGORY(fleetLog, "velmo.fleet")
+constexpr int batch = 200; // messages between two rounds of sending
+constexpr seconds quiet{1}; // without a retained message, after which there are no more
+constexpr seconds longestGrace{60}; // for kiosks to come back to a broker that has
+constexpr seconds statusPause{600};
+constexpr seconds forgettingPause{3600};
+constexpr quint32 statusExpiry = 86400; // seconds
+constexpr qint64 clockTolerance = 300000; // milliseconds that a kiosk's clock may be wrong
+constexpr seconds longestProbe{1}; // of a broker that does not stand still
+constexpr qint64 minute = 60000; // milliseconds
+constexpr qint64 day = 1440 * minute;
 
-constexpr int batch = 100; // messages between two rounds of acknowledgements
-constexpr seconds retiringPause{3}; // without a state, after which no more are to come
+// What is taken of a message.
+constexpr int longestName = 128;
+constexpr int largestState = 256 * 1024;
+constexpr size_t mostDevices = 64;
 
-QString shared(const WorkerOptions& options, const KioskTopic& topic)
+bool isName(const QString& name)
 {
-    return QStringLiteral("$share/%1/%2").arg(options.group, topic.filter());
+    return name.size() <= longestName
+        && std::all_of(name.begin(), name.end(),
+                       [](QChar each) { return each.category() != QChar::Other_Control; });
+}
+
+std::vector<KioskRecord::Level> levelsOf(const PublishedDevice& device)
+{
+    std::vector<KioskRecord::Level> levels;
+    const QVariantMap registry = device.dispRegistry();
+    for (auto row = registry.begin(); row != registry.end(); ++row) {
+        const QVariantMap item = row->toMap();
+        levels.push_back({row.key().section(QLatin1Char('_'), 1, 1).toInt(),
+                          Variants::toInt(item.value(QStringLiteral("denomination"))),
+                          item.value(QStringLiteral("currency")).toString(),
+                          Variants::toInt(item.value(QStringLiteral("bill_type"))),
+                          Variants::toLongLong(item.value(QStringLiteral("count")))});
+    }
+    return levels;
+}
+
+// What is published of a kiosk, for its history.
+KioskRecord recordOf(const QString& name, const Kiosk& kiosk, const PublishedState* state)
+{
+    const KioskSummary& summary = kiosk.summary;
+    KioskRecord record{name, QDateTime::currentMSecsSinceEpoch(), kiosk.message,
+                       summary.condition, summary.faults, {}};
+    // Without a time, the same state may come on another day; and silence is no message.
+    if (summary.time == KioskSummary::noTime)
+        record.message += quint64(record.time / minute) * 0x9e3779b97f4a7c15;
+    if (!state) {
+        record.message ^= quint64(summary.condition) + 1;
+        return record;
+    }
+    for (const PublishedDevice& device : state->devices) {
+        record.devices.push_back({device.deviceId(), device.threadId(), device.insertedInFull,
+                                  device.rejectedInFull, device.returnedInFull,
+                                  device.stackerPresent(), device.stackerFull(),
+                                  levelsOf(device)});
+    }
+    return record;
 }
 
 } // namespace
 
-Worker::Worker(const WorkerOptions& options, Metrics& metrics)
+Worker::Worker(const WorkerOptions& options, Metrics& metrics, HistoryRecorder* history)
     : m_options(options)
     , m_metrics(metrics)
+    , m_history(history)
     , m_kiosks(metrics)
-    , m_summaries(
-          options.broker, QString(), 0,
-          [this](const QString& topic, const QByteArray& text, bool) { takeSummary(topic, text); })
-    , m_states(
-          options.broker, options.name, options.expiry,
-          [this](const QString& topic, const QByteArray& text, bool) { takeState(topic, text); })
+    , m_broker(options.broker,
+               [this](const QString& topic, const QByteArray& payload, bool isRetained) {
+                   take(topic, payload, isRetained);
+               })
+    , m_publisher(options.summaries, options.part.number(), m_kiosks, m_broker, metrics, m_log)
 {
-    m_summaries.watchDropped();
-    m_summaries.subscribe(options.summaries.filter(), 0, /*ownToo=*/false);
-    if (!options.isRetiring) {
-        m_states.subscribe(shared(options, options.states), 1);
-        m_states.subscribe(shared(options, options.wills), 1);
-    }
+    const QByteArray will = JsonText::object({{"worker", options.name},
+                                              {"part", options.part.number()},
+                                              {"parts", options.part.count()},
+                                              {"gone", true}});
+    m_broker.setWill(options.status.of(options.name), will, statusExpiry);
+    m_broker.setAcknowledged(
+        [this](int message, const QString& refusal) { acknowledge(message, refusal); });
+    m_broker.watchDropped();
+    // In this order the broker sends what it has retained, so that by each is known what the next
+    // one is judged by.
+    m_broker.subscribe(options.status.filter(), 1, /*ownToo=*/false);
+    m_broker.subscribe(options.summaries.filter(options.part.number()), 1, /*ownToo=*/false);
+    m_broker.subscribe(options.states.filter(options.part.number()), 1);
+    m_broker.subscribe(options.wills.filter(options.part.number()), 1);
 }
 
 void Worker::run(const std::atomic<bool>& isStopped)
 {
-    auto nextLook = Kiosks::Clock::now() + m_options.silence;
-    bool isRetired = false;
-    while (!isStopped && !isRetired) {
-        BrokerConnection::wait({&m_summaries, &m_states}, milliseconds(200));
-        m_summaries.read(batch);
-        // What other workers know first: it says which states are outdated.
-        if (m_summaries.isSubscribed())
-            m_states.read(batch);
-        finishSummaries(isStopped);
-        m_states.write();
-        if (m_options.silence.count() > 0 && Kiosks::Clock::now() > nextLook) {
-            for (const QString& kiosk : m_kiosks.silentFor(m_options.silence)) {
-                tellSilent(kiosk,
-                           Velmo::tr("The kiosk has been silent for more than %1 s.")
-                               .arg(m_options.silence.count()));
-            }
-            nextLook = Kiosks::Clock::now() + seconds(1);
+    while (!isStopped) {
+        m_broker.wait(milliseconds(200));
+        const std::lock_guard lock(m_mutex);
+        turn();
+    }
+    const std::lock_guard lock(m_mutex);
+    const auto latest = Clock::now() + seconds(5);
+    m_broker.publish(m_options.status.of(m_options.name), {});
+    while (m_broker.isConnected() && m_broker.unacknowledged() > 0 && Clock::now() < latest) {
+        m_broker.write();
+        m_broker.wait(milliseconds(200));
+        m_broker.read(batch);
+    }
+    m_broker.disconnect();
+}
+
+void Worker::turn()
+{
+    m_clock.turn(Clock::now(), m_isListening && m_broker.isConnected());
+    const bool isBehind = m_broker.read(batch);
+    followConnection();
+    m_publisher.send();
+    m_broker.write();
+    if (!isBehind && Clock::now() >= m_nextSecond)
+        turnEverySecond();
+}
+
+// When all that has arrived is known.
+void Worker::turnEverySecond()
+{
+    m_nextSecond = Clock::now() + seconds(1);
+    lookAtHistory();
+    if (!m_broker.isSubscribed())
+        return;
+    if (m_isGathering && Clock::now() - m_lastRetained > quiet)
+        endGathering();
+    if (m_isListening) {
+        lookForSilence();
+        lookForForgotten();
+    }
+    const bool hasDropped = m_broker.dropped() > m_droppedKnown && Clock::now() > m_nextGathering;
+    if (!m_isGathering && (m_mustVerify || hasDropped)) {
+        startGathering();
+        m_broker.subscribe(m_options.summaries.filter(m_options.part.number()), 1,
+                           /*ownToo=*/false);
+        if (hasDropped) {
+            m_broker.subscribe(m_options.states.filter(m_options.part.number()), 1);
+            m_metrics.dropped.Increment(double(m_broker.dropped() - m_droppedKnown));
+            m_droppedKnown = m_broker.dropped();
+            m_nextGathering = Clock::now() + m_dropPause;
+            m_dropPause = std::min<seconds>(2 * m_dropPause, statusPause);
         }
-        isRetired = m_options.isRetiring && hasRetired();
     }
-    m_states.disconnect(isRetired);
-    m_summaries.disconnect(true);
+    m_publisher.retry();
+    publishStatus();
 }
 
-// The broker has all summaries when it returns, or it is time to stop; then the states that they
-// are of are not acknowledged.
-void Worker::finishSummaries(const std::atomic<bool>& isStopped)
+void Worker::followConnection()
 {
-    const auto latest = Kiosks::Clock::now() + seconds(5);
-    m_summaries.write();
-    while (m_summaries.unacknowledged() > 0) {
-        if (isStopped && Kiosks::Clock::now() > latest) {
-            throw Fault{Velmo::tr("the broker did not take %n summaries; their states are kept "
-                                  "for the next start",
-                                  nullptr, m_summaries.unacknowledged())};
+    const bool isConnected = m_broker.isConnected();
+    m_metrics.connected.Set(isConnected);
+    if (isConnected && m_connection == m_broker.connections())
+        return;
+    m_isListening = false;
+    m_metrics.ready.Set(0);
+    if (!isConnected)
+        return;
+    if (m_connection > 0)
+        m_metrics.reconnects.Increment();
+    m_connection = m_broker.connections();
+    m_isStoreNew = true;
+    m_probe = 0;
+    m_probed = SilenceClock::Duration::min();
+    m_status.clear();
+    m_publisher.reset();
+    startGathering();
+}
+
+void Worker::startGathering()
+{
+    m_isGathering = true;
+    m_mustVerify = false;
+    m_lastRetained = Clock::now();
+    m_retained.clear();
+    m_kiosks.forEach([](const QString&, Kiosk& kiosk) { kiosk.atBroker = 0; });
+}
+
+void Worker::endGathering()
+{
+    m_isGathering = false;
+    m_broker.unsubscribe(m_options.summaries.filter(m_options.part.number()));
+    if (!m_isListening) {
+        // What is known of a kiosk of which the broker has nothing is published again, unless the
+        // broker has what was there before: then the kiosk was taken out of the fleet meanwhile.
+        if (!m_isStoreNew) {
+            const auto gone = m_kiosks.namesOf(
+                [this](const QString& name, const Kiosk&) { return !m_retained.contains(name); });
+            for (const QString& name : gone)
+                forget(name);
         }
-        BrokerConnection::wait({&m_summaries}, milliseconds(200));
-        m_summaries.read(batch);
-        m_summaries.write();
+        m_clock.grant(std::min<seconds>(m_options.silence, longestGrace));
+        m_isListening = true;
+        m_metrics.ready.Set(1);
     }
+    m_kiosks.forEach([this](const QString& name, Kiosk& kiosk) {
+        if (!kiosk.isTold())
+            m_publisher.add(name, kiosk);
+    });
+    m_retained.clear();
 }
 
-// A retiring member has told the broker to deal it no more, and waits until nothing comes.
-bool Worker::hasRetired()
+void Worker::take(const QString& topic, const QByteArray& payload, bool isRetained)
 {
-    if (!m_states.isConnected()) {
-        m_lastState = Kiosks::Clock::now();
-        return false;
-    }
-    if (!m_isUnsubscribed) {
-        m_states.unsubscribe(shared(m_options, m_options.states));
-        m_states.unsubscribe(shared(m_options, m_options.wills));
-        m_states.write();
-        m_isUnsubscribed = true;
-    }
-    return m_states.isSubscribed() && Kiosks::Clock::now() - m_lastState > retiringPause;
-}
-
-void Worker::takeState(const QString& topic, const QByteArray& text)
-{
-    m_lastState = Kiosks::Clock::now();
-    const QString gone = m_options.wills.kioskOf(topic);
-    if (!gone.isEmpty()) {
-        if (!text.isEmpty()) // which ends a retained one
-            tellSilent(gone, Velmo::tr("The kiosk is offline."));
+    if (isRetained)
+        m_lastRetained = Clock::now();
+    const QString worker = m_options.status.kioskOf(topic);
+    if (!worker.isEmpty()) {
+        takeStatus(worker, payload, isRetained);
         return;
     }
-    const QString kiosk = m_options.states.kioskOf(topic);
+    struct Road
+    {
+        const KioskTopic& pattern;
+        prometheus::Counter& count;
+        void (Worker::*take)(const QString&, const QByteArray&, bool);
+    };
+    const Road roads[] = {{m_options.states, m_metrics.states, &Worker::takeState},
+                          {m_options.wills, m_metrics.wills, &Worker::takeWill},
+                          {m_options.summaries, m_metrics.summariesRead, &Worker::takeSummary}};
+    for (const Road& road : roads) {
+        const QString name = road.pattern.kioskOf(topic);
+        if (name.isEmpty())
+            continue;
+        if (!road.pattern.hasPart() && !m_options.part.has(name)) {
+            m_metrics.otherParts.Increment();
+            return;
+        }
+        road.count.Increment();
+        if (!isName(name)) {
+            refuse("name", topic, Velmo::tr("the name of the kiosk is too long, or no text"));
+            return;
+        }
+        if (isRetained)
+            m_retained.insert(name);
+        (this->*road.take)(name, payload, isRetained);
+        return;
+    }
+    refuse("topic", topic, Velmo::tr("the topic is of no kiosk"));
+}
+
+void Worker::takeStatus(const QString& name, const QByteArray& payload, bool isRetained)
+{
+    if (name == m_options.name) {
+        m_isStoreNew = false;
+        m_status.clear(); // it may say that this worker is gone
+    } else if (!isRetained) {
+        // What a worker that ends had in hand may be older than what this one has published.
+        bool isGone = payload.isEmpty();
+        const QString text = QString::fromUtf8(payload);
+        JsonReader reader(text);
+        reader.readObject([&](QStringView key) {
+            isGone = isGone || key == QLatin1String("gone");
+            return reader.skipValue();
+        });
+        m_mustVerify = m_mustVerify || isGone;
+    }
+}
+
+void Worker::takeSummary(const QString& name, const QByteArray& payload, bool /*isRetained*/)
+{
+    if (payload.isEmpty())
+        return;
+    Kiosk* kiosk = m_kiosks.find(name);
     try {
-        if (kiosk.isEmpty())
-            throw Fault{Velmo::tr("the topic is of no kiosk")};
-        const KioskSummary summary(kiosk, readServiceState(decoded(text)), m_writer);
-        m_metrics.states.Increment();
-        if (summary.time != KioskSummary::noTime && !tellsOrder(summary))
-            qCWarning(fleetLog, "%s: %s", qUtf8Printable(topic),
-                      qUtf8Printable(Velmo::tr("its time is in the future")));
-        if (m_kiosks.take(kiosk, summary))
-            publish(kiosk, summary);
-        else
-            m_metrics.outdated.Increment();
-    } catch (const Fault& fault) {
-        m_metrics.faults.Increment();
-        qCWarning(fleetLog, "%s: %s", qUtf8Printable(topic), qUtf8Printable(fault.message));
-    }
-}
-
-void Worker::tellSilent(const QString& kiosk, const QString& reason)
-{
-    const Kiosks::Kiosk* const known = m_kiosks.find(kiosk);
-    const KioskSummary last =
-        known ? known->newest : KioskSummary(kiosk, PublishedState(), m_writer);
-    const KioskSummary summary = KioskSummary::withoutState(
-        last, kiosk, KioskSummary::Silent, {-1, -1, QStringLiteral("silent"), reason},
-        QDateTime::currentMSecsSinceEpoch());
-    if (m_kiosks.take(kiosk, summary))
-        publish(kiosk, summary);
-}
-
-void Worker::takeSummary(const QString& topic, const QByteArray& text)
-{
-    const QString kiosk = m_options.summaries.kioskOf(topic);
-    if (kiosk.isEmpty())
-        return;
-    if (text.isEmpty()) { // whoever runs the fleet took it out
-        m_kiosks.forget(kiosk);
-        return;
-    }
-    try {
-        const KioskSummary summary(text);
-        if (!m_kiosks.take(kiosk, summary)) {
-            m_metrics.corrections.Increment();
-            publish(kiosk, m_kiosks.find(kiosk)->newest);
+        if (!kiosk) {
+            kiosk = &m_kiosks.set(name, KioskSummary(payload));
+            kiosk->heardOf = m_clock.now();
         }
+        kiosk->atBroker = Kiosk::hash(payload);
     } catch (const Fault& fault) {
-        m_metrics.faults.Increment();
-        qCWarning(fleetLog, "%s: %s", qUtf8Printable(topic), qUtf8Printable(fault.message));
+        refuse("unreadable", m_options.summaries.of(name, m_options.part.number()), fault.message);
     }
 }
 
-void Worker::publish(const QString& kiosk, const KioskSummary& summary)
+void Worker::takeState(const QString& name, const QByteArray& payload, bool isRetained)
 {
-    m_summaries.publish(m_options.summaries.of(kiosk), summary.text);
-    m_metrics.summaries.Increment();
-    if (tellsOrder(summary) && summary.condition != KioskSummary::Silent) {
-        const qint64 age = QDateTime::currentMSecsSinceEpoch() - summary.time;
-        m_metrics.latency.Observe(double(std::max<qint64>(age, 0)) / 1000);
+    if (payload.isEmpty()) {
+        if (m_kiosks.find(name))
+            forget(name);
+        return;
     }
+    Kiosk* kiosk = m_kiosks.find(name);
+    const quint64 message = Kiosk::hash(payload);
+    const bool isKnown = kiosk && kiosk->message == message;
+    if (kiosk && !isRetained)
+        kiosk->heardOf = m_clock.now();
+    if (isKnown && (isRetained || kiosk->summary.condition > KioskSummary::Silent))
+        return;
+    const char* reason = "too_large";
+    try {
+        if (payload.size() > largestState)
+            throw Fault{Velmo::tr("it is larger than %1 KiB").arg(largestState / 1024)};
+        reason = "unreadable";
+        const PublishedState state = readServiceState(decoded(payload));
+        reason = "too_large";
+        if (state.devices.size() > mostDevices)
+            throw Fault{Velmo::tr("it tells of more than %1 devices").arg(mostDevices)};
+        const KioskSummary summary(name, state, m_writer);
+        if (isRetained && kiosk && isStillSilent(name, *kiosk, summary)) {
+            kiosk->message = message;
+            return;
+        }
+        tell(name, summary, message, &state);
+        m_kiosks.find(name)->heardOf = m_clock.now();
+        if (!isRetained)
+            judgeClock(name);
+    } catch (const Fault& fault) {
+        refuse(reason, m_options.states.of(name, m_options.part.number()), fault.message);
+        if (!kiosk)
+            return;
+        kiosk->message = message;
+        loseSight(name, KioskSummary::Unknown, "unreadable",
+                  Velmo::tr("What the kiosk published last cannot be read: %1.").arg(fault.message));
+    }
+}
+
+// Whether another worker has told that the kiosk fell silent after just what it has published.
+bool Worker::isStillSilent(const QString& name, const Kiosk& kiosk, const KioskSummary& told)
+{
+    return kiosk.isSilent() && kiosk.message == 0 && !kiosk.summary.faults.empty()
+        && kiosk.summary.text
+        == KioskSummary::withoutState(told, name, KioskSummary::Silent, kiosk.summary.faults[0],
+                                      kiosk.summary.since)
+               .text;
+}
+
+void Worker::takeWill(const QString& name, const QByteArray& payload, bool isRetained)
+{
+    Kiosk* const kiosk = m_kiosks.find(name);
+    // One that stays at the broker is told of once: a state that came after it counts.
+    const quint64 will = payload.isEmpty() ? 0 : Kiosk::hash(payload);
+    if (!kiosk || (isRetained && kiosk->will == will))
+        return;
+    kiosk->will = will;
+    if (will != 0)
+        loseSight(name, KioskSummary::Silent, "gone", Velmo::tr("The kiosk is offline."));
+}
+
+void Worker::judgeClock(const QString& name)
+{
+    Kiosk& kiosk = *m_kiosks.find(name);
+    const qint64 ahead = kiosk.summary.time == KioskSummary::noTime
+        ? 0
+        : kiosk.summary.time - QDateTime::currentMSecsSinceEpoch();
+    const bool isWrong = std::abs(double(ahead)) > clockTolerance;
+    m_kiosks.setClockWrong(kiosk, isWrong);
+    if (isWrong) {
+        m_log.warn(QStringLiteral("clock"),
+                   Velmo::tr("the clock of \"%1\" is wrong by %2 s").arg(name).arg(ahead / 1000));
+    }
+}
+
+void Worker::refuse(const char* reason, const QString& topic, const QString& text)
+{
+    m_metrics.refused(reason).Increment();
+    m_log.warn(QLatin1String(reason), QStringLiteral("%1: %2").arg(topic, text));
+}
+
+void Worker::tell(const QString& name, const KioskSummary& summary, quint64 message,
+                  const PublishedState* state)
+{
+    Kiosk& kiosk = m_kiosks.set(name, summary);
+    kiosk.message = message;
+    m_publisher.add(name, kiosk);
+    if (m_history)
+        m_history->record(recordOf(name, kiosk, state));
+}
+
+void Worker::loseSight(const QString& name, KioskSummary::Condition condition, const char* reason,
+                       const QString& text)
+{
+    const Kiosk& kiosk = *m_kiosks.find(name);
+    const KioskFault fault{KioskFault::noDevice, KioskFault::noDevice, QLatin1String(reason), text};
+    tell(name,
+         KioskSummary::withoutState(kiosk.summary, name, condition, fault,
+                                    QDateTime::currentMSecsSinceEpoch()),
+         kiosk.message, nullptr);
+}
+
+void Worker::forget(const QString& name)
+{
+    m_kiosks.remove(name);
+    m_publisher.takeOut(name);
+    m_metrics.forgotten.Increment();
+    if (m_history)
+        m_history->forget(name, QDateTime::currentMSecsSinceEpoch());
+}
+
+// Nobody is told of as silent before the broker has shown that it is alive: it acknowledges a
+// message that was sent after the time was up. What it had of the kiosk until then, it has sent.
+void Worker::lookForSilence()
+{
+    if (m_options.silence.count() == 0)
+        return;
+    const auto isOverdue = [this](const Kiosk& kiosk, SilenceClock::Duration now) {
+        return !kiosk.isSilent() && kiosk.heardOf + m_options.silence < now;
+    };
+    const auto silent = m_kiosks.namesOf(
+        [&](const QString&, const Kiosk& kiosk) { return isOverdue(kiosk, m_probed); });
+    for (const QString& name : silent) {
+        loseSight(name, KioskSummary::Silent, "silent",
+                  Velmo::tr("The kiosk has been silent for more than %1 s.")
+                      .arg(m_options.silence.count()));
+    }
+    const bool mustProbe = m_probe == 0
+        && !m_kiosks
+                .namesOf([&](const QString&, const Kiosk& kiosk) {
+                    return isOverdue(kiosk, m_clock.now());
+                })
+                .empty();
+    if (mustProbe)
+        publishStatus(/*isProbe=*/true);
+}
+
+// The broker gives an empty state back, and with that the kiosk is forgotten.
+void Worker::lookForForgotten()
+{
+    if (m_options.forgetAfter == 0 || Clock::now() < m_nextForgetting)
+        return;
+    m_nextForgetting = Clock::now() + forgettingPause;
+    const qint64 latest = QDateTime::currentMSecsSinceEpoch() - m_options.forgetAfter * day;
+    const auto old = m_kiosks.namesOf([&](const QString&, const Kiosk& kiosk) {
+        return kiosk.isSilent() && kiosk.summary.since != KioskSummary::noTime
+            && kiosk.summary.since < latest;
+    });
+    for (const QString& name : old)
+        m_broker.publish(m_options.states.of(name, m_options.part.number()), {});
+}
+
+void Worker::lookAtHistory()
+{
+    if (!m_history)
+        return;
+    const HistoryRecorder::Status status = m_history->status();
+    m_metrics.historyConnected.Set(status.fault.isEmpty());
+    m_metrics.historyWriter.Set(status.isWriter);
+    m_metrics.historyWaiting.Set(double(status.waiting));
+    m_metrics.historyWritten.Increment(double(status.written - m_historyWritten));
+    m_metrics.historyLost.Increment(double(status.lost - m_historyLost));
+    m_historyWritten = status.written;
+    m_historyLost = status.lost;
+}
+
+void Worker::publishStatus(bool isProbe)
+{
+    const QByteArray text = statusText();
+    if (!isProbe && text == m_status && Clock::now() < m_nextStatus)
+        return;
+    const int message = m_broker.publish(m_options.status.of(m_options.name), text, statusExpiry);
+    if (message <= 0)
+        return;
+    m_status = text;
+    m_nextStatus = Clock::now() + statusPause;
+    if (isProbe) {
+        m_probe = message;
+        m_probeSent = m_clock.now();
+        m_probeSentAt = Clock::now();
+    }
+}
+
+void Worker::acknowledge(int message, const QString& refusal)
+{
+    if (!m_publisher.acknowledge(message, refusal) && !refusal.isEmpty()) {
+        m_metrics.publishRefused(refusal).Increment();
+        m_log.warn(QStringLiteral("status ") + refusal,
+                   Velmo::tr("the broker does not take what is published: %1").arg(refusal));
+    }
+    if (message != m_probe)
+        return;
+    m_probe = 0;
+    const Clock::duration passed = Clock::now() - m_probeSentAt;
+    if (passed < longestProbe) {
+        m_probed = m_probeSent;
+        return;
+    }
+    // The broker stood still: kiosks may have been unable to say anything.
+    m_clock.grant(passed + std::min<seconds>(m_options.silence, longestGrace));
+    m_probed = SilenceClock::Duration::min();
+}
+
+QStringList Worker::faults() const
+{
+    QStringList faults;
+    if (!m_publisher.fault().isEmpty())
+        faults += m_publisher.fault();
+    if (m_broker.dropped() > 0)
+        faults += Velmo::tr("The broker had no room for messages and dropped them.");
+    const QString history = m_history ? m_history->status().fault : QString();
+    if (!history.isEmpty())
+        faults += Velmo::tr("Nothing is written to the history: %1").arg(history);
+    return faults;
+}
+
+QByteArray Worker::statusText() const
+{
+    return JsonText::object({{"worker", m_options.name},
+                             {"part", m_options.part.number()},
+                             {"parts", m_options.part.count()},
+                             {"kiosks", m_kiosks.size()},
+                             {"ready", m_isListening},
+                             {"version", QStringLiteral(VERSION)},
+                             {"since", m_begin.toString(Qt::ISODateWithMs)},
+                             {"faults", JsonText::list(faults())}});
+}
+
+QByteArray Worker::json(bool all)
+{
+    const std::lock_guard lock(m_mutex);
+    const QString now = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
+    const QByteArray head = JsonText::object({{"part", m_options.part.text()},
+                                              {"time", now},
+                                              {"connected", m_broker.isConnected()},
+                                              {"ready", m_isListening},
+                                              {"fault", m_broker.fault()},
+                                              {"faults", JsonText::list(faults())}});
+    return head.chopped(1) + ',' + m_kiosks.json(all) + '}';
 }

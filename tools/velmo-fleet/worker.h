@@ -6,55 +6,117 @@
 #include "brokerconnection.h"
 #include "kiosks.h"
 #include "kiosktopic.h"
+#include "loglimit.h"
 #include "metrics.h"
+#include "partition.h"
+#include "publisher.h"
 
+#include <QByteArray>
+#include <QDateTime>
+#include <QSet>
 #include <QString>
+#include <QStringList>
 
 #include <atomic>
 #include <chrono>
+#include <mutex>
+
+class HistoryRecorder;
 
 struct WorkerOptions
 {
     BrokerOptions broker;
-    QString name; ///< of its session at the broker
-    QString group; ///< of the workers that share the states
-    quint32 expiry = 0; ///< seconds that the broker keeps states for it while it is away
+    QString name; ///< among the workers
+    Partition part; ///< whose kiosks it summarises
     KioskTopic states;
     KioskTopic summaries;
     KioskTopic wills; ///< a message there says that the kiosk is gone
+    KioskTopic status; ///< where workers tell of themselves
     std::chrono::seconds silence{0}; ///< after which a kiosk is told of as silent; 0 for never
-    bool isRetiring = false; ///< it takes what waits for it, and no more
+    int forgetAfter = 0; ///< days of silence; 0 for never
 };
 
-/// Makes summaries of states. A state is acknowledged when the broker has acknowledged its summary,
-/// so that nothing is lost whenever the worker dies: what was not acknowledged, the broker gives
-/// again.
-///
-/// The members of a group do not get the states of a kiosk in order, so each sees the summaries of
-/// all: whoever sees one that is older than what it knows publishes the newer one again.
+/// Makes summaries of the states that the kiosks of its part have retained at a broker. The broker
+/// keeps nothing for it: whenever it connects, it reads the present and publishes what is not there.
+/// Several workers of one part publish the same.
 class Worker
 {
 public:
-    /// Throws Fault as BrokerConnection and Metrics do.
-    Worker(const WorkerOptions& options, Metrics& metrics);
+    /// @param history null for none
+    /// Throws Fault as BrokerConnection does.
+    Worker(const WorkerOptions& options, Metrics& metrics, HistoryRecorder* history);
 
-    /// Works until it is told to stop, or has retired; then all that was in hand is done.
+    /// Works until it is told to stop.
     void run(const std::atomic<bool>& isStopped);
 
+    /// What people look at: a JSON object. From any thread.
+    /// @param all whether kiosks that are fine are listed too
+    QByteArray json(bool all);
+
 private:
-    void takeState(const QString& topic, const QByteArray& text);
-    void takeSummary(const QString& topic, const QByteArray& text);
-    void tellSilent(const QString& kiosk, const QString& reason);
-    void publish(const QString& kiosk, const KioskSummary& summary);
-    void finishSummaries(const std::atomic<bool>& isStopped);
-    bool hasRetired();
+    using Clock = std::chrono::steady_clock;
+
+    void turn();
+    void turnEverySecond();
+    void followConnection();
+    void startGathering();
+    void endGathering();
+
+    void take(const QString& topic, const QByteArray& payload, bool isRetained);
+    void takeSummary(const QString& name, const QByteArray& payload, bool isRetained);
+    void takeState(const QString& name, const QByteArray& payload, bool isRetained);
+    void takeWill(const QString& name, const QByteArray& payload, bool isRetained);
+    void takeStatus(const QString& name, const QByteArray& payload, bool isRetained);
+    static bool isStillSilent(const QString& name, const Kiosk& kiosk, const KioskSummary& told);
+    void judgeClock(const QString& name);
+    void refuse(const char* reason, const QString& topic, const QString& text);
+
+    void tell(const QString& name, const KioskSummary& summary, quint64 message,
+              const PublishedState* state);
+    void loseSight(const QString& name, KioskSummary::Condition condition, const char* reason,
+                   const QString& text);
+    void forget(const QString& name);
+    void lookForSilence();
+    void lookForForgotten();
+    void lookAtHistory();
+
+    void publishStatus(bool isProbe = false);
+    void acknowledge(int message, const QString& refusal);
+    QByteArray statusText() const;
+    QStringList faults() const;
 
     const WorkerOptions m_options;
     Metrics& m_metrics;
+    HistoryRecorder* const m_history;
+    std::mutex m_mutex; // of all that follows, while json() may look
+    LogLimit m_log;
     Kiosks m_kiosks;
     StateWriter m_writer;
-    BrokerConnection m_summaries; // out to the broker, and those of the others in
-    BrokerConnection m_states; // in; acknowledged by its write()
-    Kiosks::Clock::time_point m_lastState = Kiosks::Clock::now();
-    bool m_isUnsubscribed = false; // of one that retires
+    BrokerConnection m_broker;
+    Publisher m_publisher;
+    const QDateTime m_begin = QDateTime::currentDateTimeUtc();
+
+    int m_connection = 0; // the one that is known here
+    bool m_isGathering = true; // what is retained is coming
+    bool m_isListening = false; // all of it has come since there is a connection
+    bool m_isStoreNew = true; // the broker has nothing of this worker from before
+    Clock::time_point m_lastRetained; // when something came that the broker had kept
+    QSet<QString> m_retained; // kiosks of which it has something
+    bool m_mustVerify = false; // whether the summaries there are those of this worker
+    qint64 m_droppedKnown = 0;
+    std::chrono::seconds m_dropPause{10};
+    Clock::time_point m_nextGathering;
+
+    SilenceClock m_clock;
+    int m_probe = 0; // a message to the broker that shows whether it is alive; 0 for none
+    SilenceClock::Duration m_probeSent{0};
+    Clock::time_point m_probeSentAt;
+    SilenceClock::Duration m_probed = SilenceClock::Duration::min(); // until then all was heard
+
+    QByteArray m_status; // as it was published last
+    Clock::time_point m_nextSecond;
+    Clock::time_point m_nextStatus;
+    Clock::time_point m_nextForgetting = Clock::now() + std::chrono::minutes(1);
+    qint64 m_historyWritten = 0; // as the metrics have it
+    qint64 m_historyLost = 0;
 };

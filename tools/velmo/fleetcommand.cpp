@@ -208,7 +208,7 @@ public:
         , m_isWatched(arguments.isSet(options::watch))
         , m_pause(arguments.number(options::wait))
         , m_summaries(arguments.value(options::summaries))
-        , m_broker(arguments.broker(), {}, 0,
+        , m_broker(arguments.broker(),
                    [this](const QString& topic, const QByteArray& text, bool isRetained) {
                        take(topic, text, isRetained);
                    })
@@ -229,10 +229,10 @@ public:
         m_lastKept = Clock::now();
         while (m_isWatched || Clock::now() - m_lastKept < m_pause)
             work();
-        const bool mayMiss = m_fleet.size() > alwaysRoomFor && m_broker.tellsDropped();
+        const bool mayMiss = m_fleet.size() > alwaysRoomFor;
         while (mayMiss && m_broker.dropped() == 0 && Clock::now() - m_lastKept < droppedPause)
             work();
-        m_broker.disconnect(true);
+        m_broker.disconnect();
     }
 
     // Returns the exit code.
@@ -263,7 +263,7 @@ private:
 
     void work()
     {
-        BrokerConnection::wait({&m_broker}, milliseconds(200));
+        m_broker.wait(milliseconds(200));
         m_broker.read(batch);
         m_broker.write();
         const bool isLost = !m_broker.fault().isEmpty();
