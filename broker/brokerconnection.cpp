@@ -124,9 +124,8 @@ void BrokerConnection::create()
     }
     if (!m_willTopic.isEmpty()) {
         Expiry expiry(m_willExpiry);
-        require(library.will_set_v5(m_client, m_willTopic.toUtf8().constData(),
-                                    int(m_will.size()), m_will.constData(), 1, true,
-                                    expiry.release()),
+        require(library.will_set_v5(m_client, m_willTopic.toUtf8().constData(), int(m_will.size()),
+                                    m_will.constData(), 1, true, expiry.release()),
                 m_willTopic);
     }
     library.connect_v5_callback_set(
@@ -145,8 +144,7 @@ void BrokerConnection::create()
                                               message->retain);
         });
     library.publish_v5_callback_set(
-        m_client,
-        [](mosquitto*, void* self, int message, int reason, const mosquitto_property*) {
+        m_client, [](mosquitto*, void* self, int message, int reason, const mosquitto_property*) {
             ++connectionOf(self)->m_events;
             --connectionOf(self)->m_unacknowledged;
             if (connectionOf(self)->m_acknowledged) {
@@ -189,9 +187,8 @@ void BrokerConnection::connect()
     m_pause = m_pause.count() == 0 ? std::chrono::seconds(1) : std::min(2 * m_pause, longestPause);
     m_nextAttempt = now + m_pause;
     create();
-    const int result =
-        Mosquitto::library().connect_bind_v5(m_client, m_options.host.toUtf8().constData(),
-                                             m_options.port, keepAlive, nullptr, nullptr);
+    const int result = Mosquitto::library().connect_bind_v5(
+        m_client, m_options.host.toUtf8().constData(), m_options.port, keepAlive, nullptr, nullptr);
     m_isOpen = result == MOSQ_ERR_SUCCESS;
     if (!m_isOpen)
         lose(QString::fromLocal8Bit(Mosquitto::library().strerror(result)));

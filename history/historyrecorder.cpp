@@ -7,13 +7,13 @@ class HistoryRecorder::Thread
 {
 };
 
-HistoryRecorder::HistoryRecorder(const QString&, const QString&, const QString&) {}
+HistoryRecorder::HistoryRecorder(const QString&, const QString&, const QString&) { }
 
 HistoryRecorder::~HistoryRecorder() = default;
 
-void HistoryRecorder::record(KioskRecord) {}
+void HistoryRecorder::record(KioskRecord) { }
 
-void HistoryRecorder::forget(const QString&, qint64) {}
+void HistoryRecorder::forget(const QString&, qint64) { }
 
 HistoryRecorder::Status HistoryRecorder::status() const
 {

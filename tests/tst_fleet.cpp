@@ -4,11 +4,15 @@
 #include "brokeroptions.h"
 #include "kiosks.h"
 #include "kiosktopic.h"
+#include "logcapture.h"
+#include "loglimit.h"
 #include "metrics.h"
+#include "partition.h"
 #include "testtable.h"
 #include "text/fault.h"
 #include "text/textinput.h"
 
+using std::chrono::milliseconds;
 using std::chrono::seconds;
 
 namespace {
@@ -26,24 +30,24 @@ KioskSummary summary(const QString& members = {}, const QString& time = {})
         writer);
 }
 
-// So many seconds from now; without a time for no number.
-KioskSummary summaryAt(const QString& offset)
-{
-    bool isNumber = false;
-    const qint64 milliseconds = 1000 * offset.toLongLong(&isNumber);
-    return summary({},
-                   isNumber ? QString::number(QDateTime::currentMSecsSinceEpoch() + milliseconds)
-                            : QString());
-}
-
 QString shown(const KioskSummary& summary)
 {
-    return "%1 %2/%3/%4 %5"_s.arg(QLatin1String(KioskSummary::name(summary.condition)))
-        .arg(summary.inserted)
-        .arg(summary.rejected)
-        .arg(summary.returned)
-        .arg(summary.faults.join(QLatin1Char(' ')))
-        .trimmed();
+    QString faults;
+    for (const KioskFault& fault : summary.faults) {
+        faults += " %1 %2/%3 %4"_s.arg(fault.reason, QString::number(fault.device),
+                                       QString::number(fault.thread), fault.text);
+    }
+    return "%1 %2/%3/%4"_s.arg(QLatin1String(KioskSummary::name(summary.condition)))
+               .arg(summary.inserted)
+               .arg(summary.rejected)
+               .arg(summary.returned)
+        + faults;
+}
+
+KioskSummary silent(const KioskSummary& last, qint64 now)
+{
+    return KioskSummary::withoutState(last, "k1"_s, KioskSummary::Silent,
+                                      {-1, -1, "gone"_s, "Gone."_s}, now);
 }
 
 } // namespace
@@ -53,83 +57,102 @@ class tst_Fleet : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // Seconds from now of the summary that is known and of the one that arrives; which one stands.
-    void olderSummaryDoesNotReplaceANewerOne_data()
-    {
-        addRows(R"(
-            0    | -1   | known
-            0    | 0    | arriving
-            0    | 1    | arriving
-            60   | 50   | known
-            290  | 280  | known
-            310  | 0    | arriving
-            0    | 310  | arriving
-            none | -9   | arriving
-            0    | none | arriving)"_s);
-    }
-
-    void olderSummaryDoesNotReplaceANewerOne()
-    {
-        const auto [first, second, stands] = cells<3>();
-        Metrics metrics({});
-        Kiosks kiosks(metrics);
-        const KioskSummary known = summaryAt(first);
-        KioskSummary arriving = summaryAt(second);
-        if (second == first)
-            arriving.time = known.time;
-        QVERIFY(kiosks.take("k1"_s, known));
-        QCOMPARE(kiosks.take("k1"_s, arriving), stands == "arriving"_s);
-        QCOMPARE(kiosks.find("k1"_s)->newest.time,
-                 stands == "known"_s ? known.time : arriving.time);
-    }
-
     void eachKioskIsCountedOnce()
     {
-        Metrics metrics({});
+        Metrics metrics("1/1"_s);
         Kiosks kiosks(metrics);
         const auto counted = [&] {
             QStringList texts;
             for (int condition = 0; condition <= KioskSummary::Fine; ++condition)
                 texts +=
                     QString::number(metrics.kiosks(KioskSummary::Condition(condition)).Value());
-            for (const prometheus::Gauge* notes :
-                 {&metrics.inserted, &metrics.rejected, &metrics.returned})
-                texts += QString::number(notes->Value());
+            for (const prometheus::Gauge* gauge :
+                 {&metrics.inserted, &metrics.rejected, &metrics.returned,
+                  &metrics.faults("halted"_s), &metrics.faults("gone"_s), &metrics.wrongClocks})
+                texts += QString::number(gauge->Value());
             return texts.join(QLatin1Char(' '));
         };
         const QString notes = R"(,"notes_inserted":%1,"notes_rejected":%2,"notes_returned":%3)"_s;
         const KioskSummary fine = summary(notes.arg(10).arg(2).arg(3), "1790000000000"_s);
-        kiosks.take("k1"_s, fine);
-        kiosks.take("k2"_s, summary(R"(,"halt":true)"_s + notes.arg(1).arg(1).arg(1)));
-        QCOMPARE(counted(), "0 1 0 1 11 3 4"_s);
-        kiosks.take("k1"_s, summary(notes.arg(9).arg(9).arg(9), "1780000000000"_s));
-        QCOMPARE(counted(), "0 1 0 1 11 3 4"_s);
-        kiosks.take("k1"_s, KioskSummary::silent(fine, "k1"_s, "Gone."_s));
-        QCOMPARE(counted(), "1 1 0 0 11 3 4"_s);
-        kiosks.take("k2"_s, summary(notes.arg(2).arg(0).arg(0)));
-        QCOMPARE(counted(), "1 0 0 1 12 2 3"_s);
-        kiosks.forget("k1"_s);
-        kiosks.forget("k3"_s);
-        QCOMPARE(counted(), "0 0 0 1 2 0 0"_s);
+        kiosks.set("k1"_s, fine);
+        kiosks.set("k2"_s, summary(R"(,"halt":true)"_s + notes.arg(1).arg(1).arg(1)));
+        QCOMPARE(counted(), "0 0 1 0 1 11 3 4 1 0 0"_s);
+        kiosks.set("k1"_s, silent(fine, 1));
+        kiosks.setClockWrong(*kiosks.find("k1"_s), true);
+        kiosks.setClockWrong(*kiosks.find("k1"_s), true);
+        QCOMPARE(counted(), "0 1 1 0 0 11 3 4 1 1 1"_s);
+        const QJsonObject told = QJsonDocument::fromJson('{' + kiosks.json(false) + '}').object();
+        QCOMPARE(told["counts"_s].toObject()["silent"_s].toInt(), 1);
+        QCOMPARE(told["kiosks"_s].toArray().size(), 2);
+        kiosks.set("k2"_s, summary(notes.arg(2).arg(0).arg(0)));
+        QCOMPARE(counted(), "0 1 0 0 1 12 2 3 0 1 1"_s);
+        kiosks.remove("k1"_s);
+        kiosks.remove("k3"_s);
+        QCOMPARE(counted(), "0 0 0 0 1 2 0 0 0 0 0"_s);
         QVERIFY(!kiosks.find("k1"_s));
     }
 
-    void onlyWordOfItselfEndsAKiosksSilence()
+    // What is not listened to, what a stopped program did not hear, and what is granted do not
+    // count.
+    void silenceClockStandsWhileNobodyCouldBeHeard()
     {
-        Metrics metrics({});
-        Kiosks kiosks(metrics);
-        const std::vector<QString> none;
-        kiosks.take("k1"_s, summary());
-        const Kiosks::Clock::time_point heardOf = kiosks.find("k1"_s)->heardOf;
-        QVERIFY(kiosks.silentFor(seconds(3600)) == none);
-        QVERIFY(kiosks.silentFor(seconds(-3600)) == std::vector{"k1"_s}); // in an hour
-        QTest::qSleep(1);
-        kiosks.take("k1"_s, KioskSummary::silent(summary(), "k1"_s, "Gone."_s));
-        QVERIFY(kiosks.find("k1"_s)->heardOf == heardOf);
-        QVERIFY(kiosks.silentFor(seconds(-3600)) == none); // which is told already
-        kiosks.take("k1"_s, summary());
-        QVERIFY(kiosks.find("k1"_s)->heardOf > heardOf);
-        QVERIFY(kiosks.silentFor(seconds(-3600)) == std::vector{"k1"_s});
+        SilenceClock clock;
+        auto now = std::chrono::steady_clock::now();
+        const auto pass = [&](milliseconds time, bool isListening) {
+            now += time;
+            clock.turn(now, isListening);
+            return std::chrono::duration_cast<seconds>(clock.now()).count();
+        };
+        pass(milliseconds(0), false);
+        for (int i = 0; i < 10; ++i)
+            pass(milliseconds(1010), true);
+        QCOMPARE(pass(milliseconds(0), true), 10);
+        QCOMPARE(pass(milliseconds(1500), false), 10);
+        QCOMPARE(pass(milliseconds(60000), true), 10);
+        clock.grant(seconds(20));
+        QCOMPARE(pass(milliseconds(0), true), -9);
+    }
+
+    void logHasOneLineAMinuteForEachReason()
+    {
+        LogCapture log;
+        LogLimit limit;
+        const LogLimit::Clock::time_point begin{};
+        for (int i = 0; i < 100; ++i)
+            limit.warn("bad"_s, "k%1: bad\033[2J"_s.arg(i), begin + seconds(i));
+        limit.warn("worse"_s, "k1: worse"_s, begin + seconds(5));
+        QCOMPARE(
+            log.texts(),
+            (QStringList{"warning: k0: bad\\u001b[2J"_s,
+                         "warning: k60: bad\\u001b[2J (and 59 more since the last such line)"_s,
+                         "warning: k1: worse"_s}));
+    }
+
+    // A name, the number of parts and the part that it is of.
+    void eachKioskIsOfOnePart()
+    {
+        QVector<int> counts(9);
+        int moved = 0;
+        constexpr int all = 9000;
+        for (int i = 0; i < all; ++i) {
+            const QString name = "kiosk-%1"_s.arg(i);
+            const int part = Partition::of(name, 9);
+            QVERIFY(part >= 1 && part <= 9);
+            ++counts[part - 1];
+            QCOMPARE(Partition("%1/9"_s.arg(part)).has(name), true);
+            QCOMPARE(Partition("%1/9"_s.arg(part % 9 + 1)).has(name), false);
+            const int after = Partition::of(name, 10);
+            QVERIFY(after == part || after == 10); // nothing moves between those that were there
+            moved += after != part;
+        }
+        for (const int count : counts)
+            QVERIFY(std::abs(count - 1000) < 150);
+        QVERIFY(std::abs(moved - all / 10) < 150);
+        // Kiosks find their part by the same formula: it may not change.
+        QCOMPARE(Partition::of("k1"_s, 4), 3);
+        QCOMPARE(Partition::of("север/к17"_s, 1000), 897);
+        for (const char* text : {"", "0/4", "5/4", "1/0", "1/1001", "1/2/3", "a/4", "-1/4"})
+            QVERIFY_EXCEPTION_THROWN(Partition{QLatin1String(text)}, Fault);
     }
 
     // The devices of a state; condition, notes inserted, rejected, returned, and faults.
@@ -137,12 +160,12 @@ private Q_SLOTS:
     {
         addRows(R"(
             {"device_id":1,"enabled":true,"state":"idling","notes_inserted":7,"notes_rejected":2,"notes_returned":1} | fine 7/2/1
-            {"device_id":1,"enabled":true,"state":"idling","notes_inserted":7},{"device_id":100,"enabled":true,"state":"jammed","notes_inserted":5} | faulty 12/0/0 Coin acceptor (CCTalk): The device does not work; its state: jamming.
-            {"device_id":1,"enabled":true,"state":"idling","halt":true} | out_of_order 0/0/0 Bill validator (CCNet): The device is halted.
-            {"device_id":99,"enabled":true,"state":"idling"},{"device_id":1,"enabled":true,"state":"idling","halt":true} | faulty 0/0/0 Bill validator (CCNet): The device is halted.
-            {"device_id":199,"enabled":true,"state":"idling"},{"device_id":1,"enabled":true,"state":"idling","halt":true} | faulty 0/0/0 Bill validator (CCNet): The device is halted.
-            {"device_id":200,"enabled":true,"state":"idling"},{"device_id":1,"enabled":true,"state":"idling","halt":true} | faulty 0/0/0 Bill validator (CCNet): The device is halted.
-            | out_of_order 0/0/0 The service tells of no device.)"_s);
+            {"device_id":1,"enabled":true,"state":"idling","notes_inserted":7},{"device_id":100,"enabled":true,"state":"jammed","notes_inserted":5} | faulty 12/0/0 state 100/-1 Coin acceptor (CCTalk): The device does not work; its state: jamming.
+            {"device_id":1,"enabled":true,"state":"idling","halt":true} | out_of_order 0/0/0 halted 1/-1 Bill validator (CCNet): The device is halted.
+            {"device_id":99,"enabled":true,"state":"idling"},{"device_id":1,"enabled":true,"state":"idling","halt":true} | faulty 0/0/0 halted 1/-1 Bill validator (CCNet): The device is halted.
+            {"device_id":199,"enabled":true,"state":"idling"},{"device_id":1,"enabled":true,"state":"idling","halt":true} | faulty 0/0/0 halted 1/-1 Bill validator (CCNet): The device is halted.
+            {"device_id":200,"enabled":true,"state":"idling"},{"device_id":1,"enabled":true,"state":"idling","halt":true} | faulty 0/0/0 halted 1/-1 Bill validator (CCNet): The device is halted.
+            | out_of_order 0/0/0 no_devices -1/-1 The service tells of no device.)"_s);
     }
 
     void summarySaysTheSameWhenItIsRead()
@@ -152,18 +175,44 @@ private Q_SLOTS:
         const QString json = R"({"time":1790000000123,"device_states":[%1]})"_s;
         const KioskSummary made("k\"1"_s, readServiceState(json.arg(devices)), writer);
         QCOMPARE(shown(made), expected);
-        const KioskSummary silent = KioskSummary::silent(made, "k\"1"_s, "Gone."_s);
-        QCOMPARE(shown(silent),
-                 expected.section(QLatin1Char(' '), 1, 1).prepend("silent "_s).append(" Gone."_s));
-        for (const KioskSummary& told : {made, silent}) {
+        const KioskSummary gone = silent(made, 1790000000999);
+        QCOMPARE(shown(gone),
+                 "silent %1 gone -1/-1 Gone."_s.arg(expected.section(QLatin1Char(' '), 1, 1)));
+        QCOMPARE(silent(gone, 1800000000000).text, gone.text); // the same silence
+        QCOMPARE(silent(gone, 1780000000000).since, 1780000000000); // of a clock that was ahead
+        for (const KioskSummary& told : {made, gone}) {
             const KioskSummary read(told.text);
             QCOMPARE(shown(read), shown(told));
             QCOMPARE(read.time, 1790000000123);
+            QCOMPARE(read.since, told.since);
             const QJsonObject object = QJsonDocument::fromJson(told.text).object();
-            QCOMPARE(object["kiosk"_s].toString(), "k\"1"_s);
+            QCOMPARE(object["condition"_s].toString(),
+                     QLatin1String(KioskSummary::name(told.condition)));
         }
-        QCOMPARE(KioskSummary(KioskSummary::silent(summary(), "k1"_s, {}).text).time,
-                 KioskSummary::noTime);
+        QCOMPARE(KioskSummary(silent(summary(), 1).text).time, KioskSummary::noTime);
+    }
+
+    void summaryIsCutToWhatTheBrokerTakes()
+    {
+        StateWriter writer;
+        QStringList devices;
+        for (int i = 0; i < 60; ++i)
+            devices +=
+                R"({"device_id":1,"thread_id":%1,"error_critical":true,"error_text":"%2"})"_s.arg(
+                    QString::number(i), QString(200, QLatin1Char('x')));
+        KioskSummary summary(
+            "k1"_s,
+            readServiceState(R"({"device_states":[%1]})"_s.arg(devices.join(QLatin1Char(',')))),
+            writer);
+        const qsizetype whole = summary.text.size();
+        for (const qsizetype most : {whole - 1, whole / 2, qsizetype(1000)}) {
+            QVERIFY(summary.cutTo(most, "k1"_s));
+            QVERIFY(summary.text.size() <= most);
+            const KioskSummary read(summary.text);
+            QCOMPARE(read.faults.back().reason, "too_large"_s);
+            QCOMPARE(read.condition, KioskSummary::OutOfOrder);
+        }
+        QVERIFY(!summary.cutTo(100, "k1"_s));
     }
 
     void whatIsNoSummaryIsRefused_data()
@@ -188,27 +237,36 @@ private Q_SLOTS:
         KioskSummary(R"({"devices":[{"more":1}],"condition":"fine","more":[]})");
     }
 
-    // A pattern, "refused" or what to subscribe to, a topic and its kiosk.
+    // A pattern, "refused" or what to subscribe to for part 3, a topic and its kiosk.
     void topicSaysWhichKiosk_data()
     {
         addRows(R"(
-            kiosks/+/state  | kiosks/+/state | kiosks/k1/state   | k1
-            kiosks/%1/state | kiosks/+/state | kiosks/k1/state   | k1
-            +               | +              | k1                | k1
-            +/state         | +/state        | k1/state          | k1
-            kiosks/+        | kiosks/+       | kiosks/k1         | k1
-            kiosks/+/state  | kiosks/+/state | kiosks//state     |
-            kiosks/+/state  | kiosks/+/state | kiosks/state      |
-            kiosks/+/state  | kiosks/+/state | kiosks/k/1/state  |
-            kiosks/+/state  | kiosks/+/state | kiosks/k1/summary |
-            kiosks/+/state  | kiosks/+/state | others/k1/state   |
-            kiosks/k+/state | refused
-            kiosks/+k/state | refused
-            kiosks/state    | refused
-            kiosks/+/+      | refused
-            kiosks/+/#      | refused
-            $SYS/+/state    | refused
-                            | refused)"_s);
+            kiosks/+/state            | kiosks/+/state   | kiosks/k1/state      | k1
+            kiosks/%1/state           | kiosks/+/state   | kiosks/k1/state      | k1
+            kiosks/%kiosk/state       | kiosks/+/state   | kiosks/k1/state      | k1
+            +                         | +                | k1                   | k1
+            +/state                   | +/state          | k1/state             | k1
+            kiosks/+                  | kiosks/+         | kiosks/k1            | k1
+            kiosks/+/state            | kiosks/+/state   | kiosks//state        |
+            kiosks/+/state            | kiosks/+/state   | kiosks/state         |
+            kiosks/+/state            | kiosks/+/state   | kiosks/k/1/state     |
+            kiosks/+/state            | kiosks/+/state   | kiosks/k1/summary    |
+            kiosks/+/state            | kiosks/+/state   | others/k1/state      |
+            kiosks/+/+/state          | kiosks/+/+/state | kiosks/north/k1/state | north/k1
+            +/kiosks/+                | +/kiosks/+       | north/kiosks/k1      | north/k1
+            kiosks/%part/%kiosk/state | kiosks/3/+/state | kiosks/3/k1/state    | k1
+            %part/+/+                 | 3/+/+            | 3/north/k1           | north/k1
+            kiosks/+/+/state          | kiosks/+/+/state | kiosks/north//state  |
+            kiosks/k+/state           | refused
+            kiosks/+k/state           | refused
+            kiosks/state              | refused
+            kiosks/+/+/+              | refused
+            kiosks/%part/state        | refused
+            %part/%part/+             | refused
+            kiosks/%partly/+          | refused
+            kiosks/+/#                | refused
+            $SYS/+/state              | refused
+                                      | refused)"_s);
     }
 
     void topicSaysWhichKiosk()
@@ -219,10 +277,18 @@ private Q_SLOTS:
             return;
         }
         const KioskTopic topics(pattern);
-        QCOMPARE(topics.filter(), filter);
+        QCOMPARE(topics.filter(3), filter);
         QCOMPARE(topics.kioskOf(topic), kiosk);
         if (!kiosk.isEmpty())
-            QCOMPARE(topics.of(kiosk), topic);
+            QCOMPARE(topics.of(kiosk, 3), topic);
+        QCOMPARE(topics.partOf(topic), topics.hasPart() ? 3 : 0);
+    }
+
+    void regionIsTheBeginningOfTheName()
+    {
+        for (const char* name : {"north/k1", "north-k1", "north_k-1", "north.k1"})
+            QCOMPARE(regionOf(QLatin1String(name)), "north"_s);
+        QCOMPARE(regionOf("k17"_s), QString());
     }
 
     void addressIsHostAndPort_data()

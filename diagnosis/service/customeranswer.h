@@ -16,8 +16,8 @@ struct DeviceFault
     QString text; ///< a sentence
 };
 
-/// Of a device that is told of so: its deviceFaults(), or that it is jammed, in error, or in a state
-/// that nobody knows.
+/// Of a device that is told of so: its deviceFaults(), or that it is jammed, in error, or in a
+/// state that nobody knows.
 std::vector<DeviceFault> whyNotWorking(const PublishedDevice& device);
 
 /// Whether there is no such reason.

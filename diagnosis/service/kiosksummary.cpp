@@ -57,9 +57,10 @@ QByteArray ending(const KioskSummary& summary)
 {
     QByteArray since;
     if (summary.since != KioskSummary::noTime) {
-        since = ",\"since\":"
-            + JsonText(QDateTime::fromMSecsSinceEpoch(summary.since, Qt::UTC)
-                           .toString(Qt::ISODateWithMs));
+        since =
+            ",\"since\":"
+            + JsonText(
+                QDateTime::fromMSecsSinceEpoch(summary.since, Qt::UTC).toString(Qt::ISODateWithMs));
     }
     return since + ",\"condition\":\"" + KioskSummary::name(summary.condition) + R"(","faults":)"
         + JsonText::list(summary.faults,
@@ -135,10 +136,9 @@ KioskSummary KioskSummary::withoutState(const KioskSummary& last, const QString&
     summary.faults = {fault};
     summary.text = "{\"kiosk\":" + JsonText(kiosk)
         + ",\"time\":" + JsonText::of(members.value(QStringLiteral("time")))
-        + ",\"payment_text\":" + JsonText(outOfServiceText())
-        + R"(,"accepting":false,"reasons":)" + JsonText::list(QStringList{fault.text})
-        + ",\"devices\":" + JsonText::of(members.value(QStringLiteral("devices")))
-        + ending(summary);
+        + ",\"payment_text\":" + JsonText(outOfServiceText()) + R"(,"accepting":false,"reasons":)"
+        + JsonText::list(QStringList{fault.text}) + ",\"devices\":"
+        + JsonText::of(members.value(QStringLiteral("devices"))) + ending(summary);
     return summary;
 }
 
@@ -149,16 +149,18 @@ bool KioskSummary::cutTo(qsizetype bytes, const QString& kiosk)
                          Diagnosis::tr("Devices are left out: the broker has no room for all.")};
     if (condition == Fine)
         condition = Faulty;
-    do {
-        faults.resize(faults.size() / 2);
+    for (size_t kept = faults.size(); kept > 0 || faults.empty(); kept /= 2) {
+        faults.resize(kept / 2);
         faults.push_back(cut);
         text = "{\"kiosk\":" + JsonText(kiosk)
             + ",\"time\":" + JsonText::of(members.value(QStringLiteral("time")))
             + ",\"payment_text\":" + JsonText::of(members.value(QStringLiteral("payment_text")))
             + ",\"accepting\":" + JsonText::of(members.value(QStringLiteral("accepting")))
             + R"(,"reasons":[],"devices":[])" + ending(*this);
-    } while (text.size() > bytes && faults.size() > 1);
-    return text.size() <= bytes;
+        if (text.size() <= bytes)
+            return true;
+    }
+    return false;
 }
 
 KioskSummary::KioskSummary(const QByteArray& json)

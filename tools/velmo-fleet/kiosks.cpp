@@ -107,9 +107,8 @@ QByteArray Kiosks::json(bool all) const
         if (!all && summary.condition == KioskSummary::Fine)
             continue;
         const auto list = [&](auto member) {
-            return JsonText::list(summary.faults, [&](const KioskFault& fault) {
-                return JsonText(fault.*member);
-            });
+            return JsonText::list(summary.faults,
+                                  [&](const KioskFault& fault) { return JsonText(fault.*member); });
         };
         kiosks += (kiosks.isEmpty() ? "" : ",")
             + JsonText::object(

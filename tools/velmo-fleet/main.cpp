@@ -29,9 +29,9 @@ constexpr Option wills{
     "wills", nullptr, Value("TOPIC", Kind::Text),
     QT_TRANSLATE_NOOP("Velmo", "Where a message, its will, says that a kiosk is gone."),
     "kiosks/+/will"};
-constexpr Option status{
-    "status", nullptr, Value("TOPIC", Kind::Text),
-    QT_TRANSLATE_NOOP("Velmo", "Where workers tell of themselves."), usualStatus};
+constexpr Option status{"status", nullptr, Value("TOPIC", Kind::Text),
+                        QT_TRANSLATE_NOOP("Velmo", "Where workers tell of themselves."),
+                        usualStatus};
 constexpr Option name{
     "name", nullptr, Value("NAME", Kind::Text),
     QT_TRANSLATE_NOOP("Velmo",
@@ -59,10 +59,9 @@ constexpr Option language{
     QT_TRANSLATE_NOOP("Velmo",
                       "The language of the summaries, as \"ru\", in place of the system's.")};
 // In the order of the help.
-const Option* const every[] = {&broker,      &states,  &summaries, &wills,        &status,
-                               &name,        &partition, &silent,  &forgetAfter,  &history,
-                               &metrics,     &passwordFile, &tlsCa, &tlsCert,     &tlsKey,
-                               &language};
+const Option* const every[] = {
+    &broker,      &states,  &summaries, &wills,        &status, &name,    &partition, &silent,
+    &forgetAfter, &history, &metrics,   &passwordFile, &tlsCa,  &tlsCert, &tlsKey,    &language};
 
 } // namespace options
 
@@ -72,20 +71,19 @@ std::atomic<bool> stopAsked{false};
 
 WorkerOptions workerOptions(const GivenOptions& given)
 {
-    const WorkerOptions worker{
-        given.broker(),
-        given.isSet(options::name)
-            ? given.value(options::name)
-            : QStringLiteral("%1.%2")
-                  .arg(QSysInfo::machineHostName())
-                  .arg(QCoreApplication::applicationPid()),
-        Partition(given.value(options::partition)),
-        KioskTopic(given.value(options::states)),
-        KioskTopic(given.value(options::summaries)),
-        KioskTopic(given.value(options::wills)),
-        KioskTopic(given.value(options::status)),
-        std::chrono::seconds(given.number(options::silent)),
-        int(given.number(options::forgetAfter))};
+    const WorkerOptions worker{given.broker(),
+                               given.isSet(options::name)
+                                   ? given.value(options::name)
+                                   : QStringLiteral("%1.%2")
+                                         .arg(QSysInfo::machineHostName())
+                                         .arg(QCoreApplication::applicationPid()),
+                               Partition(given.value(options::partition)),
+                               KioskTopic(given.value(options::states)),
+                               KioskTopic(given.value(options::summaries)),
+                               KioskTopic(given.value(options::wills)),
+                               KioskTopic(given.value(options::status)),
+                               std::chrono::seconds(given.number(options::silent)),
+                               int(given.number(options::forgetAfter))};
     static const QRegularExpression separators(QStringLiteral("[/+#]"));
     if (worker.name.contains(separators))
         throw Fault{Velmo::tr("--name: expected a name without /, + and #")};

@@ -47,8 +47,8 @@ Metrics::Metrics(const QString& part)
     , published(counter("velmo_fleet_summaries_published_total", "Summaries sent to the broker."))
     , acknowledged(counter("velmo_fleet_summaries_acknowledged_total",
                            "Summaries that the broker has taken."))
-    , reconnects(counter("velmo_fleet_reconnects_total",
-                         "Connections to the broker after the first one."))
+    , reconnects(
+          counter("velmo_fleet_reconnects_total", "Connections to the broker after the first one."))
     , dropped(counter("velmo_fleet_dropped_messages_total",
                       "Messages of all its clients that the broker had no room for."))
     , forgotten(counter("velmo_fleet_forgotten_total", "Kiosks that were forgotten."))
@@ -71,8 +71,7 @@ Metrics::Metrics(const QString& part)
                           "Whether this worker writes the history of its part."))
     , historyWaiting(gauge("velmo_fleet_history_waiting", "Changes that are not written yet."))
     , historyWritten(counter("velmo_fleet_history_written_total", "Changes that were written."))
-    , historyLost(
-          counter("velmo_fleet_history_lost_total", "Changes for which there was no room."))
+    , historyLost(counter("velmo_fleet_history_lost_total", "Changes for which there was no room."))
 {
     for (int i = 0; i <= KioskSummary::Fine; ++i) {
         m_conditions[i] =

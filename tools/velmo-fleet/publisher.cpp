@@ -60,7 +60,8 @@ void Publisher::send(const QString& name, Kiosk* kiosk)
         kiosk->isWaiting = false;
     if (kiosk && kiosk->isTold())
         return;
-    int message = m_broker.publish(m_topic.of(name, m_part), kiosk ? kiosk->summary.text : QByteArray());
+    int message =
+        m_broker.publish(m_topic.of(name, m_part), kiosk ? kiosk->summary.text : QByteArray());
     while (kiosk && message == BrokerConnection::tooBig
            && m_kiosks.cut(name, *kiosk, kiosk->summary.text.size() / 2))
         message = m_broker.publish(m_topic.of(name, m_part), kiosk->summary.text);
@@ -124,8 +125,9 @@ void Publisher::retry()
 
 QString Publisher::fault() const
 {
-    return m_refused.isEmpty() ? QString()
-                               : Velmo::tr("The broker does not take the summaries of %n kiosks: %1.",
-                                           nullptr, int(m_refused.size()))
-                                     .arg(m_refusal);
+    return m_refused.isEmpty()
+        ? QString()
+        : Velmo::tr("The broker does not take the summaries of %n kiosks: %1.", nullptr,
+                    int(m_refused.size()))
+              .arg(m_refusal);
 }

@@ -35,9 +35,9 @@ constexpr size_t mostDevices = 64;
 
 bool isName(const QString& name)
 {
-    return name.size() <= longestName
-        && std::all_of(name.begin(), name.end(),
-                       [](QChar each) { return each.category() != QChar::Other_Control; });
+    return name.size() <= longestName && std::all_of(name.begin(), name.end(), [](QChar each) {
+               return each.category() != QChar::Other_Control;
+           });
 }
 
 std::vector<KioskRecord::Level> levelsOf(const PublishedDevice& device)
@@ -59,8 +59,9 @@ std::vector<KioskRecord::Level> levelsOf(const PublishedDevice& device)
 KioskRecord recordOf(const QString& name, const Kiosk& kiosk, const PublishedState* state)
 {
     const KioskSummary& summary = kiosk.summary;
-    KioskRecord record{name, QDateTime::currentMSecsSinceEpoch(), kiosk.message,
-                       summary.condition, summary.faults, {}};
+    KioskRecord record{name,           QDateTime::currentMSecsSinceEpoch(),
+                       kiosk.message,  summary.condition,
+                       summary.faults, {}};
     // Without a time, the same state may come on another day; and silence is no message.
     if (summary.time == KioskSummary::noTime)
         record.message += quint64(record.time / minute) * 0x9e3779b97f4a7c15;
@@ -71,8 +72,7 @@ KioskRecord recordOf(const QString& name, const Kiosk& kiosk, const PublishedSta
     for (const PublishedDevice& device : state->devices) {
         record.devices.push_back({device.deviceId(), device.threadId(), device.insertedInFull,
                                   device.rejectedInFull, device.returnedInFull,
-                                  device.stackerPresent(), device.stackerFull(),
-                                  levelsOf(device)});
+                                  device.stackerPresent(), device.stackerFull(), levelsOf(device)});
     }
     return record;
 }
@@ -329,8 +329,9 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
         if (!kiosk)
             return;
         kiosk->message = message;
-        loseSight(name, KioskSummary::Unknown, "unreadable",
-                  Velmo::tr("What the kiosk published last cannot be read: %1.").arg(fault.message));
+        loseSight(
+            name, KioskSummary::Unknown, "unreadable",
+            Velmo::tr("What the kiosk published last cannot be read: %1.").arg(fault.message));
     }
 }
 

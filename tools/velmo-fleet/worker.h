@@ -37,8 +37,8 @@ struct WorkerOptions
 };
 
 /// Makes summaries of the states that the kiosks of its part have retained at a broker. The broker
-/// keeps nothing for it: whenever it connects, it reads the present and publishes what is not there.
-/// Several workers of one part publish the same.
+/// keeps nothing for it: whenever it connects, it reads the present and publishes what is not
+/// there. Several workers of one part publish the same.
 class Worker
 {
 public:

@@ -33,8 +33,9 @@ constexpr seconds droppedPause{11};
 constexpr int unknown = KioskSummary::Unknown;
 
 const char* const conditionTexts[] = {
-    QT_TRANSLATE_NOOP("Velmo", "unknown"), QT_TRANSLATE_NOOP("Velmo", "silent"), QT_TRANSLATE_NOOP("Velmo", "out of order"),
-    QT_TRANSLATE_NOOP("Velmo", "faulty"), QT_TRANSLATE_NOOP("Velmo", "fine")};
+    QT_TRANSLATE_NOOP("Velmo", "unknown"), QT_TRANSLATE_NOOP("Velmo", "silent"),
+    QT_TRANSLATE_NOOP("Velmo", "out of order"), QT_TRANSLATE_NOOP("Velmo", "faulty"),
+    QT_TRANSLATE_NOOP("Velmo", "fine")};
 
 struct Kiosk
 {
