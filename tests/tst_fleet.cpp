@@ -92,25 +92,44 @@ private Q_SLOTS:
         QVERIFY(!kiosks.find("k1"_s));
     }
 
-    // What is not listened to, what a stopped program did not hear, and what is granted do not
-    // count.
-    void silenceClockStandsWhileNobodyCouldBeHeard()
+    // What is not listened to, what a stopped program did not hear and what a broker that stands
+    // still holds back do not count.
+    void silenceCountsOnlyWhereKiosksCouldBeHeard()
     {
-        SilenceClock clock;
-        auto now = std::chrono::steady_clock::now();
-        const auto pass = [&](milliseconds time, bool isListening) {
-            now += time;
-            clock.turn(now, isListening);
-            return std::chrono::duration_cast<seconds>(clock.now()).count();
+        SilenceWatch watch(seconds(20));
+        auto now = SilenceWatch::Clock::now();
+        const auto pass = [&](int time, bool isListening = true) {
+            for (int i = 0; i < time; ++i)
+                watch.turn(now += seconds(1), isListening);
         };
-        pass(milliseconds(0), false);
-        for (int i = 0; i < 10; ++i)
-            pass(milliseconds(1010), true);
-        QCOMPARE(pass(milliseconds(0), true), 10);
-        QCOMPARE(pass(milliseconds(1500), false), 10);
-        QCOMPARE(pass(milliseconds(60000), true), 10);
-        clock.grant(seconds(20));
-        QCOMPARE(pass(milliseconds(0), true), -9);
+        watch.turn(now, false);
+        const SilenceWatch::Duration heardOf = watch.now();
+        pass(19);
+        QVERIFY(!watch.mayBeSilent(heardOf));
+        pass(100, /*isListening=*/false);
+        watch.turn(now += seconds(100), true);
+        QVERIFY(!watch.mayBeSilent(heardOf));
+        pass(2);
+        QVERIFY(watch.mayBeSilent(heardOf));
+        QVERIFY(!watch.isSilent(heardOf)); // the broker may be dead
+
+        watch.sendProbe(1);
+        QVERIFY(!watch.mayBeSilent(heardOf)); // one is enough
+        pass(5);
+        watch.acknowledge(2);
+        watch.acknowledge(1);
+        QVERIFY(!watch.isSilent(heardOf)); // it stood still
+        QVERIFY(!watch.mayBeSilent(heardOf));
+        pass(21);
+        QVERIFY(watch.mayBeSilent(heardOf));
+        watch.sendProbe(3);
+        watch.acknowledge(3);
+        QVERIFY(watch.isSilent(heardOf));
+        QVERIFY(!watch.isSilent(watch.now()));
+        watch.restart();
+        QVERIFY(!watch.isSilent(heardOf));
+        pass(18);
+        QVERIFY(!watch.mayBeSilent(heardOf));
     }
 
     void logHasOneLineAMinuteForEachReason()

@@ -4,6 +4,7 @@
 #include "kiosks.h"
 
 #include "metrics.h"
+#include "json/variants.h"
 
 #include <QDateTime>
 #include <QSet>
@@ -12,6 +13,8 @@
 
 namespace {
 
+constexpr qint64 minute = 60000; // milliseconds
+
 JsonText jsonOf(qint64 time)
 {
     return time == KioskSummary::noTime
@@ -19,7 +22,42 @@ JsonText jsonOf(qint64 time)
         : JsonText(QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODateWithMs));
 }
 
+std::vector<KioskRecord::Level> levelsOf(const PublishedDevice& device)
+{
+    std::vector<KioskRecord::Level> levels;
+    const QVariantMap registry = device.dispRegistry();
+    for (auto row = registry.begin(); row != registry.end(); ++row) {
+        const QVariantMap item = row->toMap();
+        levels.push_back({row.key().section(QLatin1Char('_'), 1, 1).toInt(),
+                          Variants::toInt(item.value(QStringLiteral("denomination"))),
+                          item.value(QStringLiteral("currency")).toString(),
+                          Variants::toInt(item.value(QStringLiteral("bill_type"))),
+                          Variants::toLongLong(item.value(QStringLiteral("count")))});
+    }
+    return levels;
+}
+
 } // namespace
+
+KioskRecord Kiosk::record(const QString& name, const PublishedState* state) const
+{
+    KioskRecord record{name, QDateTime::currentMSecsSinceEpoch(), message,
+                       summary.condition, summary.faults, {}};
+    // Without a time, the same state may come on another day; and silence is no message.
+    if (summary.time == KioskSummary::noTime)
+        record.message += quint64(record.time / minute) * 0x9e3779b97f4a7c15;
+    if (!state) {
+        record.message ^= quint64(summary.condition) + 1;
+        return record;
+    }
+    for (const PublishedDevice& device : state->devices) {
+        record.devices.push_back({device.deviceId(), device.threadId(), device.insertedInFull,
+                                  device.rejectedInFull, device.returnedInFull,
+                                  device.stackerPresent(), device.stackerFull(),
+                                  levelsOf(device)});
+    }
+    return record;
+}
 
 // Eight bytes at a time: each state is hashed.
 quint64 Kiosk::hash(const QByteArray& text)

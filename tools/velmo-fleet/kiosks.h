@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include "kioskrecord.h"
 #include "service/kiosksummary.h"
-#include "silenceclock.h"
+#include "silencewatch.h"
 
 #include <QHash>
 #include <QString>
@@ -20,12 +21,16 @@ struct Kiosk
     quint64 message = 0; ///< hash of the state that it is of; 0 while that is not known
     quint64 will = 0; ///< hash of the last word of its end; 0 for none
     quint64 atBroker = 0; ///< hash of the summary that the broker has; 0 while that is not known
-    SilenceClock::Duration heardOf{0}; ///< when it last said something
+    SilenceWatch::Duration heardOf{0}; ///< when it last said something
     bool isWaiting = false; ///< to be published
     bool isClockWrong = false;
 
     bool isTold() const { return atBroker == hash(summary.text); }
     bool isSilent() const { return summary.condition == KioskSummary::Silent; }
+
+    /// What its history is told now.
+    /// @param state the one that the summary is of; null for one of which nothing is known
+    KioskRecord record(const QString& name, const PublishedState* state) const;
 
     /// Of a message, never 0. Not for what others could choose so that it collides.
     static quint64 hash(const QByteArray& text);

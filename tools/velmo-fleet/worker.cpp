@@ -8,7 +8,6 @@
 #include "text/fault.h"
 #include "text/textinput.h"
 #include "json/jsonreader.h"
-#include "json/variants.h"
 
 #include <algorithm>
 
@@ -19,14 +18,11 @@ namespace {
 
 constexpr int batch = 200; // messages between two rounds of sending
 constexpr seconds quiet{1}; // without a retained message, after which there are no more
-constexpr seconds longestGrace{60}; // for kiosks to come back to a broker that has
 constexpr seconds statusPause{600};
 constexpr seconds forgettingPause{3600};
 constexpr quint32 statusExpiry = 86400; // seconds
 constexpr qint64 clockTolerance = 300000; // milliseconds that a kiosk's clock may be wrong
-constexpr seconds longestProbe{1}; // of a broker that does not stand still
-constexpr qint64 minute = 60000; // milliseconds
-constexpr qint64 day = 1440 * minute;
+constexpr qint64 day = 86400000; // milliseconds
 
 // What is taken of a message.
 constexpr int longestName = 128;
@@ -40,43 +36,6 @@ bool isName(const QString& name)
            });
 }
 
-std::vector<KioskRecord::Level> levelsOf(const PublishedDevice& device)
-{
-    std::vector<KioskRecord::Level> levels;
-    const QVariantMap registry = device.dispRegistry();
-    for (auto row = registry.begin(); row != registry.end(); ++row) {
-        const QVariantMap item = row->toMap();
-        levels.push_back({row.key().section(QLatin1Char('_'), 1, 1).toInt(),
-                          Variants::toInt(item.value(QStringLiteral("denomination"))),
-                          item.value(QStringLiteral("currency")).toString(),
-                          Variants::toInt(item.value(QStringLiteral("bill_type"))),
-                          Variants::toLongLong(item.value(QStringLiteral("count")))});
-    }
-    return levels;
-}
-
-// What is published of a kiosk, for its history.
-KioskRecord recordOf(const QString& name, const Kiosk& kiosk, const PublishedState* state)
-{
-    const KioskSummary& summary = kiosk.summary;
-    KioskRecord record{name,           QDateTime::currentMSecsSinceEpoch(),
-                       kiosk.message,  summary.condition,
-                       summary.faults, {}};
-    // Without a time, the same state may come on another day; and silence is no message.
-    if (summary.time == KioskSummary::noTime)
-        record.message += quint64(record.time / minute) * 0x9e3779b97f4a7c15;
-    if (!state) {
-        record.message ^= quint64(summary.condition) + 1;
-        return record;
-    }
-    for (const PublishedDevice& device : state->devices) {
-        record.devices.push_back({device.deviceId(), device.threadId(), device.insertedInFull,
-                                  device.rejectedInFull, device.returnedInFull,
-                                  device.stackerPresent(), device.stackerFull(), levelsOf(device)});
-    }
-    return record;
-}
-
 } // namespace
 
 Worker::Worker(const WorkerOptions& options, Metrics& metrics, HistoryRecorder* history)
@@ -84,6 +43,7 @@ Worker::Worker(const WorkerOptions& options, Metrics& metrics, HistoryRecorder* 
     , m_metrics(metrics)
     , m_history(history)
     , m_kiosks(metrics)
+    , m_silence(options.silence)
     , m_broker(options.broker,
                [this](const QString& topic, const QByteArray& payload, bool isRetained) {
                    take(topic, payload, isRetained);
@@ -126,7 +86,7 @@ void Worker::run(const std::atomic<bool>& isStopped)
 
 void Worker::turn()
 {
-    m_clock.turn(Clock::now(), m_isListening && m_broker.isConnected());
+    m_silence.turn(Clock::now(), m_isListening && m_broker.isConnected());
     const bool isBehind = m_broker.read(batch);
     followConnection();
     m_publisher.send();
@@ -179,8 +139,6 @@ void Worker::followConnection()
         m_metrics.reconnects.Increment();
     m_connection = m_broker.connections();
     m_isStoreNew = true;
-    m_probe = 0;
-    m_probed = SilenceClock::Duration::min();
     m_status.clear();
     m_publisher.reset();
     startGathering();
@@ -208,7 +166,7 @@ void Worker::endGathering()
             for (const QString& name : gone)
                 forget(name);
         }
-        m_clock.grant(std::min<seconds>(m_options.silence, longestGrace));
+        m_silence.restart();
         m_isListening = true;
         m_metrics.ready.Set(1);
     }
@@ -284,7 +242,7 @@ void Worker::takeSummary(const QString& name, const QByteArray& payload, bool /*
     try {
         if (!kiosk) {
             kiosk = &m_kiosks.set(name, KioskSummary(payload));
-            kiosk->heardOf = m_clock.now();
+            kiosk->heardOf = m_silence.now();
         }
         kiosk->atBroker = Kiosk::hash(payload);
     } catch (const Fault& fault) {
@@ -303,7 +261,7 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
     const quint64 message = Kiosk::hash(payload);
     const bool isKnown = kiosk && kiosk->message == message;
     if (kiosk && !isRetained)
-        kiosk->heardOf = m_clock.now();
+        kiosk->heardOf = m_silence.now();
     if (isKnown && (isRetained || kiosk->summary.condition > KioskSummary::Silent))
         return;
     const char* reason = "too_large";
@@ -321,7 +279,7 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
             return;
         }
         tell(name, summary, message, &state);
-        m_kiosks.find(name)->heardOf = m_clock.now();
+        m_kiosks.find(name)->heardOf = m_silence.now();
         if (!isRetained)
             judgeClock(name);
     } catch (const Fault& fault) {
@@ -384,7 +342,7 @@ void Worker::tell(const QString& name, const KioskSummary& summary, quint64 mess
     kiosk.message = message;
     m_publisher.add(name, kiosk);
     if (m_history)
-        m_history->record(recordOf(name, kiosk, state));
+        m_history->record(kiosk.record(name, state));
 }
 
 void Worker::loseSight(const QString& name, KioskSummary::Condition condition, const char* reason,
@@ -407,29 +365,20 @@ void Worker::forget(const QString& name)
         m_history->forget(name, QDateTime::currentMSecsSinceEpoch());
 }
 
-// Nobody is told of as silent before the broker has shown that it is alive: it acknowledges a
-// message that was sent after the time was up. What it had of the kiosk until then, it has sent.
 void Worker::lookForSilence()
 {
-    if (m_options.silence.count() == 0)
-        return;
-    const auto isOverdue = [this](const Kiosk& kiosk, SilenceClock::Duration now) {
-        return !kiosk.isSilent() && kiosk.heardOf + m_options.silence < now;
-    };
-    const auto silent = m_kiosks.namesOf(
-        [&](const QString&, const Kiosk& kiosk) { return isOverdue(kiosk, m_probed); });
+    const auto silent = m_kiosks.namesOf([this](const QString&, const Kiosk& kiosk) {
+        return !kiosk.isSilent() && m_silence.isSilent(kiosk.heardOf);
+    });
     for (const QString& name : silent) {
         loseSight(name, KioskSummary::Silent, "silent",
                   Velmo::tr("The kiosk has been silent for more than %1 s.")
                       .arg(m_options.silence.count()));
     }
-    const bool mustProbe = m_probe == 0
-        && !m_kiosks
-                .namesOf([&](const QString&, const Kiosk& kiosk) {
-                    return isOverdue(kiosk, m_clock.now());
-                })
-                .empty();
-    if (mustProbe)
+    const auto doubtful = m_kiosks.namesOf([this](const QString&, const Kiosk& kiosk) {
+        return !kiosk.isSilent() && m_silence.mayBeSilent(kiosk.heardOf);
+    });
+    if (!doubtful.empty())
         publishStatus(/*isProbe=*/true);
 }
 
@@ -472,11 +421,8 @@ void Worker::publishStatus(bool isProbe)
         return;
     m_status = text;
     m_nextStatus = Clock::now() + statusPause;
-    if (isProbe) {
-        m_probe = message;
-        m_probeSent = m_clock.now();
-        m_probeSentAt = Clock::now();
-    }
+    if (isProbe)
+        m_silence.sendProbe(message);
 }
 
 void Worker::acknowledge(int message, const QString& refusal)
@@ -486,17 +432,7 @@ void Worker::acknowledge(int message, const QString& refusal)
         m_log.warn(QStringLiteral("status ") + refusal,
                    Velmo::tr("the broker does not take what is published: %1").arg(refusal));
     }
-    if (message != m_probe)
-        return;
-    m_probe = 0;
-    const Clock::duration passed = Clock::now() - m_probeSentAt;
-    if (passed < longestProbe) {
-        m_probed = m_probeSent;
-        return;
-    }
-    // The broker stood still: kiosks may have been unable to say anything.
-    m_clock.grant(passed + std::min<seconds>(m_options.silence, longestGrace));
-    m_probed = SilenceClock::Duration::min();
+    m_silence.acknowledge(message);
 }
 
 QStringList Worker::faults() const

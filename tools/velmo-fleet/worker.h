@@ -10,6 +10,7 @@
 #include "metrics.h"
 #include "partition.h"
 #include "publisher.h"
+#include "silencewatch.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -91,6 +92,7 @@ private:
     std::mutex m_mutex; // of all that follows, while json() may look
     LogLimit m_log;
     Kiosks m_kiosks;
+    SilenceWatch m_silence;
     StateWriter m_writer;
     BrokerConnection m_broker;
     Publisher m_publisher;
@@ -106,12 +108,6 @@ private:
     qint64 m_droppedKnown = 0;
     std::chrono::seconds m_dropPause{10};
     Clock::time_point m_nextGathering;
-
-    SilenceClock m_clock;
-    int m_probe = 0; // a message to the broker that shows whether it is alive; 0 for none
-    SilenceClock::Duration m_probeSent{0};
-    Clock::time_point m_probeSentAt;
-    SilenceClock::Duration m_probed = SilenceClock::Duration::min(); // until then all was heard
 
     QByteArray m_status; // as it was published last
     Clock::time_point m_nextSecond;

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "silencewatch.h"
+
+#include <algorithm>
+
+using std::chrono::seconds;
+
+namespace {
+
+constexpr seconds longestTurn{2}; // of a program that is not stopped
+constexpr seconds longestProbe{1}; // of a broker that does not stand still
+constexpr seconds longestGrace{60}; // for kiosks to come back
+
+} // namespace
+
+void SilenceWatch::turn(Clock::time_point now, bool isListening)
+{
+    const Duration passed = now - m_last;
+    if (isListening && passed <= longestTurn)
+        m_now += passed;
+    m_last = now;
+}
+
+void SilenceWatch::restart()
+{
+    m_now -= std::min(m_time, longestGrace);
+    m_probe = 0;
+    m_probed = Duration::min();
+}
+
+void SilenceWatch::sendProbe(int message)
+{
+    m_probe = message;
+    m_probeSent = m_now;
+    m_probeSentAt = m_last;
+}
+
+void SilenceWatch::acknowledge(int message)
+{
+    if (m_probe == 0 || message != m_probe)
+        return;
+    m_probe = 0;
+    const Duration passed = m_last - m_probeSentAt;
+    if (passed < longestProbe) {
+        m_probed = m_probeSent;
+    } else {
+        m_now -= passed;
+        restart();
+    }
+}
