@@ -91,6 +91,10 @@ WorkerOptions workerOptions(const GivenOptions& given)
     if (levels != worker.summaries.nameLevels() || levels != worker.wills.nameLevels())
         throw Fault{Velmo::tr("--states, --summaries and --wills: expected as many levels of the "
                               "kiosk's name in each")};
+    const bool hasPart = worker.states.hasPart();
+    if (hasPart != worker.summaries.hasPart() || hasPart != worker.wills.hasPart())
+        throw Fault{Velmo::tr("--states, --summaries and --wills: expected %1 in each or in none")
+                        .arg(QStringLiteral("%part"))};
     return worker;
 }
 

@@ -40,6 +40,12 @@ Metrics::Metrics(const QString& part)
                   .Help("Notes and coins that the devices of all kiosks counted.")
                   .Labels(m_part)
                   .Register(*m_registry))
+    , m_historyConnected(gauge("velmo_fleet_history_connected", "Whether the history answers."))
+    , m_historyWriter(gauge("velmo_fleet_history_writer",
+                          "Whether this worker writes the history of its part."))
+    , m_historyWaiting(gauge("velmo_fleet_history_waiting", "Changes that are not written yet."))
+    , m_historyWritten(counter("velmo_fleet_history_written_total", "Changes that were written."))
+    , m_historyLost(counter("velmo_fleet_history_lost_total", "Changes for which there was no room."))
     , states(m_received.Add({{"kind", "state"}}))
     , wills(m_received.Add({{"kind", "will"}}))
     , summariesRead(m_received.Add({{"kind", "summary"}}))
@@ -66,12 +72,6 @@ Metrics::Metrics(const QString& part)
                   .Add({},
                        prometheus::Histogram::BucketBoundaries{0.001, 0.005, 0.01, 0.05, 0.1, 0.5,
                                                                1, 5, 30, 120}))
-    , historyConnected(gauge("velmo_fleet_history_connected", "Whether the history answers."))
-    , historyWriter(gauge("velmo_fleet_history_writer",
-                          "Whether this worker writes the history of its part."))
-    , historyWaiting(gauge("velmo_fleet_history_waiting", "Changes that are not written yet."))
-    , historyWritten(counter("velmo_fleet_history_written_total", "Changes that were written."))
-    , historyLost(counter("velmo_fleet_history_lost_total", "Changes for which there was no room."))
 {
     for (int i = 0; i <= KioskSummary::Fine; ++i) {
         m_conditions[i] =
@@ -96,11 +96,24 @@ prometheus::Gauge& Metrics::gauge(const char* name, const char* help)
     return BuildGauge().Name(name).Help(help).Labels(m_part).Register(*m_registry).Add({});
 }
 
+void Metrics::set(const HistoryRecorder::Status& history)
+{
+    m_historyConnected.Set(history.fault.isEmpty());
+    m_historyWriter.Set(history.isWriter);
+    m_historyWaiting.Set(double(history.waiting));
+    m_historyWritten.Increment(double(history.written) - m_historyWritten.Value());
+    m_historyLost.Increment(double(history.lost) - m_historyLost.Value());
+}
+
 prometheus::Gauge& Metrics::faults(const QString& reason)
 {
-    prometheus::Gauge*& known = m_reasons[reason];
+    constexpr int most = 30; // which are written by others
+    const QString told = m_reasons.size() < most || m_reasons.contains(reason)
+        ? reason
+        : QStringLiteral("other");
+    prometheus::Gauge*& known = m_reasons[told];
     if (!known)
-        known = &m_faults.Add({{"reason", reason.toStdString()}});
+        known = &m_faults.Add({{"reason", told.toStdString()}});
     return *known;
 }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "historyrecorder.h"
 #include "service/kiosksummary.h"
 
 #include <prometheus/counter.h>
@@ -33,6 +34,8 @@ public:
     /// How many kiosks have a fault for that reason.
     prometheus::Gauge& faults(const QString& reason);
 
+    void set(const HistoryRecorder::Status& history);
+
     /// Messages that were not taken.
     /// @param reason one of few
     prometheus::Counter& refused(const char* reason);
@@ -52,6 +55,12 @@ private:
     prometheus::Family<prometheus::Gauge>& m_notes;
     prometheus::Gauge* m_conditions[KioskSummary::Fine + 1];
     QHash<QString, prometheus::Gauge*> m_reasons;
+
+    prometheus::Gauge& m_historyConnected;
+    prometheus::Gauge& m_historyWriter;
+    prometheus::Gauge& m_historyWaiting;
+    prometheus::Counter& m_historyWritten;
+    prometheus::Counter& m_historyLost;
 
     prometheus::Counter& counter(const char* name, const char* help);
     prometheus::Gauge& gauge(const char* name, const char* help);
@@ -73,9 +82,4 @@ public:
     prometheus::Gauge& rejected;
     prometheus::Gauge& returned;
     prometheus::Histogram& latency; ///< seconds from the state's own time to its summary
-    prometheus::Gauge& historyConnected;
-    prometheus::Gauge& historyWriter;
-    prometheus::Gauge& historyWaiting;
-    prometheus::Counter& historyWritten;
-    prometheus::Counter& historyLost;
 };

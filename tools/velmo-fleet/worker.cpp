@@ -7,7 +7,6 @@
 #include "terminal/velmo.h"
 #include "text/fault.h"
 #include "text/textinput.h"
-#include "json/jsonreader.h"
 
 #include <algorithm>
 
@@ -50,11 +49,9 @@ Worker::Worker(const WorkerOptions& options, Metrics& metrics, HistoryRecorder* 
                })
     , m_publisher(options.summaries, options.part.number(), m_kiosks, m_broker, metrics, m_log)
 {
-    const QByteArray will = JsonText::object({{"worker", options.name},
-                                              {"part", options.part.number()},
-                                              {"parts", options.part.count()},
-                                              {"gone", true}});
-    m_broker.setWill(options.status.of(options.name), will, statusExpiry);
+    WorkerStatus gone = status();
+    gone.isGone = true;
+    m_broker.setWill(options.status.of(options.name), gone.json(), statusExpiry);
     m_broker.setAcknowledged(
         [this](int message, const QString& refusal) { acknowledge(message, refusal); });
     m_broker.watchDropped();
@@ -99,7 +96,8 @@ void Worker::turn()
 void Worker::turnEverySecond()
 {
     m_nextSecond = Clock::now() + seconds(1);
-    lookAtHistory();
+    if (m_history)
+        m_metrics.set(m_history->status());
     if (!m_broker.isSubscribed())
         return;
     if (m_isGathering && Clock::now() - m_lastRetained > quiet)
@@ -223,14 +221,7 @@ void Worker::takeStatus(const QString& name, const QByteArray& payload, bool isR
         m_status.clear(); // it may say that this worker is gone
     } else if (!isRetained) {
         // What a worker that ends had in hand may be older than what this one has published.
-        bool isGone = payload.isEmpty();
-        const QString text = QString::fromUtf8(payload);
-        JsonReader reader(text);
-        reader.readObject([&](QStringView key) {
-            isGone = isGone || key == QLatin1String("gone");
-            return reader.skipValue();
-        });
-        m_mustVerify = m_mustVerify || isGone;
+        m_mustVerify = m_mustVerify || payload.isEmpty() || WorkerStatus::read(payload).isGone;
     }
 }
 
@@ -397,23 +388,9 @@ void Worker::lookForForgotten()
         m_broker.publish(m_options.states.of(name, m_options.part.number()), {});
 }
 
-void Worker::lookAtHistory()
-{
-    if (!m_history)
-        return;
-    const HistoryRecorder::Status status = m_history->status();
-    m_metrics.historyConnected.Set(status.fault.isEmpty());
-    m_metrics.historyWriter.Set(status.isWriter);
-    m_metrics.historyWaiting.Set(double(status.waiting));
-    m_metrics.historyWritten.Increment(double(status.written - m_historyWritten));
-    m_metrics.historyLost.Increment(double(status.lost - m_historyLost));
-    m_historyWritten = status.written;
-    m_historyLost = status.lost;
-}
-
 void Worker::publishStatus(bool isProbe)
 {
-    const QByteArray text = statusText();
+    const QByteArray text = status().json();
     if (!isProbe && text == m_status && Clock::now() < m_nextStatus)
         return;
     const int message = m_broker.publish(m_options.status.of(m_options.name), text, statusExpiry);
@@ -448,16 +425,17 @@ QStringList Worker::faults() const
     return faults;
 }
 
-QByteArray Worker::statusText() const
+WorkerStatus Worker::status() const
 {
-    return JsonText::object({{"worker", m_options.name},
-                             {"part", m_options.part.number()},
-                             {"parts", m_options.part.count()},
-                             {"kiosks", m_kiosks.size()},
-                             {"ready", m_isListening},
-                             {"version", QStringLiteral(VERSION)},
-                             {"since", m_begin.toString(Qt::ISODateWithMs)},
-                             {"faults", JsonText::list(faults())}});
+    WorkerStatus status;
+    status.worker = m_options.name;
+    status.part = m_options.part.number();
+    status.parts = m_options.part.count();
+    status.kiosks = m_kiosks.size();
+    status.isReady = m_isListening;
+    status.since = m_begin;
+    status.faults = faults();
+    return status;
 }
 
 QByteArray Worker::json(bool all)

@@ -11,6 +11,7 @@
 #include "partition.h"
 #include "publisher.h"
 #include "silencewatch.h"
+#include "workerstatus.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -79,11 +80,10 @@ private:
     void forget(const QString& name);
     void lookForSilence();
     void lookForForgotten();
-    void lookAtHistory();
 
     void publishStatus(bool isProbe = false);
     void acknowledge(int message, const QString& refusal);
-    QByteArray statusText() const;
+    WorkerStatus status() const;
     QStringList faults() const;
 
     const WorkerOptions m_options;
@@ -96,7 +96,7 @@ private:
     StateWriter m_writer;
     BrokerConnection m_broker;
     Publisher m_publisher;
-    const QDateTime m_begin = QDateTime::currentDateTimeUtc();
+    const QString m_begin = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
 
     int m_connection = 0; // the one that is known here
     bool m_isGathering = true; // what is retained is coming
@@ -113,6 +113,4 @@ private:
     Clock::time_point m_nextSecond;
     Clock::time_point m_nextStatus;
     Clock::time_point m_nextForgetting = Clock::now() + std::chrono::minutes(1);
-    qint64 m_historyWritten = 0; // as the metrics have it
-    qint64 m_historyLost = 0;
 };
