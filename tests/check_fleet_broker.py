@@ -174,7 +174,8 @@ def check_rights(broker):
     for topic in ["kiosks/k2/state", "kiosks/k2/will", "kiosks/k1/summary", "kiosks/k1/x/state",
                   "velmo-fleet/w1/status"]:
         check(f"a kiosk at {topic}", kiosk.publish(topic), NOT_AUTHORIZED)
-    for topic in ["kiosks/k1/summary", "velmo-fleet/w1/status", "kiosks/k9/state", "kiosks/k9/will"]:
+    check("a worker as a kiosk that dies", worker.publish("kiosks/k1/will"), NOT_AUTHORIZED)
+    for topic in ["kiosks/k9/summary", "velmo-fleet/w1/status", "kiosks/k9/state"]:
         check(f"a worker at {topic}", worker.publish(topic, ""), 0)
         check(f"a viewer at {topic}", viewer.publish(topic, ""), NOT_AUTHORIZED)
     keeper = user("keeper")
