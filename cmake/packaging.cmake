@@ -102,15 +102,25 @@ set(CPACK_DEBIAN_QUICK_DESCRIPTION "QML module for screens of a kiosk's cash dev
 
 # Both programs load libmosquitto when they need it, which the packaging does not see.
 set(mosquitto_package libmosquitto1)
-set(CPACK_DEBIAN_TOOL_PACKAGE_SUGGESTS ${mosquitto_package})
+# So does Qt with the databases of a history.
+set(sqlite_package libqt5sql5-sqlite)
+set(postgresql_package libqt5sql5-psql)
+set(CPACK_DEBIAN_TOOL_PACKAGE_SUGGESTS "${mosquitto_package}, ${sqlite_package}, ${postgresql_package}")
 set(CPACK_DEBIAN_FLEET_PACKAGE_NAME velmo-fleet)
 set(CPACK_DEBIAN_FLEET_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_FLEET_PACKAGE_DEPENDS
-    "${library_package} (= ${PROJECT_VERSION}), velmo (= ${PROJECT_VERSION}), ${mosquitto_package} (>= 2.0)")
-set(CPACK_DEBIAN_FLEET_PACKAGE_SUGGESTS "mosquitto, prometheus")
+    "${library_package} (= ${PROJECT_VERSION}), velmo (= ${PROJECT_VERSION}), \
+${mosquitto_package} (>= 2.0), ${sqlite_package}")
+set(CPACK_DEBIAN_FLEET_PACKAGE_SUGGESTS "${postgresql_package}, mosquitto, postgresql, prometheus")
+if(DH_INSTALLSYSTEMD)
+    set(maintainer_dir ${PROJECT_BINARY_DIR}/tools/velmo-fleet/debian/velmo-fleet/DEBIAN)
+    set(CPACK_DEBIAN_FLEET_PACKAGE_CONTROL_EXTRA
+        ${maintainer_dir}/postinst ${maintainer_dir}/postrm ${maintainer_dir}/prerm)
+endif()
 set(CPACK_DEBIAN_FLEET_DESCRIPTION "summaries of what a fleet of kiosks publishes at an MQTT broker
  Subscribes to the service states of kiosks and publishes for each kiosk
- whether it takes money, what is wrong with it and whether it is silent,
- and metrics for Prometheus.")
+ whether it takes money, what is wrong with it and whether it is silent.
+ Keeps a history of it in SQLite or PostgreSQL, and shows all in a page
+ and as metrics for Prometheus.")
 
 include(CPack)

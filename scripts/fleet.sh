@@ -2,8 +2,9 @@
 # SPDX-FileCopyrightText: 2026 velmolib maintainers
 # SPDX-License-Identifier: MIT
 
-# Installs what is missing, builds the release preset and shows a fleet: a broker on loopback, two
-# workers, 1,000 simulated kiosks with faults, and the table of those that need somebody, until ctrl-C.
+# Installs what is missing, builds the release preset and shows a fleet: a broker on loopback, a worker for
+# each half of the kiosks with a page and a history in one file, 1,000 simulated kiosks with faults, and the
+# table of those that need somebody, until ctrl-C.
 # Usage: fleet.sh [KIOSKS]
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -19,7 +20,12 @@ cmake --preset release
 cmake --build --preset release --target velmo velmo-fleet velmolib_translations
 bin=$PWD/build/release/bin
 folder=$(mktemp -d)
-port=$(/usr/bin/python3 -c 'import socket; s = socket.socket(); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])')
+history=$folder/history.sqlite
+free_port()
+{
+    /usr/bin/python3 -c 'import socket; s = socket.socket(); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])'
+}
+port=$(free_port)
 broker=127.0.0.1:$port
 
 started=()
@@ -44,18 +50,28 @@ cat > "$folder/mosquitto.conf" <<END
 listener $port 127.0.0.1
 allow_anonymous true
 max_inflight_messages 1000
-max_queued_messages 0
+max_queued_messages 1000000
 END
 start mosquitto -c "$folder/mosquitto.conf"
 until (exec 3<> "/dev/tcp/127.0.0.1/$port") 2>/dev/null; do
     kill -0 "${started[0]}" || { cat "$folder"/log.*; exit 1; }
     sleep 0.1
 done
-start "$bin/velmo-fleet" --broker "$broker" --name worker1 --silent 30
-start "$bin/velmo-fleet" --broker "$broker" --name worker2 --silent 30
-until [ "$(cat "$folder"/log.* | grep -c Connected)" -ge 4 ]; do # each with two connections
-    kill -0 "${started[0]}" "${started[1]}" || { cat "$folder"/log.*; exit 1; }
-    sleep 0.1
+is_ready() # at an address of metrics
+{
+    exec 3<> "/dev/tcp/${1/://}" && printf 'GET /metrics HTTP/1.0\r\n\r\n' >&3 \
+        && grep -q '^velmo_fleet_ready{.*} 1' <&3
+}
+for part in 1 2; do
+    page=127.0.0.1:$(free_port)
+    start "$bin/velmo-fleet" --broker "$broker" --name worker$part --partition $part/2 --silent 30 \
+        --history "$history" --metrics "$page"
+    until (is_ready "$page") 2>/dev/null; do
+        kill -0 "${started[0]}" || { cat "$folder"/log.*; exit 1; }
+        sleep 0.1
+    done
+    echo "The page of part $part is http://$page/, its metrics http://$page/metrics"
 done
+echo "The history is $history"
 start /usr/bin/python3 examples/fleet/simulator.py "$broker" "$kiosks" samples/*.jsonl
-"$bin/velmo" fleet --broker "$broker" --watch
+"$bin/velmo" fleet --broker "$broker" --history "$history" --watch

@@ -3,16 +3,16 @@
 # SPDX-License-Identifier: MIT
 
 # Installs what is missing and shows what scripts/test.sh does not: lint, all tests under the address and
-# undefined-behaviour sanitizers, those of the library and the tool under the thread sanitizer, the pages
-# of logs in a browser, a fleet of many kiosks at a broker, the money of thousands of simulated kiosks, ABI,
-# documentation, packages that are the same to the byte wherever they are built, and a few seconds of each
-# fuzzer.
+# undefined-behaviour sanitizers, those of the library and the tool under the thread sanitizer, the pages of
+# logs in a browser, a fleet of many kiosks at a broker, its rights there and its alert rules, the money of
+# thousands of simulated kiosks, ABI, documentation, packages that are the same to the byte wherever they are
+# built, and a few seconds of each fuzzer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
 
 require_packages "${build_packages[@]}" "${install_packages[@]}" clang libclang-rt-14-dev \
-    chromium chromium-driver
+    chromium chromium-driver openssl
 scripts/lint.sh
 for preset in asan tsan; do
     cmake --preset "$preset"
@@ -23,6 +23,8 @@ tests/check_page.py build/asan/bin/velmo samples
 cmake --preset release
 cmake --build --preset release --target velmo velmo-fleet velmolib_translations
 tests/check_fleet.py build/release/bin
+tests/check_fleet_broker.py build/release/bin
+scripts/alerts.sh
 tests/check_cash.py build/release/bin/velmo --histories 10000 --jobs "$(nproc)"
 scripts/abi.sh
 scripts/docs.sh

@@ -43,9 +43,23 @@ done
 help=$(LD_LIBRARY_PATH=$(echo "$root"/usr/lib/*-linux-gnu) LC_ALL=C.UTF-8 \
     "$root"/usr/bin/velmo-fleet --lang ru --help)
 [[ $help == *терминал* ]] || fail "velmo-fleet does not find its texts"
-manual=$(sed -n 's/^Documentation=man:\(.*\)(1)$/\1/p' "$root"/usr/lib/systemd/system/velmo-fleet.service)
-zgrep -q retire "$root/usr/share/man/man1/$manual.1.gz"
-systemd-analyze security --offline=true --threshold=20 --root="$root" velmo-fleet.service > /dev/null
+units=$root/usr/lib/systemd/system
+manual=$(sed -n 's/^Documentation=man:\(.*\)(1)$/\1/p' "$units"/velmo-fleet.service)
+zgrep -q partition "$root/usr/share/man/man1/$manual.1.gz"
+# A worker, and one of a part, with a password that only root may read.
+cp "$units"/velmo-fleet@.service "$units"/velmo-fleet@2-4.service
+for unit in velmo-fleet.service velmo-fleet@.service; do
+    install -D -m 644 -t "$root/etc/systemd/system/$unit.d" "$root"/usr/share/doc/velmo-fleet/fleet/credentials.conf
+done
+for unit in velmo-fleet.service velmo-fleet@2-4.service; do
+    faults=$(systemd-analyze verify --root="$root" --man=no --recursive-errors=no "$unit" 2>&1) && [ -z "$faults" ] \
+        || fail "$unit: $faults"
+    systemd-analyze security --offline=true --threshold=20 --root="$root" "$unit" > /dev/null
+done
+for script in postinst:restart prerm:stop postrm:purge; do
+    dpkg-deb --ctrl-tarfile "$2"/velmo-fleet_*.deb | tar -xO "./${script%:*}" | grep -q "${script#*:}" \
+        || fail "velmo-fleet has no ${script%:*}"
+done
 for qt_major in 5 6; do
     "$(dirname "$0")/installed.sh" "$1" "$root/usr" $qt_major
 done

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 velmolib maintainers
 # SPDX-License-Identifier: MIT
 """Plays a fleet of kiosks at an MQTT broker until it is stopped: each replays session logs again and
-again and publishes its service's state after each event. Some have faults, some fall silent, some lose
-their connection.
+again and publishes its service's state after each event, retained. Some have faults, some fall silent,
+some lose their connection.
 
 Usage: simulator.py HOST:PORT KIOSKS LOG.jsonl...
 """
@@ -16,6 +16,7 @@ import time
 import paho.mqtt.client as mqtt
 
 PAUSE = 4  # seconds between two events of a kiosk
+REGIONS = ["north", "east", "south", "west"]
 FAULTS = [{"stacker_full": True}, {"stacker_present": False}, {"online": False}, {"halt": True},
           {"state": "jammed"}, {"error_critical": True, "error_text": "motor blocked"},
           {"enabled": False}]
@@ -23,12 +24,13 @@ FAULTS = [{"stacker_full": True}, {"stacker_present": False}, {"online": False},
 
 class Kiosk:
     def __init__(self, number, logs):
-        self.name = f"kiosk{number:04}"
+        self.name = f"{REGIONS[number % len(REGIONS)]}-{number:04}"
         self.logs = logs
         self.faults = {}  # by log; one that lasts
         self.is_silent = False
         self.events = []
         self.devices = {}
+        self.text = None  # of its state
 
     def start_session(self):
         self.log = random.randrange(len(self.logs))
@@ -38,7 +40,7 @@ class Kiosk:
                                   "state": "idling"}}
 
     def step(self):
-        """The text of the state after the next event."""
+        """The next event."""
         if not self.events:
             self.start_session()
         event = self.events.pop(0)
@@ -54,7 +56,10 @@ class Kiosk:
             self.is_silent = True
         states = [{**device, **self.faults} if name == "log" or "enabled" in self.faults else device
                   for name, device in self.devices.items()]
-        return json.dumps({"time": int(time.time() * 1000), "device_states": states})
+        self.text = json.dumps({"time": int(time.time() * 1000), "device_states": states})
+
+    def publish(self, client):
+        client.publish(f"kiosks/{self.name}/state", self.text, 1, retain=True)
 
 
 def main():
@@ -66,18 +71,27 @@ def main():
     client = mqtt.Client("simulator")
     client.max_queued_messages_set(0)
     client.max_inflight_messages_set(500)
+
+    def republish(*_):  # the broker may have lost what it kept
+        for kiosk in kiosks:
+            if kiosk.text and not kiosk.is_silent:
+                kiosk.publish(client)
+
+    client.on_connect = republish
     client.connect(host, int(port))
     client.loop_start()
     for kiosk in random.sample(kiosks, 3):  # as the broker does when their connections break
         kiosk.is_silent = True
-        client.publish(f"kiosks/{kiosk.name}/state", kiosk.step(), 1)
+        kiosk.step()
+        kiosk.publish(client)
         client.publish(f"kiosks/{kiosk.name}/will", "gone", 1)
     begin = time.monotonic()
     step = 0
     while True:
         kiosk = kiosks[step % len(kiosks)]
         if not kiosk.is_silent:
-            client.publish(f"kiosks/{kiosk.name}/state", kiosk.step(), 1)
+            kiosk.step()
+            kiosk.publish(client)
         step += 1
         ahead = begin + step * PAUSE / len(kiosks) - time.monotonic()
         if ahead > 0.005:
