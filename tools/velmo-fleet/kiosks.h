@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <chrono>
+#include <mutex>
 #include <vector>
 
 class Metrics;
@@ -44,7 +45,18 @@ public:
     /// The kiosks of which nothing was heard for so long, and that are not told of as silent.
     std::vector<QString> silentFor(std::chrono::seconds time) const;
 
+    /// What the worker knows of its connection; json() tells it.
+    void setConnection(bool isConnected, const QString& fault);
+
+    /// The table, for the page; on any thread.
+    QByteArray json(bool all) const;
+
 private:
+    mutable std::mutex m_mutex; // of what follows, where it changes
+    bool m_isConnected = false;
+    QString m_fault;
+    qint64 m_connectedAt = 0;
+
     void count(const KioskSummary& summary, int sign);
 
     Metrics& m_metrics;

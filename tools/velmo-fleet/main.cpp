@@ -4,6 +4,7 @@
 #include "terminal/option.h"
 #include "terminal/output.h"
 #include "text/fault.h"
+#include "webserver.h"
 #include "worker.h"
 
 #include <QCoreApplication>
@@ -12,6 +13,7 @@
 #include <QSysInfo>
 
 #include <csignal>
+#include <optional>
 
 namespace options {
 
@@ -42,7 +44,8 @@ constexpr Option silent{
     "silent", nullptr, seconds,
     QT_TRANSLATE_NOOP("Velmo", "After how long a kiosk is told of as silent; 0 for never."), "120"};
 constexpr Option metrics{"metrics", nullptr, Value("ADDRESS", Kind::Text),
-                         QT_TRANSLATE_NOOP("Velmo", "Where Prometheus fetches the metrics.")};
+                         QT_TRANSLATE_NOOP("Velmo", "Where the page of the kiosks is, and where Prometheus fetches the "
+                                           "metrics, as \"127.0.0.1:9464\".")};
 constexpr Option language{
     "lang", nullptr, Value("LANG", Kind::Language),
     QT_TRANSLATE_NOOP("Velmo",
@@ -102,8 +105,13 @@ void run()
     if (!parser.positionalArguments().isEmpty())
         throw Fault{
             Velmo::tr("unknown argument \"%1\"").arg(parser.positionalArguments().constFirst())};
-    Metrics metrics(given.value(options::metrics));
+    Metrics metrics;
     Worker worker(workerOptions(given), metrics);
+    std::optional<WebServer> server;
+    if (given.isSet(options::metrics)) {
+        server.emplace(given.value(options::metrics), metrics.registry(),
+                       WebServer::Sources{[&worker](bool all) { return worker.json(all); }, {}});
+    }
     worker.run(stopAsked);
 }
 

@@ -3,18 +3,11 @@
 
 #include "metrics.h"
 
-#include "terminal/velmo.h"
-#include "text/fault.h"
-
-#include <prometheus/exposer.h>
-
-#include <exception>
-
 using prometheus::BuildCounter;
 using prometheus::BuildGauge;
 using prometheus::BuildHistogram;
 
-Metrics::Metrics(const QString& address)
+Metrics::Metrics()
     : m_registry(std::make_shared<prometheus::Registry>())
     , m_messages(BuildCounter()
                      .Name("velmo_fleet_messages_total")
@@ -47,15 +40,4 @@ Metrics::Metrics(const QString& address)
     for (int i = 0; i <= KioskSummary::Fine; ++i)
         m_conditions[i] =
             &m_kiosks.Add({{"condition", KioskSummary::name(KioskSummary::Condition(i))}});
-    if (address.isEmpty())
-        return;
-    try {
-        m_exposer = std::make_unique<prometheus::Exposer>(address.toStdString(), 1);
-        m_exposer->RegisterCollectable(m_registry);
-    } catch (const std::exception& error) {
-        throw Fault{
-            Velmo::tr("metrics at \"%1\": %2").arg(address, QString::fromLocal8Bit(error.what()))};
-    }
 }
-
-Metrics::~Metrics() = default;

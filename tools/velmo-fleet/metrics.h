@@ -10,23 +10,16 @@
 #include <prometheus/histogram.h>
 #include <prometheus/registry.h>
 
-#include <QString>
-
 #include <memory>
-
-namespace prometheus {
-class Exposer;
-}
 
 /// What a worker counts, for Prometheus to fetch. Kiosks and notes are those that the worker knows
 /// of, from its own summaries and from those of the others; the rest is its own.
 class Metrics
 {
 public:
-    /// @param address "127.0.0.1:9464", where they are fetched; empty for nowhere. Throws Fault
-    /// when it cannot be used.
-    explicit Metrics(const QString& address);
-    ~Metrics();
+    Metrics();
+
+    std::shared_ptr<prometheus::Registry> registry() const { return m_registry; }
 
     /// How many kiosks are in that condition.
     prometheus::Gauge& kiosks(KioskSummary::Condition condition)
@@ -36,7 +29,6 @@ public:
 
 private:
     std::shared_ptr<prometheus::Registry> m_registry;
-    std::unique_ptr<prometheus::Exposer> m_exposer;
 
     prometheus::Family<prometheus::Counter>& m_messages;
     prometheus::Family<prometheus::Gauge>& m_kiosks;

@@ -41,6 +41,8 @@ public:
     /// Works until it is told to stop, or has retired; then all that was in hand is done.
     void run(const std::atomic<bool>& isStopped);
 
+    QByteArray json(bool all) const { return m_kiosks.json(all); }
+
 private:
     void takeState(const QString& topic, const QByteArray& text);
     void takeSummary(const QString& topic, const QByteArray& text);
