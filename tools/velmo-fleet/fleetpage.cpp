@@ -27,7 +27,8 @@ constexpr Text texts[] = {
     {"kiosks", QT_TRANSLATE_NOOP("Velmo", "Kiosks")},
     {"counts", QT_TRANSLATE_NOOP("Velmo", "Kiosks by condition")},
     {"part",
-     QT_TRANSLATE_NOOP("Velmo", "Part %1 of %2: the kiosks of the other parts are at their workers.")},
+     QT_TRANSLATE_NOOP("Velmo",
+                       "Part %1 of %2: the kiosks of the other parts are at their workers.")},
     {"name", QT_TRANSLATE_NOOP("Velmo", "Name")},
     {"kiosk", QT_TRANSLATE_NOOP("Velmo", "Kiosk")},
     {"condition", QT_TRANSLATE_NOOP("Velmo", "Condition")},
@@ -57,17 +58,15 @@ constexpr Text texts[] = {
      QT_TRANSLATE_NOOP("Velmo",
                        "The worker is still reading what the broker has: kiosks may be missing.")},
     {"script", QT_TRANSLATE_NOOP("Velmo", "The table needs JavaScript, which is off here.")},
-    {"history", QT_TRANSLATE_NOOP("Velmo", "History")},
     {"noHistory", QT_TRANSLATE_NOOP("Velmo", "No history is kept.")},
     {"historyFault", QT_TRANSLATE_NOOP("Velmo", "The history does not answer: %1")},
     {"timeline", QT_TRANSLATE_NOOP("Velmo", "Conditions of the last 30 days")},
     {"faults", QT_TRANSLATE_NOOP("Velmo", "Faults")},
     {"collections", QT_TRANSLATE_NOOP("Velmo", "Collections")},
-    {"from", QT_TRANSLATE_NOOP("Velmo", "From")},
-    {"to", QT_TRANSLATE_NOOP("Velmo", "To")},
+    {"conditionList", QT_TRANSLATE_NOOP("Velmo", "Conditions")},
+    {"when", QT_TRANSLATE_NOOP("Velmo", "When")},
     {"long", QT_TRANSLATE_NOOP("Velmo", "How long")},
     {"still", QT_TRANSLATE_NOOP("Velmo", "still so")},
-    {"time", QT_TRANSLATE_NOOP("Velmo", "Time")},
     {"device", QT_TRANSLATE_NOOP("Velmo", "Device")},
     {"notes", QT_TRANSLATE_NOOP("Velmo", "Notes since the one before")},
     {"none", QT_TRANSLATE_NOOP("Velmo", "None.")},
@@ -123,8 +122,8 @@ QByteArray fileOf(const char* name)
 
 QByteArray hashOf(const QByteArray& text)
 {
-    return "'sha256-"
-        + QCryptographicHash::hash(text, QCryptographicHash::Sha256).toBase64() + '\'';
+    return "'sha256-" + QCryptographicHash::hash(text, QCryptographicHash::Sha256).toBase64()
+        + '\'';
 }
 
 } // namespace

@@ -92,9 +92,9 @@ void Kiosks::setConnection(bool isConnected, const QString& fault)
 QByteArray Kiosks::json(bool all) const
 {
     const auto timeText = [](qint64 time) {
-        return time == KioskSummary::noTime ? JsonText::null()
-                                            : JsonText(QDateTime::fromMSecsSinceEpoch(time, Qt::UTC)
-                                                           .toString(Qt::ISODateWithMs));
+        return time == KioskSummary::noTime
+            ? JsonText::null()
+            : JsonText(QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODateWithMs));
     };
     const auto cause = [](const KioskFault& fault) {
         return JsonText::object(
@@ -108,17 +108,18 @@ QByteArray Kiosks::json(bool all) const
         ++counts[newest.condition];
         if (newest.condition == KioskSummary::Fine && !all)
             continue;
-        kiosks += (kiosks.isEmpty() ? "" : ",")
+        kiosks +=
+            (kiosks.isEmpty() ? "" : ",")
             + JsonText::object(
-                      {{"kiosk", kiosk.key()},
-                       {"region", regionOf(kiosk.key())},
-                       {"condition", QString(QLatin1String(KioskSummary::name(newest.condition)))},
-                       {"time", timeText(newest.time)},
-                       {"since", timeText(newest.since)},
-                       {"faults",
-                        JsonText::list(newest.faults,
-                                       [](const KioskFault& fault) { return JsonText(fault.text); })},
-                       {"causes", JsonText::list(newest.faults, cause)}});
+                {{"kiosk", kiosk.key()},
+                 {"region", regionOf(kiosk.key())},
+                 {"condition", QString(QLatin1String(KioskSummary::name(newest.condition)))},
+                 {"time", timeText(newest.time)},
+                 {"since", timeText(newest.since)},
+                 {"faults",
+                  JsonText::list(newest.faults,
+                                 [](const KioskFault& fault) { return JsonText(fault.text); })},
+                 {"causes", JsonText::list(newest.faults, cause)}});
     }
     return R"({"part":"1/1","time":)" + timeText(m_connectedAt)
         + ",\"connected\":" + JsonText(m_isConnected) + ",\"ready\":" + JsonText(true)

@@ -43,9 +43,11 @@ constexpr Option expire{
 constexpr Option silent{
     "silent", nullptr, seconds,
     QT_TRANSLATE_NOOP("Velmo", "After how long a kiosk is told of as silent; 0 for never."), "120"};
-constexpr Option metrics{"metrics", nullptr, Value("ADDRESS", Kind::Text),
-                         QT_TRANSLATE_NOOP("Velmo", "Where the page of the kiosks is, and where Prometheus fetches the "
-                                           "metrics, as \"127.0.0.1:9464\".")};
+constexpr Option metrics{
+    "metrics", nullptr, Value("ADDRESS", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "Where the page of the kiosks is, and where Prometheus fetches the "
+                      "metrics, as \"127.0.0.1:9464\".")};
 constexpr Option language{
     "lang", nullptr, Value("LANG", Kind::Language),
     QT_TRANSLATE_NOOP("Velmo",

@@ -35,8 +35,8 @@ QByteArray listeningAddress(const QString& address)
     const QRegularExpressionMatch match = form.match(address);
     const int port = match.captured(2).toInt();
     if (port < 1 || port > 65535) {
-        throw Fault{
-            Velmo::tr("--metrics: expected an address such as 127.0.0.1:9464, not \"%1\"").arg(address)};
+        throw Fault{Velmo::tr("--metrics: expected an address such as 127.0.0.1:9464, not \"%1\"")
+                        .arg(address)};
     }
     const QString host = match.captured(1);
     if (host.startsWith(QLatin1Char('[')) && !mg_check_feature(MG_FEATURES_IPV6))
@@ -68,9 +68,9 @@ QByteArray parameter(const char* query, const char* name)
 
 JsonText timeText(std::optional<qint64> time)
 {
-    return time ? JsonText(
-               QDateTime::fromMSecsSinceEpoch(*time, Qt::UTC).toString(Qt::ISODateWithMs))
-                : JsonText::null();
+    return time
+        ? JsonText(QDateTime::fromMSecsSinceEpoch(*time, Qt::UTC).toString(Qt::ISODateWithMs))
+        : JsonText::null();
 }
 
 JsonText conditionText(KioskSummary::Condition condition)
@@ -119,8 +119,13 @@ WebServer::WebServer(const QString& address, std::shared_ptr<prometheus::Registr
     , m_sources(std::move(sources))
 {
     const QByteArray ports = listeningAddress(address);
-    const char* options[] = {"listening_ports",    ports.constData(), "num_threads", "8",
-                             "request_timeout_ms", "3000",            nullptr};
+    const char* options[] = {"listening_ports",
+                             ports.constData(),
+                             "num_threads",
+                             "8",
+                             "request_timeout_ms",
+                             "3000",
+                             nullptr};
     mg_callbacks callbacks{};
     callbacks.begin_request = &WebServer::serve;
     callbacks.log_message = &takeComplaint;
@@ -147,14 +152,15 @@ int WebServer::serve(mg_connection* connection)
     if (isHead || qstrcmp(request->request_method, "GET") == 0)
         answer = server->answerTo(request->local_uri, request->query_string);
     const QByteArray length = QByteArray::number(answer.body.size());
-    const char* const headers[][2] = {{"Content-Type", answer.type},
-                                      {"Content-Length", length.constData()},
-                                      {"Cache-Control", "no-store"},
-                                      {"Content-Security-Policy", server->m_page.policy.constData()},
-                                      {"Cross-Origin-Resource-Policy", "same-origin"},
-                                      {"Referrer-Policy", "no-referrer"},
-                                      {"X-Content-Type-Options", "nosniff"},
-                                      {"Allow", "GET, HEAD"}};
+    const char* const headers[][2] = {
+        {"Content-Type", answer.type},
+        {"Content-Length", length.constData()},
+        {"Cache-Control", "no-store"},
+        {"Content-Security-Policy", server->m_page.policy.constData()},
+        {"Cross-Origin-Resource-Policy", "same-origin"},
+        {"Referrer-Policy", "no-referrer"},
+        {"X-Content-Type-Options", "nosniff"},
+        {"Allow", "GET, HEAD"}};
     mg_response_header_start(connection, answer.status);
     for (const auto& header : headers)
         mg_response_header_add(connection, header[0], header[1], -1);
@@ -194,7 +200,8 @@ WebServer::Answer WebServer::historyOf(const QString& kiosk)
     });
 }
 
-// Since when kiosks are as they are. However many ask, the database is asked every few seconds only.
+// Since when kiosks are as they are. However many ask, the database is asked every few seconds
+// only.
 WebServer::Answer WebServer::presentHistory(bool all)
 {
     Present& present = m_present[all];

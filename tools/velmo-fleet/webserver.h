@@ -23,7 +23,8 @@ struct mg_context;
 /// - / is the page.
 /// - /metrics are the metrics, as Prometheus fetches them.
 /// - /kiosks.json is the table; without ?all=1 without the kiosks that are fine.
-/// - /history.json?kiosk=NAME is what is remembered of a kiosk; without a name, since when the kiosks
+/// - /history.json?kiosk=NAME is what is remembered of a kiosk; without a name, since when the
+/// kiosks
 ///   are as they are.
 class WebServer
 {

@@ -55,7 +55,7 @@ void Worker::run(const std::atomic<bool>& isStopped)
     while (!isStopped && !isRetired) {
         BrokerConnection::wait({&m_summaries, &m_states}, milliseconds(200));
         m_summaries.read(batch);
-        m_kiosks.setConnection(m_states.isConnected(), m_states.fault());
+        m_kiosks.setConnection(m_summaries.isConnected(), m_summaries.fault());
         // What other workers know first: it says which states are outdated.
         if (m_summaries.isSubscribed())
             m_states.read(batch);
@@ -90,6 +90,7 @@ void Worker::finishSummaries(const std::atomic<bool>& isStopped)
         BrokerConnection::wait({&m_summaries}, milliseconds(200));
         m_summaries.read(batch);
         m_summaries.write();
+        m_kiosks.setConnection(m_summaries.isConnected(), m_summaries.fault());
     }
 }
 

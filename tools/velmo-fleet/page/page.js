@@ -7,7 +7,7 @@ const patience = 5000; // with an answer
 const freshFor = 10000; // after which what is shown counts as old
 const mostRows = 300; // on the page at once
 const mostFaults = 5; // of a row
-const mostSpans = 100; // of each list of a history
+const mostSpans = 50; // of each list of a history
 const historyPause = 10000; // milliseconds between two looks into the history
 
 const texts = JSON.parse(document.getElementById("texts").textContent);
@@ -242,7 +242,8 @@ function section(title, columns, items, toCells) {
     const parts = [element("h2", {}, title)];
     if (items.length === 0) return [...parts, element("p", {}, texts.none)];
     const head = element("tr", {}, ...columns.map(column => element("th", {scope: "col"}, column)));
-    const body = items.slice(-mostSpans).reverse().map(item => element("tr", {}, ...toCells(item).map(cell => element("td", {}, cell))));
+    const body = items.slice(-mostSpans).reverse().map(item =>
+        element("tr", {}, ...toCells(item).map((cell, i) => element("td", {"data-name": columns[i]}, cell))));
     parts.push(element("table", {}, element("thead", {}, head), element("tbody", {}, ...body)));
     if (items.length > mostSpans) parts.push(element("p", {}, fill(texts.older, number(items.length - mostSpans))));
     return parts;
@@ -255,16 +256,18 @@ function showDetail() {
         return;
     }
     const now = Date.parse(history.time);
-    const span = item => [dateTime(item.began), item.ended ? dateTime(item.ended) : texts.still,
-                          duration((item.ended ? Date.parse(item.ended) : now) - Date.parse(item.began))];
+    const span = item => {
+        const [from, to] = [item.began, item.ended || ""].map(time => element("span", {class: "moment"}, dateTime(time) || texts.still));
+        const when = element("span", {}, from, " – ", to);
+        return [when, duration((item.ended ? Date.parse(item.ended) : now) - Date.parse(item.began))];
+    };
     detailCell.replaceChildren(
         ...(history.conditions.length > 0 ? timeline(history.conditions, now) : []),
-        ...section(texts.history, [texts.from, texts.to, texts.long, texts.condition], history.conditions,
-            item => [...span(item), element("span", {class: "condition " + item.condition}, texts.conditions[item.condition])]),
-        ...section(texts.faults, [texts.from, texts.to, texts.long, texts.wrong], history.faults,
-            item => [...span(item), visible(item.text)]),
-        ...section(texts.collections, [texts.time, texts.device, texts.notes], history.collections,
-            item => [dateTime(item.time), visible(item.name), item.notes === null ? "" : number(item.notes)]));
+        ...section(texts.faults, [texts.when, texts.long, texts.wrong], history.faults, item => [...span(item), visible(item.text)]),
+        ...section(texts.collections, [texts.when, texts.device, texts.notes], history.collections,
+            item => [dateTime(item.time), visible(item.name), item.notes === null ? "–" : number(item.notes)]),
+        ...section(texts.conditionList, [texts.when, texts.long, texts.condition], history.conditions,
+            item => [...span(item), element("span", {class: "condition " + item.condition}, texts.conditions[item.condition])]));
 }
 
 function ask(url) {
