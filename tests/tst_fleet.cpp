@@ -71,7 +71,7 @@ private Q_SLOTS:
     void olderSummaryDoesNotReplaceANewerOne()
     {
         const auto [first, second, stands] = cells<3>();
-        Metrics metrics;
+        Metrics metrics({});
         Kiosks kiosks(metrics);
         const KioskSummary known = summaryAt(first);
         KioskSummary arriving = summaryAt(second);
@@ -85,7 +85,7 @@ private Q_SLOTS:
 
     void eachKioskIsCountedOnce()
     {
-        Metrics metrics;
+        Metrics metrics({});
         Kiosks kiosks(metrics);
         const auto counted = [&] {
             QStringList texts;
@@ -116,7 +116,7 @@ private Q_SLOTS:
 
     void onlyWordOfItselfEndsAKiosksSilence()
     {
-        Metrics metrics;
+        Metrics metrics({});
         Kiosks kiosks(metrics);
         const std::vector<QString> none;
         kiosks.take("k1"_s, summary());

@@ -75,7 +75,7 @@ JsonText timeText(std::optional<qint64> time)
 
 JsonText conditionText(KioskSummary::Condition condition)
 {
-    return JsonText(QString(QLatin1String(KioskSummary::name(condition))));
+    return {QString(QLatin1String(KioskSummary::name(condition)))};
 }
 
 QByteArray textOf(const History::ConditionSpan& span)
@@ -147,7 +147,7 @@ int WebServer::serve(mg_connection* connection)
 {
     const mg_request_info* const request = mg_get_request_info(connection);
     const bool isHead = qstrcmp(request->request_method, "HEAD") == 0;
-    WebServer* const server = static_cast<WebServer*>(request->user_data);
+    auto* const server = static_cast<WebServer*>(request->user_data);
     Answer answer{405, plain, "GET and HEAD only\n"};
     if (isHead || qstrcmp(request->request_method, "GET") == 0)
         answer = server->answerTo(request->local_uri, request->query_string);
@@ -239,7 +239,7 @@ WebServer::Answer WebServer::readHistory(Read read)
             throw Fault{Velmo::tr("too many ask at once")};
         const JsonText time = timeText(QDateTime::currentMSecsSinceEpoch());
         answer.body =
-            "{\"kept\":true,\"time\":" + time + ',' + read(History(m_sources.history)) + '}';
+            R"({"kept":true,"time":)" + time + ',' + read(History(m_sources.history)) + '}';
     } catch (const Fault& fault) {
         answer = {503, json, JsonText::object({{"fault", fault.message}})};
     }
