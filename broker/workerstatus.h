@@ -19,7 +19,8 @@ struct WorkerStatus
     QString worker; ///< its name
     int part = 0; ///< of so many, from 1
     int parts = 0;
-    bool isGone = false; ///< nothing more is known then: the broker tells it of a worker it has lost
+    bool isGone =
+        false; ///< nothing more is known then: the broker tells it of a worker it has lost
     int kiosks = 0; ///< summaries of its part
     bool isReady = false; ///< it has read all that the broker had retained
     QString since; ///< when it began, as JSON has it

@@ -34,7 +34,7 @@ wait_for_apt()
 
 build_packages=(cmake g++ ninja-build qtbase5-dev libqt5serialport5-dev libqt5sql5-sqlite libqt5sql5-psql qttools5-dev
     qttools5-dev-tools zlib1g-dev dbus fonts-dejavu-core
-    libmosquitto-dev prometheus-cpp-dev mosquitto python3 python3-paho-mqtt
+    libmosquitto-dev prometheus-cpp-dev libcivetweb-dev mosquitto python3 python3-paho-mqtt
     qtdeclarative5-dev qtdeclarative5-dev-tools qml-module-qtquick2 qml-module-qtquick-controls2
     qml-module-qtquick-layouts qml-module-qtquick-window2 qml-module-qttest)
 qt6_packages=(qt6-base-dev qt6-base-dev-tools qt6-serialport-dev qt6-l10n-tools qt6-tools-dev

@@ -4,9 +4,9 @@
 
 # Installs what is missing and shows what scripts/test.sh does not: lint, all tests under the address and
 # undefined-behaviour sanitizers, those of the library and the tool under the thread sanitizer, the pages of
-# logs in a browser, a fleet of many kiosks at a broker, its rights there and its alert rules, the money of
-# thousands of simulated kiosks, ABI, documentation, packages that are the same to the byte wherever they are
-# built, and a few seconds of each fuzzer.
+# logs and of a fleet in a browser, a fleet of many kiosks at a broker, its rights there and its alert rules,
+# the money of thousands of simulated kiosks, ABI, documentation, packages that are the same to the byte
+# wherever they are built, and a few seconds of each fuzzer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
@@ -24,6 +24,7 @@ cmake --preset release
 cmake --build --preset release --target velmo velmo-fleet velmolib_translations
 tests/check_fleet.py build/release/bin
 tests/check_fleet_broker.py build/release/bin
+tests/check_fleet_page.py build/release/bin
 scripts/alerts.sh
 tests/check_cash.py build/release/bin/velmo --histories 10000 --jobs "$(nproc)"
 scripts/abi.sh

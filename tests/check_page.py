@@ -85,7 +85,8 @@ class Browser:
         )
         self.path = ""
         options = {"args": ["--headless", "--no-sandbox", "--disable-gpu", "--window-size=1000,900"]}
-        capabilities = {"capabilities": {"alwaysMatch": {"goog:chromeOptions": options}}}
+        wanted = {"goog:chromeOptions": options, "goog:loggingPrefs": {"browser": "ALL"}}
+        capabilities = {"capabilities": {"alwaysMatch": wanted}}
         for _ in range(600):
             try:
                 self.path = "/session/" + self.ask("/session", capabilities)["sessionId"]

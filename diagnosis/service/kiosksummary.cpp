@@ -42,16 +42,6 @@ std::vector<KioskFault> faultsOf(const PublishedState& state)
     return faults;
 }
 
-QByteArray causeOf(const KioskFault& fault)
-{
-    const auto number = [](int of) {
-        return of == KioskFault::noDevice ? JsonText::null() : JsonText(of);
-    };
-    return JsonText::object({{"device", number(fault.device)},
-                             {"thread", number(fault.thread)},
-                             {"reason", fault.reason}});
-}
-
 // The members after "devices", and the end of the object.
 QByteArray ending(const KioskSummary& summary)
 {
@@ -65,7 +55,9 @@ QByteArray ending(const KioskSummary& summary)
     return since + ",\"condition\":\"" + KioskSummary::name(summary.condition) + R"(","faults":)"
         + JsonText::list(summary.faults,
                          [](const KioskFault& fault) { return JsonText(fault.text); })
-        + ",\"causes\":" + JsonText::list(summary.faults, causeOf) + '}';
+        + ",\"causes\":"
+        + JsonText::list(summary.faults, [](const KioskFault& fault) { return fault.cause(); })
+        + '}';
 }
 
 // Reads the members of a summary; false for a text that is no JSON object.
@@ -98,6 +90,20 @@ KioskFault faultOf(const QString& text, const QVariantMap& cause)
 }
 
 } // namespace
+
+JsonText KioskFault::cause() const
+{
+    const auto number = [](int of) { return of == noDevice ? JsonText::null() : JsonText(of); };
+    return JsonText::object(
+        {{"device", number(device)}, {"thread", number(thread)}, {"reason", reason}});
+}
+
+JsonText KioskSummary::momentText(qint64 time)
+{
+    return time == noTime
+        ? JsonText::null()
+        : JsonText(QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODateWithMs));
+}
 
 const char* KioskSummary::name(Condition condition)
 {

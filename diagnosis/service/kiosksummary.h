@@ -20,6 +20,8 @@ struct KioskFault
     int thread = noDevice;
     QString reason; ///< for programs, of those that docs/formats.md lists
     QString text; ///< a sentence
+
+    JsonText cause() const; ///< an object of what is for programs
 };
 
 /// What those who watch a fleet are told of a kiosk: what its service published, and whether it
@@ -62,6 +64,9 @@ struct KioskSummary
 
     /// Unknown for a name that is none.
     static Condition conditionOf(const QString& name);
+
+    /// A moment as JSON has it; null for noTime.
+    static JsonText momentText(qint64 time);
 
     QByteArray text; ///< JSON
     qint64 time = noTime; ///< the state's own, in milliseconds since 1970

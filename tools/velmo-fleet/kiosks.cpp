@@ -3,6 +3,7 @@
 
 #include "kiosks.h"
 
+#include "kiosktopic.h"
 #include "metrics.h"
 #include "json/variants.h"
 
@@ -14,13 +15,6 @@
 namespace {
 
 constexpr qint64 minute = 60000; // milliseconds
-
-JsonText jsonOf(qint64 time)
-{
-    return time == KioskSummary::noTime
-        ? JsonText::null()
-        : JsonText(QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODateWithMs));
-}
 
 std::vector<KioskRecord::Level> levelsOf(const PublishedDevice& device)
 {
@@ -41,8 +35,8 @@ std::vector<KioskRecord::Level> levelsOf(const PublishedDevice& device)
 
 KioskRecord Kiosk::record(const QString& name, const PublishedState* state) const
 {
-    KioskRecord record{name, QDateTime::currentMSecsSinceEpoch(), message,
-                       summary.condition, summary.faults, {}};
+    KioskRecord record{
+        name, QDateTime::currentMSecsSinceEpoch(), message, summary.condition, summary.faults, {}};
     // Without a time, the same state may come on another day; and silence is no message.
     if (summary.time == KioskSummary::noTime)
         record.message += quint64(record.time / minute) * 0x9e3779b97f4a7c15;
@@ -53,8 +47,7 @@ KioskRecord Kiosk::record(const QString& name, const PublishedState* state) cons
     for (const PublishedDevice& device : state->devices) {
         record.devices.push_back({device.deviceId(), device.threadId(), device.insertedInFull,
                                   device.rejectedInFull, device.returnedInFull,
-                                  device.stackerPresent(), device.stackerFull(),
-                                  levelsOf(device)});
+                                  device.stackerPresent(), device.stackerFull(), levelsOf(device)});
     }
     return record;
 }
@@ -139,23 +132,22 @@ QByteArray Kiosks::json(bool all) const
             + QByteArray(KioskSummary::name(KioskSummary::Condition(i)))
             + "\":" + QByteArray::number(m_counts[i]);
     }
+    const auto textOf = [](const KioskFault& fault) { return JsonText(fault.text); };
+    const auto causeOf = [](const KioskFault& fault) { return fault.cause(); };
     QByteArray kiosks;
     for (auto kiosk = m_kiosks.begin(); kiosk != m_kiosks.end(); ++kiosk) {
         const KioskSummary& summary = kiosk->summary;
         if (!all && summary.condition == KioskSummary::Fine)
             continue;
-        const auto list = [&](auto member) {
-            return JsonText::list(summary.faults,
-                                  [&](const KioskFault& fault) { return JsonText(fault.*member); });
-        };
         kiosks += (kiosks.isEmpty() ? "" : ",")
             + JsonText::object(
                       {{"kiosk", kiosk.key()},
+                       {"region", regionOf(kiosk.key())},
                        {"condition", QString(QLatin1String(KioskSummary::name(summary.condition)))},
-                       {"time", jsonOf(summary.time)},
-                       {"since", jsonOf(summary.since)},
-                       {"faults", list(&KioskFault::text)},
-                       {"causes", list(&KioskFault::reason)}});
+                       {"time", KioskSummary::momentText(summary.time)},
+                       {"since", KioskSummary::momentText(summary.since)},
+                       {"faults", JsonText::list(summary.faults, textOf)},
+                       {"causes", JsonText::list(summary.faults, causeOf)}});
     }
     return "\"counts\":{" + counts + "},\"kiosks\":[" + kiosks + ']';
 }

@@ -5,6 +5,7 @@
 #include "terminal/option.h"
 #include "terminal/output.h"
 #include "text/fault.h"
+#include "webserver.h"
 #include "worker.h"
 
 #include <QCoreApplication>
@@ -14,6 +15,7 @@
 
 #include <csignal>
 #include <memory>
+#include <optional>
 
 namespace options {
 
@@ -118,14 +120,21 @@ void run()
     if (!parser.positionalArguments().isEmpty())
         throw Fault{
             Velmo::tr("unknown argument \"%1\"").arg(parser.positionalArguments().constFirst())};
-    const WorkerOptions worker = workerOptions(given);
-    Metrics metrics(worker.part.text());
+    const WorkerOptions chosen = workerOptions(given);
+    Metrics metrics(chosen.part.text());
     std::unique_ptr<HistoryRecorder> history;
     if (given.isSet(options::history)) {
         history = std::make_unique<HistoryRecorder>(given.value(options::history),
-                                                    worker.part.text(), worker.name);
+                                                    chosen.part.text(), chosen.name);
     }
-    Worker(worker, metrics, history.get()).run(stopAsked);
+    Worker worker(chosen, metrics, history.get());
+    std::optional<WebServer> server;
+    if (given.isSet(options::metrics)) {
+        server.emplace(given.value(options::metrics), metrics.registry(),
+                       WebServer::Sources{[&worker](bool all) { return worker.json(all); },
+                                          given.value(options::history)});
+    }
+    worker.run(stopAsked);
 }
 
 } // namespace

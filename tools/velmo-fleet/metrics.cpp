@@ -42,10 +42,11 @@ Metrics::Metrics(const QString& part)
                   .Register(*m_registry))
     , m_historyConnected(gauge("velmo_fleet_history_connected", "Whether the history answers."))
     , m_historyWriter(gauge("velmo_fleet_history_writer",
-                          "Whether this worker writes the history of its part."))
+                            "Whether this worker writes the history of its part."))
     , m_historyWaiting(gauge("velmo_fleet_history_waiting", "Changes that are not written yet."))
     , m_historyWritten(counter("velmo_fleet_history_written_total", "Changes that were written."))
-    , m_historyLost(counter("velmo_fleet_history_lost_total", "Changes for which there was no room."))
+    , m_historyLost(
+          counter("velmo_fleet_history_lost_total", "Changes for which there was no room."))
     , states(m_received.Add({{"kind", "state"}}))
     , wills(m_received.Add({{"kind", "will"}}))
     , summariesRead(m_received.Add({{"kind", "summary"}}))
@@ -108,9 +109,8 @@ void Metrics::set(const HistoryRecorder::Status& history)
 prometheus::Gauge& Metrics::faults(const QString& reason)
 {
     constexpr int most = 30; // which are written by others
-    const QString told = m_reasons.size() < most || m_reasons.contains(reason)
-        ? reason
-        : QStringLiteral("other");
+    const QString told =
+        m_reasons.size() < most || m_reasons.contains(reason) ? reason : QStringLiteral("other");
     prometheus::Gauge*& known = m_reasons[told];
     if (!known)
         known = &m_faults.Add({{"reason", told.toStdString()}});

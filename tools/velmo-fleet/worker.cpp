@@ -127,6 +127,8 @@ void Worker::followConnection()
 {
     const bool isConnected = m_broker.isConnected();
     m_metrics.connected.Set(isConnected);
+    if (isConnected)
+        m_lastConnected = QDateTime::currentMSecsSinceEpoch();
     if (isConnected && m_connection == m_broker.connections())
         return;
     m_isListening = false;
@@ -441,9 +443,8 @@ WorkerStatus Worker::status() const
 QByteArray Worker::json(bool all)
 {
     const std::lock_guard lock(m_mutex);
-    const QString now = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
     const QByteArray head = JsonText::object({{"part", m_options.part.text()},
-                                              {"time", now},
+                                              {"time", KioskSummary::momentText(m_lastConnected)},
                                               {"connected", m_broker.isConnected()},
                                               {"ready", m_isListening},
                                               {"fault", m_broker.fault()},

@@ -99,6 +99,7 @@ private:
     const QString m_begin = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
 
     int m_connection = 0; // the one that is known here
+    qint64 m_lastConnected = KioskSummary::noTime; // when there was one last
     bool m_isGathering = true; // what is retained is coming
     bool m_isListening = false; // all of it has come since there is a connection
     bool m_isStoreNew = true; // the broker has nothing of this worker from before
