@@ -31,7 +31,7 @@ int watch(const Arguments& arguments, const FleetSelection& selection)
             faults += memory.fault();
         QString told =
             QTime::currentTime().toString(QStringLiteral("hh:mm:ss")) + QLatin1Char('\n');
-        int lines = 1;
+        int lines = 2; // this one and that of the cursor
         for (const QString& fault : std::as_const(faults)) {
             const QString text = wrapped(printable(fault), 0, outputWidth());
             lines += int(text.count(QLatin1Char('\n')));
@@ -40,7 +40,7 @@ int watch(const Arguments& arguments, const FleetSelection& selection)
         const int room = outputHeight() == 0 ? 0 : std::max(outputHeight() - lines, 1);
         print(QStringLiteral("\033[2J\033[H")
               + (count.isEmpty() ? table.text(watch.fleet(), room)
-                                 : table.countsText(watch.fleet(), count))
+                                 : table.countsText(watch.fleet(), count, room))
               + told);
     });
     return exitSuccess;

@@ -64,6 +64,17 @@ void fit(QList<QStringList>& rows, const QStringList& head, int width)
     }
 }
 
+// Rows beside the heading, the line of moreText(), an empty one, and what follows them.
+int roomFor(int lines, const QString& ending)
+{
+    return std::max(lines - 3 - int(ending.count(QLatin1Char('\n'))), 1);
+}
+
+QString moreText(int count)
+{
+    return Velmo::tr("%n more for which there is no room here", nullptr, count) + QLatin1Char('\n');
+}
+
 } // namespace
 
 QStringList FleetTable::countKeys()
@@ -103,7 +114,8 @@ QString FleetTable::text(const Fleet& fleet, int most) const
                            m_memory.isThere() ? Velmo::tr("Since") : Velmo::tr("Last state"),
                            Velmo::tr("What is wrong")};
     const std::vector<FleetKiosk> kiosks = m_selection.listed(fleet);
-    const int room = most - 5; // beside the heading, the totals and what follows them
+    const QString ending = totals(fleet);
+    const int room = roomFor(most, ending);
     size_t shown = 0;
     QList<QStringList> rows;
     for (const FleetKiosk& kiosk : kiosks) {
@@ -121,37 +133,36 @@ QString FleetTable::text(const Fleet& fleet, int most) const
     if (!rows.isEmpty())
         text = formatTable(head, rows, width);
     if (shown < kiosks.size())
-        text += Velmo::tr("%n more for which there is no room here", nullptr,
-                          int(kiosks.size() - shown))
-            + QLatin1Char('\n');
-    if (!text.isEmpty())
-        text += QLatin1Char('\n');
-    return text + totals(fleet);
+        text += moreText(int(kiosks.size() - shown));
+    return text.isEmpty() ? ending : text + QLatin1Char('\n') + ending;
 }
 
 QString FleetTable::totals(const Fleet& fleet) const
 {
-    QString text =
-        Velmo::tr("%n kiosks: %1", nullptr, fleet.size()).arg(::countsText(fleet.counts()))
-        + QLatin1Char('\n');
+    const int width = outputWidth();
+    const QString all =
+        wrapped(Velmo::tr("%n kiosks: %1", nullptr, fleet.size()).arg(::countsText(fleet.counts())),
+                0, width);
     if (m_selection.isAll())
-        return text;
+        return all;
     ConditionCounts selected{};
     for (const FleetKiosk& kiosk : fleet.kiosks()) {
         if (m_selection.has(kiosk))
             ++selected[kiosk.condition];
     }
-    return text
-        + Velmo::tr("%n kiosks selected: %1", nullptr, sum(selected)).arg(::countsText(selected))
-        + QStringLiteral("; ")
-        + Velmo::tr("%n hidden by the selection", nullptr, fleet.size() - sum(selected))
-        + QLatin1Char('\n');
+    return all
+        + wrapped(
+               Velmo::tr("%n kiosks selected: %1", nullptr, sum(selected))
+                       .arg(::countsText(selected))
+                   + QStringLiteral("; ")
+                   + Velmo::tr("%n hidden by the selection", nullptr, fleet.size() - sum(selected)),
+               0, width);
 }
 
-QMap<QString, ConditionCounts> FleetTable::countsBy(const Fleet& fleet, const QString& what) const
+FleetTable::Counts FleetTable::countsBy(const Fleet& fleet, const QString& what) const
 {
     const bool isRegion = what == QLatin1String("region");
-    QMap<QString, ConditionCounts> counts;
+    Counts counts(isNaturallyLess);
     for (const FleetKiosk& kiosk : fleet.kiosks()) {
         if (!m_selection.has(kiosk))
             continue;
@@ -167,19 +178,18 @@ QMap<QString, ConditionCounts> FleetTable::countsBy(const Fleet& fleet, const QS
     return counts;
 }
 
-QString FleetTable::countsText(const Fleet& fleet, const QString& what) const
+QString FleetTable::countsText(const Fleet& fleet, const QString& what, int most) const
 {
     QStringList head{what == QLatin1String("region") ? Velmo::tr("Region") : Velmo::tr("Reason"),
                      QLatin1Char('>') + Velmo::tr("Kiosks")};
     for (int i = KioskSummary::Unknown; i <= KioskSummary::Fine; ++i)
         head += QLatin1Char('>') + conditionText(KioskSummary::Condition(i));
     QList<QStringList> rows;
-    const QMap<QString, ConditionCounts> all = countsBy(fleet, what);
-    for (auto counts = all.begin(); counts != all.end(); ++counts) {
-        QStringList row{counts.key().isEmpty() ? Velmo::tr("none")
-                                               : elided(printable(counts.key()), longestName),
-                        QString::number(sum(*counts))};
-        for (const int count : *counts)
+    const Counts all = countsBy(fleet, what);
+    for (const auto& [key, counts] : all) {
+        QStringList row{key.isEmpty() ? Velmo::tr("none") : elided(printable(key), longestName),
+                        QString::number(sum(counts))};
+        for (const int count : counts)
             row += QString::number(count);
         rows += row;
     }
@@ -188,8 +198,14 @@ QString FleetTable::countsText(const Fleet& fleet, const QString& what) const
             return a.at(1).toInt() > b.at(1).toInt();
         });
     }
-    return (rows.isEmpty() ? QString() : formatTable(head, rows) + QLatin1Char('\n'))
-        + totals(fleet);
+    const QString ending = totals(fleet);
+    const int hidden = most > 0 ? std::max(int(rows.size()) - roomFor(most, ending), 0) : 0;
+    QString text;
+    if (!rows.isEmpty())
+        text = formatTable(head, rows.mid(0, rows.size() - hidden));
+    if (hidden > 0)
+        text += moreText(hidden);
+    return text.isEmpty() ? ending : text + QLatin1Char('\n') + ending;
 }
 
 QByteArray FleetTable::lineOf(const FleetKiosk& kiosk) const
@@ -227,12 +243,12 @@ QByteArray FleetTable::json(const Fleet& fleet, const QString& count) const
         for (const FleetKiosk& kiosk : m_selection.listed(fleet))
             lines += lineOf(kiosk) + '\n';
     } else {
-        const QMap<QString, ConditionCounts> all = countsBy(fleet, count);
-        for (auto counts = all.begin(); counts != all.end(); ++counts) {
-            lines += JsonText::object(
-                         {{"kind", QStringLiteral("count")},
-                          {count == QLatin1String("region") ? "region" : "reason", counts.key()},
-                          {"kiosks", sum(*counts)}})
+        const Counts all = countsBy(fleet, count);
+        for (const auto& [key, counts] : all) {
+            lines +=
+                JsonText::object({{"kind", QStringLiteral("count")},
+                                  {count == QLatin1String("region") ? "region" : "reason", key},
+                                  {"kiosks", sum(counts)}})
                 + '\n';
         }
     }

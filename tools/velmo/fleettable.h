@@ -6,7 +6,7 @@
 #include "fleet.h"
 #include "fleetmemory.h"
 
-#include <QMap>
+#include <map>
 
 /// Shows kiosks as text and as JSON. Texts come from outside: nothing in them reaches the terminal
 /// as a command.
@@ -26,7 +26,7 @@ public:
 
     /// How many kiosks there are of each reason or region.
     /// @param what "reason" or "region"
-    QString countsText(const Fleet& fleet, const QString& what) const;
+    QString countsText(const Fleet& fleet, const QString& what, int most = 0) const;
 
     /// A line for each kiosk that is listed, or for each count, then the totals.
     /// @param count "reason" or "region"; empty for the kiosks
@@ -36,10 +36,12 @@ public:
     static QStringList countKeys();
 
 private:
+    using Counts = std::map<QString, ConditionCounts, decltype(&isNaturallyLess)>;
+
     QStringList rowOf(const FleetKiosk& kiosk, bool isNarrow) const;
     QString sinceText(const FleetKiosk& kiosk, bool isNarrow) const;
     QString totals(const Fleet& fleet) const;
-    QMap<QString, ConditionCounts> countsBy(const Fleet& fleet, const QString& what) const;
+    Counts countsBy(const Fleet& fleet, const QString& what) const;
     QByteArray lineOf(const FleetKiosk& kiosk) const;
 
     const FleetSelection& m_selection;
