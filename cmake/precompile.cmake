@@ -10,7 +10,7 @@ target_link_libraries(velmolib_precompiled PRIVATE Qt${VELMOLIB_QT_MAJOR}::Core
     Qt${VELMOLIB_QT_MAJOR}::SerialPort)
 target_precompile_headers(velmolib_precompiled PRIVATE <QtCore> <QSerialPort>)
 
-foreach(folder platform src diagnosis broker tools/terminal tools/velmo tools/velmo-fleet quick tests fuzz)
+foreach(folder platform src diagnosis broker history tools/terminal tools/velmo tools/velmo-fleet quick tests fuzz)
     if(IS_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/${folder}")
         get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
         foreach(target IN LISTS targets)

@@ -46,5 +46,5 @@ public:
 
 private:
     class Thread;
-    std::unique_ptr<Thread> m_thread;
+    std::shared_ptr<Thread> m_thread; // which may outlive this
 };

@@ -17,7 +17,7 @@ cmake --preset tidy
 # The sources are read many at a time, so that Qt's headers are read once for them.
 checks=-bugprone-suspicious-include
 [ "${1:-}" = --deep ] || checks+=,-clang-analyzer-*
-folders='(src|platform|json|diagnosis|tools|quick|broker|examples)'
+folders='(src|platform|json|diagnosis|tools|quick|broker|history|examples)'
 run-clang-tidy -quiet -p build/tidy -checks="$checks" "$PWD/($folders/.*\.cpp|build/tidy/$folders/.*/Unity/.*)"
 if [ "${1:-}" = --deep ]; then
     find build/tidy -path '*/Unity/*' ! -path '*/tests/*' \

@@ -27,7 +27,8 @@ WORK = ROOT / "build" / "mutate"
 EQUIVALENT = set((ROOT / "scripts/mutate.equivalent").read_text().splitlines())
 
 DEFAULT = ("src/filters/*.cpp", "src/acceptorstate.cpp", "src/acceptorsettings.cpp", "src/setting*.cpp",
-           "diagnosis/**/*.cpp", "quick/**/*.cpp", "tools/velmo-fleet/*.cpp", "broker/**/*.cpp")
+           "diagnosis/**/*.cpp", "quick/**/*.cpp", "tools/velmo-fleet/*.cpp", "broker/**/*.cpp",
+           "history/*.cpp")
 
 # The files whose rules say what becomes of money.
 MONEY = re.compile(r"src/filters/|.*/(acceptorstate|explanation|filtermemory|logplayer|lastnote|customeranswer)\.cpp")
@@ -48,6 +49,7 @@ TESTS = [
     ("diagnosis/", "tst_fleet tst_formats tst_replay tst_quick tst_velmo tst_compare tst_explain tst_settingstool "
                    "tst_kiosk"),
     ("quick/", "tst_quick tst_kiosk"),
+    ("history/", "tst_history"),
     (r"tools/velmo-fleet/.*(kiosks|metrics)|broker/.*(kiosktopic|brokeroptions)", "tst_fleet fleet"),
     ("", "fleet"),
 ]

@@ -7,7 +7,7 @@
 # Usage: layers.sh SOURCE_DIR
 set -euo pipefail
 cd "$1"
-floors=(platform json src diagnosis broker tools quick examples bench fuzz tests)
+floors=(platform json src diagnosis broker history tools quick examples bench fuzz tests)
 
 # Prints the faults of the tree in the current folder.
 faults()
