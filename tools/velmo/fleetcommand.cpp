@@ -24,6 +24,8 @@ int watch(const Arguments& arguments, const FleetSelection& selection)
     watch.follow([&] {
         memory.refresh();
         QStringList faults = watch.faults();
+        if (watch.isComing())
+            faults = QStringList{Velmo::tr("The summaries are still coming.")};
         if (!watch.connectionFault().isEmpty())
             faults = QStringList{watch.connectionFault() + QStringLiteral(". ")
                                  + Velmo::tr("The table is from before.")};

@@ -15,6 +15,7 @@
 #include <QDateTime>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -151,16 +152,29 @@ qint64 spanOf(const Arguments& arguments)
     return match.captured(1).toLongLong() * minutes * 60000;
 }
 
-QString dueText(const History::Due& due)
+QString placeText(const History::Due& due)
 {
     const QString device = deviceName(due.device);
-    const QString what = due.channel < 0 ? Velmo::tr("%1, cassette").arg(device)
-        : due.denomination == 0
+    if (due.channel < 0)
+        return Velmo::tr("%1, cassette").arg(device);
+    return due.denomination == 0
         ? Velmo::tr("%1, channel %2").arg(device).arg(due.channel)
-        : Velmo::tr("%1, channel %2 (%3)").arg(device).arg(due.channel).arg(due.denomination);
-    return due.what == History::Due::Empty
-        ? Velmo::tr("%1: empty; it has %2").arg(what).arg(due.level)
-        : Velmo::tr("%1: full; it has %2").arg(what).arg(due.level);
+        : Velmo::tr("%1, channel %2 of %3").arg(device).arg(due.channel).arg(due.denomination);
+}
+
+// What will be, and of how much.
+QString dueText(const History::Due& due)
+{
+    const QString text = due.what == History::Due::Empty
+        ? Velmo::tr("%1: empty (holds %2, %3 a day)")
+        : Velmo::tr("%1: full (holds %2, %3 a day)");
+    return text.arg(placeText(due)).arg(due.level).arg(qRound64(due.perDay));
+}
+
+// When, where that is not over.
+QString whenText(std::optional<qint64> time)
+{
+    return time && *time <= now() ? Velmo::tr("now") : timeText(time);
 }
 
 QByteArray dueJson(const History::Due& due)
@@ -258,6 +272,12 @@ int tellAvailability(const Arguments& arguments, const FleetSelection& selection
         print(QString::fromUtf8(lines));
         return exitSuccess;
     }
+    if (rows.empty()) {
+        print(Velmo::tr("The history knows nothing of %1.")
+                  .arg(month.toString(QStringLiteral("yyyy-MM")))
+              + QLatin1Char('\n'));
+        return exitSuccess;
+    }
     QList<QStringList> cells;
     const auto add = [&](const QString& name, const History::Availability& of, qint64 time) {
         cells += QStringList{printable(name), percentText(of.inService, of.known),
@@ -288,7 +308,14 @@ int tellDue(const Arguments& arguments, const FleetSelection& selection)
     QList<QStringList> unknown;
     int later = 0;
     int unsaid = 0;
-    for (const History::Due& each : openHistory(arguments, "--due").due(now())) {
+    std::vector<History::Due> all = openHistory(arguments, "--due").due(now());
+    std::stable_sort(all.begin(), all.end(), [](const History::Due& a, const History::Due& b) {
+        const qint64 never = std::numeric_limits<qint64>::max();
+        const qint64 first = a.earliest.value_or(never);
+        const qint64 other = b.earliest.value_or(never);
+        return first != other ? first < other : isNaturallyLess(a.kiosk, b.kiosk);
+    });
+    for (const History::Due& each : all) {
         if (!selection.hasName(each.kiosk))
             continue;
         const bool isSaid = each.cannotSay.isEmpty();
@@ -299,12 +326,12 @@ int tellDue(const Arguments& arguments, const FleetSelection& selection)
             continue;
         lines += dueJson(each);
         if (isDue) {
-            due += QStringList{printable(each.kiosk), timeText(each.earliest),
-                               timeText(each.latest), printable(dueText(each))};
+            due += QStringList{printable(each.kiosk), whenText(each.earliest),
+                               whenText(each.latest), printable(dueText(each))};
         } else {
             unknown +=
                 QStringList{printable(each.kiosk),
-                            printable(dueText(each) + QStringLiteral("; ") + each.cannotSay)};
+                            printable(placeText(each) + QStringLiteral(": ") + each.cannotSay)};
         }
     }
     const int found = int(due.size());

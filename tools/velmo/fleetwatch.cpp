@@ -72,6 +72,11 @@ void FleetWatch::follow(const std::function<void()>& draw)
     }
 }
 
+bool FleetWatch::isComing() const
+{
+    return Clock::now() - m_lastCome < m_pause && !m_workers.areAll(m_fleet.size());
+}
+
 QStringList FleetWatch::faults() const
 {
     QStringList faults = m_workers.faults(m_fleet.size(), m_status.filter());

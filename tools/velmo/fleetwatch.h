@@ -31,6 +31,9 @@ public:
     /// Why there is no connection now; empty while there is one.
     const QString& connectionFault() const { return m_broker.fault(); }
 
+    /// Whether what is missing may still be on its way.
+    bool isComing() const;
+
     /// What may be wrong with what has come, in sentences.
     QStringList faults() const;
 
