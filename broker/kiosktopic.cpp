@@ -42,13 +42,15 @@ QString KioskTopic::filter(int part) const
 
 QString KioskTopic::of(const QString& kiosk, int part) const
 {
-    QString topic = filter(part);
-    const QStringList names = kiosk.split(QLatin1Char('/'));
-    for (const QString& name : names) {
-        const auto place = topic.indexOf(QLatin1Char('+'));
-        topic.replace(place, 1, name);
+    QStringList names = kiosk.split(QLatin1Char('/'));
+    QStringList levels = m_levels;
+    for (QString& level : levels) {
+        if (level == anyName)
+            level = names.isEmpty() ? QString() : names.takeFirst();
+        else if (level == partLevel)
+            level = part == 0 ? QString(anyName) : QString::number(part);
     }
-    return topic;
+    return levels.join(QLatin1Char('/'));
 }
 
 QString KioskTopic::kioskOf(const QString& topic) const

@@ -24,6 +24,7 @@ public:
     QString filter(int part = 0) const;
 
     /// @param kiosk a name that kioskOf() gives
+    /// @param part 0 for what to subscribe to of that kiosk, whatever its part
     QString of(const QString& kiosk, int part = 0) const;
 
     /// The name, its two levels joined by "/"; empty for a topic that is of no kiosk.

@@ -303,6 +303,17 @@ private Q_SLOTS:
             fleet --wait 3601   |                            | --wait: expected a number from 1 to 3600
             fleet --wait x      |                            | --wait: expected a number from 1 to 3600
             fleet --tls-ca=     |                            | --tls-ca: expected a value
+            fleet 2026-11       |                            | usage: velmo fleet [MONTH]
+            fleet --json --watch |                           | usage: velmo fleet
+            fleet --count x     |                            | --count: expected reason or region
+            fleet --condition Fine |                         | --condition: unknown: "Fine" (nearest known: fine)
+            fleet --due 2       |                            | --due: expected a time, as 90m, 48h, 3d or 2w
+            fleet --due 2d      |                            | --due needs --history
+            fleet --availability 2026-13 |                   | "2026-13": expected a month
+            fleet history k1    |                            | velmo fleet history needs --history
+            fleet history k1 --history /dev/null/x |         | /dev/null/x:
+            fleet forget        |                            | usage: velmo fleet forget KIOSK...
+            fleet forget +      |                            | "+": is no kiosk's name at "kiosks/+/state"
             explain - --filters x --from x | | --from: expected an ISO 8601 time or date
             explain - --filters x --to 2026-02-30 | | --to: expected an ISO 8601 time or date
             explain - --filters x --from 2026-11-17 --to 2026-11-16 | | --from is after --to

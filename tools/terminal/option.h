@@ -23,6 +23,9 @@ enum class Kind {
     Language,
     FilterName,
     Outcome, ///< of a note
+    Condition, ///< of a kiosk
+    Reason, ///< of a kiosk's fault
+    Count, ///< what kiosks are counted by
     Number,
 };
 
@@ -75,6 +78,12 @@ public:
 
     bool isSet(const Option& option) const { return m_parser.isSet(QLatin1String(option.name)); }
     QString value(const Option& option) const { return m_parser.value(QLatin1String(option.name)); }
+
+    /// Of one that may be given several times.
+    QStringList values(const Option& option) const
+    {
+        return m_parser.values(QLatin1String(option.name));
+    }
 
     /// Throws Fault for a value that is no number or out of the range.
     qint64 number(const Option& option) const;

@@ -39,7 +39,7 @@ struct Command
 {
     const char* name; ///< "report", or "settings show" for an action
     Operand operands[3]; ///< in their order, only the last one repeated; nameless after the last
-    const Option* options[16]; ///< besides those below, --help and --lang; null after the last
+    const Option* options[24]; ///< besides those below, --help and --lang; null after the last
     int (*run)(const Arguments& arguments);
     const char* summary = nullptr; ///< one sentence of Velmo::tr(); null hides the command
     const char* details = nullptr; ///< further ones for its own help; null without
@@ -78,7 +78,8 @@ private:
 /// Every command, in the order of the help.
 const std::vector<Command>& commands();
 
-/// The command whose name these words begin with; null without one.
+/// The command whose name these words begin with, of several the longest: "fleet history" rather
+/// than "fleet"; null without one.
 const Command* findCommand(const QStringList& words);
 
 /// The options that a command takes, with those of every command.

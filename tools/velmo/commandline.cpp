@@ -84,10 +84,14 @@ QString helpOn(const QStringList& words)
 {
     if (words.isEmpty())
         return generalHelp();
-    if (words.size() == 1 && isGroup(words.constFirst()))
-        return commandsHelp(words.constFirst() + QLatin1Char(' '));
-    if (const Command* const command = findCommand(words))
-        return commandHelp(*command);
+    const Command* const command = findCommand(words);
+    const bool asksGroup = words.size() == 1 && isGroup(words.constFirst());
+    const QString group =
+        asksGroup ? commandsHelp(words.constFirst() + QLatin1Char(' ')) : QString();
+    if (command)
+        return commandHelp(*command) + (asksGroup ? QLatin1Char('\n') + group : QString());
+    if (asksGroup)
+        return group;
     throw unknownCommand(words);
 }
 
@@ -125,12 +129,13 @@ int printVersion()
 
 const Command* findCommand(const QStringList& words)
 {
-    const auto found =
-        std::find_if(commands().begin(), commands().end(), [&words](const Command& command) {
-            const QStringList name = command.words();
-            return words.mid(0, name.size()) == name;
-        });
-    return found == commands().end() ? nullptr : &*found;
+    const Command* found = nullptr;
+    for (const Command& command : commands()) {
+        const QStringList name = command.words();
+        if (words.mid(0, name.size()) == name && (!found || name.size() > found->words().size()))
+            found = &command;
+    }
+    return found;
 }
 
 std::vector<const Option*> optionsOf(const Command& command)

@@ -77,16 +77,41 @@ const std::vector<Command>& commands()
              "service report, for a published service state {\"device_states\": [...]}, with "
              "\"time\" where known, or for many, one a line.")},
         {"fleet",
-         {},
-         {&options::broker, &options::summaries, &options::watch, &options::json, &options::wait,
-          &options::passwordFile, &options::tlsCa, &options::tlsCert, &options::tlsKey},
+         {{{"MONTH", Kind::Text}, Operand::Optional}},
+         {&options::broker,       &options::summaries, &options::status,       &options::history,
+          &options::kiosk,        &options::condition, &options::reason,       &options::region,
+          &options::allFaults,    &options::count,     &options::availability, &options::due,
+          &options::watch,        &options::json,      &options::exitCode,     &options::wait,
+          &options::passwordFile, &options::tlsCa,     &options::tlsCert,      &options::tlsKey},
          fleetCommand,
          QT_TRANSLATE_NOOP("Velmo", "The kiosks that need somebody, and why."),
          QT_TRANSLATE_NOOP(
              "Velmo",
              "Shows the kiosks of which nothing is heard, those where no device could take money, "
              "and those where some device does not work, worst first, of the summaries that "
-             "velmo-fleet keeps at an MQTT broker.")},
+             "velmo-fleet keeps at an MQTT broker, with the worst fault of each. What may be "
+             "missing or not be true of them, by what the workers tell of themselves, it says, "
+             "and the exit code is 2. With --history it tells since when; --availability and "
+             "--due ask the history alone.")},
+        {"fleet history",
+         {{{"KIOSK", Kind::Text}}},
+         {&options::history, &options::from, &options::to, &options::json},
+         fleetHistoryCommand,
+         QT_TRANSLATE_NOOP("Velmo", "What became of a kiosk, and when."),
+         QT_TRANSLATE_NOOP("Velmo",
+                           "Tells of the conditions that it was in, of its faults and of the "
+                           "collections of its cassettes, newest last, by what velmo-fleet "
+                           "remembers at --history.")},
+        {"fleet forget",
+         {{{"KIOSK", Kind::Text}, Operand::Several}},
+         {&options::broker, &options::states, &options::summaries, &options::wills, &options::wait,
+          &options::passwordFile, &options::tlsCa, &options::tlsCert, &options::tlsKey},
+         fleetForgetCommand,
+         QT_TRANSLATE_NOOP("Velmo", "Takes kiosks that are no more out of the fleet."),
+         QT_TRANSLATE_NOOP("Velmo",
+                           "Ends what the broker keeps of them: state, summary and will. Where one "
+                           "of them is not there, nothing is done. One that still publishes comes "
+                           "back, and is named.")},
         {"state",
          {state},
          {&options::map},

@@ -13,6 +13,8 @@ int compareCommand(const Arguments& arguments);
 int replayCommand(const Arguments& arguments);
 int reportCommand(const Arguments& arguments);
 int fleetCommand(const Arguments& arguments);
+int fleetHistoryCommand(const Arguments& arguments);
+int fleetForgetCommand(const Arguments& arguments);
 int stateCommand(const Arguments& arguments);
 int showSettingsCommand(const Arguments& arguments);
 int getSettingCommand(const Arguments& arguments);

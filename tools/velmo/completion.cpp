@@ -5,6 +5,7 @@
 #include "acceptorsettings.h"
 #include "commands.h"
 #include "filterfactory.h"
+#include "fleettable.h"
 #include "input.h"
 #include "log/outcome.h"
 #include "settings/settingslist.h"
@@ -130,6 +131,12 @@ QStringList candidatesFor(Kind kind, const QStringList& operands = {}, const QSt
         return FilterFactory::getFilters();
     case Kind::Outcome:
         return outcomeKeys();
+    case Kind::Condition:
+        return conditionKeys();
+    case Kind::Reason:
+        return reasonKeys();
+    case Kind::Count:
+        return FleetTable::countKeys();
     case Kind::Number:
     case Kind::Text:
     case Kind::None:
@@ -170,11 +177,12 @@ QStringList candidates(const QStringList& before, const QString& current)
             names += option->dashedName();
         return names;
     }
+    const QStringList next = nextWords(words);
     if (!command)
-        return nextWords(words);
+        return next;
     const QStringList operands = words.mid(command->words().size());
     const Operand* const operand = command->operandAt(int(operands.size()));
-    return operand ? candidatesFor(operand->value.kind, operands, current) : QStringList();
+    return next + (operand ? candidatesFor(operand->value.kind, operands, current) : QStringList());
 }
 
 } // namespace

@@ -60,8 +60,8 @@ constexpr Option summary{"summary", nullptr, Value(),
 constexpr Option exitCode{
     "exit-code", nullptr, Value(),
     QT_TRANSLATE_NOOP("Velmo",
-                      "Make the exit code 1 when the filters refused something, or "
-                      "something does not add up.")};
+                      "Make the exit code 1 when the filters refused something, something does "
+                      "not add up, or a kiosk that is selected needs somebody.")};
 constexpr Option html{
     "html", nullptr, Value("PAGE.html", Kind::File),
     QT_TRANSLATE_NOOP("Velmo", "Write a page with pictures to PAGE.html in place of text.")};
@@ -87,11 +87,65 @@ constexpr Option summaries{
     "summaries", nullptr, Value("TOPIC", Kind::Text),
     QT_TRANSLATE_NOOP("Velmo", "Where the summaries are; kiosks/+/summary without it."),
     usualSummaries};
+constexpr Option status{
+    "status", nullptr, Value("TOPIC", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "Where the workers tell of themselves; velmo-fleet/+/status without it."),
+    usualStatus};
+constexpr Option states{
+    "states", nullptr, Value("TOPIC", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo", "Where the kiosks publish; kiosks/+/state without it."),
+    "kiosks/+/state"};
+constexpr Option wills{
+    "wills", nullptr, Value("TOPIC", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo", "Where their wills are; kiosks/+/will without it."),
+    "kiosks/+/will"};
+constexpr Option history{"history", nullptr, Value("PLACE", Kind::File),
+                         QT_TRANSLATE_NOOP("Velmo",
+                                           "What velmo-fleet remembers: a file of SQLite, or "
+                                           "postgresql://user@host:port/db?host=/socket/dir.")};
+constexpr Option kiosk{
+    "kiosk", nullptr, Value("PATTERN", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "Only kiosks of such names, with * for any characters and ? for "
+                      "one; may be given several times.")};
+constexpr Option condition{
+    "condition", nullptr, Value("NAME", Kind::Condition),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "Only kiosks that are unknown, silent, out_of_order, faulty or fine; may be "
+                      "given several times.")};
+constexpr Option reason{
+    "reason", nullptr, Value("NAME", Kind::Reason),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "Only kiosks with a fault of that reason, as stacker_full; may be given "
+                      "several times.")};
+constexpr Option region{
+    "region", nullptr, Value("NAME", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "Only kiosks whose names begin with that, up to the first of / - _ and "
+                      "the point; may be given several times.")};
+constexpr Option count{
+    "count", nullptr, Value("WHAT", Kind::Count),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "In place of the kiosks, how many there are of each reason or "
+                      "region.")};
+constexpr Option allFaults{
+    "long", nullptr, Value(),
+    QT_TRANSLATE_NOOP("Velmo", "Every fault of a kiosk, or what cannot be said, on its own line.")};
+constexpr Option availability{
+    "availability", nullptr, Value(),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "How much of a month, as 2026-11, kiosks were in service; this "
+                      "month without one.")};
+constexpr Option due{
+    "due", nullptr, Value("TIME", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "What will be empty or full within that time, as 90m, 48h, 3d or 2w.")};
 constexpr Option wait{
     "wait", nullptr, Value("SECONDS", Kind::Number, 1, 3600),
     QT_TRANSLATE_NOOP("Velmo",
-                      "How long no further summary comes before all are taken to have "
-                      "come; 1 without it."),
+                      "How long nothing further comes before it is told without what is "
+                      "missing; 1 without it."),
     "1"};
 constexpr Option map{"map", nullptr, Value(),
                      QT_TRANSLATE_NOOP("Velmo", "Write the state as an indented map.")};

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#include "fleetmemory.h"
+
+#include <QDateTime>
+
+namespace {
+
+constexpr qint64 longestAge = 10000; // milliseconds
+
+} // namespace
+
+FleetMemory::FleetMemory(const Arguments& arguments)
+    : m_place(arguments.value(options::history))
+{
+    read();
+}
+
+void FleetMemory::read()
+{
+    m_age.start();
+    if (!isThere())
+        return;
+    try {
+        m_now = History(m_place).now(QDateTime::currentMSecsSinceEpoch());
+        m_fault.clear();
+    } catch (const Fault& fault) {
+        m_fault = fault.message;
+    }
+}
+
+void FleetMemory::refresh()
+{
+    if (m_age.elapsed() >= longestAge)
+        read();
+}
+
+std::optional<FleetMemory::Since> FleetMemory::since(const FleetKiosk& kiosk) const
+{
+    // The history may be behind what the broker has.
+    const auto known = m_now.constFind(kiosk.name);
+    if (known != m_now.constEnd() && known->condition == kiosk.condition)
+        return Since{known->since, known->timesThisMonth};
+    if (kiosk.since != KioskSummary::noTime)
+        return Since{kiosk.since, 0};
+    return {};
+}
+
+QString durationText(qint64 passed)
+{
+    const qint64 minutes = qMax<qint64>(passed, 0) / 60000;
+    if (minutes < 1)
+        return Velmo::tr("less than a minute");
+    if (minutes < 120)
+        return Velmo::tr("%n minutes", nullptr, int(minutes));
+    if (minutes < 48 * 60)
+        return Velmo::tr("%n hours", nullptr, int(minutes / 60));
+    return Velmo::tr("%n days", nullptr, int(minutes / 60 / 24));
+}
+
+JsonText jsonTime(std::optional<qint64> time)
+{
+    return time
+        ? JsonText(QDateTime::fromMSecsSinceEpoch(*time).toUTC().toString(Qt::ISODateWithMs))
+        : JsonText::null();
+}
+
+QString timeText(std::optional<qint64> time)
+{
+    return time ? QDateTime::fromMSecsSinceEpoch(*time).toString(QStringLiteral("yyyy-MM-dd hh:mm"))
+                : QString();
+}
