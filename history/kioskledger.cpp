@@ -175,7 +175,7 @@ void KioskLedger::apply(const KioskChange& change)
         if (kiosk.condition != record.condition) {
             closeCondition(kiosk, change.kiosk, time);
             const auto row = m_conditions.row({change.kiosk, time});
-            row[1] = QLatin1String(KioskSummary::name(record.condition));
+            row[1] = QString(QLatin1String(KioskSummary::name(record.condition)));
             row[2] = qint64(change.message);
             kiosk.condition = record.condition;
             kiosk.began = time;
@@ -200,7 +200,7 @@ bool KioskLedger::closeCondition(Kiosk& kiosk, const QString& name, qint64 time)
     const auto row = m_conditions.row({name, kiosk.began});
     row[0] = time;
     if (row[1].isNull()) {
-        row[1] = QLatin1String(KioskSummary::name(*kiosk.condition));
+        row[1] = QString(QLatin1String(KioskSummary::name(*kiosk.condition)));
         row[2] = 0;
     }
     kiosk.condition.reset();
