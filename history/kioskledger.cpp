@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr qint64 hour = 3600 * 1000;
-constexpr qint64 day = 24 * hour;
 
 // A state that another worker has seen arrives here within this time, by this worker's clock.
 constexpr qint64 grace = 30 * 1000;
@@ -19,13 +17,12 @@ constexpr qint64 grace = 30 * 1000;
 // Nobody inserts so many notes between two states: such a counter is nonsense.
 constexpr qint64 mostAtOnce = 1'000'000'000;
 
-constexpr int cassette = -1; // its channel among the levels
 
 const QString deviceKey = QStringLiteral("kiosk, device, thread");
 
 qint64 hourOf(qint64 time)
 {
-    return time - time % hour;
+    return time - time % anHour;
 }
 
 // A counter that is less than before has begun anew.
@@ -48,7 +45,7 @@ auto findDevice(List& list, const Device& device)
 bool isWritten(const KioskRecord* before, const KioskRecord& now, const KioskRecord::Device& device,
                const KioskRecord::Level& level)
 {
-    if (!before || before->time / day != now.time / day)
+    if (!before || before->time / aDay != now.time / aDay)
         return false;
     const auto old = findDevice(before->devices, device);
     return old != before->devices.end()
@@ -267,7 +264,7 @@ bool KioskLedger::applyCassettes(Kiosk& kiosk, const KioskRecord& record, qint64
         known->isStackerFull = device.isStackerFull;
         remember(record.kiosk, *known);
         if (known->notes)
-            writeLevel(record, device, {cassette, 0, {}, 0, *known->notes});
+            writeLevel(record, device, {theCassette, 0, {}, 0, *known->notes});
         isNew = true;
     }
     return isNew;
@@ -312,10 +309,10 @@ void KioskLedger::applyDevice(Kiosk& kiosk, const KioskRecord& record,
         if (!isWritten(kiosk.counted.get(), record, device, level))
             writeLevel(record, device, level);
     }
-    const bool isNewDay = kiosk.counted && kiosk.counted->time / day != record.time / day;
+    const bool isNewDay = kiosk.counted && kiosk.counted->time / aDay != record.time / aDay;
     const qint64 inserted = growth(known->inserted, device.inserted);
     if (known->notes && (inserted > 0 || isNewDay))
-        writeLevel(record, device, {cassette, 0, {}, 0, *known->notes + inserted});
+        writeLevel(record, device, {theCassette, 0, {}, 0, *known->notes + inserted});
     if (device.inserted == known->inserted && device.rejected == known->rejected
         && device.returned == known->returned) {
         return;

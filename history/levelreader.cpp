@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr qint64 hour = 3600 * 1000;
-constexpr int cassette = -1; // its channel among the levels
 
 // Of a device, and perhaps one of its hours.
 QString keyOf(const QString& kiosk, int device, int thread, qint64 time = 0)
@@ -35,7 +33,7 @@ struct LevelReader::Series
 LevelReader::LevelReader(HistoryDatabase& database, qint64 now)
     : m_database(database)
     , m_now(now)
-    , m_begin(now - Forecast::mostDays * Forecast::hoursOfDay * hour)
+    , m_begin(now - Forecast::mostDays * Forecast::hoursOfDay * anHour)
 {
 }
 
@@ -48,7 +46,7 @@ std::vector<History::Due> LevelReader::due()
                        " hour, count FROM levels WHERE hour > ? AND hour <= ?"
                        " ORDER BY kiosk, device, thread, channel, denomination, currency,"
                        " bill_type, hour"),
-        {m_begin - hour, m_now});
+        {m_begin - anHour, m_now});
     std::optional<Series> series;
     while (row.next()) {
         const QString kiosk = row.value(0).toString();
@@ -69,7 +67,7 @@ std::vector<History::Due> LevelReader::due()
             series->due.kiosk = kiosk;
             series->due.device = device;
             series->due.thread = thread;
-            series->due.what = channel == cassette ? History::Due::Full : History::Due::Empty;
+            series->due.what = channel == theCassette ? History::Due::Full : History::Due::Empty;
             series->due.channel = channel;
             series->due.denomination = denomination;
             series->due.currency = currency;
@@ -105,7 +103,7 @@ void LevelReader::readInserted()
     QSqlQuery& row =
         m_database.run(QStringLiteral("SELECT kiosk, device, thread, hour, inserted FROM hours"
                                       " WHERE hour > ? AND inserted > 0"),
-                       {m_begin - hour});
+                       {m_begin - anHour});
     while (row.next()) {
         m_inserted.insert(keyOf(row.value(0).toString(), row.value(1).toInt(), row.value(2).toInt(),
                                 row.value(3).toLongLong()),
@@ -121,7 +119,7 @@ void LevelReader::add(Series& series)
     due.level = series.counts.back().second;
     const qint64 known = m_now - series.counts.front().first;
     const auto days = std::size_t(
-        std::clamp<qint64>(known / (Forecast::hoursOfDay * hour), 0, Forecast::mostDays));
+        std::clamp<qint64>(known / (Forecast::hoursOfDay * anHour), 0, Forecast::mostDays));
     std::vector<double> used(days * Forecast::hoursOfDay, 0.);
     for (std::size_t i = 1; i < series.counts.size(); ++i) {
         const auto [time, count] = series.counts[i];
@@ -133,7 +131,7 @@ void LevelReader::add(Series& series)
             : m_inserted.value(keyOf(due.kiosk, due.device, due.thread, time));
         const qint64 change =
             isCassette ? (rise < 0 ? count : rise) : -std::min(rise, rise < 0 ? rise : inserted);
-        const auto place = std::size_t(std::max<qint64>(m_now - time - 1, 0) / hour);
+        const auto place = std::size_t(std::max<qint64>(m_now - time - 1, 0) / anHour);
         if (place < used.size())
             used[place] += double(change);
     }
@@ -154,8 +152,8 @@ void LevelReader::add(Series& series)
             ? Diagnosis::tr("Nothing was inserted in the last two weeks.")
             : Diagnosis::tr("Its level has not fallen in the last two weeks.");
     } else if (const auto range = forecast.usedUp(left)) {
-        due.earliest = m_now + qint64(std::llround(range->earliest * double(hour)));
-        due.latest = m_now + qint64(std::llround(range->latest * double(hour)));
+        due.earliest = m_now + qint64(std::llround(range->earliest * double(anHour)));
+        due.latest = m_now + qint64(std::llround(range->latest * double(anHour)));
     } else {
         due.cannotSay = Diagnosis::tr("The days differ too much.");
     }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "history.h"
+#include "kioskrecord.h"
 
 class HistoryDatabase;
 
