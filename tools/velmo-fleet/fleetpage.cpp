@@ -23,7 +23,7 @@ struct Text
 };
 
 // Those of the page, by the keys that page.html and page.js use.
-constexpr Text texts[] = {
+constexpr Text pageTexts[] = {
     {"kiosks", QT_TRANSLATE_NOOP("Velmo", "Kiosks")},
     {"counts", QT_TRANSLATE_NOOP("Velmo", "Kiosks by condition")},
     {"part",
@@ -120,7 +120,7 @@ QByteArray fileOf(const char* name)
     return file.readAll();
 }
 
-QByteArray hashOf(const QByteArray& text)
+QByteArray hashSource(const QByteArray& text)
 {
     return "'sha256-" + QCryptographicHash::hash(text, QCryptographicHash::Sha256).toBase64()
         + '\'';
@@ -134,7 +134,7 @@ FleetPage::FleetPage()
     const QByteArray style = fileOf("page.css");
     const QByteArray script = fileOf("page.js");
     QByteArray words = "{\"conditions\":" + conditionNames() + ",\"reasons\":" + reasonNames();
-    for (const Text& text : texts) {
+    for (const Text& text : pageTexts) {
         const QString translated = Velmo::tr(text.text);
         html.replace(QByteArray("{{") + text.key + "}}", htmlText(translated).toUtf8());
         words += QByteArray(",\"") + text.key + "\":" + JsonText(translated);
@@ -146,7 +146,8 @@ FleetPage::FleetPage()
     html.replace("{{texts}}", words);
     html.replace("{{page.css}}", style);
     html.replace("{{page.js}}", script);
-    policy = "default-src 'none'; style-src " + hashOf(style) + "; script-src " + hashOf(script)
+    policy = "default-src 'none'; style-src " + hashSource(style) + "; script-src "
+        + hashSource(script)
         + "; connect-src 'self'; img-src data:; base-uri 'none'; form-action 'none'; "
           "frame-ancestors 'none'";
 }

@@ -24,8 +24,8 @@ namespace {
 constexpr int mostHistoryReaders = 4; // of eight threads: the metrics never wait for a database
 constexpr std::chrono::seconds presentLasts{5};
 constexpr int mostOfName = 1024; // bytes
-constexpr char json[] = "application/json";
-constexpr char plain[] = "text/plain; charset=utf-8";
+constexpr char jsonType[] = "application/json";
+constexpr char plainType[] = "text/plain; charset=utf-8";
 
 // As the server takes it.
 QByteArray listeningAddress(const QString& address)
@@ -58,7 +58,7 @@ int takeComplaint(const mg_connection*, const char* text)
 }
 
 // A parameter of a query; null where it has none, or one that is too long for any name.
-QByteArray parameter(const char* query, const char* name)
+QByteArray queryValue(const char* query, const char* name)
 {
     char value[mostOfName];
     const int length =
@@ -66,23 +66,23 @@ QByteArray parameter(const char* query, const char* name)
     return length < 0 ? QByteArray() : QByteArray(value, length);
 }
 
-JsonText timeText(std::optional<qint64> time)
+JsonText momentText(std::optional<qint64> time)
 {
     return time
         ? JsonText(QDateTime::fromMSecsSinceEpoch(*time, Qt::UTC).toString(Qt::ISODateWithMs))
         : JsonText::null();
 }
 
-JsonText conditionText(KioskSummary::Condition condition)
+JsonText nameText(KioskSummary::Condition condition)
 {
     return {QString(QLatin1String(KioskSummary::name(condition)))};
 }
 
 QByteArray textOf(const History::ConditionSpan& span)
 {
-    return JsonText::object({{"condition", conditionText(span.condition)},
-                             {"began", timeText(span.began)},
-                             {"ended", timeText(span.ended)}});
+    return JsonText::object({{"condition", nameText(span.condition)},
+                             {"began", momentText(span.began)},
+                             {"ended", momentText(span.ended)}});
 }
 
 QByteArray textOf(const History::FaultSpan& span)
@@ -91,8 +91,8 @@ QByteArray textOf(const History::FaultSpan& span)
                              {"thread", span.fault.thread},
                              {"reason", span.fault.reason},
                              {"text", span.fault.text},
-                             {"began", timeText(span.began)},
-                             {"ended", timeText(span.ended)}});
+                             {"began", momentText(span.began)},
+                             {"ended", momentText(span.ended)}});
 }
 
 QByteArray textOf(const History::Collection& collection)
@@ -101,7 +101,7 @@ QByteArray textOf(const History::Collection& collection)
         {{"device", collection.device},
          {"thread", collection.thread},
          {"name", deviceName(collection.device)},
-         {"time", timeText(collection.time)},
+         {"time", momentText(collection.time)},
          {"notes", collection.notes ? JsonText(*collection.notes) : JsonText::null()}});
 }
 
@@ -148,7 +148,7 @@ int WebServer::serve(mg_connection* connection)
     const mg_request_info* const request = mg_get_request_info(connection);
     const bool isHead = qstrcmp(request->request_method, "HEAD") == 0;
     auto* const server = static_cast<WebServer*>(request->user_data);
-    Answer answer{405, plain, "GET and HEAD only\n"};
+    Answer answer{405, plainType, "GET and HEAD only\n"};
     if (isHead || qstrcmp(request->request_method, "GET") == 0)
         answer = server->answerTo(request->local_uri, request->query_string);
     const QByteArray length = QByteArray::number(answer.body.size());
@@ -179,16 +179,16 @@ WebServer::Answer WebServer::answerTo(const QByteArray& path, const char* query)
                 QByteArray::fromStdString(
                     prometheus::TextSerializer().Serialize(m_registry->Collect()))};
     }
-    const bool all = parameter(query, "all") == "1";
+    const bool all = queryValue(query, "all") == "1";
     if (path == "/kiosks.json")
-        return {200, json, m_sources.kiosks(all)};
+        return {200, jsonType, m_sources.kiosks(all)};
     if (path == "/history.json") {
-        const QByteArray kiosk = parameter(query, "kiosk");
+        const QByteArray kiosk = queryValue(query, "kiosk");
         if (m_sources.history.isEmpty())
-            return {200, json, R"({"kept":false})"};
+            return {200, jsonType, R"({"kept":false})"};
         return kiosk.isEmpty() ? presentHistory(all) : historyOf(QString::fromUtf8(kiosk));
     }
-    return {404, plain, "not found\n"};
+    return {404, plainType, "not found\n"};
 }
 
 WebServer::Answer WebServer::historyOf(const QString& kiosk)
@@ -218,8 +218,8 @@ WebServer::Answer WebServer::presentHistory(bool all)
             if (!all && kiosk->condition == KioskSummary::Fine)
                 continue;
             kiosks += (kiosks.isEmpty() ? "" : ",") + JsonText(kiosk.key()) + ':'
-                + JsonText::object({{"condition", conditionText(kiosk->condition)},
-                                    {"since", timeText(kiosk->since)},
+                + JsonText::object({{"condition", nameText(kiosk->condition)},
+                                    {"since", momentText(kiosk->since)},
                                     {"times", kiosk->timesThisMonth}});
         }
         return "\"now\":{" + kiosks + '}';
@@ -233,15 +233,15 @@ template <typename Read>
 WebServer::Answer WebServer::readHistory(Read read)
 {
     const bool isFree = ++m_historyReaders <= mostHistoryReaders;
-    Answer answer{200, json, {}};
+    Answer answer{200, jsonType, {}};
     try {
         if (!isFree)
             throw Fault{Velmo::tr("too many ask at once")};
-        const JsonText time = timeText(QDateTime::currentMSecsSinceEpoch());
+        const JsonText time = momentText(QDateTime::currentMSecsSinceEpoch());
         answer.body =
             R"({"kept":true,"time":)" + time + ',' + read(History(m_sources.history)) + '}';
     } catch (const Fault& fault) {
-        answer = {503, json, JsonText::object({{"fault", fault.message}})};
+        answer = {503, jsonType, JsonText::object({{"fault", fault.message}})};
     }
     --m_historyReaders;
     return answer;
