@@ -3,6 +3,8 @@
 
 #include "fleetmemory.h"
 
+#include "text/fault.h"
+
 #include <QDateTime>
 
 namespace {
@@ -11,8 +13,8 @@ constexpr qint64 longestAge = 10000; // milliseconds
 
 } // namespace
 
-FleetMemory::FleetMemory(const Arguments& arguments)
-    : m_place(arguments.value(options::history))
+FleetMemory::FleetMemory(const QString& place)
+    : m_place(place)
 {
     read();
 }
