@@ -3,6 +3,8 @@
 
 #include "changequeue.h"
 
+#include "historytime.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -11,8 +13,6 @@ namespace {
 constexpr std::size_t mostWaiting = 100'000;
 constexpr int mostTexts = 10'000;
 constexpr std::chrono::seconds countsEvery{60};
-constexpr qint64 hour = 3600 * 1000;
-constexpr qint64 day = 24 * hour;
 
 // Of what the database is given.
 constexpr int longestText = 1000;
@@ -64,10 +64,13 @@ void ChangeQueue::record(KioskRecord record)
     Kiosk& kiosk = *known;
     const KioskRecord* const before = kiosk.latest.get();
     const bool isSame = before && isSameState(*before, record);
-    if (isSame && before->time / day == record.time / day && isSameCount(*before, record))
+    if (isSame && before->time / HistoryTime::day == record.time / HistoryTime::day
+        && isSameCount(*before, record))
         return;
     // What was counted belongs to its hour.
-    if (kiosk.isCounting && (before->time / hour != record.time / hour || record.devices.empty())) {
+    if (kiosk.isCounting
+        && (before->time / HistoryTime::hour != record.time / HistoryTime::hour
+            || record.devices.empty())) {
         push({KioskChange::Counts, record.kiosk, before->time, before->message, kiosk.latest});
         kiosk.isCounting = false;
     }

@@ -22,7 +22,9 @@ namespace {
 // not keep others waiting.
 constexpr char patience[] = "connect_timeout=3;tcp_user_timeout=5000;keepalives_idle=5;"
                             "keepalives_interval=2;keepalives_count=3";
-constexpr char sessionSettings[] = "SET idle_in_transaction_session_timeout = '10s'";
+constexpr char sessionSettings[] =
+    "SET idle_in_transaction_session_timeout = '10s'; SET client_min_messages = error;"
+    " SET standard_conforming_strings = on";
 
 // Of workers that start at once one makes the tables. Any number that nobody else locks.
 constexpr char migrationLock[] = "SELECT pg_advisory_xact_lock(7305807)";
@@ -42,6 +44,27 @@ QString nameOf(const QString& place)
     return QUrl(place).toDisplayString(QUrl::RemovePassword | QUrl::RemoveQuery
                                        | QUrl::RemoveFragment)
         + (host.isEmpty() ? host : QLatin1String("?host=") + host);
+}
+
+// With values for its "?", as PostgreSQL has them.
+QString withValues(const QString& sql, const QVariantList& values)
+{
+    QString text;
+    int at = 0;
+    for (const QVariant& value : values) {
+        const int next = int(sql.indexOf(QLatin1Char('?'), at));
+        const QString word = value.toString();
+        text += QStringView(sql).mid(at, next - at).toString();
+        if (value.isNull())
+            text += QLatin1String("NULL");
+        else if (value.userType() != QMetaType::QString)
+            text += word;
+        else
+            text += QLatin1Char('\'')
+                + QString(word).replace(QLatin1Char('\''), QLatin1String("''")) + QLatin1Char('\'');
+        at = next + 1;
+    }
+    return text + QStringView(sql).mid(at).toString();
 }
 
 QString newConnection()
@@ -105,7 +128,7 @@ void HistoryDatabase::openFile(Access access)
         return;
     }
     QSqlQuery look(database);
-    if (look.exec(QStringLiteral("SELECT count(*) FROM sqlite_master")) || file.isWritable()
+    if (look.exec(QStringLiteral("SELECT count(*) FROM sqlite_master"))
         || QFileInfo::exists(m_place + QLatin1String("-wal"))) {
         return;
     }
@@ -165,19 +188,28 @@ void HistoryDatabase::execute(const QString& sql)
         fail(query.lastError());
 }
 
+QString HistoryDatabase::pairs(const QString& time, const QString& number) const
+{
+    return (m_isPostgres ? QStringLiteral("string_agg(%1 || ' ' || %2, ' ')")
+                         : QStringLiteral("group_concat(%1 || ' ' || %2, ' ')"))
+        .arg(time, number);
+}
+
+// Of PostgreSQL the values stand in the text: Qt warns of every prepared statement that is left
+// when the connection is lost.
 QSqlQuery& HistoryDatabase::run(const QString& sql, const QVariantList& values)
 {
     auto found = m_statements.find(sql);
     if (found == m_statements.end()) {
         QSqlQuery query(connection());
         query.setForwardOnly(true);
-        if (!query.prepare(sql))
+        if (!m_isPostgres && !query.prepare(sql))
             fail(query.lastError());
         found = m_statements.insert(sql, query);
     }
-    for (int i = 0; i < values.size(); ++i)
+    for (int i = 0; i < values.size() && !m_isPostgres; ++i)
         found->bindValue(i, values[i]);
-    if (!found->exec())
+    if (!(m_isPostgres ? found->exec(withValues(sql, values)) : found->exec()))
         fail(found->lastError());
     return *found;
 }
@@ -203,7 +235,8 @@ void HistoryDatabase::fail(const QSqlError& error) const
             code.left(2))
         : std::find(std::begin(ofData), std::end(ofData), number) != std::end(ofData);
     const QString text = error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
-    refuse(text.simplified(), m_isPostgres || number == busy, isOfData);
+    refuse(text.section(QLatin1Char('\n'), 0, 0).trimmed(), m_isPostgres || number == busy,
+           isOfData);
 }
 
 void HistoryDatabase::refuse(const QString& why, bool mayPass, bool isOfData) const
@@ -250,7 +283,9 @@ void HistoryDatabase::migrate()
             refuse(Diagnosis::tr("is the database of something else"));
     }
     for (const char* const step : HistorySchema::stepsFrom(present))
-        execute(QLatin1String(step));
+        execute(
+            QString(QLatin1String(step))
+                .replace(QLatin1String("%1"), QLatin1String(m_isPostgres ? "" : " WITHOUT ROWID")));
     run(QStringLiteral("DELETE FROM velmo_history"));
     run(QStringLiteral("INSERT INTO velmo_history(version) VALUES (?)"), {HistorySchema::version});
     transaction.commit();

@@ -38,10 +38,14 @@ public:
     /// The clock of the machine that has the database, in milliseconds since 1970, as SQL.
     QString clock() const;
 
-    /// Runs a statement that is not prepared, as those that read and write no rows cannot be.
+    /// All pairs of a group, in a text with blanks between all numbers, as SQL.
+    QString pairs(const QString& time, const QString& number) const;
+
+    /// Runs a statement that has no values and gives no rows, as often as it may be.
     void execute(const QString& sql);
 
-    /// Runs a statement, which is prepared once for each text.
+    /// Runs a statement with these values for its "?". What it returns is good until the same one
+    /// runs again.
     QSqlQuery& run(const QString& sql, const QVariantList& values = {});
 
     /// Runs the statement for all values, where its "%1" is a list of so many of them as fit.

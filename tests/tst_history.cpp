@@ -258,6 +258,338 @@ private Q_SLOTS:
                       " ORDER BY hour, channel"_s),
                  "0 0 100, 1 -1 0, 2 -1 29, 2 0 100, 3 -1 0, 3 0 90"_s);
     }
+
+    // Of two workers of one part the first is killed, with a change that it has not written.
+    void anotherWorkerTakesOver_data() { addKinds(); }
+
+    void anotherWorkerTakesOver()
+    {
+        QFETCH(QString, kind);
+        const QString place = newPlace(kind);
+        const auto recordUntil = [](HistoryRecorder& recorder, quint64 last, qint64 late) {
+            for (quint64 message = 1; message <= last; ++message) {
+                for (const QString& kiosk : {"k1"_s, "k2"_s}) {
+                    recorder.record(record(kiosk, start + qint64(message) * 100 + late, message,
+                                           message % 2 == 1 ? Condition::Fine : Condition::Faulty,
+                                           message % 2 == 1 ? QStringList() : QStringList{"a"_s}));
+                }
+            }
+        };
+        HistoryDatabase(place, HistoryDatabase::Write);
+        int isReady[2];
+        QCOMPARE(pipe(isReady), 0);
+        const pid_t child = fork();
+        if (child == 0) {
+            HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
+            recordUntil(recorder, 4, 0);
+            while (recorder.status().written < 8)
+                QThread::msleep(10);
+            const bool isWritten = write(isReady[1], "", 1) == 1;
+            recorder.record(record("k1"_s, start + 500, 5, Condition::Fine));
+            _exit(isWritten ? 0 : 1);
+        }
+        char byte;
+        QCOMPARE(read(isReady[0], &byte, 1), 1);
+        {
+            HistoryRecorder recorder(place, "1/1"_s, "w2"_s);
+            recordUntil(recorder, 6, 7);
+            int status = 0;
+            QCOMPARE(waitpid(child, &status, 0), child);
+            QCOMPARE(status, 0);
+            QVERIFY(!recorder.status().isWriter);
+            waitForWritten(recorder, 12);
+            QVERIFY(recorder.status().isWriter);
+        }
+        const History history(place);
+        for (const QString& kiosk : {"k1"_s, "k2"_s}) {
+            QCOMPARE(shown(history, kiosk),
+                     "100-200 fine, 200-300 faulty, 300-400 fine, 400-507 faulty, 507-607 fine, "
+                     "607- faulty, 200-300 a, 400-507 a, 607- a"_s);
+        }
+        close(isReady[0]);
+        close(isReady[1]);
+    }
+
+    // Both see the same, with clocks apart, and start and end in between.
+    void twoWorkersWriteEachChangeOnce_data() { addKinds(); }
+
+    void twoWorkersWriteEachChangeOnce()
+    {
+        QFETCH(QString, kind);
+        const QString place = newPlace(kind);
+        std::array<std::unique_ptr<HistoryRecorder>, 2> workers;
+        constexpr int rounds = 400;
+        for (int i = 0; i < rounds; ++i) {
+            const int restarted = i % 100 == 0 ? i / 100 % 2 : -1;
+            for (int w = 0; w < 2; ++w) {
+                std::unique_ptr<HistoryRecorder>& worker = workers[std::size_t(w)];
+                if (w == restarted || !worker) {
+                    worker.reset();
+                    worker = std::make_unique<HistoryRecorder>(place, "1/1"_s, QString::number(w));
+                    if (i > 0) // what is retained
+                        worker->record(record("k"_s, start + i * 10 - 10 + w * 400, quint64(i),
+                                              Condition(2 + (i - 1) % 3)));
+                }
+                worker->record(
+                    record("k"_s, start + i * 10 + w * 400, quint64(i + 1), Condition(2 + i % 3)));
+            }
+            QThread::msleep(10);
+        }
+        for (std::unique_ptr<HistoryRecorder>& worker : workers)
+            worker.reset();
+        const std::vector<History::ConditionSpan> spans = History(place).conditions("k"_s);
+        QCOMPARE(int(spans.size()), rounds);
+        for (std::size_t i = 0; i < spans.size(); ++i) {
+            QCOMPARE(spans[i].condition, Condition(2 + i % 3));
+            QCOMPARE(spans[i].ended.has_value(), i + 1 < spans.size());
+            QVERIFY(i == 0 || spans[i - 1].ended == spans[i].began);
+        }
+    }
+
+    void changesWaitForTheDatabase()
+    {
+        if (!m_server->isThere())
+            QSKIP("PostgreSQL is not installed.");
+        const QString place = newPlace("postgres"_s);
+        {
+            HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
+            recorder.record(record("k1"_s, start, 1, Condition::Fine));
+            waitForWritten(recorder, 1);
+            m_server->stop("immediate"_s);
+            recorder.record(record("k1"_s, start + 1, 2, Condition::Silent));
+            QTRY_VERIFY(!recorder.status().fault.isEmpty());
+            QVERIFY(recorder.status().fault.startsWith("postgresql://velmo@"_s));
+            QVERIFY(!recorder.status().isWriter);
+            QCOMPARE(recorder.status().waiting, 1);
+            HistoryRecorder late(place, "1/1"_s, "w2"_s);
+            late.record(record("k1"_s, start + 2, 2, Condition::Silent));
+            m_server->startServer();
+            QTRY_VERIFY_WITH_TIMEOUT(recorder.status().written + late.status().written >= 2, 15000);
+            QTRY_VERIFY_WITH_TIMEOUT(recorder.status().fault.isEmpty(), 15000);
+        }
+        QVERIFY(QRegularExpression("^0-[12] fine, [12]- silent$"_s)
+                    .match(shown(History(place), "k1"_s))
+                    .hasMatch());
+    }
+
+    void oldestChangesAreLostWhereThereIsNoRoom()
+    {
+        const QString place = "postgresql://velmo:secret@/none?host="_s + m_folder.path();
+        HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
+        for (int i = 0; i < 100'010; ++i) {
+            recorder.record(record("k%1"_s.arg(i % 1000), start + i, quint64(i + 1),
+                                   i / 1000 % 2 == 0 ? Condition::Fine : Condition::Silent));
+        }
+        QCOMPARE(recorder.status().lost, 10);
+        QCOMPARE(recorder.status().waiting, 100'000);
+        QTRY_VERIFY(!recorder.status().fault.isEmpty());
+        QVERIFY2(!recorder.status().fault.contains("secret"_s),
+                 qPrintable(recorder.status().fault));
+    }
+
+    // A place, and what is said of it by those who write and those who read.
+    void placeThatIsNoHistoryIsRefused_data()
+    {
+        addRows(R"(
+            folder    | expected a file | expected a file
+            none/in   | unable to open database file | there is no such file
+            text      | file is not a database | file is not a database
+            foreign   | is the database of something else | there is no history in it
+            later     | is of version 9, which is later than this program's 1 | is of version 9, which is later than this program's 1
+            locked    | attempt to write a readonly database | fine
+            unread    | unable to open database file | unable to open database file
+            empty     | fine | there is no history in it
+            missing   | fine | there is no such file
+            postgresql://h | expected postgresql://user@host:port/database | expected postgresql://user@host:port/database)"_s);
+    }
+
+    void placeThatIsNoHistoryIsRefused()
+    {
+        const auto [name, toWriters, toReaders] = cells<3>();
+        const QTemporaryDir folder;
+        const bool isFile = !name.contains("//"_s);
+        const QString place = isFile ? folder.filePath(name) : name;
+        const auto make = [&](const QStringList& statements) {
+            HistoryDatabase database(place, HistoryDatabase::Write);
+            for (const QString& statement : statements)
+                database.execute(statement);
+        };
+        if (name == "folder"_s) {
+            QDir().mkdir(place);
+        } else if (name == "text"_s || name == "empty"_s) {
+            QFile file(place);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(QByteArray(name == "text"_s ? 5000 : 0, 'x'));
+        } else if (name == "foreign"_s) {
+            make({"DROP TABLE velmo_history"_s});
+        } else if (name == "later"_s) {
+            make({"UPDATE velmo_history SET version = 9"_s});
+        } else if (name == "locked"_s || name == "unread"_s) {
+            make({});
+            const QFile::Permissions read = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+            QFile::setPermissions(place, name == "unread"_s ? QFile::Permissions() : read);
+            QFile::setPermissions(folder.path(),
+                                  read | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
+        }
+        const auto said = [&](const auto& open) {
+            try {
+                open();
+            } catch (const Fault& fault) {
+                return fault.message.mid(place.size() + 2);
+            }
+            return "fine"_s;
+        };
+        // What nobody may write root may.
+        const bool isRoot = geteuid() == 0;
+        if (isRoot && (name == "locked"_s || name == "unread"_s))
+            QCOMPARE(seteuid(65534), 0);
+        const QString toReader = said([&] { History(place).now(0); });
+        const QString toWriter = said([&] { HistoryRecorder(place, "1/1"_s, "w1"_s); });
+        if (isRoot)
+            QCOMPARE(seteuid(0), 0);
+        QFile::setPermissions(folder.path(), QFile::Permissions(0x7777));
+        QCOMPARE(toReader, toReaders);
+        QVERIFY2(toWriter.startsWith(toWriters), qPrintable(toWriter));
+    }
+
+    void conditionsOfNowAndOfAMonth_data() { addKinds(); }
+
+    void conditionsOfNowAndOfAMonth()
+    {
+        QFETCH(QString, kind);
+        const QString place = newPlace(kind);
+        const QDate month(2026, 10, 1);
+        const qint64 begin = month.startOfDay().toMSecsSinceEpoch();
+        const qint64 end = month.addMonths(1).startOfDay().toMSecsSinceEpoch();
+        {
+            HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
+            struct
+            {
+                qint64 time;
+                Condition condition;
+            } const changes[] = {
+                {begin - day, Condition::Faulty},      {begin + day, Condition::Silent},
+                {begin + 3 * day, Condition::Faulty},  {begin + 4 * day, Condition::OutOfOrder},
+                {begin + 8 * day, Condition::Unknown}, {begin + 16 * day, Condition::Faulty},
+                {end + day, Condition::Fine},          {end + 2 * day, Condition::Faulty}};
+            quint64 message = 0;
+            for (const auto& change : changes) {
+                ++message;
+                recorder.record(record("k1"_s, change.time, message, change.condition,
+                                       QStringList{"b"_s, "a"_s}.mid(int(message % 2))));
+            }
+            recorder.record(record("k2"_s, begin + 15 * day, 1, Condition::Fine));
+        }
+        const History history(place);
+        const auto now = history.now(end + 3 * day);
+        QCOMPARE(now.size(), 2);
+        QCOMPARE(now["k1"_s].since, end + 2 * day);
+        QCOMPARE(now["k1"_s].condition, Condition::Faulty);
+        QCOMPARE(now["k1"_s].timesThisMonth, 1);
+        QCOMPARE(now["k1"_s].faults, QStringList({"It is a."_s, "It is b."_s}));
+        QCOMPARE(now["k2"_s].timesThisMonth, 1);
+        const auto october = history.availability(month.addDays(9), end + 3 * day);
+        QCOMPARE(october["k1"_s].silent, 2 * day);
+        QCOMPARE(october["k1"_s].inService, 2 * day + (end - begin - 16 * day));
+        QCOMPARE(october["k1"_s].known, october["k1"_s].inService + 6 * day);
+        QCOMPARE(october["k2"_s].known, end - begin - 15 * day);
+        QCOMPARE(history.availability(month, begin + 17 * day)["k2"_s].inService, 2 * day);
+        QVERIFY(history.availability(month.addMonths(2), end + 3 * day).isEmpty());
+    }
+
+    // Pieces a day and in how many at once, days that are known and the level.
+    void forecastHoldsTheTruthInNineOfTen_data()
+    {
+        addRows(R"(
+            40  | 1  | 14 | 100
+            40  | 1  | 14 | 10
+            40  | 1  | 5  | 60
+            300 | 10 | 14 | 2000
+            300 | 10 | 7  | 200
+            20  | 5  | 14 | 100)"_s);
+    }
+
+    void forecastHoldsTheTruthInNineOfTen()
+    {
+        const auto row = cells<4>();
+        const double perDay = row[0].toDouble();
+        const int atOnce = row[1].toInt();
+        const int days = row[2].toInt();
+        const qint64 level = row[3].toInt();
+        std::mt19937 random(22); // NOLINT(cert-msc32-c, cert-msc51-cpp): the same each time
+        constexpr int kiosks = 1000;
+        int holds = 0;
+        int said = 0;
+        for (int kiosk = 0; kiosk < kiosks; ++kiosk) {
+            const int opens = kiosk % 24; // for twelve hours, and busier every other day
+            const auto used = [&](int hour) {
+                const bool isOpen = (hour + opens + 24) % 24 < 12;
+                const double factor = (hour + opens + 240) / 24 % 2 == 0 ? 1.2 : 0.8;
+                std::poisson_distribution<int> events(perDay / 12 / atOnce * factor);
+                return isOpen ? events(random) * atOnce : 0;
+            };
+            std::vector<double> before;
+            for (int i = 0; i < days * 24; ++i)
+                before.push_back(used(days * 24 - 1 - i));
+            const auto range = Forecast(before).usedUp(level);
+            int until = 0;
+            for (qint64 left = level; left > 0; ++until)
+                left -= used(days * 24 + until);
+            if (!range)
+                continue;
+            ++said;
+            holds += range->earliest <= until && until - 1 <= range->latest ? 1 : 0;
+        }
+        QVERIFY2(said > kiosks * 9 / 10, qPrintable(QString::number(said)));
+        QVERIFY2(holds > said * 85 / 100 && holds < said * 99 / 100,
+                 qPrintable("%1 of %2"_s.arg(holds).arg(said)));
+    }
+
+    void whatIsDueIsSaidWhereItCanBe_data() { addKinds(); }
+
+    void whatIsDueIsSaidWhereItCanBe()
+    {
+        QFETCH(QString, kind);
+        const QString place = newPlace(kind);
+        {
+            HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
+            const auto at = [&](qint64 time, qint64 inserted, const QString& cassette,
+                                qint64 level) {
+                recorder.record(counted(time, inserted, cassette, level));
+            };
+            at(start - 10 * day, 0, "out"_s, 100);
+            at(start - 10 * day + 1, 0, "present"_s, 100);
+            at(start - 9 * day, 500, "full"_s, 100);
+            at(start - 9 * day + 1, 500, "out"_s, 100);
+            at(start - 9 * day + 2, 500, "present"_s, 100);
+            qint64 level = 100;
+            for (int i = 1; i <= 9 * 24; ++i) {
+                level -= i % 2; // twelve a day
+                if (i % 24 == 0)
+                    level += 12; // filled in by hand
+                at(start - 9 * day + i * hour, 500 + i, "present"_s, level);
+            }
+        }
+        const std::vector<History::Due> due = History(place).due(start + 1);
+        QStringList texts;
+        for (const History::Due& each : due) {
+            const auto inDays = [](const std::optional<qint64>& time) {
+                return time ? QString::number(double(*time - start) / double(day), 'f', 1)
+                            : QString();
+            };
+            texts += "%1 %2 %3 %4 %5 %6-%7 %8"_s.arg(each.channel)
+                         .arg(each.denomination)
+                         .arg(each.level)
+                         .arg(each.capacity.value_or(0))
+                         .arg(each.perDay, 0, 'f', 1)
+                         .arg(inDays(each.earliest), inDays(each.latest), each.cannotSay);
+        }
+        // A day without payouts, then twelve a day, of which one was inserted again.
+        QCOMPARE(
+            texts,
+            QStringList({"0 100 100 0 9.9 7.7-13.8 "_s, "-1 0 216 500 21.6 10.2-17.6 "_s,
+                         "1 500 50 0 0.0 - Its level has not fallen in the last two weeks."_s}));
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_History)
