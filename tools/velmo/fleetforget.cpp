@@ -40,7 +40,7 @@ public:
                 const QString filter = topic.of(kiosk);
                 if (topic.kioskOf(filter) != kiosk || kiosk.contains(QLatin1Char('+'))
                     || kiosk.contains(QLatin1Char('#')))
-                    throw Fault{Velmo::tr("\"%1\": is no kiosk's name at \"%2\"")
+                    throw Fault{Velmo::tr(R"("%1": is no kiosk's name at "%2")")
                                     .arg(kiosk, topic.filter())};
                 m_broker.subscribe(filter, 1);
             }
@@ -136,11 +136,12 @@ private:
             BrokerConnection::wait({&m_broker}, milliseconds(50));
             m_broker.read(1000);
             m_broker.write();
-            if (!m_broker.fault().isEmpty())
+            if (!m_broker.fault().isEmpty()) {
                 throw Fault{m_broker.fault()
                             + (m_waiting.isEmpty()
                                    ? QString()
                                    : Velmo::tr("; not known to have ended: %1").arg(waiting()))};
+            }
             if (Clock::now() - begin > longestWait + m_pause)
                 throw Fault{waitedTooLong()};
         }

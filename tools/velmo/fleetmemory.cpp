@@ -56,7 +56,7 @@ QString durationText(qint64 passed)
         return Velmo::tr("less than a minute");
     if (minutes < 120)
         return Velmo::tr("%n minutes", nullptr, int(minutes));
-    if (minutes < 48 * 60)
+    if (minutes < qint64(48) * 60)
         return Velmo::tr("%n hours", nullptr, int(minutes / 60));
     return Velmo::tr("%n days", nullptr, int(minutes / 60 / 24));
 }
