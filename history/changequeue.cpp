@@ -3,6 +3,8 @@
 
 #include "changequeue.h"
 
+#include "historytime.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -62,10 +64,13 @@ void ChangeQueue::record(KioskRecord record)
     Kiosk& kiosk = *known;
     const KioskRecord* const before = kiosk.latest.get();
     const bool isSame = before && isSameState(*before, record);
-    if (isSame && before->time / aDay == record.time / aDay && isSameCount(*before, record))
+    if (isSame && before->time / HistoryTime::day == record.time / HistoryTime::day
+        && isSameCount(*before, record))
         return;
     // What was counted belongs to its hour.
-    if (kiosk.isCounting && (before->time / anHour != record.time / anHour || record.devices.empty())) {
+    if (kiosk.isCounting
+        && (before->time / HistoryTime::hour != record.time / HistoryTime::hour
+            || record.devices.empty())) {
         push({KioskChange::Counts, record.kiosk, before->time, before->message, kiosk.latest});
         kiosk.isCounting = false;
     }

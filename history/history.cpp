@@ -12,14 +12,14 @@
 
 namespace {
 
-qint64 startOf(const QDate& day)
+qint64 startOf(const QDate& date)
 {
-    return day.startOfDay().toMSecsSinceEpoch();
+    return date.startOfDay().toMSecsSinceEpoch();
 }
 
-QDate monthOf(const QDate& day)
+QDate monthOf(const QDate& date)
 {
-    return {day.year(), day.month(), 1};
+    return {date.year(), date.month(), 1};
 }
 
 std::optional<qint64> numberOf(const QVariant& value)

@@ -188,6 +188,13 @@ void HistoryDatabase::execute(const QString& sql)
         fail(query.lastError());
 }
 
+QString HistoryDatabase::pairs(const QString& time, const QString& number) const
+{
+    return (m_isPostgres ? QStringLiteral("string_agg(%1 || ' ' || %2, ' ')")
+                         : QStringLiteral("group_concat(%1 || ' ' || %2, ' ')"))
+        .arg(time, number);
+}
+
 // Of PostgreSQL the values stand in the text: Qt warns of every prepared statement that is left
 // when the connection is lost.
 QSqlQuery& HistoryDatabase::run(const QString& sql, const QVariantList& values)
@@ -276,7 +283,9 @@ void HistoryDatabase::migrate()
             refuse(Diagnosis::tr("is the database of something else"));
     }
     for (const char* const step : HistorySchema::stepsFrom(present))
-        execute(QLatin1String(step));
+        execute(
+            QString(QLatin1String(step))
+                .replace(QLatin1String("%1"), QLatin1String(m_isPostgres ? "" : " WITHOUT ROWID")));
     run(QStringLiteral("DELETE FROM velmo_history"));
     run(QStringLiteral("INSERT INTO velmo_history(version) VALUES (?)"), {HistorySchema::version});
     transaction.commit();

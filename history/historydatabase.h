@@ -38,6 +38,9 @@ public:
     /// The clock of the machine that has the database, in milliseconds since 1970, as SQL.
     QString clock() const;
 
+    /// All pairs of a group, in a text with blanks between all numbers, as SQL.
+    QString pairs(const QString& time, const QString& number) const;
+
     /// Runs a statement that has no values and gives no rows, as often as it may be.
     void execute(const QString& sql);
 

@@ -8,7 +8,7 @@ namespace {
 struct Step
 {
     int version; // that it is a part of
-    const char* sql; // as both SQLite and PostgreSQL understand it
+    const char* sql; // "%1" is where SQLite is told to keep the rows in the order of the key
 };
 
 // Added to at the end. A period without an end is open: there is one of a condition at most, and
@@ -23,7 +23,7 @@ constexpr Step steps[] = {
      " message BIGINT NOT NULL)"},
     {1,
      "CREATE TABLE conditions(kiosk TEXT NOT NULL, began BIGINT NOT NULL, ended BIGINT,"
-     " condition TEXT NOT NULL, message BIGINT NOT NULL, PRIMARY KEY(kiosk, began))"},
+     " condition TEXT NOT NULL, message BIGINT NOT NULL, PRIMARY KEY(kiosk, began))%1"},
     {1, "CREATE UNIQUE INDEX conditions_open ON conditions(kiosk) WHERE ended IS NULL"},
     {1, "CREATE INDEX conditions_ended ON conditions(ended)"},
     {1,
@@ -38,14 +38,18 @@ constexpr Step steps[] = {
     {1,
      "CREATE TABLE hours(kiosk TEXT NOT NULL, device INTEGER NOT NULL, thread INTEGER NOT NULL,"
      " hour BIGINT NOT NULL, inserted BIGINT NOT NULL, rejected BIGINT NOT NULL,"
-     " returned BIGINT NOT NULL, PRIMARY KEY(kiosk, device, thread, hour))"},
+     " returned BIGINT NOT NULL, PRIMARY KEY(kiosk, device, thread, hour))%1"},
     {1, "CREATE INDEX hours_hour ON hours(hour)"},
     {1,
      "CREATE TABLE levels(kiosk TEXT NOT NULL, device INTEGER NOT NULL, thread INTEGER NOT NULL,"
      " channel INTEGER NOT NULL, denomination INTEGER NOT NULL, currency TEXT NOT NULL,"
      " bill_type INTEGER NOT NULL, hour BIGINT NOT NULL, count BIGINT NOT NULL,"
-     " PRIMARY KEY(kiosk, device, thread, channel, denomination, currency, bill_type, hour))"},
-    {1, "CREATE INDEX levels_hour ON levels(hour)"},
+     " PRIMARY KEY(kiosk, device, thread, channel, denomination, currency, bill_type, hour))%1"},
+    {1,
+     "CREATE TABLE channels(kiosk TEXT NOT NULL, device INTEGER NOT NULL, thread INTEGER NOT NULL,"
+     " channel INTEGER NOT NULL, denomination INTEGER NOT NULL, currency TEXT NOT NULL,"
+     " bill_type INTEGER NOT NULL, hour BIGINT NOT NULL, count BIGINT NOT NULL,"
+     " PRIMARY KEY(kiosk, device, thread, channel, denomination, currency, bill_type))%1"},
     {1,
      "CREATE TABLE collections(kiosk TEXT NOT NULL, device INTEGER NOT NULL,"
      " thread INTEGER NOT NULL, time BIGINT NOT NULL, notes BIGINT,"

@@ -4,12 +4,13 @@
 #include "kioskledger.h"
 
 #include "historydatabase.h"
+#include "historyschema.h"
+#include "historytime.h"
 #include "text/diagnosis.h"
 
 #include <algorithm>
 
 namespace {
-
 
 // A state that another worker has seen arrives here within this time, by this worker's clock.
 constexpr qint64 grace = 30 * 1000;
@@ -17,12 +18,13 @@ constexpr qint64 grace = 30 * 1000;
 // Nobody inserts so many notes between two states: such a counter is nonsense.
 constexpr qint64 mostAtOnce = 1'000'000'000;
 
-
 const QString deviceKey = QStringLiteral("kiosk, device, thread");
+const QString channelKey =
+    deviceKey + QStringLiteral(", channel, denomination, currency, bill_type");
 
 qint64 hourOf(qint64 time)
 {
-    return time - time % anHour;
+    return time - time % HistoryTime::hour;
 }
 
 // A counter that is less than before has begun anew.
@@ -45,7 +47,7 @@ auto findDevice(List& list, const Device& device)
 bool isWritten(const KioskRecord* before, const KioskRecord& now, const KioskRecord::Device& device,
                const KioskRecord::Level& level)
 {
-    if (!before || before->time / aDay != now.time / aDay)
+    if (!before || before->time / HistoryTime::day != now.time / HistoryTime::day)
         return false;
     const auto old = findDevice(before->devices, device);
     return old != before->devices.end()
@@ -76,8 +78,9 @@ KioskLedger::KioskLedger()
               QStringLiteral("DO UPDATE SET inserted = hours.inserted + excluded.inserted,"
                              " rejected = hours.rejected + excluded.rejected,"
                              " returned = hours.returned + excluded.returned"))
-    , m_levels(QStringLiteral("levels"),
-               deviceKey + QStringLiteral(", channel, denomination, currency, bill_type, hour"),
+    , m_channels(QStringLiteral("channels"), channelKey, QStringLiteral("hour, count"),
+                 QStringLiteral("DO UPDATE SET hour = excluded.hour, count = excluded.count"))
+    , m_levels(QStringLiteral("levels"), channelKey + QStringLiteral(", hour"),
                QStringLiteral("count"), QStringLiteral("DO UPDATE SET count = excluded.count"))
     , m_collections(QStringLiteral("collections"), deviceKey + QStringLiteral(", time"),
                     QStringLiteral("notes"), QStringLiteral("DO NOTHING"))
@@ -264,7 +267,7 @@ bool KioskLedger::applyCassettes(Kiosk& kiosk, const KioskRecord& record, qint64
         known->isStackerFull = device.isStackerFull;
         remember(record.kiosk, *known);
         if (known->notes)
-            writeLevel(record, device, {theCassette, 0, {}, 0, *known->notes});
+            writeLevel(record, device, {HistorySchema::cassette, 0, {}, 0, *known->notes});
         isNew = true;
     }
     return isNew;
@@ -309,10 +312,11 @@ void KioskLedger::applyDevice(Kiosk& kiosk, const KioskRecord& record,
         if (!isWritten(kiosk.counted.get(), record, device, level))
             writeLevel(record, device, level);
     }
-    const bool isNewDay = kiosk.counted && kiosk.counted->time / aDay != record.time / aDay;
+    const bool isNewDay =
+        kiosk.counted && kiosk.counted->time / HistoryTime::day != record.time / HistoryTime::day;
     const qint64 inserted = growth(known->inserted, device.inserted);
     if (known->notes && (inserted > 0 || isNewDay))
-        writeLevel(record, device, {theCassette, 0, {}, 0, *known->notes + inserted});
+        writeLevel(record, device, {HistorySchema::cassette, 0, {}, 0, *known->notes + inserted});
     if (device.inserted == known->inserted && device.rejected == known->rejected
         && device.returned == known->returned) {
         return;
@@ -334,9 +338,13 @@ void KioskLedger::applyDevice(Kiosk& kiosk, const KioskRecord& record,
 void KioskLedger::writeLevel(const KioskRecord& record, const KioskRecord::Device& device,
                              const KioskRecord::Level& level)
 {
-    m_levels.row({record.kiosk, device.device, device.thread, level.channel, level.denomination,
-                  level.currency.isNull() ? QStringLiteral("") : level.currency, level.billType,
-                  hourOf(record.time)})[0] = level.count;
+    const QString currency = level.currency.isNull() ? QStringLiteral("") : level.currency;
+    const QVariantList channel{record.kiosk,       device.device, device.thread, level.channel,
+                               level.denomination, currency,      level.billType};
+    m_levels.row(channel + QVariantList{hourOf(record.time)})[0] = level.count;
+    const auto row = m_channels.row(channel);
+    row[0] = hourOf(record.time);
+    row[1] = level.count;
 }
 
 void KioskLedger::remember(const QString& kiosk, const Device& device)
@@ -363,7 +371,7 @@ void KioskLedger::write(HistoryDatabase& database)
             throw ::Fault{Diagnosis::tr("another worker writes of the same kiosks")};
     }
     for (RowBatch* const rows :
-         {&m_hours, &m_levels, &m_collections, &m_fullCassettes, &m_counters})
+         {&m_hours, &m_channels, &m_levels, &m_collections, &m_fullCassettes, &m_counters})
         rows->write(database);
 }
 
@@ -371,7 +379,7 @@ void KioskLedger::clear()
 {
     m_kiosks.clear();
     m_forgotten.clear();
-    for (RowBatch* const rows : {&m_positions, &m_conditions, &m_faults, &m_hours, &m_levels,
-                                 &m_collections, &m_fullCassettes, &m_counters})
+    for (RowBatch* const rows : {&m_positions, &m_conditions, &m_faults, &m_hours, &m_channels,
+                                 &m_levels, &m_collections, &m_fullCassettes, &m_counters})
         rows->clear();
 }

@@ -104,6 +104,7 @@ private:
     RowBatch m_conditions;
     RowBatch m_faults;
     RowBatch m_hours;
+    RowBatch m_channels;
     RowBatch m_levels;
     RowBatch m_collections;
     RowBatch m_fullCassettes;

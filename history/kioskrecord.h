@@ -9,10 +9,6 @@
 
 #include <vector>
 
-constexpr qint64 anHour = 3600 * 1000; // milliseconds
-constexpr qint64 aDay = 24 * anHour;
-constexpr int theCassette = -1; // its channel among the levels
-
 /// What is remembered of a kiosk at one moment. Times are in milliseconds since 1970, by the clock
 /// of the worker: those of kiosks may be wrong.
 struct KioskRecord

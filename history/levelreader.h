@@ -6,6 +6,10 @@
 #include "history.h"
 #include "kioskrecord.h"
 
+#include <QMap>
+
+#include <utility>
+
 class HistoryDatabase;
 
 /// What the levels of the last two weeks say of the days to come.
@@ -18,17 +22,19 @@ public:
     std::vector<History::Due> due();
 
 private:
-    struct Series;
-    using DeviceHours = QHash<QString, qint64>;
+    struct Device
+    {
+        QMap<qint64, qint64> inserted; // in an hour
+        std::optional<qint64> capacity; // of its cassette
+    };
 
-    void readCapacities();
-    void readInserted();
-    void add(Series& series);
+    void readDevices();
+    void forecast(History::Due& due, const Device& device,
+                  const std::vector<std::pair<qint64, qint64>>& counts) const;
 
     HistoryDatabase& m_database;
     const qint64 m_now;
     const qint64 m_begin; // of the two weeks
-    QHash<QString, qint64> m_capacities; // of a device's key
-    DeviceHours m_inserted; // of a device's key and an hour
+    QHash<QString, Device> m_devices; // by their keys
     std::vector<History::Due> m_due;
 };

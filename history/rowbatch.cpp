@@ -13,8 +13,8 @@ constexpr std::size_t atOnce = 50; // rows of a statement; SQLite of old takes 9
 
 RowBatch::RowBatch(const QString& table, const QString& key, const QString& values,
                    const QString& conflict)
-    : m_keySize(key.count(QLatin1Char(',')) + 1)
-    , m_rowSize(m_keySize + values.count(QLatin1Char(',')) + 1)
+    : m_keySize(int(key.count(QLatin1Char(','))) + 1)
+    , m_rowSize(m_keySize + int(values.count(QLatin1Char(','))) + 1)
     , m_sql(QStringLiteral("INSERT INTO %1(%2, %3) VALUES %5 ON CONFLICT(%2) %4")
                 .arg(table, key, values, conflict))
 {

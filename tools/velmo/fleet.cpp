@@ -34,8 +34,8 @@ int rankOf(const KioskFault& fault)
 QByteArray withoutDevices(const QByteArray& summary)
 {
     const auto begin = summary.indexOf(",\"payment_text\":");
-    const auto condition = summary.lastIndexOf(",\"condition\":\"");
-    const auto since = condition < 0 ? condition : summary.lastIndexOf(",\"since\":\"", condition);
+    const auto condition = summary.lastIndexOf(R"(,"condition":")");
+    const auto since = condition < 0 ? condition : summary.lastIndexOf(R"(,"since":")", condition);
     const auto end = since > begin ? since : condition;
     return begin < 0 || end < begin ? summary
                                     : summary.left(begin) + ",\"devices\":[]" + summary.mid(end);

@@ -12,12 +12,13 @@
 #include <QTime>
 
 #include <algorithm>
+#include <future>
 
 namespace {
 
 int watch(const Arguments& arguments, const FleetSelection& selection)
 {
-    FleetMemory memory(arguments);
+    FleetMemory memory(arguments.value(options::history));
     const FleetTable table(selection, memory, arguments.isSet(options::allFaults));
     const QString count = arguments.value(options::count);
     FleetWatch watch(arguments);
@@ -54,7 +55,7 @@ int tell(const Arguments& arguments, const FleetSelection& selection)
     watch.gather();
     const Fleet& fleet = watch.fleet();
     QStringList faults = watch.faults();
-    const FleetMemory memory(arguments);
+    const FleetMemory memory(arguments.value(options::history));
     if (!memory.fault().isEmpty())
         faults += memory.fault();
     const FleetTable table(selection, memory, arguments.isSet(options::allFaults));

@@ -40,7 +40,7 @@ public:
                 const QString filter = topic.of(kiosk);
                 if (topic.kioskOf(filter) != kiosk || kiosk.contains(QLatin1Char('+'))
                     || kiosk.contains(QLatin1Char('#')))
-                    throw Fault{Velmo::tr("\"%1\": is no kiosk's name at \"%2\"")
+                    throw Fault{Velmo::tr(R"("%1": is no kiosk's name at "%2")")
                                     .arg(kiosk, topic.filter())};
                 m_broker.subscribe(filter, 1);
             }
@@ -83,10 +83,8 @@ public:
                         .arg(kiosk));
                 exitCode = exitBadInput;
             } else {
-                QStringList topics = m_kept.value(kiosk).values();
-                topics.sort();
-                print(printable(Velmo::tr("%1: forgotten (%2)")
-                                    .arg(kiosk, topics.join(QStringLiteral(", "))))
+                print(printable(
+                          Velmo::tr("%1: forgotten (%2)").arg(kiosk, joined(m_kept.value(kiosk))))
                       + QLatin1Char('\n'));
             }
         }
@@ -138,8 +136,12 @@ private:
             m_broker.wait(milliseconds(50));
             m_broker.read(1000);
             m_broker.write();
-            if (!m_broker.fault().isEmpty())
-                throw Fault{m_broker.fault()};
+            if (!m_broker.fault().isEmpty()) {
+                throw Fault{m_broker.fault()
+                            + (m_waiting.isEmpty()
+                                   ? QString()
+                                   : Velmo::tr("; not known to have ended: %1").arg(waiting()))};
+            }
             if (Clock::now() - begin > longestWait + m_pause)
                 throw Fault{waitedTooLong()};
         }
@@ -149,11 +151,18 @@ private:
     {
         if (m_waiting.isEmpty())
             return Velmo::tr("the broker does not answer");
-        QStringList topics = m_waiting.values();
-        topics.sort();
         return Velmo::tr("the broker does not pass on the ends of %1; perhaps there is no right to "
                          "write there")
-            .arg(topics.join(QStringLiteral(", ")));
+            .arg(waiting());
+    }
+
+    QString waiting() const { return joined(m_waiting); }
+
+    static QString joined(const QSet<QString>& topics)
+    {
+        QStringList sorted = topics.values();
+        sorted.sort();
+        return sorted.join(QStringLiteral(", "));
     }
 
     QStringList m_kiosks;

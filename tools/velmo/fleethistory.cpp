@@ -107,7 +107,7 @@ QString percentText(qint64 part, qint64 whole)
 {
     if (whole <= 0)
         return {};
-    const qint64 hundredths = qint64(double(part) / double(whole) * 10000);
+    const auto hundredths = qint64(double(part) / double(whole) * 10000);
     return QStringLiteral("%1.%2")
         .arg(hundredths / 100)
         .arg(hundredths % 100, 2, 10, QLatin1Char('0'));
@@ -344,15 +344,17 @@ int tellDue(const Arguments& arguments, const FleetSelection& selection)
                                 + '\n'));
     } else {
         QString text;
-        if (!due.isEmpty())
+        if (!due.isEmpty()) {
             text += formatTable({Velmo::tr("Kiosk"), Velmo::tr("Not before"), Velmo::tr("By"),
                                  Velmo::tr("What")},
                                 due, outputWidth())
                 + QLatin1Char('\n');
-        if (!unknown.isEmpty())
+        }
+        if (!unknown.isEmpty()) {
             text += formatTable({Velmo::tr("Kiosk"), Velmo::tr("What cannot be said, and why")},
                                 unknown, outputWidth())
                 + QLatin1Char('\n');
+        }
         print(text
               + Velmo::tr("due: %1, later: %2, cannot say: %3").arg(found).arg(later).arg(unsaid)
               + QLatin1Char('\n'));

@@ -3,6 +3,8 @@
 
 #include "fleetmemory.h"
 
+#include "text/fault.h"
+
 #include <QDateTime>
 
 namespace {
@@ -11,8 +13,8 @@ constexpr qint64 longestAge = 10000; // milliseconds
 
 } // namespace
 
-FleetMemory::FleetMemory(const Arguments& arguments)
-    : m_place(arguments.value(options::history))
+FleetMemory::FleetMemory(const QString& place)
+    : m_place(place)
 {
     read();
 }
@@ -54,7 +56,7 @@ QString durationText(qint64 passed)
         return Velmo::tr("less than a minute");
     if (minutes < 120)
         return Velmo::tr("%n minutes", nullptr, int(minutes));
-    if (minutes < 48 * 60)
+    if (minutes < qint64(48) * 60)
         return Velmo::tr("%n hours", nullptr, int(minutes / 60));
     return Velmo::tr("%n days", nullptr, int(minutes / 60 / 24));
 }

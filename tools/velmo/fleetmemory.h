@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "command.h"
 #include "fleet.h"
 #include "history.h"
 #include "json/jsontext.h"
@@ -22,8 +21,9 @@ public:
         int timesThisMonth; ///< 0 where it is not known
     };
 
-    /// Reads the history, where there is one; a fault of it is kept.
-    explicit FleetMemory(const Arguments& arguments);
+    /// Reads the history; a fault of it is kept.
+    /// @param place empty where there is none
+    explicit FleetMemory(const QString& place);
 
     /// Reads it again when ten seconds have passed.
     void refresh();

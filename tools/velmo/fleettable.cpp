@@ -32,10 +32,11 @@ QString countsText(const ConditionCounts& counts)
 {
     QStringList parts;
     for (int i = KioskSummary::Unknown; i <= KioskSummary::Fine; ++i) {
-        if (counts[size_t(i)] > 0 || i == KioskSummary::Fine)
+        if (counts[size_t(i)] > 0 || i == KioskSummary::Fine) {
             parts += QStringLiteral("%1 %2")
                          .arg(counts[size_t(i)])
                          .arg(conditionText(KioskSummary::Condition(i)));
+        }
     }
     return parts.join(QStringLiteral(", "));
 }

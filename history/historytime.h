@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QtGlobal>
+
+/// In milliseconds.
+struct HistoryTime
+{
+    static constexpr qint64 hour = 3600 * 1000;
+    static constexpr qint64 day = 24 * hour;
+};
