@@ -285,6 +285,7 @@ private Q_SLOTS:
             while (recorder.status().written < 8)
                 QThread::msleep(10);
             const bool isWritten = write(isReady[1], "", 1) == 1;
+            QThread::sleep(4); // it renews its right to write after the other is there
             recorder.record(record("k1"_s, start + 500, 5, Condition::Fine));
             _exit(isWritten ? 0 : 1);
         }
