@@ -60,6 +60,8 @@ private:
 
     bool turn(bool isLast);
     void open();
+    QString isFree(const QString& until) const;
+    qint64 seenFor() const;
     bool isOthers();
     Lease take();
     void write(bool isLast);
@@ -72,6 +74,7 @@ private:
     const QString m_place;
     const QString m_part;
     const QString m_worker;
+    const Clock::time_point m_began = Clock::now();
     const QString m_token = QUuid::createUuid().toString(QUuid::WithoutBraces);
 
     mutable std::mutex m_mutex; // of what follows
@@ -194,24 +197,35 @@ void HistoryRecorder::Thread::lose(const QString& why)
     m_isOthers = false;
 }
 
+// As SQL, of the end of a lease, and with a "?" for how long this worker has seen what happens. Who
+// has not seen all since the writer that is gone wrote last leaves it to those that have, for as
+// long as they need. A lease that ends in the far future was taken before the clock was set back.
+QString HistoryRecorder::Thread::isFree(const QString& until) const
+{
+    return QStringLiteral("(%1 > %2 + 2 * %3 OR %2 > %1"
+                          " + CASE WHEN %1 - %3 < %2 - ? THEN %3 ELSE 0 END)")
+        .arg(until, m_database->clock())
+        .arg(lease);
+}
+
+qint64 HistoryRecorder::Thread::seenFor() const
+{
+    return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - m_began).count();
+}
+
 bool HistoryRecorder::Thread::isOthers()
 {
-    QSqlQuery& query =
-        m_database->run(QStringLiteral("SELECT count(*) FROM writers WHERE part = ? AND token <> ?"
-                                       " AND until BETWEEN %1 AND %1 + %2")
-                            .arg(m_database->clock())
-                            .arg(2 * lease),
-                        {m_part, m_token});
+    QSqlQuery& query = m_database->run(
+        QStringLiteral("SELECT count(*) FROM writers WHERE part = ? AND token <> ? AND NOT ")
+            + isFree(QStringLiteral("until")),
+        {m_part, m_token, seenFor()});
     const bool isOther = query.next() && query.value(0).toInt() > 0;
     query.finish();
     return isOther;
 }
 
-// Who has let the lease run out keeps it where nobody has taken it. One that ends in the far future
-// was taken before the clock was set back.
 HistoryRecorder::Thread::Lease HistoryRecorder::Thread::take()
 {
-    const QString clock = m_database->clock();
     const int taken =
         m_database
             ->run(QStringLiteral("INSERT INTO writers(part, worker, token, epoch, until)"
@@ -220,12 +234,11 @@ HistoryRecorder::Thread::Lease HistoryRecorder::Thread::take()
                                  " THEN writers.epoch ELSE writers.epoch + 1 END,"
                                  " worker = excluded.worker, token = excluded.token,"
                                  " until = excluded.until"
-                                 " WHERE writers.token = excluded.token"
-                                 " OR writers.until NOT BETWEEN %1 AND %1 + %3")
-                      .arg(clock)
-                      .arg(lease)
-                      .arg(2 * lease),
-                  {m_part, m_worker, m_token})
+                                 " WHERE writers.token = excluded.token OR ")
+                          .arg(m_database->clock())
+                          .arg(lease)
+                      + isFree(QStringLiteral("writers.until")),
+                  {m_part, m_worker, m_token, seenFor()})
             .numRowsAffected();
     if (taken == 0)
         return Lease::Others;

@@ -285,6 +285,7 @@ private Q_SLOTS:
             while (recorder.status().written < 8)
                 QThread::msleep(10);
             const bool isWritten = write(isReady[1], "", 1) == 1;
+            QThread::sleep(4); // it renews its right to write after the other is there
             recorder.record(record("k1"_s, start + 500, 5, Condition::Fine));
             _exit(isWritten ? 0 : 1);
         }
@@ -297,7 +298,11 @@ private Q_SLOTS:
             QCOMPARE(waitpid(child, &status, 0), child);
             QCOMPARE(status, 0);
             QVERIFY(!recorder.status().isWriter);
+            // It knows less than the one that has seen all, to which it leaves the rest.
+            HistoryRecorder fresh(place, "1/1"_s, "w3"_s);
+            fresh.record(record("k1"_s, start + 600, 6, Condition::Faulty, {"a"_s}));
             waitForWritten(recorder, 12);
+            QVERIFY(!fresh.status().isWriter);
             QVERIFY(recorder.status().isWriter);
         }
         const History history(place);
