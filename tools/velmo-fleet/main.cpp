@@ -113,7 +113,9 @@ void run()
     parser.addVersionOption();
     for (const Option* const option : options::every)
         parser.addOption(option->forParser());
-    parser.process(QCoreApplication::arguments());
+    if (!parser.parse(QCoreApplication::arguments()))
+        throw Fault{parser.errorText()};
+    parser.process(QCoreApplication::arguments()); // --help and --version
     const GivenOptions given(parser);
     for (const Option* const option : options::every)
         given.requireValue(*option);

@@ -78,6 +78,11 @@ Metrics::Metrics(const QString& part)
         m_conditions[i] =
             &m_kiosks.Add({{"condition", KioskSummary::name(KioskSummary::Condition(i))}});
     }
+    // Prometheus sees no rise from nothing.
+    for (const char* const reason : {"unreadable", "too_large", "name", "topic"})
+        refused(reason);
+    for (const char* const reason : {"not_authorized", "packet_too_large"})
+        publishRefused(QLatin1String(reason));
     BuildGauge()
         .Name("velmo_fleet_build_info")
         .Help("Always 1.")
