@@ -258,10 +258,11 @@ int HistoryDatabase::version()
     QSqlQuery& query = run(QStringLiteral("SELECT version FROM velmo_history"));
     const int version = query.next() ? query.value(0).toInt() : 0;
     query.finish();
-    if (version > HistorySchema::version)
+    if (version > HistorySchema::version) {
         refuse(Diagnosis::tr("is of version %1, which is later than this program's %2")
                    .arg(version)
                    .arg(HistorySchema::version));
+    }
     return version;
 }
 
@@ -282,10 +283,9 @@ void HistoryDatabase::migrate()
         if (isForeign)
             refuse(Diagnosis::tr("is the database of something else"));
     }
+    const QLatin1String inOrder(m_isPostgres ? "" : " WITHOUT ROWID");
     for (const char* const step : HistorySchema::stepsFrom(present))
-        execute(
-            QString(QLatin1String(step))
-                .replace(QLatin1String("%1"), QLatin1String(m_isPostgres ? "" : " WITHOUT ROWID")));
+        execute(QString(QLatin1String(step)).replace(QLatin1String("%1"), inOrder));
     run(QStringLiteral("DELETE FROM velmo_history"));
     run(QStringLiteral("INSERT INTO velmo_history(version) VALUES (?)"), {HistorySchema::version});
     transaction.commit();

@@ -67,11 +67,11 @@ constexpr Step steps[] = {
 
 } // namespace
 
-std::vector<const char*> HistorySchema::stepsFrom(int version)
+std::vector<const char*> HistorySchema::stepsFrom(int older)
 {
     std::vector<const char*> missing;
     for (const Step& step : steps) {
-        if (step.version > version)
+        if (step.version > older)
             missing.push_back(step.sql);
     }
     return missing;

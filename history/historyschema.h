@@ -12,7 +12,7 @@ public:
     static constexpr int version = 1;
     static constexpr int cassette = -1; ///< its channel among the levels
 
-    /// The statements that make this version of an older one; of 0 where there is nothing yet. In
+    /// The statements that make this version of an older one, of 0 where there is nothing yet. In
     /// SQLite "%1" stands for "WITHOUT ROWID", in PostgreSQL for nothing.
-    static std::vector<const char*> stepsFrom(int version);
+    static std::vector<const char*> stepsFrom(int older);
 };

@@ -8,6 +8,6 @@
 /// In milliseconds.
 struct HistoryTime
 {
-    static constexpr qint64 hour = 3600 * 1000;
+    static constexpr qint64 hour = qint64(3600) * 1000;
     static constexpr qint64 day = 24 * hour;
 };
