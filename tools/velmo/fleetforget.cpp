@@ -27,9 +27,9 @@ public:
     explicit Forgetting(const Arguments& arguments)
         : m_kiosks(arguments.operands())
         , m_pause(arguments.number(options::wait))
-        , m_broker(
-              arguments.broker(),
-              [this](const QString& topic, const QByteArray& text, bool) { take(topic, text); })
+        , m_broker(arguments.broker(), [this](const QString& topic, const QByteArray& text, bool) {
+            take(topic, text);
+        })
     {
         m_kiosks.removeDuplicates();
         const Option* const all[] = {&options::states, &options::summaries, &options::wills};
