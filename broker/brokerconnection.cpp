@@ -26,7 +26,7 @@ Q_LOGGING_CATEGORY(brokerLog, "velmo.broker")
 constexpr int keepAlive = 30; // seconds
 constexpr int inFlight = 1000; // messages without an acknowledgement, where the broker allows it
 constexpr int firstRefusal = 128; // of the reasons that MQTT 5 knows
-constexpr std::chrono::seconds longestPause{30};
+constexpr std::chrono::seconds longestPause{10};
 constexpr char droppedTopic[] = "$SYS/broker/publish/messages/dropped";
 
 void warn(const QString& text)

@@ -15,7 +15,7 @@
 struct mosquitto;
 
 /// A connection to a broker, MQTT 5, that comes back by itself: the pauses between attempts grow
-/// from one second to thirty. Each begins anew: the broker keeps nothing for it meanwhile, and what
+/// from one second to ten. Each begins anew: the broker keeps nothing for it meanwhile, and what
 /// it had not acknowledged is given up. It runs on the caller's thread, in read() and write(), and
 /// belongs to it.
 class BrokerConnection

@@ -52,7 +52,7 @@ QByteArray ending(const KioskSummary& summary)
             + JsonText(
                 QDateTime::fromMSecsSinceEpoch(summary.since, Qt::UTC).toString(Qt::ISODateWithMs));
     }
-    return since + ",\"condition\":\"" + KioskSummary::name(summary.condition) + R"(","faults":)"
+    return since + R"(,"condition":")" + KioskSummary::name(summary.condition) + R"(","faults":)"
         + JsonText::list(summary.faults,
                          [](const KioskFault& fault) { return JsonText(fault.text); })
         + ",\"causes\":"

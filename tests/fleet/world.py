@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """A broker, workers, a database and kiosks on loopback, and what the summaries are to be."""
 
+import collections
 import contextlib
 import glob
 import json
@@ -233,7 +234,7 @@ class Fleet:
         self.bodies = [self.devices() for _ in range(60)]
         self.clock = int(time.time() * 1000)
         self.summaries, self.statuses = {}, {}
-        self.heard, self.pending = {}, {}  # when a state of a kiosk was acknowledged
+        self.heard, self.pending = {}, {}  # when states of a kiosk were acknowledged
         self.accused, self.wrongly = set(), []  # who was called silent, and of whom it was not true
         filters = ["velmo-fleet/+/status"] + [
             f"{self.root}/{'+/' * (levels + bool(parts))}summary"] * hears
@@ -281,9 +282,11 @@ class Fleet:
             self.summaries[name] = message.payload
             if b'"reason":"silent"' in message.payload and not message.retain:
                 self.accused.add(name)
-                heard = time.monotonic() - self.heard.get(name, -1e9)
-                if heard < self.silent * 0.8:  # this client, too, may be late
-                    self.wrongly.append((name, round(heard, 2)))
+                # A state that came when it was being called silent already is left out.
+                now = time.monotonic()
+                heard = max((at for at in self.heard.get(name, []) if now - at > 0.5), default=-1e9)
+                if now - heard < self.silent * 0.8:  # this client, too, may be late
+                    self.wrongly.append((name, round(now - heard, 2)))
             if not message.payload:
                 del self.summaries[name]
         elif message.topic.startswith("velmo-fleet/"):
@@ -291,7 +294,8 @@ class Fleet:
                 json.loads(message.payload) if message.payload else None
 
     def acknowledge(self, _client, _data, mid):
-        self.heard[self.pending.pop(mid, None)] = time.monotonic()
+        self.heard.setdefault(self.pending.pop(mid, None), collections.deque(maxlen=8)).append(
+            time.monotonic())
 
     def devices(self):
         return json.dumps([

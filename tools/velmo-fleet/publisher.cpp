@@ -92,12 +92,13 @@ bool Publisher::acknowledge(int message, const QString& refusal)
             kiosk->atBroker = sent.hash;
         return true;
     }
-    const bool isNewest = kiosk && sent.hash == Kiosk::hash(kiosk->summary.text);
-    if (refusal != QLatin1String(BrokerConnection::tooLarge) || !kiosk)
-        refuse(sent.kiosk, refusal);
-    else if (isNewest && m_kiosks.cut(sent.kiosk, *kiosk, kiosk->summary.text.size() / 2))
+    const bool isOld = kiosk && sent.hash != Kiosk::hash(kiosk->summary.text);
+    const bool isTooLarge = refusal == QLatin1String(BrokerConnection::tooLarge);
+    if (isTooLarge && isOld)
+        return true; // the newer one is on its way
+    if (isTooLarge && kiosk && m_kiosks.cut(sent.kiosk, *kiosk, kiosk->summary.text.size() / 2))
         add(sent.kiosk, *kiosk);
-    else if (isNewest)
+    else
         refuse(sent.kiosk, refusal);
     return true;
 }

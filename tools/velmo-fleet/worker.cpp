@@ -35,6 +35,12 @@ bool isName(const QString& name)
            });
 }
 
+// Now, in milliseconds since 1970; not finer, so that workers agree.
+qint64 wholeSecond()
+{
+    return QDateTime::currentSecsSinceEpoch() * 1000;
+}
+
 } // namespace
 
 Worker::Worker(const WorkerOptions& options, Metrics& metrics, HistoryRecorder* history)
@@ -254,7 +260,7 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
     const quint64 message = Kiosk::hash(payload);
     const bool isKnown = kiosk && kiosk->message == message;
     if (kiosk && !isRetained)
-        kiosk->heardOf = m_silence.now();
+        hear(*kiosk);
     if (isKnown && (isRetained || kiosk->summary.condition > KioskSummary::Silent))
         return;
     const char* reason = "too_large";
@@ -273,8 +279,10 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
         }
         tell(name, summary, message, &state);
         m_kiosks.find(name)->heardOf = m_silence.now();
-        if (!isRetained)
+        if (!isRetained) {
+            hear(*m_kiosks.find(name));
             judgeClock(name);
+        }
     } catch (const Fault& fault) {
         refuse(reason, m_options.states.of(name, m_options.part.number()), fault.message);
         if (!kiosk)
@@ -306,6 +314,12 @@ void Worker::takeWill(const QString& name, const QByteArray& payload, bool isRet
     kiosk->will = will;
     if (will != 0)
         loseSight(name, KioskSummary::Silent, "gone", Velmo::tr("The kiosk is offline."));
+}
+
+void Worker::hear(Kiosk& kiosk)
+{
+    kiosk.heardOf = m_silence.now();
+    kiosk.heardAt = wholeSecond();
 }
 
 void Worker::judgeClock(const QString& name)
@@ -343,9 +357,11 @@ void Worker::loseSight(const QString& name, KioskSummary::Condition condition, c
 {
     const Kiosk& kiosk = *m_kiosks.find(name);
     const KioskFault fault{KioskFault::noDevice, KioskFault::noDevice, QLatin1String(reason), text};
-    tell(name,
-         KioskSummary::withoutState(kiosk.summary, name, condition, fault,
-                                    QDateTime::currentMSecsSinceEpoch()),
+    // Of two workers that heard it, both say the same.
+    const bool isOverdue = condition == KioskSummary::Silent && m_silence.isSilent(kiosk.heardOf);
+    const qint64 since =
+        isOverdue && kiosk.heardAt != KioskSummary::noTime ? kiosk.heardAt : wholeSecond();
+    tell(name, KioskSummary::withoutState(kiosk.summary, name, condition, fault, since),
          kiosk.message, nullptr);
 }
 

@@ -70,6 +70,7 @@ private:
     void takeWill(const QString& name, const QByteArray& payload, bool isRetained);
     void takeStatus(const QString& name, const QByteArray& payload, bool isRetained);
     static bool isStillSilent(const QString& name, const Kiosk& kiosk, const KioskSummary& told);
+    void hear(Kiosk& kiosk);
     void judgeClock(const QString& name);
     void refuse(const char* reason, const QString& topic, const QString& text);
 
