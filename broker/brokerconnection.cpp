@@ -108,7 +108,6 @@ void BrokerConnection::create()
     library.int_option(m_client, MOSQ_OPT_PROTOCOL_VERSION, MQTT_PROTOCOL_V5);
     library.int_option(m_client, MOSQ_OPT_RECEIVE_MAXIMUM, inFlight);
     library.int_option(m_client, MOSQ_OPT_SEND_MAXIMUM, inFlight);
-    library.int_option(m_client, MOSQ_OPT_TCP_NODELAY, 1);
     // Nothing is sent but by loop_write(), in few and large pieces.
     library.threaded_set(m_client, true);
     if (!m_options.user.isEmpty()) {
@@ -135,8 +134,8 @@ void BrokerConnection::create()
     library.message_callback_set(
         m_client, [](mosquitto*, void* self, const mosquitto_message* message) {
             ++connectionOf(self)->m_events;
-            const QByteArray payload(static_cast<const char*>(message->payload),
-                                     message->payloadlen);
+            const QByteArray payload = QByteArray::fromRawData(
+                static_cast<const char*>(message->payload), message->payloadlen);
             if (std::strcmp(message->topic, droppedTopic) == 0)
                 connectionOf(self)->takeDropped(payload);
             else
@@ -342,8 +341,16 @@ void BrokerConnection::write()
     const Mosquitto& library = Mosquitto::library();
     if (!m_isOpen || !library.want_write(m_client))
         return;
+    // The library writes each packet by itself; the system shall send them together, and at once.
+    const int socket = library.socket(m_client);
+    const auto gather = [socket](int isGathering) {
+        setsockopt(socket, IPPROTO_TCP, TCP_CORK, &isGathering, sizeof isGathering);
+    };
+    gather(1);
     const int result = library.loop_write(m_client, 1);
-    if (result != MOSQ_ERR_SUCCESS)
+    if (result == MOSQ_ERR_SUCCESS)
+        gather(0);
+    else
         lose(QString::fromLocal8Bit(library.strerror(result)));
 }
 

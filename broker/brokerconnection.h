@@ -21,6 +21,7 @@ struct mosquitto;
 class BrokerConnection
 {
 public:
+    /// @param payload lasts until it returns: a copy of it shares its bytes
     /// @param isRetained whether the broker had kept it from before the subscription
     using Receiver =
         std::function<void(const QString& topic, const QByteArray& payload, bool isRetained)>;

@@ -53,20 +53,26 @@ QString KioskTopic::of(const QString& kiosk, int part) const
     return levels.join(QLatin1Char('/'));
 }
 
+// Without a list of the levels: a worker asks for each state of all other parts, too.
 QString KioskTopic::kioskOf(const QString& topic) const
 {
-    const auto levels = topic.split(QLatin1Char('/'));
-    if (levels.size() != m_levels.size())
-        return {};
     QString kiosk;
-    for (int i = 0; i < levels.size(); ++i) {
-        if (m_levels[i] == anyName) {
-            if (levels[i].isEmpty())
-                return {};
-            kiosk += (kiosk.isEmpty() ? QString() : QStringLiteral("/")) + levels[i];
-        } else if (m_levels[i] != partLevel && m_levels[i] != levels[i]) {
+    int begin = 0;
+    for (const QString& level : m_levels) {
+        auto end = topic.indexOf(QLatin1Char('/'), begin);
+        const bool isLast = &level == &m_levels.constLast();
+        if ((end < 0) != isLast)
             return {};
-        }
+        if (isLast)
+            end = topic.size();
+        const QStringView told = QStringView(topic).mid(begin, end - begin);
+        if (level == anyName && told.isEmpty())
+            return {};
+        if (level == anyName)
+            kiosk = kiosk.isEmpty() ? told.toString() : kiosk + QLatin1Char('/') + told.toString();
+        else if (level != partLevel && told != level)
+            return {};
+        begin = int(end) + 1;
     }
     return kiosk;
 }

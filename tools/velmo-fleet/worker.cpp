@@ -187,11 +187,6 @@ void Worker::take(const QString& topic, const QByteArray& payload, bool isRetain
 {
     if (isRetained)
         m_lastRetained = Clock::now();
-    const QString worker = m_options.status.kioskOf(topic);
-    if (!worker.isEmpty()) {
-        takeStatus(worker, payload, isRetained);
-        return;
-    }
     struct Road
     {
         const KioskTopic& pattern;
@@ -219,7 +214,11 @@ void Worker::take(const QString& topic, const QByteArray& payload, bool isRetain
         (this->*road.take)(name, payload, isRetained);
         return;
     }
-    refuse("topic", topic, Velmo::tr("the topic is of no kiosk"));
+    const QString worker = m_options.status.kioskOf(topic);
+    if (worker.isEmpty())
+        refuse("topic", topic, Velmo::tr("the topic is of no kiosk"));
+    else
+        takeStatus(worker, payload, isRetained);
 }
 
 void Worker::takeStatus(const QString& name, const QByteArray& payload, bool isRetained)
@@ -240,7 +239,8 @@ void Worker::takeSummary(const QString& name, const QByteArray& payload, bool /*
     Kiosk* kiosk = m_kiosks.find(name);
     try {
         if (!kiosk) {
-            kiosk = &m_kiosks.set(name, KioskSummary(payload));
+            const QByteArray kept(payload.constData(), payload.size());
+            kiosk = &m_kiosks.set(name, KioskSummary(kept));
             kiosk->heardOf = m_silence.now();
         }
         kiosk->atBroker = Kiosk::hash(payload);
