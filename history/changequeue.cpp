@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr std::size_t mostWaiting = 100'000;
-constexpr int mostTexts = 10'000;
+constexpr std::size_t mostWaiting = 100000;
+constexpr int mostTexts = 10000;
 constexpr std::chrono::seconds countsEvery{60};
 
 // Of what the database is given.

@@ -16,7 +16,7 @@ namespace {
 constexpr qint64 grace = 30'000;
 
 // Nobody inserts so many notes between two states: such a counter is nonsense.
-constexpr qint64 mostAtOnce = 1'000'000'000;
+constexpr qint64 mostAtOnce = 1000000000;
 
 const QString deviceKey = QStringLiteral("kiosk, device, thread");
 const QString channelKey =

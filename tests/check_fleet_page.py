@@ -188,7 +188,7 @@ def check_table(page, fleet):
         page.choose(name, value)
         seen = page.look()
         require(seen["names"] == left, f"{name} {value}: {seen['names']}")
-        require(left or seen["more"] == "No kiosk is as the filters say.", seen["more"])
+        require(left or seen["more"] == "No kiosk matches the filters.", seen["more"])
         page.choose(name, "")
     page.choose("all", True)
     page.until("the fine one is shown", lambda seen: "fine-k1" in seen["names"])

@@ -8,7 +8,7 @@
 # library's mends misspelt texts, which are part of its interface; other English only has plurals, and
 # the example's screen needs none.
 foreach(row velmolib:translations:src:all
-        diagnosis:translations:diagnosis,broker,quick:plurals
+        diagnosis:translations:diagnosis,broker,history,quick:plurals
         velmo:translations:tools:plurals
         kiosk:examples/kiosk/screen:examples/kiosk/screen:none)
     string(REGEX MATCH "(.*):(.*):(.*):(.*)" row ${row})

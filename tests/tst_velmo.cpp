@@ -313,7 +313,7 @@ private Q_SLOTS:
             fleet history k1    |                            | velmo fleet history needs --history
             fleet history k1 --history /dev/null/x |         | /dev/null/x:
             fleet forget        |                            | usage: velmo fleet forget KIOSK...
-            fleet forget +      |                            | "+": is no kiosk's name at "kiosks/+/state"
+            fleet forget +      |                            | "+" is no kiosk's name at "kiosks/+/state"
             explain - --filters x --from x | | --from: expected an ISO 8601 time or date
             explain - --filters x --to 2026-02-30 | | --to: expected an ISO 8601 time or date
             explain - --filters x --from 2026-11-17 --to 2026-11-16 | | --from is after --to

@@ -958,10 +958,6 @@
         <translation>нет переводов для языка «%1»</translation>
     </message>
     <message>
-        <source>session &quot;%1&quot;: cannot be used</source>
-        <translation>сеанс «%1»: использовать нельзя</translation>
-    </message>
-    <message>
         <source>The broker refuses a subscription.</source>
         <translation>Брокер отказал в подписке.</translation>
     </message>
@@ -992,10 +988,6 @@
     <message>
         <source>expected a kiosk&apos;s summary</source>
         <translation>ожидается сводка терминала</translation>
-    </message>
-    <message>
-        <source>topic &quot;%1&quot;: expected one level that is + or %2</source>
-        <translation>тема «%1»: ожидается один уровень + или %2</translation>
     </message>
     <message>
         <source>expected UTF-8</source>
@@ -1749,6 +1741,74 @@
             <numerusform>Не пересчитаны %n строки.</numerusform>
             <numerusform>Не пересчитано %n строк.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Devices are left out: the broker has no room for all.</source>
+        <translation>Часть устройств опущена: брокер не вмещает все.</translation>
+    </message>
+    <message>
+        <source>topic &quot;%1&quot;: expected one or two levels that are + or %2, and no more than one that is %3</source>
+        <translation>тема «%1»: ожидается один или два уровня + или %2 и не больше одного уровня %3</translation>
+    </message>
+    <message>
+        <source>part &quot;%1&quot;: expected one of so many, as 2/4</source>
+        <translation>часть «%1»: ожидается номер и число частей, например 2/4</translation>
+    </message>
+    <message>
+        <source>Qt&apos;s driver %1 is not installed</source>
+        <translation>драйвер Qt %1 не установлен</translation>
+    </message>
+    <message>
+        <source>there is no history in it</source>
+        <translation>истории там нет</translation>
+    </message>
+    <message>
+        <source>expected a file</source>
+        <translation>ожидается файл</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>такого файла нет</translation>
+    </message>
+    <message>
+        <source>expected postgresql://user@host:port/database</source>
+        <translation>ожидается postgresql://user@host:port/database</translation>
+    </message>
+    <message>
+        <source>is of version %1, which is later than this program&apos;s %2</source>
+        <translation>версия %1 новее версии этой программы, %2</translation>
+    </message>
+    <message>
+        <source>is the database of something else</source>
+        <translation>это база данных чего-то другого</translation>
+    </message>
+    <message>
+        <source>The history&apos;s database is back.</source>
+        <translation>База данных истории снова доступна.</translation>
+    </message>
+    <message>
+        <source>another worker writes of the same kiosks</source>
+        <translation>о тех же терминалах пишет другой обработчик</translation>
+    </message>
+    <message>
+        <source>The cassette has not been full yet: how much it holds is not known.</source>
+        <translation>Кассета ещё не была полна: сколько она вмещает, неизвестно.</translation>
+    </message>
+    <message>
+        <source>Its level is known for less than three days.</source>
+        <translation>Уровень известен меньше трёх дней.</translation>
+    </message>
+    <message>
+        <source>Nothing was inserted in the last two weeks.</source>
+        <translation>За последние две недели ничего не внесено.</translation>
+    </message>
+    <message>
+        <source>Its level has not fallen in the last two weeks.</source>
+        <translation>За последние две недели уровень не снижался.</translation>
+    </message>
+    <message>
+        <source>The days differ too much.</source>
+        <translation>Дни слишком непохожи друг на друга.</translation>
     </message>
 </context>
 </TS>

@@ -25,13 +25,6 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>the broker did not take %n summaries; their states are kept for the next start</source>
-        <translation>
-            <numerusform>the broker did not take %n summary; its state is kept for the next start</numerusform>
-            <numerusform>the broker did not take %n summaries; their states are kept for the next start</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>removed %1: %2 (%n elements)</source>
         <translation>
             <numerusform>removed %1: %2 (%n element)</numerusform>
@@ -50,6 +43,90 @@
         <translation>
             <numerusform>%n line that is in both is taken once</numerusform>
             <numerusform>%n lines that are in both are taken once</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: the cassette was collected, with %n notes</source>
+        <translation>
+            <numerusform>%1: the cassette was collected, with %n note</numerusform>
+            <numerusform>%1: the cassette was collected, with %n notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes</source>
+        <translation>
+            <numerusform>%n minute</numerusform>
+            <numerusform>%n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours</source>
+        <translation>
+            <numerusform>%n hour</numerusform>
+            <numerusform>%n hours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n day</numerusform>
+            <numerusform>%n days</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more for which there is no room here</source>
+        <translation>
+            <numerusform>%n more for which there is no room here</numerusform>
+            <numerusform>%n more for which there is no room here</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n times this month</source>
+        <translation>
+            <numerusform>%1, %n time this month</numerusform>
+            <numerusform>%1, %n times this month</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n kiosks selected: %1</source>
+        <translation>
+            <numerusform>%n kiosk selected: %1</numerusform>
+            <numerusform>%n kiosks selected: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hidden by the selection</source>
+        <translation>
+            <numerusform>%n hidden by the selection</numerusform>
+            <numerusform>%n hidden by the selection</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The summaries of %n kiosks cannot be read.</source>
+        <translation>
+            <numerusform>The summary of %n kiosk cannot be read.</numerusform>
+            <numerusform>The summaries of %n kiosks cannot be read.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n kiosks are missing: the broker has not sent their summaries. With mosquitto, max_queued_messages sets how many it sends.</source>
+        <translation>
+            <numerusform>%n kiosk is missing: the broker has not sent its summary. With mosquitto, max_queued_messages sets how many it sends.</numerusform>
+            <numerusform>%n kiosks are missing: the broker has not sent their summaries. With mosquitto, max_queued_messages sets how many it sends.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source> (and %n more since the last such line)</source>
+        <translation>
+            <numerusform> (and %n more since the last such line)</numerusform>
+            <numerusform> (and %n more since the last such line)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The broker does not take the summaries of %n kiosks: %1.</source>
+        <translation>
+            <numerusform>The broker does not take the summary of %n kiosk: %1.</numerusform>
+            <numerusform>The broker does not take the summaries of %n kiosks: %1.</numerusform>
         </translation>
     </message>
 </context>

@@ -568,10 +568,6 @@
         <translation>Терминалы, к которым нужно прийти, и почему.</translation>
     </message>
     <message>
-        <source>Shows the kiosks of which nothing is heard, those where no device could take money, and those where some device does not work, worst first, of the summaries that velmo-fleet keeps at an MQTT broker.</source>
-        <translation>Показывает терминалы, от которых нет вестей, те, где ни одно устройство не могло бы принять деньги, и те, где какое-либо устройство не работает, начиная с худших, по сводкам, которые velmo-fleet хранит у брокера MQTT.</translation>
-    </message>
-    <message>
         <source>silent</source>
         <translation>молчит</translation>
     </message>
@@ -581,7 +577,7 @@
     </message>
     <message>
         <source>faulty</source>
-        <translation>неисправность</translation>
+        <translation>неисправен</translation>
     </message>
     <message>
         <source>fine</source>
@@ -640,10 +636,6 @@
         <translation>Где лежат сводки; если не задано, kiosks/+/summary.</translation>
     </message>
     <message>
-        <source>How long no further summary comes before all are taken to have come; 1 without it.</source>
-        <translation>Сколько времени без новой сводки, чтобы считать, что пришли все; если не задано, 1.</translation>
-    </message>
-    <message>
         <source>A file with USER:PASSWORD.</source>
         <translation>Файл с USER:PASSWORD.</translation>
     </message>
@@ -658,10 +650,6 @@
     <message>
         <source>Its key.</source>
         <translation>Его ключ.</translation>
-    </message>
-    <message>
-        <source>Kiosks may be missing here: the broker had no room for all messages. With mosquitto, max_queued_messages sets the room.</source>
-        <translation>Здесь могут быть не все терминалы: у брокера не нашлось места для всех сообщений. В mosquitto место задаёт max_queued_messages.</translation>
     </message>
     <message>
         <source>%1: expected a value</source>
@@ -732,36 +720,12 @@
         <translation>Где сообщение-завещание говорит, что терминал пропал.</translation>
     </message>
     <message>
-        <source>The workers that share the states.</source>
-        <translation>Обработчики, которые делят между собой состояния.</translation>
-    </message>
-    <message>
-        <source>What its session at the broker goes by; each worker has its own, the same at each start.</source>
-        <translation>Имя сеанса у брокера; у каждого обработчика своё, одно и то же при каждом запуске.</translation>
-    </message>
-    <message>
-        <source>How long the broker keeps states for it while it is away.</source>
-        <translation>Как долго брокер хранит для него состояния, пока его нет.</translation>
-    </message>
-    <message>
         <source>After how long a kiosk is told of as silent; 0 for never.</source>
-        <translation>Через сколько терминал считается молчащим; 0 — никогда.</translation>
-    </message>
-    <message>
-        <source>Where Prometheus fetches the metrics.</source>
-        <translation>Где Prometheus забирает показатели.</translation>
+        <translation>Через сколько терминал считается молчащим; 0 - никогда.</translation>
     </message>
     <message>
         <source>The language of the summaries, as &quot;ru&quot;, in place of the system&apos;s.</source>
         <translation>Язык сводок, например «ru», вместо системного.</translation>
-    </message>
-    <message>
-        <source>Take what waits for the session, then end it: for a worker that is not to come back.</source>
-        <translation>Взять то, что ждёт в сеансе, и завершить его: для обработчика, который больше не вернётся.</translation>
-    </message>
-    <message>
-        <source>--name and --group: expected a name without /, + and #</source>
-        <translation>--name и --group: ожидается имя без /, + и #</translation>
     </message>
     <message>
         <source>Makes summaries of what kiosks publish at an MQTT broker.</source>
@@ -772,20 +736,8 @@
         <translation>неизвестный аргумент «%1»</translation>
     </message>
     <message>
-        <source>metrics at &quot;%1&quot;: %2</source>
-        <translation>метрики по адресу «%1»: %2</translation>
-    </message>
-    <message>
         <source>The kiosk has been silent for more than %1 s.</source>
         <translation>Терминал молчит больше %1 с.</translation>
-    </message>
-    <message numerus="yes">
-        <source>the broker did not take %n summaries; their states are kept for the next start</source>
-        <translation>
-            <numerusform>брокер не принял %n сводку; её состояние сохранено до следующего запуска</numerusform>
-            <numerusform>брокер не принял %n сводки; их состояния сохранены до следующего запуска</numerusform>
-            <numerusform>брокер не принял %n сводок; их состояния сохранены до следующего запуска</numerusform>
-        </translation>
     </message>
     <message>
         <source>The kiosk is offline.</source>
@@ -794,10 +746,6 @@
     <message>
         <source>the topic is of no kiosk</source>
         <translation>тема не относится ни к одному терминалу</translation>
-    </message>
-    <message>
-        <source>its time is in the future</source>
-        <translation>его время в будущем</translation>
     </message>
     <message numerus="yes">
         <source>removed %1: %2 (%n elements)</source>
@@ -992,10 +940,6 @@
         <translation>Показать только то, что не сходится.</translation>
     </message>
     <message>
-        <source>Make the exit code 1 when the filters refused something, or something does not add up.</source>
-        <translation>Код завершения 1, когда фильтры что-нибудь не приняли или что-нибудь не сходится.</translation>
-    </message>
-    <message>
         <source>What was counted, to be held against the ledger: a table with the columns device, place, denomination, count, or such a JSON list.</source>
         <translation>Результаты пересчёта для сверки с учётом: таблица со столбцами device, place, denomination, count или такой же список JSON.</translation>
     </message>
@@ -1094,6 +1038,625 @@
     <message>
         <source>Print a table for spreadsheets: with --counted, of the counts.</source>
         <translation>Вывести таблицу для табличного процессора, с --counted – таблицу пересчёта.</translation>
+    </message>
+    <message>
+        <source>What became of a kiosk, and when.</source>
+        <translation>Что происходило с терминалом и когда.</translation>
+    </message>
+    <message>
+        <source>Tells of the conditions that it was in, of its faults and of the collections of its cassettes, newest last, by what velmo-fleet remembers at --history.</source>
+        <translation>Показывает, в каких состояниях он был, его неисправности и инкассации его кассет, от старых к новым, по истории, которую ведёт velmo-fleet (--history).</translation>
+    </message>
+    <message>
+        <source>Takes kiosks that are no more out of the fleet.</source>
+        <translation>Убирает из парка терминалы, которых больше нет.</translation>
+    </message>
+    <message>
+        <source>Ends what the broker keeps of them: state, summary and will. Where one of them is not there, nothing is done. One that still publishes comes back, and is named.</source>
+        <translation>Удаляет то, что хранит о них брокер: состояние, сводку и завещание. Если хотя бы одного из терминалов там нет, ничего не делается. Терминал, который ещё публикует, появится снова; команда его назовёт.</translation>
+    </message>
+    <message>
+        <source>%1: unknown: &quot;%2&quot;</source>
+        <translation>%1: неизвестное значение «%2»</translation>
+    </message>
+    <message>
+        <source> (known: %1)</source>
+        <translation> (известны: %1)</translation>
+    </message>
+    <message>
+        <source>The summaries are still coming.</source>
+        <translation>Сводки ещё поступают.</translation>
+    </message>
+    <message>
+        <source>%1: expected %2</source>
+        <translation>%1: ожидается %2</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation> или </translation>
+    </message>
+    <message>
+        <source>the broker keeps nothing of %1; nothing was forgotten</source>
+        <translation>у брокера ничего нет о %1; ничего не убрано</translation>
+    </message>
+    <message>
+        <source>%1: forgotten (%2)</source>
+        <translation>%1: убран (%2)</translation>
+    </message>
+    <message>
+        <source>; not known to have ended: %1</source>
+        <translation>; не подтверждено, что убраны: %1</translation>
+    </message>
+    <message>
+        <source>%1 needs %2</source>
+        <translation>для %1 нужен %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: the cassette was collected, with %n notes</source>
+        <translation>
+            <numerusform>%1: кассета инкассирована, в ней %n купюра</numerusform>
+            <numerusform>%1: кассета инкассирована, в ней %n купюры</numerusform>
+            <numerusform>%1: кассета инкассирована, в ней %n купюр</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: the cassette was collected</source>
+        <translation>%1: кассета инкассирована</translation>
+    </message>
+    <message>
+        <source>still</source>
+        <translation>до сих пор</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Начало</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <translation>Как долго</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Что</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: expected a month, as 2026-11, that has begun</source>
+        <translation>«%1»: ожидается уже начавшийся месяц, например 2026-11</translation>
+    </message>
+    <message>
+        <source>%1: expected a time, as 90m, 48h, 3d or 2w</source>
+        <translation>%1: ожидается срок, например 90m, 48h, 3d или 2w</translation>
+    </message>
+    <message>
+        <source>%1, cassette</source>
+        <translation>%1, кассета</translation>
+    </message>
+    <message>
+        <source>%1, channel %2</source>
+        <translation>%1, канал %2</translation>
+    </message>
+    <message>
+        <source>%1, channel %2 of %3</source>
+        <translation>%1, канал %2, номинал %3</translation>
+    </message>
+    <message>
+        <source>%1: empty (holds %2, %3 a day)</source>
+        <translation>%1: опустеет (сейчас %2 шт., %3 в день)</translation>
+    </message>
+    <message>
+        <source>%1: full (holds %2, %3 a day)</source>
+        <translation>%1: заполнится (сейчас %2 шт., %3 в день)</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>сейчас</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: the history knows no such kiosk</source>
+        <translation>«%1»: такого терминала в истории нет</translation>
+    </message>
+    <message>
+        <source>The history tells of nothing in that time.</source>
+        <translation>За это время в истории ничего нет.</translation>
+    </message>
+    <message>
+        <source>The history knows nothing of %1.</source>
+        <translation>За %1 в истории ничего нет.</translation>
+    </message>
+    <message>
+        <source>all together</source>
+        <translation>все вместе</translation>
+    </message>
+    <message>
+        <source>In service, %</source>
+        <translation>В работе, %</translation>
+    </message>
+    <message>
+        <source>Silent, %</source>
+        <translation>Молчание, %</translation>
+    </message>
+    <message>
+        <source>Not known, %</source>
+        <translation>Неизвестно, %</translation>
+    </message>
+    <message>
+        <source>Not before</source>
+        <translation>Не раньше</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>Не позже</translation>
+    </message>
+    <message>
+        <source>What cannot be said, and why</source>
+        <translation>Чего сказать нельзя и почему</translation>
+    </message>
+    <message>
+        <source>due: %1, later: %2, cannot say: %3</source>
+        <translation>в этот срок: %1, позже: %2, сказать нельзя: %3</translation>
+    </message>
+    <message>
+        <source>less than a minute</source>
+        <translation>меньше минуты</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes</source>
+        <translation>
+            <numerusform>%n минута</numerusform>
+            <numerusform>%n минуты</numerusform>
+            <numerusform>%n минут</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours</source>
+        <translation>
+            <numerusform>%n час</numerusform>
+            <numerusform>%n часа</numerusform>
+            <numerusform>%n часов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n день</numerusform>
+            <numerusform>%n дня</numerusform>
+            <numerusform>%n дней</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more for which there is no room here</source>
+        <translation>
+            <numerusform>ещё %n, для которого здесь нет места</numerusform>
+            <numerusform>ещё %n, для которых здесь нет места</numerusform>
+            <numerusform>ещё %n, для которых здесь нет места</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n times this month</source>
+        <translation>
+            <numerusform>%1, %n-й раз в этом месяце</numerusform>
+            <numerusform>%1, %n-й раз в этом месяце</numerusform>
+            <numerusform>%1, %n-й раз в этом месяце</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n kiosks selected: %1</source>
+        <translation>
+            <numerusform>выбран %n терминал: %1</numerusform>
+            <numerusform>выбрано %n терминала: %1</numerusform>
+            <numerusform>выбрано %n терминалов: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hidden by the selection</source>
+        <translation>
+            <numerusform>скрыт отбором: %n</numerusform>
+            <numerusform>скрыто отбором: %n</numerusform>
+            <numerusform>скрыто отбором: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Регион</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Причина</translation>
+    </message>
+    <message>
+        <source>Kiosks</source>
+        <translation>Терминалы</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>нет</translation>
+    </message>
+    <message numerus="yes">
+        <source>The summaries of %n kiosks cannot be read.</source>
+        <translation>
+            <numerusform>Сводку %n терминала прочесть нельзя.</numerusform>
+            <numerusform>Сводки %n терминалов прочесть нельзя.</numerusform>
+            <numerusform>Сводки %n терминалов прочесть нельзя.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No worker tells of itself at &quot;%1&quot;: whether these are all kiosks, and what became of them since, is not known.</source>
+        <translation>Ни один обработчик не сообщает о себе в «%1»: все ли это терминалы и что с ними стало с тех пор, неизвестно.</translation>
+    </message>
+    <message>
+        <source>Part %1 has no worker: what is shown of its kiosks may be from before.</source>
+        <translation>У части %1 нет обработчика: показанное о её терминалах могло устареть.</translation>
+    </message>
+    <message>
+        <source>The worker of part %1 is not ready: it still reads what the kiosks told last.</source>
+        <translation>Обработчик части %1 не готов: он ещё читает последние данные терминалов.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n kiosks are missing: the broker has not sent their summaries. With mosquitto, max_queued_messages sets how many it sends.</source>
+        <translation>
+            <numerusform>Не хватает %n терминала: брокер не прислал его сводку. В mosquitto max_queued_messages задаёт, сколько их он присылает.</numerusform>
+            <numerusform>Не хватает %n терминалов: брокер не прислал их сводки. В mosquitto max_queued_messages задаёт, сколько их он присылает.</numerusform>
+            <numerusform>Не хватает %n терминалов: брокер не прислал их сводки. В mosquitto max_queued_messages задаёт, сколько их он присылает.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: what the worker tells of itself cannot be read.</source>
+        <translation>%1: то, что обработчик сообщает о себе, прочесть нельзя.</translation>
+    </message>
+    <message>
+        <source>Worker %1: %2</source>
+        <translation>Обработчик %1: %2</translation>
+    </message>
+    <message>
+        <source>Make the exit code 1 when the filters refused something, something does not add up, or a kiosk that is selected needs somebody.</source>
+        <translation>Код завершения 1, когда фильтры что-нибудь не приняли, что-нибудь не сходится или к выбранному терминалу нужно прийти.</translation>
+    </message>
+    <message>
+        <source>Where the workers tell of themselves; velmo-fleet/+/status without it.</source>
+        <translation>Где обработчики сообщают о себе; если не задано, velmo-fleet/+/status.</translation>
+    </message>
+    <message>
+        <source>Where the kiosks publish; kiosks/+/state without it.</source>
+        <translation>Где публикуют терминалы; если не задано, kiosks/+/state.</translation>
+    </message>
+    <message>
+        <source>Where their wills are; kiosks/+/will without it.</source>
+        <translation>Где их завещания; если не задано, kiosks/+/will.</translation>
+    </message>
+    <message>
+        <source>What velmo-fleet remembers: a file of SQLite, or postgresql://user@host:port/db?host=/socket/dir.</source>
+        <translation>История, которую ведёт velmo-fleet: файл SQLite или postgresql://user@host:port/db?host=/socket/dir.</translation>
+    </message>
+    <message>
+        <source>Only kiosks of such names, with * for any characters and ? for one; may be given several times.</source>
+        <translation>Только терминалы с такими именами, * - любые символы, ? - один; можно задать несколько раз.</translation>
+    </message>
+    <message>
+        <source>Only kiosks that are unknown, silent, out_of_order, faulty or fine; may be given several times.</source>
+        <translation>Только терминалы в этом состоянии: unknown, silent, out_of_order, faulty или fine; можно задать несколько раз.</translation>
+    </message>
+    <message>
+        <source>Only kiosks with a fault of that reason, as stacker_full; may be given several times.</source>
+        <translation>Только терминалы с неисправностью по этой причине, например stacker_full; можно задать несколько раз.</translation>
+    </message>
+    <message>
+        <source>Only kiosks whose names begin with that, up to the first of / - _ and the point; may be given several times.</source>
+        <translation>Только терминалы, у которых такое начало имени, до первого из знаков / - _ и точки; можно задать несколько раз.</translation>
+    </message>
+    <message>
+        <source>In place of the kiosks, how many there are of each reason or region.</source>
+        <translation>Вместо терминалов - сколько их по каждой причине (reason) или в каждом регионе (region).</translation>
+    </message>
+    <message>
+        <source>Every fault of a kiosk, or what cannot be said, on its own line.</source>
+        <translation>Каждая неисправность терминала и то, чего сказать нельзя, - на своей строке.</translation>
+    </message>
+    <message>
+        <source>How much of a month, as 2026-11, kiosks were in service; this month without one.</source>
+        <translation>Какую долю месяца, например 2026-11, терминалы были в работе; если месяц не задан, за текущий.</translation>
+    </message>
+    <message>
+        <source>What will be empty or full within that time, as 90m, 48h, 3d or 2w.</source>
+        <translation>Что опустеет или заполнится в этот срок, например 90m, 48h, 3d или 2w.</translation>
+    </message>
+    <message>
+        <source>Kiosks by condition</source>
+        <translation>Терминалы по состояниям</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>все</translation>
+    </message>
+    <message>
+        <source>show fine ones too</source>
+        <translation>показывать и исправные</translation>
+    </message>
+    <message>
+        <source>For how long</source>
+        <translation>Как долго</translation>
+    </message>
+    <message>
+        <source>since %1</source>
+        <translation>с %1</translation>
+    </message>
+    <message>
+        <source>%1× this month</source>
+        <translation>%1-й раз в этом месяце</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>и ещё %1</translation>
+    </message>
+    <message>
+        <source>The first %1 are shown; %2 more are not. The filters find them.</source>
+        <translation>Показаны первые %1, не показано ещё %2. Их можно найти с помощью фильтров.</translation>
+    </message>
+    <message>
+        <source>No kiosk needs somebody.</source>
+        <translation>Нет терминалов, к которым нужно прийти.</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>Чтение...</translation>
+    </message>
+    <message>
+        <source>As of %1.</source>
+        <translation>По состоянию на %1.</translation>
+    </message>
+    <message>
+        <source>The worker does not answer.</source>
+        <translation>Обработчик не отвечает.</translation>
+    </message>
+    <message>
+        <source>The worker does not answer: what is shown is from %1.</source>
+        <translation>Обработчик не отвечает: показаны данные на %1.</translation>
+    </message>
+    <message>
+        <source>The worker has no connection to the broker: what is shown is from %1.</source>
+        <translation>У обработчика нет связи с брокером: показаны данные на %1.</translation>
+    </message>
+    <message>
+        <source>The worker is still reading what the broker has: kiosks may be missing.</source>
+        <translation>Обработчик ещё читает данные брокера: показаны не все терминалы.</translation>
+    </message>
+    <message>
+        <source>The table needs JavaScript, which is off here.</source>
+        <translation>Для таблицы нужен JavaScript, а он здесь выключен.</translation>
+    </message>
+    <message>
+        <source>No history is kept.</source>
+        <translation>История не ведётся.</translation>
+    </message>
+    <message>
+        <source>The history does not answer: %1</source>
+        <translation>История не отвечает: %1</translation>
+    </message>
+    <message>
+        <source>Conditions of the last 30 days</source>
+        <translation>Состояния за последние 30 дней</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>Неисправности</translation>
+    </message>
+    <message>
+        <source>Collections</source>
+        <translation>Инкассации</translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation>Состояния</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Когда</translation>
+    </message>
+    <message>
+        <source>How long</source>
+        <translation>Как долго</translation>
+    </message>
+    <message>
+        <source>still so</source>
+        <translation>до сих пор</translation>
+    </message>
+    <message>
+        <source>Notes since the one before</source>
+        <translation>Купюр с предыдущей</translation>
+    </message>
+    <message>
+        <source>None.</source>
+        <translation>Нет.</translation>
+    </message>
+    <message>
+        <source>%1 older ones are not shown.</source>
+        <translation>Более ранние не показаны: %1.</translation>
+    </message>
+    <message>
+        <source>%1 d</source>
+        <translation>%1 д</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 ч</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 мин</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 с</translation>
+    </message>
+    <message>
+        <source>no devices</source>
+        <translation>нет устройств</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>не читается</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>слишком велико</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <comment>language code</comment>
+        <extracomment>The language of these words, for the attribute lang of HTML.</extracomment>
+        <translation>ru</translation>
+    </message>
+    <message numerus="yes">
+        <source> (and %n more since the last such line)</source>
+        <translation>
+            <numerusform> (и ещё %n с прошлой такой строки)</numerusform>
+            <numerusform> (и ещё %n с прошлой такой строки)</numerusform>
+            <numerusform> (и ещё %n с прошлой такой строки)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Where workers tell of themselves.</source>
+        <translation>Где обработчики сообщают о себе.</translation>
+    </message>
+    <message>
+        <source>What the worker goes by among the others; host and process without it.</source>
+        <translation>Имя обработчика среди других; если не задано, хост и процесс.</translation>
+    </message>
+    <message>
+        <source>Which part of the kiosks it summarises, of so many.</source>
+        <translation>Какую часть терминалов он обрабатывает: номер и число частей.</translation>
+    </message>
+    <message>
+        <source>After how many days a kiosk that stays silent is forgotten; 0 for never.</source>
+        <translation>Через сколько дней молчания терминал убирается из парка; 0 - никогда.</translation>
+    </message>
+    <message>
+        <source>--name: expected a name without /, + and #</source>
+        <translation>--name: ожидается имя без /, + и #</translation>
+    </message>
+    <message>
+        <source>--states, --summaries and --wills: expected as many levels of the kiosk&apos;s name in each</source>
+        <translation>--states, --summaries и --wills: в каждом ожидается одинаковое число уровней имени терминала</translation>
+    </message>
+    <message>
+        <source>--states, --summaries and --wills: expected %1 in each or in none</source>
+        <translation>--states, --summaries и --wills: %1 ожидается в каждом или ни в одном</translation>
+    </message>
+    <message>
+        <source>the broker does not take the summary of &quot;%1&quot;: %2</source>
+        <translation>брокер не принимает сводку терминала «%1»: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>The broker does not take the summaries of %n kiosks: %1.</source>
+        <translation>
+            <numerusform>Брокер не принимает сводку %n терминала: %1.</numerusform>
+            <numerusform>Брокер не принимает сводки %n терминалов: %1.</numerusform>
+            <numerusform>Брокер не принимает сводки %n терминалов: %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>--metrics: expected an address such as 127.0.0.1:9464, not &quot;%1&quot;</source>
+        <translation>--metrics: ожидается адрес вида 127.0.0.1:9464, а не «%1»</translation>
+    </message>
+    <message>
+        <source>--metrics: libcivetweb was built without IPv6 here</source>
+        <translation>--metrics: здешняя libcivetweb собрана без IPv6</translation>
+    </message>
+    <message>
+        <source>--metrics: &quot;%1&quot; cannot be used: %2</source>
+        <translation>--metrics: использовать «%1» нельзя: %2</translation>
+    </message>
+    <message>
+        <source>too many ask at once</source>
+        <translation>слишком много запросов сразу</translation>
+    </message>
+    <message>
+        <source>the name of the kiosk is too long, or no text</source>
+        <translation>имя терминала слишком длинное или не является текстом</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 KiB</source>
+        <translation>больше %1 КиБ</translation>
+    </message>
+    <message>
+        <source>it tells of more than %1 devices</source>
+        <translation>больше %1 устройств</translation>
+    </message>
+    <message>
+        <source>What the kiosk published last cannot be read: %1.</source>
+        <translation>Последние данные терминала прочесть нельзя: %1.</translation>
+    </message>
+    <message>
+        <source>the clock of &quot;%1&quot; is wrong by %2 s</source>
+        <translation>часы терминала «%1» неверны на %2 с</translation>
+    </message>
+    <message>
+        <source>the broker does not take what is published: %1</source>
+        <translation>брокер не принимает публикуемое: %1</translation>
+    </message>
+    <message>
+        <source>The broker had no room for messages and dropped them.</source>
+        <translation>У брокера не нашлось места для сообщений, и он их отбросил.</translation>
+    </message>
+    <message>
+        <source>Nothing is written to the history: %1</source>
+        <translation>Запись в историю не идёт: %1</translation>
+    </message>
+    <message>
+        <source>Shows the kiosks of which nothing is heard, those where no device could take money, and those where some device does not work, worst first, of the summaries that velmo-fleet keeps at an MQTT broker, with the worst fault of each. Where, by what the workers tell of themselves, some may be missing or out of date, it says so, and the exit code is 2. With --history it tells for how long; --availability and --due ask the history alone.</source>
+        <translation>Показывает терминалы, от которых нет вестей, те, где ни одно устройство не могло бы принять деньги, и те, где какое-либо устройство не работает, начиная с худших, по сводкам, которые velmo-fleet хранит у брокера MQTT, с худшей неисправностью каждого. Если, судя по тому, что обработчики сообщают о себе, часть сводок может отсутствовать или устареть, команда говорит об этом, и код завершения - 2. С --history видно, как долго это длится; --availability и --due обращаются только к истории.</translation>
+    </message>
+    <message>
+        <source>kiosk %1 still publishes: it will be in the fleet again until it is switched off</source>
+        <translation>терминал %1 ещё публикует: он снова будет в парке, пока его не выключат</translation>
+    </message>
+    <message>
+        <source>the broker does not confirm the end of %1; perhaps there is no right to write there</source>
+        <translation>брокер не подтверждает, что убраны: %1; возможно, нет права туда писать</translation>
+    </message>
+    <message>
+        <source>%1: shares of the time for which the condition is known; not known: share of the month up to now.</source>
+        <translation>%1: доли времени, за которое состояние известно; неизвестно: доля всего прошедшего времени месяца.</translation>
+    </message>
+    <message>
+        <source>How long to wait for what is missing while nothing comes; 1 without it.</source>
+        <translation>Сколько ждать недостающего, пока ничего не поступает; если не задано, 1.</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2: the kiosks of the other parts are shown by their workers.</source>
+        <translation>Часть %1 из %2: терминалы остальных частей показывают их обработчики.</translation>
+    </message>
+    <message>
+        <source>No kiosk matches the filters.</source>
+        <translation>Нет терминалов, подходящих под фильтры.</translation>
+    </message>
+    <message>
+        <source>device state</source>
+        <translation>состояние устройства</translation>
+    </message>
+    <message>
+        <source>kiosk offline</source>
+        <translation>терминал не на связи</translation>
+    </message>
+    <message>
+        <source>Where to keep the history of the kiosks: a file of SQLite, or postgresql://USER@HOST/DATABASE.</source>
+        <translation>Где вести историю терминалов: файл SQLite или postgresql://USER@HOST/DATABASE.</translation>
+    </message>
+    <message>
+        <source>Where the page of the kiosks is, and where Prometheus fetches the metrics, as &quot;127.0.0.1:9464&quot;.</source>
+        <translation>Где страница терминалов и где Prometheus забирает показатели, например «127.0.0.1:9464».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no kiosk&apos;s name at &quot;%2&quot;</source>
+        <translation>«%1» не может быть именем терминала в «%2»</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>How many, and of which condition: 3 faulty.</extracomment>
+        <translation>%2 %1</translation>
     </message>
 </context>
 </TS>

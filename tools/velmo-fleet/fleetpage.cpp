@@ -26,9 +26,10 @@ struct Text
 constexpr Text pageTexts[] = {
     {"kiosks", QT_TRANSLATE_NOOP("Velmo", "Kiosks")},
     {"counts", QT_TRANSLATE_NOOP("Velmo", "Kiosks by condition")},
+    {"count", QT_TRANSLATE_NOOP("Velmo", "%1 %2")},
     {"part",
      QT_TRANSLATE_NOOP("Velmo",
-                       "Part %1 of %2: the kiosks of the other parts are at their workers.")},
+                       "Part %1 of %2: the kiosks of the other parts are shown by their workers.")},
     {"name", QT_TRANSLATE_NOOP("Velmo", "Name")},
     {"kiosk", QT_TRANSLATE_NOOP("Velmo", "Kiosk")},
     {"condition", QT_TRANSLATE_NOOP("Velmo", "Condition")},
@@ -44,7 +45,7 @@ constexpr Text pageTexts[] = {
     {"moreFaults", QT_TRANSLATE_NOOP("Velmo", "and %1 more")},
     {"more",
      QT_TRANSLATE_NOOP("Velmo", "The first %1 are shown; %2 more are not. The filters find them.")},
-    {"noMatch", QT_TRANSLATE_NOOP("Velmo", "No kiosk is as the filters say.")},
+    {"noMatch", QT_TRANSLATE_NOOP("Velmo", "No kiosk matches the filters.")},
     {"noneToSee", QT_TRANSLATE_NOOP("Velmo", "No kiosk needs somebody.")},
     {"reading", QT_TRANSLATE_NOOP("Velmo", "Reading...")},
     {"asOf", QT_TRANSLATE_NOOP("Velmo", "As of %1.")},
@@ -84,10 +85,10 @@ constexpr const char* conditionTexts[] = {
 
 // Those that are no conditions of a device.
 constexpr Text reasonTexts[] = {
-    {"state", QT_TRANSLATE_NOOP("Velmo", "state")},
+    {"state", QT_TRANSLATE_NOOP("Velmo", "device state")},
     {"no_devices", QT_TRANSLATE_NOOP("Velmo", "no devices")},
     {"silent", QT_TRANSLATE_NOOP("Velmo", "silent")},
-    {"gone", QT_TRANSLATE_NOOP("Velmo", "offline")},
+    {"gone", QT_TRANSLATE_NOOP("Velmo", "kiosk offline")},
     {"unreadable", QT_TRANSLATE_NOOP("Velmo", "cannot be read")},
     {"too_large", QT_TRANSLATE_NOOP("Velmo", "too large")},
 };

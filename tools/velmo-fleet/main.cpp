@@ -52,10 +52,13 @@ constexpr Option forgetAfter{
 constexpr Option history{
     "history", nullptr, Value("PLACE", Kind::Text),
     QT_TRANSLATE_NOOP("Velmo",
-                      "Where to remember what kiosks were in: a file of SQLite, or "
+                      "Where to keep the history of the kiosks: a file of SQLite, or "
                       "postgresql://USER@HOST/DATABASE.")};
-constexpr Option metrics{"metrics", nullptr, Value("ADDRESS", Kind::Text),
-                         QT_TRANSLATE_NOOP("Velmo", "Where Prometheus fetches the metrics.")};
+constexpr Option metrics{
+    "metrics", nullptr, Value("ADDRESS", Kind::Text),
+    QT_TRANSLATE_NOOP("Velmo",
+                      "Where the page of the kiosks is, and where Prometheus fetches the metrics, "
+                      "as \"127.0.0.1:9464\".")};
 constexpr Option language{
     "lang", nullptr, Value("LANG", Kind::Language),
     QT_TRANSLATE_NOOP("Velmo",

@@ -89,9 +89,9 @@ const std::vector<Command>& commands()
              "Velmo",
              "Shows the kiosks of which nothing is heard, those where no device could take money, "
              "and those where some device does not work, worst first, of the summaries that "
-             "velmo-fleet keeps at an MQTT broker, with the worst fault of each. What may be "
-             "missing or not be true of them, by what the workers tell of themselves, it says, "
-             "and the exit code is 2. With --history it tells since when; --availability and "
+             "velmo-fleet keeps at an MQTT broker, with the worst fault of each. Where, by what "
+             "the workers tell of themselves, some may be missing or out of date, it says so, "
+             "and the exit code is 2. With --history it tells for how long; --availability and "
              "--due ask the history alone.")},
         {"fleet history",
          {{{"KIOSK", Kind::Text}}},

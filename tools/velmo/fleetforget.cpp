@@ -40,7 +40,7 @@ public:
                 const QString filter = topic.of(kiosk);
                 if (topic.kioskOf(filter) != kiosk || kiosk.contains(QLatin1Char('+'))
                     || kiosk.contains(QLatin1Char('#')))
-                    throw Fault{Velmo::tr(R"("%1": is no kiosk's name at "%2")")
+                    throw Fault{Velmo::tr(R"("%1" is no kiosk's name at "%2")")
                                     .arg(kiosk, topic.filter())};
                 m_broker.subscribe(filter, 1);
             }
@@ -78,7 +78,7 @@ public:
         for (const QString& kiosk : m_kiosks) {
             if (m_alive.contains(kiosk)) {
                 printError(
-                    Velmo::tr("kiosk %1 still publishes: it will be of the fleet again until "
+                    Velmo::tr("kiosk %1 still publishes: it will be in the fleet again until "
                               "it is switched off")
                         .arg(kiosk));
                 exitCode = exitBadInput;
@@ -151,7 +151,7 @@ private:
     {
         if (m_waiting.isEmpty())
             return Velmo::tr("the broker does not answer");
-        return Velmo::tr("the broker does not pass on the ends of %1; perhaps there is no right to "
+        return Velmo::tr("the broker does not confirm the end of %1; perhaps there is no right to "
                          "write there")
             .arg(waiting());
     }

@@ -291,8 +291,8 @@ int tellAvailability(const Arguments& arguments, const FleetSelection& selection
                        right + Velmo::tr("Silent, %"), right + Velmo::tr("Not known, %")},
                       cells)
           + QLatin1Char('\n')
-          + wrapped(Velmo::tr("%1: of the time of which the condition is known; not known: of the "
-                              "month up to now.")
+          + wrapped(Velmo::tr("%1: shares of the time for which the condition is known; not known: "
+                              "share of the month up to now.")
                         .arg(month.toString(QStringLiteral("yyyy-MM"))),
                     0, outputWidth()));
     return exitSuccess;

@@ -33,7 +33,8 @@ QString countsText(const ConditionCounts& counts)
     QStringList parts;
     for (int i = KioskSummary::Unknown; i <= KioskSummary::Fine; ++i) {
         if (counts[size_t(i)] > 0 || i == KioskSummary::Fine) {
-            parts += QStringLiteral("%1 %2")
+            //: How many, and of which condition: 3 faulty.
+            parts += Velmo::tr("%1 %2")
                          .arg(counts[size_t(i)])
                          .arg(conditionText(KioskSummary::Condition(i)));
         }
@@ -112,7 +113,7 @@ QString FleetTable::text(const Fleet& fleet, int most) const
     const int width = outputWidth();
     const bool isNarrow = width > 0 && width < narrowWidth;
     const QStringList head{Velmo::tr("Kiosk"), Velmo::tr("Condition"),
-                           m_memory.isThere() ? Velmo::tr("Since") : Velmo::tr("Last state"),
+                           m_memory.isThere() ? Velmo::tr("For how long") : Velmo::tr("Last state"),
                            Velmo::tr("What is wrong")};
     const std::vector<FleetKiosk> kiosks = m_selection.listed(fleet);
     const QString ending = totals(fleet);

@@ -144,8 +144,7 @@ constexpr Option due{
 constexpr Option wait{
     "wait", nullptr, Value("SECONDS", Kind::Number, 1, 3600),
     QT_TRANSLATE_NOOP("Velmo",
-                      "How long nothing further comes before it is told without what is "
-                      "missing; 1 without it."),
+                      "How long to wait for what is missing while nothing comes; 1 without it."),
     "1"};
 constexpr Option map{"map", nullptr, Value(),
                      QT_TRANSLATE_NOOP("Velmo", "Write the state as an indented map.")};

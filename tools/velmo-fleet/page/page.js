@@ -188,7 +188,7 @@ function showRows() {
 function setChoices(select, values, label) {
     const wantedValues = [...new Set(values)].filter(Boolean);
     if (select.value && !wantedValues.includes(select.value)) wantedValues.push(select.value);
-    wantedValues.sort(collator.compare);
+    wantedValues.sort((left, right) => collator.compare(label(left), label(right)));
     const known = [...select.options].slice(1).map(option => option.value);
     if (known.join("\n") === wantedValues.join("\n")) return;
     const chosen = select.value;
@@ -201,8 +201,10 @@ function show() {
     const [part, parts] = data.part.split("/").map(Number);
     byId("part").hidden = parts < 2;
     setText(byId("part"), fill(texts.part, part, parts));
-    byId("counts").replaceChildren(...conditions.map(name =>
-        element("li", {class: name}, element("b", {}, number(data.counts[name] || 0)), " " + texts.conditions[name])));
+    byId("counts").replaceChildren(...conditions.map(name => {
+        const [before, after] = texts.count.replace("%2", texts.conditions[name]).split("%1");
+        return element("li", {class: name}, before, element("b", {}, number(data.counts[name] || 0)), after);
+    }));
     setChoices(filters.region, data.kiosks.map(kiosk => kiosk.region), value => value);
     setChoices(filters.reason, data.kiosks.flatMap(kiosk => kiosk.causes.map(cause => cause.reason)),
         value => texts.reasons[value] || value);
