@@ -47,6 +47,7 @@ Worker::Worker(const WorkerOptions& options, Metrics& metrics, HistoryRecorder* 
     : m_options(options)
     , m_metrics(metrics)
     , m_history(history)
+    , m_qos(options.part.count() > 1 && !options.states.hasPart() ? 0 : 1)
     , m_kiosks(metrics)
     , m_silence(options.silence)
     , m_broker(options.broker,
@@ -63,10 +64,10 @@ Worker::Worker(const WorkerOptions& options, Metrics& metrics, HistoryRecorder* 
     m_broker.watchDropped();
     // In this order the broker sends what it has retained, so that by each is known what the next
     // one is judged by.
-    m_broker.subscribe(options.status.filter(), 1, /*ownToo=*/false);
-    m_broker.subscribe(options.summaries.filter(options.part.number()), 1, /*ownToo=*/false);
-    m_broker.subscribe(options.states.filter(options.part.number()), 1);
-    m_broker.subscribe(options.wills.filter(options.part.number()), 1);
+    m_broker.subscribe(options.status.filter(), m_qos, /*ownToo=*/false);
+    m_broker.subscribe(options.summaries.filter(options.part.number()), m_qos, /*ownToo=*/false);
+    m_broker.subscribe(options.states.filter(options.part.number()), m_qos);
+    m_broker.subscribe(options.wills.filter(options.part.number()), m_qos);
 }
 
 void Worker::run(const std::atomic<bool>& isStopped)
@@ -115,10 +116,10 @@ void Worker::turnEverySecond()
     const bool hasDropped = m_broker.dropped() > m_droppedKnown && Clock::now() > m_nextGathering;
     if (!m_isGathering && (m_mustVerify || hasDropped)) {
         startGathering();
-        m_broker.subscribe(m_options.summaries.filter(m_options.part.number()), 1,
+        m_broker.subscribe(m_options.summaries.filter(m_options.part.number()), m_qos,
                            /*ownToo=*/false);
         if (hasDropped) {
-            m_broker.subscribe(m_options.states.filter(m_options.part.number()), 1);
+            m_broker.subscribe(m_options.states.filter(m_options.part.number()), m_qos);
             m_metrics.dropped.Increment(double(m_broker.dropped() - m_droppedKnown));
             m_droppedKnown = m_broker.dropped();
             m_nextGathering = Clock::now() + m_dropPause;

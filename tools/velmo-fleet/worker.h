@@ -90,6 +90,10 @@ private:
     const WorkerOptions m_options;
     Metrics& m_metrics;
     HistoryRecorder* const m_history;
+
+    // Of its subscriptions. On one connection nothing is lost either way; a worker that passes over
+    // what is of other parts spends half of its work for that on acknowledgements.
+    const int m_qos;
     std::mutex m_mutex; // of all that follows, while json() may look
     LogLimit m_log;
     Kiosks m_kiosks;
