@@ -97,7 +97,7 @@ def check_truth(fleet):
           and lines[-1] == "3000 kiosks: 2 silent, 2998 fine", f"the table: {run.stdout}")
     check(fleet.run("--exit-code")[0].returncode == 1
           and fleet.run("--exit-code", "--kiosk", "k3*")[0].returncode == 0, "exit code")
-    for text, told in [(status(2, 2, 1503), "3 kiosks are missing"), (status(2, 2, 0, gone=True), "Part 2/2"),
+    for text, told in [(status(2, 2, 1503), "3 kiosks are missing"), (status(2, 2, 0, gone=True), "has part 2/2"),
                        (status(2, 2, 1500, ready=False), "not ready"), ("x", "cannot be read"),
                        (status(2, 2, 1500, faults=["It burns."]), "Worker w2: It burns.")]:
         fleet.publish({"velmo-fleet/b/status": text})

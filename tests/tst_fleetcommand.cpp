@@ -140,8 +140,8 @@ private Q_SLOTS:
             1/1 5 "ready":true                      | 5 | yes |
             1/1 5 "ready":true                      | 6 | yes |
             1/1 5 "ready":true; 1/1 7 "ready":false | 6 | no  | 1 kiosks are missing
-            1/2 5 "ready":true                      | 9 | no  | Part 2/2 has no worker
-            1/2 5 "ready":true; 2/2 4 "gone":true   | 9 | no  | Part 2/2 has no worker
+            1/2 5 "ready":true                      | 9 | no  | No worker has part 2/2
+            1/2 5 "ready":true; 2/2 4 "gone":true   | 9 | no  | No worker has part 2/2
             1/2 5 "ready":true; 2/2 4 "ready":true  | 8 | no  | 1 kiosks are missing
             1/2 5 "ready":true; 2/2 4 "ready":false | 9 | no  | The worker of part 2/2 is not ready
             1/2 5 "gone":true; 1/1 9 "ready":true   | 9 | yes |

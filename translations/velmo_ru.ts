@@ -1284,7 +1284,7 @@
         <translation>Ни один обработчик не сообщает о себе в «%1»: все ли это терминалы и что с ними стало с тех пор, неизвестно.</translation>
     </message>
     <message>
-        <source>Part %1 has no worker: what is shown of its kiosks may be from before.</source>
+        <source>No worker has part %1: what is shown of its kiosks may be from before.</source>
         <translation>У части %1 нет обработчика: показанное о её терминалах могло устареть.</translation>
     </message>
     <message>

@@ -40,8 +40,8 @@ public:
                 const QString filter = topic.of(kiosk);
                 if (topic.kioskOf(filter) != kiosk || kiosk.contains(QLatin1Char('+'))
                     || kiosk.contains(QLatin1Char('#')))
-                    throw Fault{Velmo::tr(R"("%1" is no kiosk's name at "%2")")
-                                    .arg(kiosk, topic.filter())};
+                    throw Fault{
+                        Velmo::tr(R"("%1" is no kiosk's name at "%2")").arg(kiosk, topic.filter())};
                 m_broker.subscribe(filter, 1);
             }
         }

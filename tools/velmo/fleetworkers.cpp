@@ -78,7 +78,7 @@ QStringList FleetWorkers::faults(int summaries, const QString& topic) const
     for (size_t i = 0; i < all.size(); ++i) {
         const QString part = QStringLiteral("%1/%2").arg(i + 1).arg(all.size());
         if (!all[i].isThere) {
-            faults += Velmo::tr("Part %1 has no worker: what is shown of its kiosks may be from "
+            faults += Velmo::tr("No worker has part %1: what is shown of its kiosks may be from "
                                 "before.")
                           .arg(part);
         } else if (!all[i].isReady) {
