@@ -22,6 +22,7 @@ struct Kiosk
     quint64 will = 0; ///< hash of the last word of its end; 0 for none
     quint64 atBroker = 0; ///< hash of the summary that the broker has; 0 while that is not known
     SilenceWatch::Duration heardOf{0}; ///< when it last said something
+    bool wasTold = false; ///< before what the broker has was read anew
     bool isWaiting = false; ///< to be published
     bool isClockWrong = false;
 

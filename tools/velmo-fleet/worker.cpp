@@ -150,7 +150,10 @@ void Worker::startGathering()
     m_mustVerify = false;
     m_lastRetained = Clock::now();
     m_retained.clear();
-    m_kiosks.forEach([](const QString&, Kiosk& kiosk) { kiosk.atBroker = 0; });
+    m_kiosks.forEach([](const QString&, Kiosk& kiosk) {
+        kiosk.wasTold = kiosk.isTold();
+        kiosk.atBroker = 0;
+    });
 }
 
 void Worker::endGathering()
@@ -219,7 +222,9 @@ void Worker::take(const QString& topic, const QByteArray& payload, bool isRetain
 void Worker::takeStatus(const QString& name, const QByteArray& payload, bool isRetained)
 {
     if (name == m_options.name) {
-        m_isStoreNew = false;
+        // A broker that crashed may have read a store from before.
+        if (payload == m_lastStatus || WorkerStatus::read(payload).isGone)
+            m_isStoreNew = false;
         m_status.clear(); // it may say that this worker is gone
     } else if (!isRetained) {
         // What a worker that ends had in hand may be older than what this one has published.
@@ -232,12 +237,21 @@ void Worker::takeSummary(const QString& name, const QByteArray& payload, bool /*
     if (payload.isEmpty())
         return;
     Kiosk* kiosk = m_kiosks.find(name);
+    const quint64 hash = Kiosk::hash(payload);
     try {
         if (!kiosk) {
             kiosk = &m_kiosks.set(name, KioskSummary(payload));
             kiosk->heardOf = m_silence.now();
+        } else if (!m_isListening && !m_isStoreNew && kiosk->wasTold
+                   && hash != Kiosk::hash(kiosk->summary.text)) {
+            // Another worker has published this since. That a kiosk fell silent no state tells.
+            const KioskSummary told(payload);
+            if (told.condition == KioskSummary::Silent) {
+                tell(name, told, /*message=*/0, nullptr);
+                kiosk = m_kiosks.find(name);
+            }
         }
-        kiosk->atBroker = Kiosk::hash(payload);
+        kiosk->atBroker = hash;
     } catch (const Fault& fault) {
         refuse("unreadable", m_options.summaries.of(name, m_options.part.number()), fault.message);
     }
@@ -268,7 +282,7 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
             throw Fault{Velmo::tr("it tells of more than %1 devices").arg(mostDevices)};
         const KioskSummary summary(name, state, m_writer);
         if (isRetained && kiosk && isStillSilent(name, *kiosk, summary)) {
-            kiosk->message = message;
+            tell(name, KioskSummary(kiosk->summary), message, nullptr);
             return;
         }
         tell(name, summary, message, &state);
@@ -398,7 +412,7 @@ void Worker::publishStatus(bool isProbe)
     const int message = m_broker.publish(m_options.status.of(m_options.name), text, statusExpiry);
     if (message <= 0)
         return;
-    m_status = text;
+    m_status = m_lastStatus = text;
     m_nextStatus = Clock::now() + statusPause;
     if (isProbe)
         m_silence.sendProbe(message);

@@ -110,7 +110,8 @@ private:
     std::chrono::seconds m_dropPause{10};
     Clock::time_point m_nextGathering;
 
-    QByteArray m_status; // as it was published last
+    QByteArray m_status; // as it is at the broker; empty while that is not known
+    QByteArray m_lastStatus; // as it was published last
     Clock::time_point m_nextSecond;
     Clock::time_point m_nextStatus;
     Clock::time_point m_nextForgetting = Clock::now() + std::chrono::minutes(1);
