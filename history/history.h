@@ -97,7 +97,8 @@ public:
     /// Of each kiosk of which something is known of the month, of the local time.
     QHash<QString, Availability> availability(const QDate& month, qint64 now) const;
 
-    /// Every channel that dispenses and every cassette, those due first come first.
+    /// Every channel that dispenses and every cassette of kiosks that were not forgotten, those due
+    /// first come first.
     std::vector<Due> due(qint64 now) const;
 
 private:

@@ -573,6 +573,10 @@ private Q_SLOTS:
         const QString place = newPlace(kind);
         {
             HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
+            KioskRecord scrapped = counted(start - day, 0);
+            scrapped.kiosk = "k2"_s;
+            recorder.record(scrapped);
+            recorder.forget("k2"_s, start - 1);
             const auto at = [&](qint64 time, qint64 inserted, const QString& cassette,
                                 qint64 level) {
                 recorder.record(counted(time, inserted, cassette, level));
