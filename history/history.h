@@ -85,6 +85,9 @@ public:
     History(const History&) = delete;
     History& operator=(const History&) = delete;
 
+    /// Throws Fault where no worker writes to it: what lasts may be over.
+    void requireWriter() const;
+
     /// Of every kiosk that was not forgotten.
     /// @param now what is now, in a month of the local time
     QHash<QString, Now> now(qint64 now) const;

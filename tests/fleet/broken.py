@@ -238,8 +238,8 @@ def check_away(world):
                  [fleet.told(kiosk) for kiosk in names])
             time.sleep(0.1)
         fleet.check("after that", names)
-    fleet.send("mute")
-    fleet.check("one is heard again", ["later", "gone", "live"])
+        fleet.send("mute")
+        wait_until("one is heard again", lambda: fleet.told("mute")["condition"] != "silent")
     stays.stop()
 
 
