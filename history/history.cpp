@@ -72,7 +72,8 @@ void History::requireWriter() const
                      {tolerance},
                      [&](const QSqlQuery& row) { isWritten = row.value(0).toInt() > 0; });
     if (!isWritten)
-        throw Fault{Diagnosis::tr("No worker writes to the history: what lasts in it may be over.")};
+        throw Fault{
+            Diagnosis::tr("No worker writes to the history: what lasts in it may be over.")};
 }
 
 QHash<QString, History::Now> History::now(qint64 now) const

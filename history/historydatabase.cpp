@@ -72,7 +72,9 @@ QString withValues(const QString& sql, const QVariantList& values)
 // Which file is at a place, as device and number; zeroes for none.
 std::pair<quint64, quint64> fileAt(const QString& place)
 {
-    struct stat file{};
+    struct stat file
+    {
+    };
     return stat(QFile::encodeName(place).constData(), &file) == 0
         ? std::pair<quint64, quint64>(file.st_dev, file.st_ino)
         : std::pair<quint64, quint64>();

@@ -375,6 +375,6 @@ int tellDue(const Arguments& arguments, const FleetSelection& selection)
               + Velmo::tr("due: %1, later: %2, cannot say: %3").arg(found).arg(later).arg(unsaid)
               + QLatin1Char('\n'));
     }
-    return codeOf(history, found > 0 && arguments.isSet(options::exitCode) ? exitFindings
-                                                                           : exitSuccess);
+    return codeOf(history,
+                  found > 0 && arguments.isSet(options::exitCode) ? exitFindings : exitSuccess);
 }
