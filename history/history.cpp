@@ -5,6 +5,8 @@
 
 #include "historydatabase.h"
 #include "levelreader.h"
+#include "text/diagnosis.h"
+#include "text/fault.h"
 
 #include <QDateTime>
 
@@ -59,6 +61,20 @@ History::History(const QString& place)
 }
 
 History::~History() = default;
+
+void History::requireWriter() const
+{
+    // A lease is for seconds; one that is a little late is no fault.
+    constexpr int tolerance = 30'000;
+    bool isWritten = false;
+    m_database->read(QStringLiteral("SELECT count(*) FROM writers WHERE until + ? > %1")
+                         .arg(m_database->clock()),
+                     {tolerance},
+                     [&](const QSqlQuery& row) { isWritten = row.value(0).toInt() > 0; });
+    if (!isWritten)
+        throw Fault{
+            Diagnosis::tr("No worker writes to the history: what lasts in it may be over.")};
+}
 
 QHash<QString, History::Now> History::now(qint64 now) const
 {

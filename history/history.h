@@ -85,6 +85,9 @@ public:
     History(const History&) = delete;
     History& operator=(const History&) = delete;
 
+    /// Throws Fault where no worker writes to it: what lasts may be over.
+    void requireWriter() const;
+
     /// Of every kiosk that was not forgotten.
     /// @param now what is now, in a month of the local time
     QHash<QString, Now> now(qint64 now) const;
@@ -97,7 +100,8 @@ public:
     /// Of each kiosk of which something is known of the month, of the local time.
     QHash<QString, Availability> availability(const QDate& month, qint64 now) const;
 
-    /// Every channel that dispenses and every cassette, those due first come first.
+    /// Every channel that dispenses and every cassette of kiosks that were not forgotten, those due
+    /// first come first.
     std::vector<Due> due(qint64 now) const;
 
 private:

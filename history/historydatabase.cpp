@@ -6,6 +6,7 @@
 #include "historyschema.h"
 #include "text/diagnosis.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlError>
@@ -15,6 +16,7 @@
 #include <algorithm>
 #include <atomic>
 #include <iterator>
+#include <sys/stat.h>
 
 namespace {
 
@@ -65,6 +67,17 @@ QString withValues(const QString& sql, const QVariantList& values)
         at = next + 1;
     }
     return text + QStringView(sql).mid(at).toString();
+}
+
+// Which file is at a place, as device and number; zeroes for none.
+std::pair<quint64, quint64> fileAt(const QString& place)
+{
+    struct stat file
+    {
+    };
+    return stat(QFile::encodeName(place).constData(), &file) == 0
+        ? std::pair<quint64, quint64>(file.st_dev, file.st_ino)
+        : std::pair<quint64, quint64>();
 }
 
 QString newConnection()
@@ -125,6 +138,7 @@ void HistoryDatabase::openFile(Access access)
     if (access == Write) {
         execute(QStringLiteral("PRAGMA journal_mode=WAL"));
         execute(QStringLiteral("PRAGMA synchronous=NORMAL"));
+        m_file = fileAt(m_place);
         return;
     }
     QSqlQuery look(database);
@@ -141,6 +155,12 @@ void HistoryDatabase::openFile(Access access)
     database.setConnectOptions(options + QLatin1String(";QSQLITE_OPEN_URI"));
     if (!database.open())
         fail(database.lastError());
+}
+
+void HistoryDatabase::requirePlace() const
+{
+    if (!m_isPostgres && fileAt(m_place) != m_file)
+        refuse(Diagnosis::tr("the file was removed or replaced"), /*mayPass=*/true);
 }
 
 void HistoryDatabase::openServer()
@@ -224,8 +244,8 @@ QString HistoryDatabase::placeholders(int count)
 
 void HistoryDatabase::fail(const QSqlError& error) const
 {
-    // Of SQLite's faults only that another process is writing passes by itself.
-    constexpr int busy = 5;
+    // Of SQLite's faults these pass: that another process is writing, and what is of the disk.
+    constexpr int passing[] = {5, 10, 13};
     constexpr int ofData[] = {18, 19, 20}; // too big, against a constraint, of another type
     const QString code = error.nativeErrorCode();
     const int number = code.toInt() & 0xff;
@@ -235,7 +255,9 @@ void HistoryDatabase::fail(const QSqlError& error) const
             code.left(2))
         : std::find(std::begin(ofData), std::end(ofData), number) != std::end(ofData);
     const QString text = error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
-    refuse(text.section(QLatin1Char('\n'), 0, 0).trimmed(), m_isPostgres || number == busy,
+    refuse(text.section(QLatin1Char('\n'), 0, 0).trimmed(),
+           m_isPostgres
+               || std::find(std::begin(passing), std::end(passing), number) != std::end(passing),
            isOfData);
 }
 

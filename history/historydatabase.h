@@ -10,6 +10,8 @@
 #include <QString>
 #include <QVariant>
 
+#include <utility>
+
 /// A connection to the database of a history, of the thread that made it. Every function throws
 /// Error, which names the place, never its password.
 class HistoryDatabase
@@ -34,6 +36,10 @@ public:
     HistoryDatabase& operator=(const HistoryDatabase&) = delete;
 
     bool isPostgres() const { return m_isPostgres; }
+
+    /// Throws where the file that is open is no longer the one at the place: what is written to it
+    /// is lost.
+    void requirePlace() const;
 
     /// The clock of the machine that has the database, in milliseconds since 1970, as SQL.
     QString clock() const;
@@ -81,6 +87,7 @@ private:
     QString m_name; // of the place, without its password
     const bool m_isPostgres;
     const QString m_connection;
+    std::pair<quint64, quint64> m_file{}; // device and number of the file that is open
     QHash<QString, QSqlQuery> m_statements;
 };
 

@@ -60,6 +60,7 @@ private:
 
     bool turn(bool isLast);
     void open();
+    void find();
     QString isFree(const QString& until) const;
     qint64 seenFor() const;
     bool isOthers();
@@ -147,6 +148,7 @@ bool HistoryRecorder::Thread::turn(bool isLast)
             queue.dropOlder(Clock::now() - kept);
         else
             write(isLast);
+        find();
         return true;
     } catch (const HistoryDatabase::Error& error) {
         passOver(error.isOfData);
@@ -172,14 +174,20 @@ void HistoryRecorder::Thread::passOver(bool isOfData)
 void HistoryRecorder::Thread::open()
 {
     if (m_database)
-        return;
-    m_database = std::make_unique<HistoryDatabase>(m_place, HistoryDatabase::Write);
+        m_database->requirePlace();
+    else
+        m_database = std::make_unique<HistoryDatabase>(m_place, HistoryDatabase::Write);
+}
+
+// When it takes what is written: it may be opened, and have no room.
+void HistoryRecorder::Thread::find()
+{
+    m_pause = seconds(0);
     const std::lock_guard lock(m_mutex);
     if (!m_status.fault.isEmpty()) {
         qCInfo(historyLog, "%s", qUtf8Printable(Diagnosis::tr("The history's database is back.")));
     }
     m_status.fault.clear();
-    m_pause = seconds(0);
 }
 
 void HistoryRecorder::Thread::lose(const QString& why)

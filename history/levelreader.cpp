@@ -63,7 +63,8 @@ std::vector<History::Due> LevelReader::due()
                        " AND levels.currency = channels.currency"
                        " AND levels.bill_type = channels.bill_type"
                        " AND levels.hour > ? AND levels.hour <= ?)"
-                       " FROM channels WHERE hour > ?")
+                       " FROM channels WHERE hour > ? AND EXISTS (SELECT 1 FROM conditions"
+                       " WHERE conditions.kiosk = channels.kiosk AND conditions.ended IS NULL)")
             .arg(m_database.pairs(QStringLiteral("levels.hour"), QStringLiteral("levels.count"))),
         {m_begin, m_now, m_begin});
     while (row.next()) {

@@ -96,7 +96,9 @@ def check_truth(fleet):
     check([line.split()[0] for line in lines[1:3]] == ["k2", "k10"] and "\x1b" not in run.stdout
           and lines[-1] == "3000 kiosks: 2 silent, 2998 fine", f"the table: {run.stdout}")
     check(fleet.run("--exit-code")[0].returncode == 1
-          and fleet.run("--exit-code", "--kiosk", "k3*")[0].returncode == 0, "exit code")
+          and fleet.run("--exit-code", "--kiosk", "k3*")[0].returncode == 0
+          and fleet.run("--exit-code", "--condition", "faulty")[0].returncode == 0
+          and fleet.run("--exit-code", "--kiosk", "x3*")[0].returncode == 2, "exit code")
     for text, told in [(status(2, 2, 1503), "3 kiosks are missing"), (status(2, 2, 0, gone=True), "has part 2/2"),
                        (status(2, 2, 1500, ready=False), "not ready"), ("x", "cannot be read"),
                        (status(2, 2, 1500, faults=["It burns."]), "Worker w2: It burns.")]:

@@ -10,6 +10,8 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
+#include <memory>
+
 namespace {
 
 constexpr qint64 hour = 3600 * 1000;
@@ -172,18 +174,16 @@ private Q_SLOTS:
     {
         const QString place = m_folder.filePath("history.sqlite"_s);
         const qint64 now = QDateTime::currentMSecsSinceEpoch() / 1000 * 1000;
-        {
-            HistoryRecorder recorder(place, "1/1"_s, "w"_s);
-            recorder.record({"k1"_s, now - 6 * hour, 1, KioskSummary::Fine, {}, {}});
-            recorder.record({"k1"_s,
-                             now - 4 * hour,
-                             2,
-                             KioskSummary::OutOfOrder,
-                             {{7, 2, "offline"_s, "It is \033 offline."_s}},
-                             {}});
-            recorder.record({"k2"_s, now - hour, 3, KioskSummary::Fine, {}, {}});
-            QTRY_VERIFY(recorder.status().written > 0 && recorder.status().waiting == 0);
-        }
+        auto recorder = std::make_unique<HistoryRecorder>(place, "1/1"_s, "w"_s);
+        recorder->record({"k1"_s, now - 6 * hour, 1, KioskSummary::Fine, {}, {}});
+        recorder->record({"k1"_s,
+                          now - 4 * hour,
+                          2,
+                          KioskSummary::OutOfOrder,
+                          {{7, 2, "offline"_s, "It is \033 offline."_s}},
+                          {}});
+        recorder->record({"k2"_s, now - hour, 3, KioskSummary::Fine, {}, {}});
+        QTRY_VERIFY(recorder->status().written > 0 && recorder->status().waiting == 0);
         const QStringList history{"--history"_s, place};
         const VelmoRun told = velmo(QStringList{"fleet"_s, "history"_s, "k1"_s} + history);
         QCOMPARE(told.err, QString());
@@ -209,6 +209,17 @@ private Q_SLOTS:
             velmo(QStringList{"fleet"_s, "--due"_s, "2w"_s, "--exit-code"_s} + history);
         QCOMPARE(due.out, "due: 0, later: 0, cannot say: 0\n"_s);
         QCOMPARE(due.exitCode, 0);
+
+        recorder.reset(); // what is told may be of long ago
+        const QList<QStringList> questions{{"fleet"_s, "history"_s, "k1"_s},
+                                           {"fleet"_s, "--due"_s, "2w"_s},
+                                           {"fleet"_s, "--availability"_s}};
+        for (const QStringList& question : questions) {
+            const VelmoRun old = velmo(question + history);
+            QVERIFY2(old.err.contains("No worker writes to the history"_s) && !old.out.isEmpty(),
+                     qPrintable(old.err));
+            QCOMPARE(old.exitCode, 2);
+        }
     }
 
     void availabilityIsToldWorstFirst()
@@ -217,13 +228,11 @@ private Q_SLOTS:
         const QDate month = QDate::currentDate().addMonths(-1);
         const QDateTime first(QDate(month.year(), month.month(), 1).startOfDay());
         const qint64 start = first.toMSecsSinceEpoch();
-        {
-            HistoryRecorder recorder(place, "1/1"_s, "w"_s);
-            recorder.record({"k10"_s, start - hour, 1, KioskSummary::Fine, {}, {}});
-            recorder.record({"k2"_s, start - hour, 2, KioskSummary::OutOfOrder, {}, {}});
-            recorder.record({"k2"_s, start + hour, 3, KioskSummary::Faulty, {}, {}});
-            QTRY_VERIFY(recorder.status().written > 0 && recorder.status().waiting == 0);
-        }
+        HistoryRecorder recorder(place, "1/1"_s, "w"_s);
+        recorder.record({"k10"_s, start - hour, 1, KioskSummary::Fine, {}, {}});
+        recorder.record({"k2"_s, start - hour, 2, KioskSummary::OutOfOrder, {}, {}});
+        recorder.record({"k2"_s, start + hour, 3, KioskSummary::Faulty, {}, {}});
+        QTRY_VERIFY(recorder.status().written > 0 && recorder.status().waiting == 0);
         const VelmoRun run = velmo(
             {"fleet"_s, "--availability"_s, first.toString("yyyy-MM"_s), "--history"_s, place});
         QCOMPARE(run.err, QString());

@@ -377,6 +377,21 @@ private Q_SLOTS:
                     .hasMatch());
     }
 
+    void fileThatIsTakenAwayIsMissed()
+    {
+        const QString place = newPlace("sqlite"_s);
+        HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
+        recorder.record(record("k1"_s, start, 1, Condition::Fine));
+        waitForWritten(recorder, 1);
+        for (const QString& end : {QString(), "-wal"_s, "-shm"_s})
+            QFile::remove(place + end);
+        QTRY_VERIFY(recorder.status().fault.endsWith("the file was removed or replaced"_s));
+        recorder.record(record("k2"_s, start, 2, Condition::Silent));
+        QTRY_VERIFY(recorder.status().fault.isEmpty());
+        waitForWritten(recorder, 2);
+        QCOMPARE(shown(History(place), "k2"_s), "0- silent"_s);
+    }
+
     void oldestChangesAreLostWhereThereIsNoRoom()
     {
         const QString place = "postgresql://velmo:secret@/none?host="_s + m_folder.path();
@@ -558,6 +573,10 @@ private Q_SLOTS:
         const QString place = newPlace(kind);
         {
             HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
+            KioskRecord scrapped = counted(start - day, 0);
+            scrapped.kiosk = "k2"_s;
+            recorder.record(scrapped);
+            recorder.forget("k2"_s, start - 1);
             const auto at = [&](qint64 time, qint64 inserted, const QString& cassette,
                                 qint64 level) {
                 recorder.record(counted(time, inserted, cassette, level));

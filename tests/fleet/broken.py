@@ -215,6 +215,57 @@ def check_silence(world):
     hold(not fleet.wrongly, "called silent while heard:", fleet.wrongly)
 
 
+def check_away(world):
+    """Who fell silent while one of two workers was away stays so when it is back."""
+    fleet = Fleet(world, Broker(world, "max_keepalive 10"), 6)
+    history = os.path.join(world.new_folder(), "history.sqlite")
+    stays, away = fleet.workers([], ["--history", history])
+    fleet.publish_all(["mute", "later", "gone", "live"])
+    fleet.check("before")
+    with fleet.alive("live"):
+        away.signal(signal.SIGSTOP)
+        wait_until("the worker is missed", lambda: fleet.statuses[away.name].get("gone"), 40)
+        fleet.publish_all(["later", "gone"])
+        fleet.send("gone", b"x", "will", retain=False)
+        names = ["mute", "later", "gone"]
+        for kiosk in names:
+            fleet.wait_for(kiosk, "silent")
+        since = {kiosk: fleet.told(kiosk)["since"] for kiosk in names}
+        away.signal(signal.SIGCONT)
+        wait_until("the worker is back", lambda: fleet.statuses[away.name].get("ready"))
+        for _ in range(20):
+            hold(since == {kiosk: fleet.told(kiosk).get("since") for kiosk in names}, since,
+                 [fleet.told(kiosk) for kiosk in names])
+            time.sleep(0.1)
+        fleet.check("after that", names)
+        fleet.send("mute")
+        wait_until("one is heard again", lambda: fleet.told("mute")["condition"] != "silent")
+    stays.stop()
+
+
+def check_older_store(world):
+    """Who was silent is known still where a broker that crashed had not saved him."""
+    fleet = Fleet(world, Broker(world), 2)
+    workers = fleet.workers([], [])
+    fleet.send("saved")
+    fleet.check("before")
+    wait_until("both tell of one kiosk", lambda: all(
+        (fleet.statuses.get(worker.name) or {}).get("kiosks") == 1 for worker in workers))
+    time.sleep(2)
+    store = os.path.join(fleet.broker.folder, "mosquitto.db")
+    shutil.copy(store, store + ".old")
+    fleet.send("mute")
+    fleet.wait_for("mute", "silent", "silent")
+    time.sleep(2)  # for the status
+    fleet.broker.stop(signal.SIGKILL)
+    shutil.copy(store + ".old", store)
+    fleet.summaries.clear()
+    fleet.broker.start()
+    fleet.wait_for("mute", "silent", "silent")
+    fleet.send("saved", b"")  # who leaves meanwhile is gone still
+    wait_until("one has left", lambda: fleet.summaries.keys() == {"mute"})
+
+
 def check_wills(world):
     fleet = Fleet(world, Broker(world))
     workers = fleet.workers([], [])
@@ -399,6 +450,6 @@ def check_status(world):
     wait_until("its status is removed", lambda: fleet.statuses[worker.name] is None)
 
 
-CHECKS = [check_silence, check_forgetting, check_rights, check_poison, check_flood, check_partitions,
-          check_sizes, check_wills, check_scrapped, check_status, check_topics, check_clocks,
-          check_options]
+CHECKS = [check_silence, check_away, check_older_store, check_forgetting, check_rights, check_poison,
+          check_flood, check_partitions, check_sizes, check_wills, check_scrapped, check_status,
+          check_topics, check_clocks, check_options]

@@ -23,6 +23,7 @@ struct Kiosk
     quint64 atBroker = 0; ///< hash of the summary that the broker has; 0 while that is not known
     SilenceWatch::Duration heardOf{0}; ///< when it last said something
     qint64 heardAt = KioskSummary::noTime; ///< the same in milliseconds since 1970, if it was heard
+    bool wasTold = false; ///< before what the broker has was read anew
     bool isWaiting = false; ///< to be published
     bool isClockWrong = false;
 

@@ -157,7 +157,10 @@ void Worker::startGathering()
     m_mustVerify = false;
     m_lastRetained = Clock::now();
     m_retained.clear();
-    m_kiosks.forEach([](const QString&, Kiosk& kiosk) { kiosk.atBroker = 0; });
+    m_kiosks.forEach([](const QString&, Kiosk& kiosk) {
+        kiosk.wasTold = kiosk.isTold();
+        kiosk.atBroker = 0;
+    });
 }
 
 void Worker::endGathering()
@@ -225,7 +228,9 @@ void Worker::take(const QString& topic, const QByteArray& payload, bool isRetain
 void Worker::takeStatus(const QString& name, const QByteArray& payload, bool isRetained)
 {
     if (name == m_options.name) {
-        m_isStoreNew = false;
+        // A broker that crashed may have read a store from before.
+        if (payload == m_lastStatus || WorkerStatus::read(payload).isGone)
+            m_isStoreNew = false;
         m_status.clear(); // it may say that this worker is gone
     } else if (!isRetained) {
         // What a worker that ends had in hand may be older than what this one has published.
@@ -238,16 +243,37 @@ void Worker::takeSummary(const QString& name, const QByteArray& payload, bool /*
     if (payload.isEmpty())
         return;
     Kiosk* kiosk = m_kiosks.find(name);
+    const quint64 hash = Kiosk::hash(payload);
     try {
         if (!kiosk) {
             const QByteArray kept(payload.constData(), payload.size());
             kiosk = &m_kiosks.set(name, KioskSummary(kept));
             kiosk->heardOf = m_silence.now();
+        } else if (hash != Kiosk::hash(kiosk->summary.text)) {
+            adoptSilence(name, KioskSummary(QByteArray(payload.constData(), payload.size())));
+            kiosk = m_kiosks.find(name);
         }
-        kiosk->atBroker = Kiosk::hash(payload);
+        kiosk->atBroker = hash;
     } catch (const Fault& fault) {
         refuse("unreadable", m_options.summaries.of(name, m_options.part.number()), fault.message);
     }
+}
+
+// That a kiosk fell silent no state tells: another worker has noticed it first, or while this one
+// was away.
+void Worker::adoptSilence(const QString& name, const KioskSummary& told)
+{
+    constexpr qint64 second = 1000; // in which workers do not agree
+    const Kiosk& kiosk = *m_kiosks.find(name);
+    if (told.condition != KioskSummary::Silent || told.faults.empty())
+        return;
+    const bool wasAway = !m_isListening && !m_isStoreNew && kiosk.wasTold;
+    const bool isHeardSince =
+        kiosk.heardAt != KioskSummary::noTime && kiosk.heardAt > told.since + second;
+    if (wasAway)
+        tell(name, told, /*message=*/0, nullptr); // the state that comes next says whether it is so
+    else if (!isHeardSince && isSilenceAfter(name, kiosk.summary, told))
+        tell(name, told, kiosk.message, nullptr);
 }
 
 void Worker::takeState(const QString& name, const QByteArray& payload, bool isRetained)
@@ -274,8 +300,10 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
         if (state.devices.size() > mostDevices)
             throw Fault{Velmo::tr("it tells of more than %1 devices").arg(mostDevices)};
         const KioskSummary summary(name, state, m_writer);
-        if (isRetained && kiosk && isStillSilent(name, *kiosk, summary)) {
-            kiosk->message = message;
+        const bool isToldSilent = isRetained && kiosk && kiosk->isSilent() && kiosk->message == 0
+            && !kiosk->summary.faults.empty();
+        if (isToldSilent && isSilenceAfter(name, summary, kiosk->summary)) {
+            tell(name, KioskSummary(kiosk->summary), message, nullptr);
             return;
         }
         tell(name, summary, message, &state);
@@ -295,13 +323,13 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
     }
 }
 
-// Whether another worker has told that the kiosk fell silent after just what it has published.
-bool Worker::isStillSilent(const QString& name, const Kiosk& kiosk, const KioskSummary& told)
+// Whether the kiosk fell silent after just that state.
+bool Worker::isSilenceAfter(const QString& name, const KioskSummary& state,
+                            const KioskSummary& silence)
 {
-    return kiosk.isSilent() && kiosk.message == 0 && !kiosk.summary.faults.empty()
-        && kiosk.summary.text
-        == KioskSummary::withoutState(told, name, KioskSummary::Silent, kiosk.summary.faults[0],
-                                      kiosk.summary.since)
+    return silence.text
+        == KioskSummary::withoutState(state, name, KioskSummary::Silent, silence.faults[0],
+                                      silence.since)
                .text;
 }
 
@@ -415,7 +443,7 @@ void Worker::publishStatus(bool isProbe)
     const int message = m_broker.publish(m_options.status.of(m_options.name), text, statusExpiry);
     if (message <= 0)
         return;
-    m_status = text;
+    m_status = m_lastStatus = text;
     m_nextStatus = Clock::now() + statusPause;
     if (isProbe)
         m_silence.sendProbe(message);

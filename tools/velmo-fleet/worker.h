@@ -69,7 +69,9 @@ private:
     void takeState(const QString& name, const QByteArray& payload, bool isRetained);
     void takeWill(const QString& name, const QByteArray& payload, bool isRetained);
     void takeStatus(const QString& name, const QByteArray& payload, bool isRetained);
-    static bool isStillSilent(const QString& name, const Kiosk& kiosk, const KioskSummary& told);
+    void adoptSilence(const QString& name, const KioskSummary& told);
+    static bool isSilenceAfter(const QString& name, const KioskSummary& state,
+                               const KioskSummary& silence);
     void hear(Kiosk& kiosk);
     void judgeClock(const QString& name);
     void refuse(const char* reason, const QString& topic, const QString& text);
@@ -115,7 +117,8 @@ private:
     std::chrono::seconds m_dropPause{10};
     Clock::time_point m_nextGathering;
 
-    QByteArray m_status; // as it was published last
+    QByteArray m_status; // as it is at the broker; empty while that is not known
+    QByteArray m_lastStatus; // as it was published last
     Clock::time_point m_nextSecond;
     Clock::time_point m_nextStatus;
     Clock::time_point m_nextForgetting = Clock::now() + std::chrono::minutes(1);

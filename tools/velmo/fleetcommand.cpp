@@ -63,6 +63,10 @@ int tell(const Arguments& arguments, const FleetSelection& selection)
     if (fleet.size() == 0) {
         faults +=
             Velmo::tr("no kiosk has a summary at \"%1\"").arg(arguments.value(options::summaries));
+    } else if (std::none_of(
+                   fleet.kiosks().begin(), fleet.kiosks().end(),
+                   [&](const FleetKiosk& kiosk) { return selection.hasName(kiosk.name); })) {
+        faults += Velmo::tr("no kiosk has such a name and region");
     } else if (arguments.isSet(options::json)) {
         print(QString::fromUtf8(table.json(fleet, count)));
     } else {

@@ -26,6 +26,18 @@ History openHistory(const Arguments& arguments, const char* of)
     return History(arguments.value(options::history));
 }
 
+// The exit code of what was told up to now.
+int codeOf(const History& history, int exitCode = exitSuccess)
+{
+    try {
+        history.requireWriter();
+        return exitCode;
+    } catch (const Fault& fault) {
+        printError(fault.message);
+        return exitBadInput;
+    }
+}
+
 qint64 now()
 {
     return QDateTime::currentMSecsSinceEpoch();
@@ -221,13 +233,15 @@ int fleetHistoryCommand(const Arguments& arguments)
         print(events.empty()
                   ? Velmo::tr("The history tells of nothing in that time.") + QLatin1Char('\n')
                   : eventsText(events));
-        return exitSuccess;
+    } else {
+        QByteArray lines;
+        for (const Event& event : events)
+            lines += event.json + '\n';
+        print(QString::fromUtf8(lines));
     }
-    QByteArray lines;
-    for (const Event& event : events)
-        lines += event.json + '\n';
-    print(QString::fromUtf8(lines));
-    return exitSuccess;
+    const bool isOver = std::all_of(events.begin(), events.end(),
+                                    [](const Event& event) { return event.ended.has_value(); });
+    return isOver ? exitSuccess : codeOf(history);
 }
 
 int tellAvailability(const Arguments& arguments, const FleetSelection& selection)
@@ -241,7 +255,8 @@ int tellAvailability(const Arguments& arguments, const FleetSelection& selection
     const QDate month = monthOf(arguments);
     const qint64 whole = std::min(now(), month.addMonths(1).startOfDay().toMSecsSinceEpoch())
         - month.startOfDay().toMSecsSinceEpoch();
-    const auto known = openHistory(arguments, "--availability").availability(month, now());
+    const History history = openHistory(arguments, "--availability");
+    const auto known = history.availability(month, now());
     std::vector<Row> rows;
     History::Availability all{};
     for (auto kiosk = known.begin(); kiosk != known.end(); ++kiosk) {
@@ -270,13 +285,13 @@ int tellAvailability(const Arguments& arguments, const FleetSelection& selection
             add(row.kiosk, row.of, whole);
         add(JsonText::null(), all, wholeOfAll);
         print(QString::fromUtf8(lines));
-        return exitSuccess;
+        return codeOf(history);
     }
     if (rows.empty()) {
         print(Velmo::tr("The history knows nothing of %1.")
                   .arg(month.toString(QStringLiteral("yyyy-MM")))
               + QLatin1Char('\n'));
-        return exitSuccess;
+        return codeOf(history);
     }
     QList<QStringList> cells;
     const auto add = [&](const QString& name, const History::Availability& of, qint64 time) {
@@ -295,7 +310,7 @@ int tellAvailability(const Arguments& arguments, const FleetSelection& selection
                               "share of the month up to now.")
                         .arg(month.toString(QStringLiteral("yyyy-MM"))),
                     0, outputWidth()));
-    return exitSuccess;
+    return codeOf(history);
 }
 
 int tellDue(const Arguments& arguments, const FleetSelection& selection)
@@ -308,7 +323,8 @@ int tellDue(const Arguments& arguments, const FleetSelection& selection)
     QList<QStringList> unknown;
     int later = 0;
     int unsaid = 0;
-    std::vector<History::Due> all = openHistory(arguments, "--due").due(now());
+    const History history = openHistory(arguments, "--due");
+    std::vector<History::Due> all = history.due(now());
     std::stable_sort(all.begin(), all.end(), [](const History::Due& a, const History::Due& b) {
         const qint64 never = std::numeric_limits<qint64>::max();
         const qint64 first = a.earliest.value_or(never);
@@ -359,5 +375,6 @@ int tellDue(const Arguments& arguments, const FleetSelection& selection)
               + Velmo::tr("due: %1, later: %2, cannot say: %3").arg(found).arg(later).arg(unsaid)
               + QLatin1Char('\n'));
     }
-    return found > 0 && arguments.isSet(options::exitCode) ? exitFindings : exitSuccess;
+    return codeOf(history,
+                  found > 0 && arguments.isSet(options::exitCode) ? exitFindings : exitSuccess);
 }

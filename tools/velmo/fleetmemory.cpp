@@ -25,8 +25,10 @@ void FleetMemory::read()
     if (!isThere())
         return;
     try {
-        m_now = History(m_place).now(QDateTime::currentMSecsSinceEpoch());
+        const History history(m_place);
+        m_now = history.now(QDateTime::currentMSecsSinceEpoch());
         m_fault.clear();
+        history.requireWriter();
     } catch (const Fault& fault) {
         m_fault = fault.message;
     }
