@@ -65,7 +65,7 @@ History::~History() = default;
 void History::requireWriter() const
 {
     // A lease is for seconds; one that is a little late is no fault.
-    constexpr int tolerance = 30'000;
+    constexpr int tolerance = 30000;
     bool isWritten = false;
     m_database->read(QStringLiteral("SELECT count(*) FROM writers WHERE until + ? > %1")
                          .arg(m_database->clock()),

@@ -13,7 +13,7 @@
 namespace {
 
 // A state that another worker has seen arrives here within this time, by this worker's clock.
-constexpr qint64 grace = 30'000;
+constexpr qint64 grace = 30000;
 
 // Nobody inserts so many notes between two states: such a counter is nonsense.
 constexpr qint64 mostAtOnce = 1000000000;

@@ -1810,5 +1810,13 @@
         <source>The days differ too much.</source>
         <translation>Дни слишком непохожи друг на друга.</translation>
     </message>
+    <message>
+        <source>No worker writes to the history: what lasts in it may be over.</source>
+        <translation>Ни один обработчик не пишет историю: то, что в ней ещё длится, могло закончиться.</translation>
+    </message>
+    <message>
+        <source>the file was removed or replaced</source>
+        <translation>файл удалён или заменён</translation>
+    </message>
 </context>
 </TS>

@@ -1658,5 +1658,21 @@
         <extracomment>How many, and of which condition: 3 faulty.</extracomment>
         <translation>%2 %1</translation>
     </message>
+    <message>
+        <source>no kiosk has such a name and region</source>
+        <translation>нет терминала с таким именем и регионом</translation>
+    </message>
+    <message>
+        <source>%1; %2 without it.</source>
+        <translation>%1; если не задано, %2.</translation>
+    </message>
+    <message>
+        <source>Another worker has the same name.</source>
+        <translation>У другого обработчика такое же имя.</translation>
+    </message>
+    <message>
+        <source>another worker has the same --name, &quot;%1&quot;</source>
+        <translation>у другого обработчика такое же --name, «%1»</translation>
+    </message>
 </context>
 </TS>

@@ -114,8 +114,15 @@ void run()
         Velmo::tr("Makes summaries of what kiosks publish at an MQTT broker."));
     parser.addHelpOption();
     parser.addVersionOption();
-    for (const Option* const option : options::every)
-        parser.addOption(option->forParser());
+    for (const Option* const option : options::every) {
+        QCommandLineOption known = option->forParser();
+        if (option->usual) {
+            known.setDescription(Velmo::tr("%1; %2 without it.")
+                                     .arg(known.description().chopped(1),
+                                          QString::fromLatin1(option->usual)));
+        }
+        parser.addOption(known);
+    }
     if (!parser.parse(QCoreApplication::arguments()))
         throw Fault{parser.errorText()};
     parser.process(QCoreApplication::arguments()); // --help and --version

@@ -119,6 +119,7 @@ private:
 
     QByteArray m_status; // as it is at the broker; empty while that is not known
     QByteArray m_lastStatus; // as it was published last
+    bool m_isNameTaken = false; // by another worker, too
     Clock::time_point m_nextSecond;
     Clock::time_point m_nextStatus;
     Clock::time_point m_nextForgetting = Clock::now() + std::chrono::minutes(1);
