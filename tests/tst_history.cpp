@@ -353,8 +353,10 @@ private Q_SLOTS:
 
     void changesWaitForTheDatabase()
     {
-        if (!m_server->isThere())
-            QSKIP("PostgreSQL is not installed.");
+        if (!m_server->isThere()) {
+            QTest::qSkip("PostgreSQL is not installed.", __FILE__, __LINE__);
+            return;
+        }
         const QString place = newPlace("postgres"_s);
         {
             HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
@@ -542,9 +544,9 @@ private Q_SLOTS:
         int said = 0;
         for (int kiosk = 0; kiosk < kiosks; ++kiosk) {
             const int opens = kiosk % 24; // for twelve hours, and busier every other day
-            const auto used = [&](int hour) {
-                const bool isOpen = (hour + opens + 24) % 24 < 12;
-                const double factor = (hour + opens + 240) / 24 % 2 == 0 ? 1.2 : 0.8;
+            const auto used = [&](int at) {
+                const bool isOpen = (at + opens + 24) % 24 < 12;
+                const double factor = (at + opens + 240) / 24 % 2 == 0 ? 1.2 : 0.8;
                 std::poisson_distribution<int> events(perDay / 12 / atOnce * factor);
                 return isOpen ? events(random) * atOnce : 0;
             };
