@@ -226,6 +226,8 @@ def check_away(world):
         away.signal(signal.SIGSTOP)
         wait_until("the worker is missed", lambda: fleet.statuses[away.name].get("gone"), 40)
         fleet.publish_all(["later", "gone"])
+        wait_until("they are heard", lambda: "silent" not in (
+            fleet.told(kiosk)["condition"] for kiosk in ("later", "gone")))
         fleet.send("gone", b"x", "will", retain=False)
         names = ["mute", "later", "gone"]
         for kiosk in names:
@@ -328,7 +330,9 @@ def check_flood(world):
     fleet.check("after the flood")
     lines, grown = worker.said().count("\n"), worker.of_process("VmRSS") - before
     hold(lines < 30, lines, "lines are logged:", worker.said()[:1000])
-    hold(grown < 8, grown, "MiB more")
+    with open(worker.command[0], "rb") as program:
+        room = 80 if b"__asan_init" in program.read() else 8  # which keeps what is freed for a while
+    hold(grown < room, grown, "MiB more")
     hold(worker.count("kiosks") == 1, "kiosks:", worker.count("kiosks"))
 
 

@@ -117,9 +117,9 @@ void run()
     for (const Option* const option : options::every) {
         QCommandLineOption known = option->forParser();
         if (option->usual) {
-            known.setDescription(Velmo::tr("%1; %2 without it.")
-                                     .arg(known.description().chopped(1),
-                                          QString::fromLatin1(option->usual)));
+            known.setDescription(
+                Velmo::tr("%1; %2 without it.")
+                    .arg(known.description().chopped(1), QString::fromLatin1(option->usual)));
         }
         parser.addOption(known);
     }

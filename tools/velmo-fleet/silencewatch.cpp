@@ -9,7 +9,6 @@ using std::chrono::seconds;
 
 namespace {
 
-constexpr seconds longestTurn{2}; // of a program that is not stopped
 constexpr seconds longestProbe{1}; // of a broker that does not stand still
 constexpr seconds longestGrace{60}; // for kiosks to come back
 

@@ -16,6 +16,8 @@ public:
     using Clock = std::chrono::steady_clock;
     using Duration = Clock::duration;
 
+    static constexpr std::chrono::seconds longestTurn{2}; ///< of a program that is not stopped
+
     /// @param time of silence after which it is told of; 0 for never
     explicit SilenceWatch(std::chrono::seconds time)
         : m_time(time)

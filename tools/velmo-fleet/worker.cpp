@@ -75,8 +75,18 @@ void Worker::run(const std::atomic<bool>& isStopped)
 
 void Worker::turn()
 {
-    m_silence.turn(Clock::now(), m_isListening && m_broker.isConnected());
+    // What has waited while the program was stopped came at some time since then. That all of it is
+    // read is not seen, but it is soon.
+    const Clock::time_point now = Clock::now();
+    if (now - m_lastTurn > SilenceWatch::longestTurn)
+        m_caughtUpAt = now + seconds(1);
+    if (now >= m_caughtUpAt)
+        m_turnedAt = wholeSecond();
+    m_lastTurn = now;
+    m_silence.turn(now, m_isListening && m_broker.isConnected());
     const bool isBehind = m_broker.read(batch);
+    if (isBehind && now < m_caughtUpAt)
+        m_caughtUpAt = now + seconds(1);
     followConnection();
     m_publisher.send();
     m_broker.write();
@@ -185,7 +195,7 @@ void Worker::tell(const QString& name, const KioskSummary& summary, quint64 mess
 void Worker::hear(Kiosk& kiosk)
 {
     kiosk.heardOf = m_silence.now();
-    kiosk.heardAt = wholeSecond();
+    kiosk.heardAt = m_turnedAt;
 }
 
 void Worker::loseSight(const QString& name, KioskSummary::Condition condition, const char* reason,

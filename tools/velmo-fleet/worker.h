@@ -117,6 +117,10 @@ private:
     std::chrono::seconds m_dropPause{10};
     Clock::time_point m_nextGathering;
 
+    Clock::time_point m_lastTurn = Clock::now();
+    qint64 m_turnedAt = 0; // not later than what is read now came, in milliseconds since 1970
+    Clock::time_point m_caughtUpAt; // with what came while the program was stopped
+
     QByteArray m_status; // as it is at the broker; empty while that is not known
     QByteArray m_lastStatus; // as it was published last
     bool m_isNameTaken = false; // by another worker, too
