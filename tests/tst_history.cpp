@@ -351,6 +351,54 @@ private Q_SLOTS:
         }
     }
 
+    // Workers in one part and in two write of the same kiosks, until those end that were first.
+    void numberOfPartsMayChange_data() { addKinds(); }
+
+    void numberOfPartsMayChange()
+    {
+        QFETCH(QString, kind);
+        const QString place = newPlace(kind);
+        struct Worker
+        {
+            std::unique_ptr<HistoryRecorder> recorder;
+            QStringList kiosks;
+        };
+        std::array<Worker, 3> workers{{{{}, {"k1"_s, "k2"_s}}, {{}, {"k1"_s}}, {{}, {"k2"_s}}}};
+        const auto parts = {"1/1"_s, "1/2"_s, "2/2"_s};
+        for (std::size_t w = 0; w < workers.size(); ++w)
+            workers[w].recorder = std::make_unique<HistoryRecorder>(place, parts.begin()[w], "w"_s);
+        constexpr int rounds = 300;
+        for (int i = 0; i < rounds; ++i) {
+            const bool isOneWriter = workers[0].recorder && workers[0].recorder->status().isWriter;
+            for (std::size_t w = 0; w < workers.size(); ++w) {
+                Worker& worker = workers[w];
+                if (i == rounds / 2 && isOneWriter == (w == 0))
+                    worker.recorder.reset();
+                if (!worker.recorder)
+                    continue;
+                for (const QString& kiosk : worker.kiosks) {
+                    KioskRecord each = counted(start + i * 10, 1000 + i);
+                    each.kiosk = kiosk;
+                    each.message = quint64(i + 1);
+                    each.condition = Condition(2 + i % 3);
+                    worker.recorder->record(each);
+                }
+                QCOMPARE(worker.recorder->status().fault, QString());
+                QVERIFY(w == 0 || !isOneWriter || !worker.recorder->status().isWriter);
+            }
+            QThread::msleep(40);
+        }
+        for (Worker& worker : workers) {
+            QVERIFY(!worker.recorder || worker.recorder->status().isWriter);
+            QVERIFY(!worker.recorder || worker.recorder->status().lost == 0);
+            worker.recorder.reset();
+        }
+        for (const QString& kiosk : {"k1"_s, "k2"_s})
+            QCOMPARE(int(History(place).conditions(kiosk).size()), rounds);
+        QCOMPARE(rows(place, "SELECT hour, kiosk, inserted FROM hours ORDER BY kiosk"_s),
+                 "0 k1 299, 0 k2 299"_s);
+    }
+
     void changesWaitForTheDatabase()
     {
         if (!m_server->isThere())
