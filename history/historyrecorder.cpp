@@ -50,15 +50,24 @@ public:
 
     Status status() const;
 
+    void forgetGone(std::function<bool(const QString&)> isGone, qint64 time);
+
     ChangeQueue queue;
 
 private:
+    struct Gone
+    {
+        std::function<bool(const QString&)> has;
+        qint64 time;
+    };
+
     bool turn(bool isLast);
     void open();
     void find();
     void write(bool isLast);
     void apply(const std::vector<KioskChange>& changes);
     void reconcile();
+    void forget(const Gone& gone, const std::vector<KioskChange>& changes);
     void giveUp();
     void passOver(bool isOfData);
     void lose(const QString& why);
@@ -71,6 +80,7 @@ private:
     bool m_hasEnded = false;
     Status m_status;
     bool m_isOthers = false; // another worker has the lease
+    std::shared_ptr<const Gone> m_gone; // who is to be forgotten; null for none
 
     // Of the thread alone.
     std::unique_ptr<HistoryDatabase> m_database;
@@ -120,6 +130,12 @@ HistoryRecorder::Status HistoryRecorder::Thread::status() const
     return status;
 }
 
+void HistoryRecorder::Thread::forgetGone(std::function<bool(const QString&)> isGone, qint64 time)
+{
+    const std::lock_guard lock(m_mutex);
+    m_gone = std::make_shared<const Gone>(Gone{std::move(isGone), time});
+}
+
 bool HistoryRecorder::Thread::turn(bool isLast)
 {
     try {
@@ -154,6 +170,7 @@ void HistoryRecorder::Thread::passOver(bool isOfData)
     m_failures = 0;
     queue.drop(m_writing);
     const std::lock_guard lock(m_mutex);
+    m_gone.reset();
     m_status.lost += m_writingCount;
 }
 
@@ -196,7 +213,13 @@ void HistoryRecorder::Thread::write(bool isLast)
     const ChangeQueue::Batch batch = queue.waiting();
     const bool isReconciling = Clock::now() >= m_reconcileAt;
     const std::vector<KioskChange> counts = queue.takeCounts(isLast);
-    if (batch.changes.empty() && counts.empty() && !isReconciling && !m_lease.isToRenew()) {
+    std::shared_ptr<const Gone> gone;
+    {
+        const std::lock_guard lock(m_mutex);
+        gone = m_gone;
+    }
+    if (batch.changes.empty() && counts.empty() && !isReconciling && !gone
+        && !m_lease.isToRenew()) {
         return;
     }
     HistoryTransaction transaction(*m_database);
@@ -209,6 +232,8 @@ void HistoryRecorder::Thread::write(bool isLast)
     }
     m_writing = batch.first + batch.changes.size();
     m_writingCount = qint64(batch.changes.size());
+    if (gone)
+        forget(*gone, batch.changes);
     apply(batch.changes);
     apply(counts);
     const qint64 lost = queue.lost();
@@ -222,6 +247,8 @@ void HistoryRecorder::Thread::write(bool isLast)
     queue.drop(m_writing);
     m_failures = 0;
     const std::lock_guard lock(m_mutex);
+    if (m_gone == gone)
+        m_gone.reset();
     m_status.isWriter = true;
     m_status.written += m_writingCount;
 }
@@ -273,6 +300,29 @@ void HistoryRecorder::Thread::reconcile()
         m_ledger.apply(change);
 }
 
+// What is known here, or waits to be written, says more of a kiosk than that it was gone once.
+void HistoryRecorder::Thread::forget(const Gone& gone, const std::vector<KioskChange>& changes)
+{
+    QSet<QString> told;
+    for (const KioskChange& change : changes)
+        told.insert(change.kiosk);
+    for (const KioskChange& change : queue.latest())
+        told.insert(change.kiosk);
+    QSet<QString> kiosks;
+    QSqlQuery& query = m_database->run(
+        QStringLiteral("SELECT kiosk FROM conditions WHERE ended IS NULL AND began < ?"),
+        {gone.time});
+    while (query.next()) {
+        const QString kiosk = query.value(0).toString();
+        if (!told.contains(kiosk) && gone.has(kiosk))
+            kiosks.insert(kiosk);
+    }
+    query.finish();
+    m_ledger.load(*m_database, kiosks);
+    for (const QString& kiosk : std::as_const(kiosks))
+        m_ledger.apply({KioskChange::Forgotten, kiosk, gone.time, 0, nullptr});
+}
+
 void HistoryRecorder::Thread::giveUp()
 {
     try {
@@ -306,6 +356,11 @@ void HistoryRecorder::record(KioskRecord record)
 void HistoryRecorder::forget(const QString& kiosk, qint64 time)
 {
     m_thread->queue.forget(kiosk, time);
+}
+
+void HistoryRecorder::forgetGone(std::function<bool(const QString& kiosk)> isGone, qint64 time)
+{
+    m_thread->forgetGone(std::move(isGone), time);
 }
 
 HistoryRecorder::Status HistoryRecorder::status() const

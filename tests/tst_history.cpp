@@ -225,6 +225,34 @@ private Q_SLOTS:
         QCOMPARE(history.now(start + 60).keys(), QStringList{"k1"_s});
     }
 
+    // Kiosks that another worker wrote of, which is gone.
+    void kiosksThatAreGoneAreForgotten_data() { addKinds(); }
+
+    void kiosksThatAreGoneAreForgotten()
+    {
+        QFETCH(QString, kind);
+        const QString place = newPlace(kind);
+        {
+            HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
+            for (const QString& kiosk : {"gone"_s, "stays"_s, "back"_s, "of another part"_s})
+                recorder.record(record(kiosk, start, 1, Condition::Faulty, {"halted"_s}));
+            recorder.record(record("new"_s, start + 60, 1, Condition::Fine));
+        }
+        {
+            HistoryRecorder recorder(place, "1/1"_s, "w2"_s);
+            recorder.record(record("stays"_s, start + 10, 1, Condition::Faulty, {"halted"_s}));
+            recorder.forgetGone([](const QString& kiosk) { return kiosk != "of another part"_s; },
+                                start + 50);
+            recorder.record(record("back"_s, start + 51, 2, Condition::Fine));
+        }
+        const History history(place);
+        QCOMPARE(shown(history, "gone"_s), "0-50 faulty, 0-50 halted"_s);
+        for (const QString& kiosk : {"stays"_s, "of another part"_s})
+            QCOMPARE(shown(history, kiosk), "0- faulty, 0- halted"_s);
+        QCOMPARE(shown(history, "back"_s), "0-51 faulty, 51- fine, 0-51 halted"_s);
+        QCOMPARE(shown(history, "new"_s), "60- fine"_s);
+    }
+
     void cassettesAreCountedBetweenCollections_data() { addKinds(); }
 
     void cassettesAreCountedBetweenCollections()
