@@ -1810,5 +1810,17 @@
         <source>The days differ too much.</source>
         <translation>Дни слишком непохожи друг на друга.</translation>
     </message>
+    <message>
+        <source>No worker writes to the history: what lasts in it may be over.</source>
+        <translation>Ни один обработчик не пишет в историю: то, что в ней ещё длится, могло уже закончиться.</translation>
+    </message>
+    <message>
+        <source>the file was removed or replaced</source>
+        <translation>файл удалён или заменён</translation>
+    </message>
+    <message>
+        <source>The kiosk has been silent for more than a day.</source>
+        <translation>Терминал молчит больше суток.</translation>
+    </message>
 </context>
 </TS>

@@ -1658,5 +1658,9 @@
         <extracomment>How many, and of which condition: 3 faulty.</extracomment>
         <translation>%2 %1</translation>
     </message>
+    <message>
+        <source>no kiosk has such a name and region</source>
+        <translation>нет терминала с таким именем и регионом</translation>
+    </message>
 </context>
 </TS>
