@@ -536,8 +536,8 @@ private Q_SLOTS:
             }
             return "fine"_s;
         };
-        // What nobody may write root may.
         QString later; // what its status says, while it tries again
+        // What nobody may write root may.
         const bool isRoot = geteuid() == 0;
         if (isRoot && (name == "locked"_s || name == "unread"_s))
             QCOMPARE(seteuid(65534), 0);
