@@ -122,6 +122,8 @@ HistoryDatabase::~HistoryDatabase()
 
 void HistoryDatabase::openFile(Access access)
 {
+    if (m_place.contains(QLatin1String("://")))
+        refuse(Diagnosis::tr("expected postgresql://user@host:port/database"));
     const QFileInfo file(m_place);
     if (m_place.isEmpty() || file.isDir())
         refuse(Diagnosis::tr("expected a file"));
@@ -133,8 +135,8 @@ void HistoryDatabase::openFile(Access access)
     if (access == Read)
         options += QLatin1String(";QSQLITE_OPEN_READONLY");
     database.setConnectOptions(options);
-    if (!database.open())
-        fail(database.lastError());
+    if (!database.open()) // what the file has is not looked at yet
+        refuse(database.lastError().databaseText(), /*mayPass=*/true);
     if (access == Write) {
         execute(QStringLiteral("PRAGMA journal_mode=WAL"));
         execute(QStringLiteral("PRAGMA synchronous=NORMAL"));
@@ -244,8 +246,9 @@ QString HistoryDatabase::placeholders(int count)
 
 void HistoryDatabase::fail(const QSqlError& error) const
 {
-    // Of SQLite's faults these pass: that another process is writing, and what is of the disk.
-    constexpr int passing[] = {5, 10, 13};
+    // Of SQLite's faults these pass: that another process is writing, what is of the disk, and that
+    // the file may not be opened or written.
+    constexpr int passing[] = {3, 5, 8, 10, 13, 14};
     constexpr int ofData[] = {18, 19, 20}; // too big, against a constraint, of another type
     const QString code = error.nativeErrorCode();
     const int number = code.toInt() & 0xff;

@@ -6,9 +6,9 @@
 #include "changequeue.h"
 #include "historydatabase.h"
 #include "text/diagnosis.h"
+#include "writerlease.h"
 
 #include <QLoggingCategory>
-#include <QUuid>
 
 #include <algorithm>
 #include <condition_variable>
@@ -25,8 +25,6 @@ constexpr seconds longestPause{30};
 constexpr seconds kept{30}; // what the writer that is may not have written when it is gone
 constexpr seconds longestEnding{5};
 
-constexpr int lease = 5000; // milliseconds; renewed with every batch
-constexpr int renewedAfter = 2; // seconds, where there is nothing to write
 constexpr int mostFailures = 5; // to write the same changes, while the database answers
 
 } // namespace
@@ -40,8 +38,7 @@ public:
 
     Thread(const QString& place, const QString& part, const QString& worker)
         : m_place(place)
-        , m_part(part)
-        , m_worker(worker)
+        , m_lease(part, worker)
     {
     }
 
@@ -53,30 +50,29 @@ public:
 
     Status status() const;
 
+    void forgetGone(std::function<bool(const QString&)> isGone, qint64 time);
+
     ChangeQueue queue;
 
 private:
-    enum class Lease { Mine, Anew, Others };
+    struct Gone
+    {
+        std::function<bool(const QString&)> has;
+        qint64 time;
+    };
 
     bool turn(bool isLast);
     void open();
     void find();
-    QString isFree(const QString& until) const;
-    qint64 seenFor() const;
-    bool isOthers();
-    Lease take();
     void write(bool isLast);
     void apply(const std::vector<KioskChange>& changes);
     void reconcile();
+    void forget(const Gone& gone, const std::vector<KioskChange>& changes);
     void giveUp();
     void passOver(bool isOfData);
     void lose(const QString& why);
 
     const QString m_place;
-    const QString m_part;
-    const QString m_worker;
-    const Clock::time_point m_began = Clock::now();
-    const QString m_token = QUuid::createUuid().toString(QUuid::WithoutBraces);
 
     mutable std::mutex m_mutex; // of what follows
     std::condition_variable m_condition;
@@ -84,12 +80,12 @@ private:
     bool m_hasEnded = false;
     Status m_status;
     bool m_isOthers = false; // another worker has the lease
+    std::shared_ptr<const Gone> m_gone; // who is to be forgotten; null for none
 
     // Of the thread alone.
     std::unique_ptr<HistoryDatabase> m_database;
-    KioskLedger m_ledger;
-    qint64 m_epoch = -1; // which the ledger is of
-    Clock::time_point m_renewed;
+    WriterLease m_lease;
+    KioskLedger m_ledger; // of what is written while it has the lease
     Clock::time_point m_reconcileAt = Clock::time_point::max();
     qint64 m_lost = 0; // as it was known last
     int m_failures = 0; // to write the same, though the database answers
@@ -134,11 +130,17 @@ HistoryRecorder::Status HistoryRecorder::Thread::status() const
     return status;
 }
 
+void HistoryRecorder::Thread::forgetGone(std::function<bool(const QString&)> isGone, qint64 time)
+{
+    const std::lock_guard lock(m_mutex);
+    m_gone = std::make_shared<const Gone>(Gone{std::move(isGone), time});
+}
+
 bool HistoryRecorder::Thread::turn(bool isLast)
 {
     try {
         open();
-        const bool isOther = isOthers();
+        const bool isOther = m_lease.isOthers(*m_database);
         {
             const std::lock_guard lock(m_mutex);
             m_isOthers = isOther;
@@ -168,6 +170,7 @@ void HistoryRecorder::Thread::passOver(bool isOfData)
     m_failures = 0;
     queue.drop(m_writing);
     const std::lock_guard lock(m_mutex);
+    m_gone.reset();
     m_status.lost += m_writingCount;
 }
 
@@ -193,7 +196,7 @@ void HistoryRecorder::Thread::find()
 void HistoryRecorder::Thread::lose(const QString& why)
 {
     m_ledger.clear();
-    m_epoch = -1;
+    m_lease.lose();
     m_database.reset();
     m_pause = m_pause.count() == 0 ? seconds(1) : std::min(2 * m_pause, longestPause);
     m_nextAttempt = Clock::now() + m_pause;
@@ -205,77 +208,32 @@ void HistoryRecorder::Thread::lose(const QString& why)
     m_isOthers = false;
 }
 
-// As SQL, of the end of a lease, and with a "?" for how long this worker has seen what happens. Who
-// has not seen all since the writer that is gone wrote last leaves it to those that have, for as
-// long as they need. A lease that ends in the far future was taken before the clock was set back.
-QString HistoryRecorder::Thread::isFree(const QString& until) const
-{
-    return QStringLiteral("(%1 > %2 + 2 * %3 OR %2 > %1"
-                          " + CASE WHEN %1 - %3 < %2 - ? THEN %3 ELSE 0 END)")
-        .arg(until, m_database->clock())
-        .arg(lease);
-}
-
-qint64 HistoryRecorder::Thread::seenFor() const
-{
-    return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - m_began).count();
-}
-
-bool HistoryRecorder::Thread::isOthers()
-{
-    QSqlQuery& query = m_database->run(
-        QStringLiteral("SELECT count(*) FROM writers WHERE part = ? AND token <> ? AND NOT ")
-            + isFree(QStringLiteral("until")),
-        {m_part, m_token, seenFor()});
-    const bool isOther = query.next() && query.value(0).toInt() > 0;
-    query.finish();
-    return isOther;
-}
-
-HistoryRecorder::Thread::Lease HistoryRecorder::Thread::take()
-{
-    const int taken =
-        m_database
-            ->run(QStringLiteral("INSERT INTO writers(part, worker, token, epoch, until)"
-                                 " VALUES (?, ?, ?, 1, %1 + %2) ON CONFLICT(part) DO UPDATE SET"
-                                 " epoch = CASE WHEN writers.token = excluded.token"
-                                 " THEN writers.epoch ELSE writers.epoch + 1 END,"
-                                 " worker = excluded.worker, token = excluded.token,"
-                                 " until = excluded.until"
-                                 " WHERE writers.token = excluded.token OR ")
-                          .arg(m_database->clock())
-                          .arg(lease)
-                      + isFree(QStringLiteral("writers.until")),
-                  {m_part, m_worker, m_token, seenFor()})
-            .numRowsAffected();
-    if (taken == 0)
-        return Lease::Others;
-    QSqlQuery& query =
-        m_database->run(QStringLiteral("SELECT epoch FROM writers WHERE part = ?"), {m_part});
-    const qint64 epoch = query.next() ? query.value(0).toLongLong() : -1;
-    query.finish();
-    return std::exchange(m_epoch, epoch) == epoch ? Lease::Mine : Lease::Anew;
-}
-
 void HistoryRecorder::Thread::write(bool isLast)
 {
     const ChangeQueue::Batch batch = queue.waiting();
     const bool isReconciling = Clock::now() >= m_reconcileAt;
     const std::vector<KioskChange> counts = queue.takeCounts(isLast);
-    if (batch.changes.empty() && counts.empty() && !isReconciling && m_epoch >= 0
-        && Clock::now() < m_renewed + seconds(renewedAfter)) {
+    std::shared_ptr<const Gone> gone;
+    {
+        const std::lock_guard lock(m_mutex);
+        gone = m_gone;
+    }
+    if (batch.changes.empty() && counts.empty() && !isReconciling && !gone
+        && !m_lease.isToRenew()) {
         return;
     }
     HistoryTransaction transaction(*m_database);
-    const Lease held = take();
-    if (held == Lease::Others)
+    const WriterLease::Held held = m_lease.take(*m_database);
+    if (held == WriterLease::Others)
         return;
-    if (held == Lease::Anew) {
+    if (held == WriterLease::Anew) {
         m_ledger.clear();
         m_reconcileAt = Clock::now() + kept;
     }
     m_writing = batch.first + batch.changes.size();
     m_writingCount = qint64(batch.changes.size());
+    if (gone)
+        forget(*gone, batch.changes);
     apply(batch.changes);
     apply(counts);
     const qint64 lost = queue.lost();
@@ -283,13 +241,14 @@ void HistoryRecorder::Thread::write(bool isLast)
         reconcile();
     m_ledger.write(*m_database);
     transaction.commit();
-    m_renewed = Clock::now();
     m_lost = lost;
     if (isReconciling)
         m_reconcileAt = Clock::time_point::max();
     queue.drop(m_writing);
     m_failures = 0;
     const std::lock_guard lock(m_mutex);
+    if (m_gone == gone)
+        m_gone.reset();
     m_status.isWriter = true;
     m_status.written += m_writingCount;
 }
@@ -341,11 +300,33 @@ void HistoryRecorder::Thread::reconcile()
         m_ledger.apply(change);
 }
 
+// What is known here, or waits to be written, says more of a kiosk than that it was gone once.
+void HistoryRecorder::Thread::forget(const Gone& gone, const std::vector<KioskChange>& changes)
+{
+    QSet<QString> told;
+    for (const KioskChange& change : changes)
+        told.insert(change.kiosk);
+    for (const KioskChange& change : queue.latest())
+        told.insert(change.kiosk);
+    QSet<QString> kiosks;
+    QSqlQuery& query = m_database->run(
+        QStringLiteral("SELECT kiosk FROM conditions WHERE ended IS NULL AND began < ?"),
+        {gone.time});
+    while (query.next()) {
+        const QString kiosk = query.value(0).toString();
+        if (!told.contains(kiosk) && gone.has(kiosk))
+            kiosks.insert(kiosk);
+    }
+    query.finish();
+    m_ledger.load(*m_database, kiosks);
+    for (const QString& kiosk : std::as_const(kiosks))
+        m_ledger.apply({KioskChange::Forgotten, kiosk, gone.time, 0, nullptr});
+}
+
 void HistoryRecorder::Thread::giveUp()
 {
     try {
-        m_database->run(QStringLiteral("UPDATE writers SET until = 0 WHERE part = ? AND token = ?"),
-                        {m_part, m_token});
+        m_lease.giveUp(*m_database);
     } catch (const Fault&) { // it runs out
     }
 }
@@ -375,6 +356,11 @@ void HistoryRecorder::record(KioskRecord record)
 void HistoryRecorder::forget(const QString& kiosk, qint64 time)
 {
     m_thread->queue.forget(kiosk, time);
+}
+
+void HistoryRecorder::forgetGone(std::function<bool(const QString& kiosk)> isGone, qint64 time)
+{
+    m_thread->forgetGone(std::move(isGone), time);
 }
 
 HistoryRecorder::Status HistoryRecorder::status() const

@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 /// Writes what workers see of kiosks to the history, on a thread of its own, in batches. It never
@@ -41,6 +42,11 @@ public:
 
     /// The kiosk is no longer one of the fleet: its open periods end.
     void forget(const QString& kiosk, qint64 time);
+
+    /// Forgets those kiosks of the history that are gone, as soon as this worker writes; but none
+    /// that it was told of.
+    /// @param isGone is asked on another thread
+    void forgetGone(std::function<bool(const QString& kiosk)> isGone, qint64 time);
 
     Status status() const;
 

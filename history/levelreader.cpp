@@ -62,7 +62,9 @@ std::vector<History::Due> LevelReader::due()
                        " AND levels.denomination = channels.denomination"
                        " AND levels.currency = channels.currency"
                        " AND levels.bill_type = channels.bill_type"
-                       " AND levels.hour > ? AND levels.hour <= ?)"
+                       " AND levels.hour > ? AND levels.hour <= ?),"
+                       " (SELECT began FROM conditions WHERE conditions.kiosk = channels.kiosk"
+                       " AND ended IS NULL AND condition = 'silent')"
                        " FROM channels WHERE hour > ? AND EXISTS (SELECT 1 FROM conditions"
                        " WHERE conditions.kiosk = channels.kiosk AND conditions.ended IS NULL)")
             .arg(m_database.pairs(QStringLiteral("levels.hour"), QStringLiteral("levels.count"))),
@@ -79,6 +81,12 @@ std::vector<History::Due> LevelReader::due()
         due.currency = row.value(5).toString();
         due.level = row.value(6).toLongLong();
         forecast(due, m_devices.value(keyOf(row)), hoursOf(row.value(7).toString()));
+        // What was used since nobody knows.
+        if (!row.value(8).isNull() && row.value(8).toLongLong() < m_now - HistoryTime::day) {
+            due.earliest.reset();
+            due.latest.reset();
+            due.cannotSay = Diagnosis::tr("The kiosk has been silent for more than a day.");
+        }
         m_due.push_back(due);
     }
     row.finish();

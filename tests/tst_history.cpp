@@ -225,6 +225,34 @@ private Q_SLOTS:
         QCOMPARE(history.now(start + 60).keys(), QStringList{"k1"_s});
     }
 
+    // Kiosks that another worker wrote of, which is gone.
+    void kiosksThatAreGoneAreForgotten_data() { addKinds(); }
+
+    void kiosksThatAreGoneAreForgotten()
+    {
+        QFETCH(QString, kind);
+        const QString place = newPlace(kind);
+        {
+            HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
+            for (const QString& kiosk : {"gone"_s, "stays"_s, "back"_s, "of another part"_s})
+                recorder.record(record(kiosk, start, 1, Condition::Faulty, {"halted"_s}));
+            recorder.record(record("new"_s, start + 60, 1, Condition::Fine));
+        }
+        {
+            HistoryRecorder recorder(place, "1/1"_s, "w2"_s);
+            recorder.record(record("stays"_s, start + 10, 1, Condition::Faulty, {"halted"_s}));
+            recorder.forgetGone([](const QString& kiosk) { return kiosk != "of another part"_s; },
+                                start + 50);
+            recorder.record(record("back"_s, start + 51, 2, Condition::Fine));
+        }
+        const History history(place);
+        QCOMPARE(shown(history, "gone"_s), "0-50 faulty, 0-50 halted"_s);
+        for (const QString& kiosk : {"stays"_s, "of another part"_s})
+            QCOMPARE(shown(history, kiosk), "0- faulty, 0- halted"_s);
+        QCOMPARE(shown(history, "back"_s), "0-51 faulty, 51- fine, 0-51 halted"_s);
+        QCOMPARE(shown(history, "new"_s), "60- fine"_s);
+    }
+
     void cassettesAreCountedBetweenCollections_data() { addKinds(); }
 
     void cassettesAreCountedBetweenCollections()
@@ -351,6 +379,54 @@ private Q_SLOTS:
         }
     }
 
+    // Workers in one part and in two write of the same kiosks, until those end that were first.
+    void numberOfPartsMayChange_data() { addKinds(); }
+
+    void numberOfPartsMayChange()
+    {
+        QFETCH(QString, kind);
+        const QString place = newPlace(kind);
+        struct Worker
+        {
+            std::unique_ptr<HistoryRecorder> recorder;
+            QStringList kiosks;
+        };
+        std::array<Worker, 3> workers{{{{}, {"k1"_s, "k2"_s}}, {{}, {"k1"_s}}, {{}, {"k2"_s}}}};
+        const auto parts = {"1/1"_s, "1/2"_s, "2/2"_s};
+        for (std::size_t w = 0; w < workers.size(); ++w)
+            workers[w].recorder = std::make_unique<HistoryRecorder>(place, parts.begin()[w], "w"_s);
+        constexpr int rounds = 300;
+        for (int i = 0; i < rounds; ++i) {
+            const bool isOneWriter = workers[0].recorder && workers[0].recorder->status().isWriter;
+            for (std::size_t w = 0; w < workers.size(); ++w) {
+                Worker& worker = workers[w];
+                if (i == rounds / 2 && isOneWriter == (w == 0))
+                    worker.recorder.reset();
+                if (!worker.recorder)
+                    continue;
+                for (const QString& kiosk : worker.kiosks) {
+                    KioskRecord each = counted(start + i * 10, 1000 + i);
+                    each.kiosk = kiosk;
+                    each.message = quint64(i + 1);
+                    each.condition = Condition(2 + i % 3);
+                    worker.recorder->record(each);
+                }
+                QCOMPARE(worker.recorder->status().fault, QString());
+                QVERIFY(w == 0 || !isOneWriter || !worker.recorder->status().isWriter);
+            }
+            QThread::msleep(40);
+        }
+        for (Worker& worker : workers) {
+            QVERIFY(!worker.recorder || worker.recorder->status().isWriter);
+            QVERIFY(!worker.recorder || worker.recorder->status().lost == 0);
+            worker.recorder.reset();
+        }
+        for (const QString& kiosk : {"k1"_s, "k2"_s})
+            QCOMPARE(int(History(place).conditions(kiosk).size()), rounds);
+        QCOMPARE(rows(place, "SELECT hour, kiosk, inserted FROM hours ORDER BY kiosk"_s),
+                 "0 k1 299, 0 k2 299"_s);
+    }
+
     void changesWaitForTheDatabase()
     {
         if (!m_server->isThere()) {
@@ -414,14 +490,15 @@ private Q_SLOTS:
     {
         addRows(R"(
             folder    | expected a file | expected a file
-            none/in   | unable to open database file | there is no such file
+            none/in   | later: unable to open database file | there is no such file
             text      | file is not a database | file is not a database
             foreign   | is the database of something else | there is no history in it
             later     | is of version 9, which is later than this program's 1 | is of version 9, which is later than this program's 1
-            locked    | attempt to write a readonly database | fine
-            unread    | unable to open database file | unable to open database file
+            locked    | later: attempt to write a readonly database | fine
+            unread    | later: unable to open database file | unable to open database file
             empty     | fine | there is no history in it
             missing   | fine | there is no such file
+            mysql://h/d | expected postgresql://user@host:port/database | expected postgresql://user@host:port/database
             postgresql://h | expected postgresql://user@host:port/database | expected postgresql://user@host:port/database)"_s);
     }
 
@@ -461,12 +538,20 @@ private Q_SLOTS:
             }
             return "fine"_s;
         };
+        QString later; // what its status says, while it tries again
         // What nobody may write root may.
         const bool isRoot = geteuid() == 0;
         if (isRoot && (name == "locked"_s || name == "unread"_s))
             QCOMPARE(seteuid(65534), 0);
         const QString toReader = said([&] { History(place).now(0); });
-        const QString toWriter = said([&] { HistoryRecorder(place, "1/1"_s, "w1"_s); });
+        QString toWriter = said([&] {
+            HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
+            while (!recorder.status().isWriter && recorder.status().fault.isEmpty())
+                QThread::msleep(10);
+            later = recorder.status().fault.mid(place.size() + 2);
+        });
+        if (!later.isEmpty())
+            toWriter = "later: "_s + later;
         if (isRoot)
             QCOMPARE(seteuid(0), 0);
         QFile::setPermissions(folder.path(), QFile::Permissions(0x7777));
@@ -615,6 +700,15 @@ private Q_SLOTS:
             texts,
             QStringList({"0 100 100 0 9.9 7.7-13.8 "_s, "-1 0 216 500 21.6 10.2-17.6 "_s,
                          "1 500 50 0 0.0 - Its level has not fallen in the last two weeks."_s}));
+        {
+            HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
+            recorder.record(record("k1"_s, start + 2, 1, Condition::Silent, {"silent"_s}));
+        }
+        QVERIFY(History(place).due(start + day)[0].earliest);
+        for (const History::Due& each : History(place).due(start + day + 3)) {
+            QVERIFY(!each.earliest && !each.latest);
+            QCOMPARE(each.cannotSay, "The kiosk has been silent for more than a day."_s);
+        }
     }
 };
 

@@ -1818,5 +1818,9 @@
         <source>the file was removed or replaced</source>
         <translation>файл удалён или заменён</translation>
     </message>
+    <message>
+        <source>The kiosk has been silent for more than a day.</source>
+        <translation>Терминал молчит больше суток.</translation>
+    </message>
 </context>
 </TS>

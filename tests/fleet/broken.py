@@ -10,6 +10,7 @@ import os
 import re
 import shutil
 import signal
+import sqlite3
 import subprocess
 import time
 
@@ -316,6 +317,36 @@ def check_scrapped(world):
     fleet.check("a scrapped one that lives again")
 
 
+def check_left(world):
+    """What left while no worker ran does not go on in the history."""
+    fleet = Fleet(world)
+    place = os.path.join(world.new_folder(), "history.sqlite")
+    parts = [["--partition", f"{part}/2", "--history", place] for part in (1, 2)]
+    workers = fleet.workers(*parts)
+    kiosks = [f"k{number}" for number in range(8)]
+    fleet.publish_all([*kiosks, "stays1", "stays2"])
+
+    def lasting():
+        with contextlib.closing(sqlite3.connect(place, timeout=10)) as history:
+            return {kiosk for kiosk, in history.execute(
+                "SELECT kiosk FROM conditions WHERE ended IS NULL")}
+    wait_until("all are in the history", lambda: len(lasting()) == 10)
+    for worker in workers:
+        worker.stop()
+    for kiosk in kiosks[1:]:
+        for kind in ("state", "summary"):
+            fleet.send(kiosk, b"", kind)
+    for worker in workers:
+        worker.start(wait=False)
+    kept = {"k0", "stays1", "stays2"}
+    wait_until(lambda: f"those that left have ended: {lasting()}", lambda: lasting() == kept, 60)
+    hold({part_of(kiosk, 2) for kiosk in kiosks[1:]} == {1, 2}, "both parts have some")
+    shown = world.velmo("fleet", "history", "k1", "--history", place, "--json")
+    hold(shown.returncode == 0 and '"ended":null' not in shown.stdout, "it is told of k1:", shown)
+    for worker in workers:
+        worker.stop()
+
+
 def check_flood(world):
     """Many bad messages, each of another kiosk, cost few lines and no memory."""
     fleet = Fleet(world)
@@ -455,5 +486,5 @@ def check_status(world):
 
 
 CHECKS = [check_silence, check_away, check_older_store, check_forgetting, check_rights, check_poison,
-          check_flood, check_partitions, check_sizes, check_wills, check_scrapped, check_status,
+          check_flood, check_partitions, check_sizes, check_wills, check_scrapped, check_left, check_status,
           check_topics, check_clocks, check_options]

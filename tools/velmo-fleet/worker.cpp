@@ -17,6 +17,7 @@ constexpr int batch = 200; // messages between two rounds of sending
 constexpr seconds quiet{1}; // without a retained message, after which there are no more
 constexpr seconds statusPause{600};
 constexpr seconds forgettingPause{3600};
+constexpr seconds droppedKnownAfter{20}; // mosquitto tells of it every ten
 constexpr quint32 statusExpiry = 86400; // seconds
 constexpr qint64 day = 86400000; // milliseconds
 
@@ -107,6 +108,7 @@ void Worker::turnEverySecond()
     if (m_isListening) {
         lookForSilence();
         lookForForgotten();
+        lookForGone();
     }
     const bool hasDropped = m_broker.dropped() > m_droppedKnown && Clock::now() > m_nextGathering;
     if (!m_isGathering && (m_mustVerify || hasDropped)) {
@@ -171,6 +173,11 @@ void Worker::endGathering()
             for (const QString& name : gone)
                 forget(name);
         }
+        // Where the broker has nothing at all its store may be lost; where the topic tells the
+        // part a name says nothing of it.
+        const bool isTold =
+            !m_retained.isEmpty() && (!m_options.states.hasPart() || m_options.part.count() == 1);
+        m_goneKnownAt = isTold ? Clock::now() + droppedKnownAfter : Clock::time_point::max();
         m_silence.restart();
         m_isListening = true;
         m_metrics.ready.Set(1);
@@ -250,6 +257,24 @@ void Worker::lookForForgotten()
     });
     for (const QString& name : old)
         m_broker.publish(m_options.states.of(name, m_options.part.number()), {});
+}
+
+// A kiosk that left while no worker ran is in the history still, but not at the broker; unless that
+// had no room to send what it has.
+void Worker::lookForGone()
+{
+    if (!m_history || Clock::now() < m_goneKnownAt)
+        return;
+    m_goneKnownAt = Clock::time_point::max();
+    if (m_broker.dropped() > 0)
+        return;
+    QSet<QString> here;
+    m_kiosks.forEach([&](const QString& name, const Kiosk&) { here.insert(name); });
+    m_history->forgetGone(
+        [here, part = m_options.part](const QString& name) {
+            return part.has(name) && !here.contains(name);
+        },
+        QDateTime::currentMSecsSinceEpoch());
 }
 
 void Worker::publishStatus(bool isProbe)

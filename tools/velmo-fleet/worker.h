@@ -83,6 +83,7 @@ private:
     void forget(const QString& name);
     void lookForSilence();
     void lookForForgotten();
+    void lookForGone();
 
     void publishStatus(bool isProbe = false);
     void acknowledge(int message, const QString& refusal);
@@ -126,5 +127,6 @@ private:
     bool m_isNameTaken = false; // by another worker, too
     Clock::time_point m_nextSecond;
     Clock::time_point m_nextStatus;
+    Clock::time_point m_goneKnownAt = Clock::time_point::max();
     Clock::time_point m_nextForgetting = Clock::now() + std::chrono::minutes(1);
 };
