@@ -271,6 +271,8 @@ def main():
             browser.ask("/refresh", {})
             words = browser.run("return [document.documentElement.lang, document.querySelector('h1').textContent];")
             require(words[0] == "ru" and words[1] != "Kiosks", f"not in Russian: {words}")
+            fleet.start(os.path.join(fleet.bin, "velmo-fleet"), "--broker", f"127.0.0.1:{fleet.port}", "--name", "page")
+            page.until("two workers have one name", lambda seen: "такое же имя" in seen["state"] and "doubtful" in seen["old"])
             check_end(fleet)
         finally:
             fleet.end()

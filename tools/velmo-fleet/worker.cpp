@@ -15,7 +15,6 @@ namespace {
 
 constexpr int batch = 200; // messages between two rounds of sending
 constexpr seconds quiet{1}; // without a retained message, after which there are no more
-constexpr seconds statusPause{600};
 constexpr seconds forgettingPause{3600};
 constexpr seconds droppedKnownAfter{20}; // mosquitto tells of it every ten
 constexpr quint32 statusExpiry = 86400; // seconds
@@ -101,6 +100,7 @@ void Worker::turnEverySecond()
     m_nextSecond = Clock::now() + seconds(1);
     if (m_history)
         m_metrics.set(m_history->status());
+    m_metrics.dropped.Increment(double(m_broker.dropped()) - m_metrics.dropped.Value());
     if (!m_broker.isSubscribed())
         return;
     if (m_isGathering && Clock::now() - m_lastRetained > quiet)
@@ -117,7 +117,6 @@ void Worker::turnEverySecond()
                            /*ownToo=*/false);
         if (hasDropped) {
             m_broker.subscribe(m_options.states.filter(m_options.part.number()), m_qos);
-            m_metrics.dropped.Increment(double(m_broker.dropped() - m_droppedKnown));
             m_droppedKnown = m_broker.dropped();
             m_nextGathering = Clock::now() + m_dropPause;
             m_dropPause = std::min<seconds>(2 * m_dropPause, statusPause);
@@ -308,7 +307,7 @@ QStringList Worker::faults() const
         faults += m_publisher.fault();
     if (m_broker.dropped() > 0)
         faults += Velmo::tr("The broker had no room for messages and dropped them.");
-    if (m_isNameTaken)
+    if (Clock::now() < m_nameTakenUntil)
         faults += Velmo::tr("Another worker has the same name.");
     const QString history = m_history ? m_history->status().fault : QString();
     if (!history.isEmpty())

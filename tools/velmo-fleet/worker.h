@@ -58,6 +58,8 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
+    static constexpr std::chrono::seconds statusPause{600}; // at most, between two of them
+
     void turn();
     void turnEverySecond();
     void followConnection();
@@ -124,7 +126,7 @@ private:
 
     QByteArray m_status; // as it is at the broker; empty while that is not known
     QByteArray m_lastStatus; // as it was published last
-    bool m_isNameTaken = false; // by another worker, too
+    Clock::time_point m_nameTakenUntil; // by another worker, too
     Clock::time_point m_nextSecond;
     Clock::time_point m_nextStatus;
     Clock::time_point m_goneKnownAt = Clock::time_point::max();

@@ -78,7 +78,7 @@ void Worker::takeStatus(const QString& name, const QByteArray& payload, bool isR
         if (isRetained || isGone) {
             m_status.clear(); // it says what is not so
         } else {
-            m_isNameTaken = true;
+            m_nameTakenUntil = Clock::now() + 2 * statusPause; // in which it tells again
             m_log.warn(QStringLiteral("worker"),
                        Velmo::tr("another worker has the same --name, \"%1\"").arg(name));
         }

@@ -81,10 +81,12 @@ function tellState() {
         text = fill(texts.notConnected, clockTime(shownFrom)) + (data.fault ? " (" + visible(data.fault) + ")" : "");
     } else if (!data.ready) text = texts.notReady;
     else text = fill(texts.asOf, clockTime(shownFrom));
+    const faults = hasAnswer ? data.faults : []; // of the worker
+    if (faults.length > 0) text += " " + faults.map(visible).join(" ");
     if (present.fault !== undefined) text += " " + fill(texts.historyFault, visible(present.fault));
     const isPast = isOld || (data && (!hasAnswer || !data.connected));
     document.body.classList.toggle("old", Boolean(isPast));
-    document.body.classList.toggle("doubtful", Boolean(data && (!data.ready || present.fault !== undefined)));
+    document.body.classList.toggle("doubtful", Boolean(data && (!data.ready || faults.length > 0 || present.fault !== undefined)));
     setText(byId("state"), text);
     const toSee = data ? conditions.filter(name => name !== "fine").reduce((sum, name) => sum + (data.counts[name] || 0), 0) : 0;
     document.title = (isPast ? "(?) " : data ? `(${number(toSee)}) ` : "") + texts.kiosks;
