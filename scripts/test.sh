@@ -9,7 +9,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
 
-require_packages "${build_packages[@]}" "${qt6_packages[@]}" "${install_packages[@]}"
+require_packages "${build_packages[@]}" "${qt6_packages[@]}" "${install_packages[@]}" "${test_packages[@]}"
 scripts/format.sh --check
 for preset in release dev-qt6; do
     cmake --preset "$preset"

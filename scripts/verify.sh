@@ -11,7 +11,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
 
-require_packages "${build_packages[@]}" "${install_packages[@]}" clang libclang-rt-14-dev \
+require_packages "${build_packages[@]}" "${install_packages[@]}" "${test_packages[@]}" clang libclang-rt-14-dev \
     chromium chromium-driver openssl
 scripts/lint.sh
 for preset in asan tsan; do
