@@ -8,12 +8,15 @@
 #include "testtable.h"
 #include "text/fault.h"
 
+#include <QProcess>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QSqlRecord>
 
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
 #include <random>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -164,6 +167,34 @@ QString shown(const History& history, const QString& kiosk)
     return texts.join(", "_s);
 }
 
+const QString workerOption = "--worker"_s;
+
+void recordUntil(HistoryRecorder& recorder, quint64 last, qint64 late)
+{
+    for (quint64 message = 1; message <= last; ++message) {
+        for (const QString& kiosk : {"k1"_s, "k2"_s}) {
+            recorder.record(record(kiosk, start + qint64(message) * 100 + late, message,
+                                   message % 2 == 1 ? Condition::Fine : Condition::Faulty,
+                                   message % 2 == 1 ? QStringList() : QStringList{"a"_s}));
+        }
+    }
+}
+
+// A worker that writes, and dies with a change that it has not written.
+[[noreturn]] void workUntilKilled(const QString& place)
+{
+    HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
+    recordUntil(recorder, 4, 0);
+    while (recorder.status().written < 8)
+        QThread::msleep(10);
+    std::puts("written");
+    std::fflush(stdout);
+    QThread::sleep(4); // it renews its right to write after the other is there
+    recorder.record(record("k1"_s, start + 500, 5, Condition::Fine));
+    std::raise(SIGKILL);
+    std::abort();
+}
+
 } // namespace
 
 class tst_History : public QObject
@@ -294,37 +325,15 @@ private Q_SLOTS:
     {
         QFETCH(QString, kind);
         const QString place = newPlace(kind);
-        const auto recordUntil = [](HistoryRecorder& recorder, quint64 last, qint64 late) {
-            for (quint64 message = 1; message <= last; ++message) {
-                for (const QString& kiosk : {"k1"_s, "k2"_s}) {
-                    recorder.record(record(kiosk, start + qint64(message) * 100 + late, message,
-                                           message % 2 == 1 ? Condition::Fine : Condition::Faulty,
-                                           message % 2 == 1 ? QStringList() : QStringList{"a"_s}));
-                }
-            }
-        };
         HistoryDatabase(place, HistoryDatabase::Write);
-        int isReady[2];
-        QCOMPARE(pipe(isReady), 0);
-        const pid_t child = fork();
-        if (child == 0) {
-            HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
-            recordUntil(recorder, 4, 0);
-            while (recorder.status().written < 8)
-                QThread::msleep(10);
-            const bool isWritten = write(isReady[1], "", 1) == 1;
-            QThread::sleep(4); // it renews its right to write after the other is there
-            recorder.record(record("k1"_s, start + 500, 5, Condition::Fine));
-            _exit(isWritten ? 0 : 1);
-        }
-        char byte;
-        QCOMPARE(read(isReady[0], &byte, 1), 1);
+        QProcess first; // is this program
+        first.start(QCoreApplication::applicationFilePath(), {workerOption, place});
+        QVERIFY(first.waitForReadyRead());
         {
             HistoryRecorder recorder(place, "1/1"_s, "w2"_s);
             recordUntil(recorder, 6, 7);
-            int status = 0;
-            QCOMPARE(waitpid(child, &status, 0), child);
-            QCOMPARE(status, 0);
+            QVERIFY(first.waitForFinished());
+            QCOMPARE(first.exitStatus(), QProcess::CrashExit);
             QVERIFY(!recorder.status().isWriter);
             // It knows less than the one that has seen all, to which it leaves the rest.
             HistoryRecorder fresh(place, "1/1"_s, "w3"_s);
@@ -339,8 +348,6 @@ private Q_SLOTS:
                      "100-200 fine, 200-300 faulty, 300-400 fine, 400-507 faulty, 507-607 fine, "
                      "607- faulty, 200-300 a, 400-507 a, 607- a"_s);
         }
-        close(isReady[0]);
-        close(isReady[1]);
     }
 
     // Both see the same, with clocks apart, and start and end in between.
@@ -712,6 +719,14 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_History)
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() == 3 && arguments[1] == workerOption)
+        workUntilKilled(arguments[2]);
+    tst_History test;
+    return QTest::qExec(&test, argc, argv);
+}
 
 #include "tst_history.moc"
