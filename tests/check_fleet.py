@@ -46,8 +46,10 @@ def main():
     from fleet.chaos import chaos
     from fleet.measure import measure
     print(f"seed {given.seed}", flush=True)
-    checks = [check for check in [chaos, *CHECKS] if not given.only
-              or check.__name__.replace("check_", "") in given.only]
+    named = {check.__name__.replace("check_", ""): check for check in [chaos, *CHECKS]}
+    if unknown := set(given.only or []) - named.keys():
+        parser.error(f"--only: {', '.join(unknown)} is none of {', '.join(named)}")
+    checks = [check for name, check in named.items() if not given.only or name in given.only]
     if given.quick and not given.only:
         checks.remove(check_forgetting)  # which workers do once a minute
     with tempfile.TemporaryDirectory() as folder:

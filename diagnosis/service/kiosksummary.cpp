@@ -98,11 +98,11 @@ JsonText KioskFault::cause() const
         {{"device", number(device)}, {"thread", number(thread)}, {"reason", reason}});
 }
 
-JsonText KioskSummary::momentText(qint64 time)
+JsonText KioskSummary::momentText(std::optional<qint64> time)
 {
-    return time == noTime
+    return !time || *time == noTime
         ? JsonText::null()
-        : JsonText(QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODateWithMs));
+        : JsonText(QDateTime::fromMSecsSinceEpoch(*time, Qt::UTC).toString(Qt::ISODateWithMs));
 }
 
 const char* KioskSummary::name(Condition condition)

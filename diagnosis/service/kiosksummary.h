@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <limits>
+#include <optional>
 #include <vector>
 
 /// What is wrong with a kiosk or with one of its devices.
@@ -65,8 +66,8 @@ struct KioskSummary
     /// Unknown for a name that is none.
     static Condition conditionOf(const QString& name);
 
-    /// A moment as JSON has it; null for noTime.
-    static JsonText momentText(qint64 time);
+    /// A moment as JSON has it; null without one, and for noTime.
+    static JsonText momentText(std::optional<qint64> time);
 
     QByteArray text; ///< JSON
     qint64 time = noTime; ///< the state's own, in milliseconds since 1970

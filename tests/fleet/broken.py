@@ -448,7 +448,8 @@ def check_status(world):
     """Workers tell of themselves, kiosks are told of people, and nobody asks for what is not told."""
     fleet = Fleet(world)
     worker = Worker(fleet, "--history", os.path.join(world.new_folder(), "history.sqlite"))
-    fleet.publish_all(["k1", "k2", "k3"])
+    fleet.publish_all(["k1", "k2"])
+    fleet.send("k3", fleet.state('[{"device_id":1,"thread_id":0,"enabled":true,"online":false}]'))
 
     def status():
         return fleet.statuses.get(worker.name) or {}

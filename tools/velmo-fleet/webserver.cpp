@@ -66,13 +66,6 @@ QByteArray queryValue(const char* query, const char* name)
     return length < 0 ? QByteArray() : QByteArray(value, length);
 }
 
-JsonText momentText(std::optional<qint64> time)
-{
-    return time
-        ? JsonText(QDateTime::fromMSecsSinceEpoch(*time, Qt::UTC).toString(Qt::ISODateWithMs))
-        : JsonText::null();
-}
-
 JsonText nameText(KioskSummary::Condition condition)
 {
     return {QString(QLatin1String(KioskSummary::name(condition)))};
@@ -81,8 +74,8 @@ JsonText nameText(KioskSummary::Condition condition)
 QByteArray textOf(const History::ConditionSpan& span)
 {
     return JsonText::object({{"condition", nameText(span.condition)},
-                             {"began", momentText(span.began)},
-                             {"ended", momentText(span.ended)}});
+                             {"began", KioskSummary::momentText(span.began)},
+                             {"ended", KioskSummary::momentText(span.ended)}});
 }
 
 QByteArray textOf(const History::FaultSpan& span)
@@ -91,8 +84,8 @@ QByteArray textOf(const History::FaultSpan& span)
                              {"thread", span.fault.thread},
                              {"reason", span.fault.reason},
                              {"text", span.fault.text},
-                             {"began", momentText(span.began)},
-                             {"ended", momentText(span.ended)}});
+                             {"began", KioskSummary::momentText(span.began)},
+                             {"ended", KioskSummary::momentText(span.ended)}});
 }
 
 QByteArray textOf(const History::Collection& collection)
@@ -101,7 +94,7 @@ QByteArray textOf(const History::Collection& collection)
         {{"device", collection.device},
          {"thread", collection.thread},
          {"name", deviceName(collection.device)},
-         {"time", momentText(collection.time)},
+         {"time", KioskSummary::momentText(collection.time)},
          {"notes", collection.notes ? JsonText(*collection.notes) : JsonText::null()}});
 }
 
@@ -219,7 +212,7 @@ WebServer::Answer WebServer::presentHistory(bool all)
                 continue;
             kiosks += (kiosks.isEmpty() ? "" : ",") + JsonText(kiosk.key()) + ':'
                 + JsonText::object({{"condition", nameText(kiosk->condition)},
-                                    {"since", momentText(kiosk->since)},
+                                    {"since", KioskSummary::momentText(kiosk->since)},
                                     {"times", kiosk->timesThisMonth}});
         }
         return "\"now\":{" + kiosks + '}';
@@ -237,7 +230,7 @@ WebServer::Answer WebServer::readHistory(Read read)
     try {
         if (!isFree)
             throw Fault{Velmo::tr("too many ask at once")};
-        const JsonText time = momentText(QDateTime::currentMSecsSinceEpoch());
+        const JsonText time = KioskSummary::momentText(QDateTime::currentMSecsSinceEpoch());
         answer.body =
             R"({"kept":true,"time":)" + time + ',' + read(History(m_sources.history)) + '}';
     } catch (const Fault& fault) {

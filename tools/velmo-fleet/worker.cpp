@@ -88,10 +88,11 @@ void Worker::turn()
     if (isBehind && now < m_caughtUpAt)
         m_caughtUpAt = now + seconds(1);
     followConnection();
-    m_publisher.send();
-    m_broker.write();
+    // Before sending: what the history is told now is published, too, whatever arrives next.
     if (!isBehind && Clock::now() >= m_nextSecond)
         turnEverySecond();
+    m_publisher.send();
+    m_broker.write();
 }
 
 // When all that has arrived is known.

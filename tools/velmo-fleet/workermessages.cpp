@@ -94,13 +94,15 @@ void Worker::takeSummary(const QString& name, const QByteArray& payload, bool /*
         return;
     Kiosk* kiosk = m_kiosks.find(name);
     const quint64 hash = Kiosk::hash(payload);
+    const auto told = [&payload] {
+        return KioskSummary(QByteArray(payload.constData(), payload.size())); // a copy to keep
+    };
     try {
         if (!kiosk) {
-            const QByteArray kept(payload.constData(), payload.size());
-            kiosk = &m_kiosks.set(name, KioskSummary(kept));
+            kiosk = &m_kiosks.set(name, told());
             kiosk->heardOf = m_silence.now();
         } else if (hash != Kiosk::hash(kiosk->summary.text)) {
-            adoptSilence(name, KioskSummary(QByteArray(payload.constData(), payload.size())));
+            adoptSilence(name, told());
             kiosk = m_kiosks.find(name);
         }
         kiosk->atBroker = hash;
@@ -157,8 +159,9 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
             return;
         }
         tell(name, summary, message, &state);
-        m_kiosks.find(name)->heardOf = m_silence.now();
-        if (!isRetained) {
+        if (isRetained) {
+            m_kiosks.find(name)->heardOf = m_silence.now();
+        } else {
             hear(*m_kiosks.find(name));
             judgeClock(name);
         }

@@ -65,15 +65,15 @@ std::vector<Event> eventsOf(const History& history, const QString& kiosk)
             {span.began, span.ended, conditionText(span.condition),
              JsonText::object(
                  {{"kind", QStringLiteral("condition")},
-                  {"began", jsonTime(span.began)},
-                  {"ended", jsonTime(span.ended)},
+                  {"began", KioskSummary::momentText(span.began)},
+                  {"ended", KioskSummary::momentText(span.ended)},
                   {"condition", QString(QLatin1String(KioskSummary::name(span.condition)))}})});
     }
     for (const History::FaultSpan& span : history.faults(kiosk)) {
         events.push_back({span.began, span.ended, QStringLiteral("  ") + printable(span.fault.text),
                           JsonText::object({{"kind", QStringLiteral("fault")},
-                                            {"began", jsonTime(span.began)},
-                                            {"ended", jsonTime(span.ended)},
+                                            {"began", KioskSummary::momentText(span.began)},
+                                            {"ended", KioskSummary::momentText(span.ended)},
                                             {"device", numberOf(span.fault.device)},
                                             {"thread", numberOf(span.fault.thread)},
                                             {"reason", span.fault.reason},
@@ -89,7 +89,7 @@ std::vector<Event> eventsOf(const History& history, const QString& kiosk)
                               : Velmo::tr("%1: the cassette was collected").arg(device),
              JsonText::object(
                  {{"kind", QStringLiteral("collection")},
-                  {"time", jsonTime(collection.time)},
+                  {"time", KioskSummary::momentText(collection.time)},
                   {"device", numberOf(collection.device)},
                   {"thread", numberOf(collection.thread)},
                   {"notes", collection.notes ? JsonText(*collection.notes) : JsonText::null()}})});
@@ -206,8 +206,8 @@ QByteArray dueJson(const History::Due& due)
                 {"level", due.level},
                 {"capacity", due.capacity ? JsonText(*due.capacity) : JsonText::null()},
                 {"per_day", JsonText::of(due.perDay)},
-                {"earliest", jsonTime(due.earliest)},
-                {"latest", jsonTime(due.latest)},
+                {"earliest", KioskSummary::momentText(due.earliest)},
+                {"latest", KioskSummary::momentText(due.latest)},
                 {"cannot_say",
                  due.cannotSay.isEmpty() ? JsonText::null() : JsonText(due.cannotSay)}})
         + '\n';

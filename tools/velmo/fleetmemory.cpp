@@ -63,13 +63,6 @@ QString durationText(qint64 passed)
     return Velmo::tr("%n days", nullptr, int(minutes / 60 / 24));
 }
 
-JsonText jsonTime(std::optional<qint64> time)
-{
-    return time
-        ? JsonText(QDateTime::fromMSecsSinceEpoch(*time).toUTC().toString(Qt::ISODateWithMs))
-        : JsonText::null();
-}
-
 QString timeText(std::optional<qint64> time)
 {
     return time ? QDateTime::fromMSecsSinceEpoch(*time).toString(QStringLiteral("yyyy-MM-dd hh:mm"))

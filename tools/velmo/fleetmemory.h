@@ -45,8 +45,5 @@ private:
 /// Milliseconds in words, as "3 days".
 QString durationText(qint64 passed);
 
-/// A time for JSON, in UTC; null without one.
-JsonText jsonTime(std::optional<qint64> time);
-
 /// A time of the local clock, as "2026-11-26 13:05"; empty without one.
 QString timeText(std::optional<qint64> time);

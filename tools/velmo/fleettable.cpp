@@ -220,7 +220,7 @@ QByteArray FleetTable::lineOf(const FleetKiosk& kiosk) const
         {{"kind", QStringLiteral("kiosk")},
          {"kiosk", kiosk.name},
          {"condition", QString(QLatin1String(KioskSummary::name(kiosk.condition)))},
-         {"time", jsonTime(ifKnown(kiosk.time))},
+         {"time", KioskSummary::momentText(kiosk.time)},
          {"faults",
           JsonText::list(kiosk.faults,
                          [](const KioskFault& fault) { return JsonText(fault.text); })},
@@ -232,7 +232,8 @@ QByteArray FleetTable::lineOf(const FleetKiosk& kiosk) const
                                                       {"reason", fault.reason}});
                          })},
          {"region", regionOf(kiosk.name)},
-         {"since", jsonTime(since ? std::optional<qint64>(since->began) : std::nullopt)},
+         {"since",
+          KioskSummary::momentText(since ? std::optional<qint64>(since->began) : std::nullopt)},
          {"times_this_month",
           since && since->timesThisMonth > 0 ? JsonText(since->timesThisMonth)
                                              : JsonText::null()}});
