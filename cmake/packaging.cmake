@@ -41,11 +41,15 @@ if(VELMOLIB_BUILD_FLEET)
     list(APPEND pairs fleet:velmo-fleet)
 endif()
 set(quick_package qml-module-velmolib)
+set(controls_need "qml-module-qtquick2, qml-module-qtquick-layouts, qml-module-qtquick-shapes, \
+qml-module-qtquick-templates2, qml-module-qtquick-window2, fonts-dejavu-core | fonts-noto-core")
 if(VELMOLIB_QT_MAJOR EQUAL 6)
     set(quick_package qml6-module-velmolib)
+    set(controls_need "qml6-module-qtquick, qml6-module-qtquick-layouts, qml6-module-qtquick-shapes, \
+qml6-module-qtquick-templates, qml6-module-qtquick-window, fonts-dejavu-core | fonts-noto-core")
 endif()
 if(VELMOLIB_BUILD_QUICK)
-    list(APPEND pairs quick:${quick_package})
+    list(APPEND pairs quick:${quick_package} controls:${quick_package}-controls)
 endif()
 foreach(pair IN LISTS pairs)
     string(REGEX MATCH "(.*):(.*)" pair ${pair})
@@ -99,6 +103,14 @@ set(CPACK_DEBIAN_QUICK_DESCRIPTION "QML module for screens of a kiosk's cash dev
  What the acceptor service publishes, as properties and models for
  payment and service screens, the device catalogue and the settings
  for configuration screens.")
+
+set(CPACK_DEBIAN_CONTROLS_PACKAGE_NAME ${quick_package}-controls)
+set(CPACK_DEBIAN_CONTROLS_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_CONTROLS_PACKAGE_ARCHITECTURE all)
+set(CPACK_DEBIAN_CONTROLS_PACKAGE_DEPENDS "${quick_package} (>= ${PROJECT_VERSION}), ${controls_need}")
+set(CPACK_DEBIAN_CONTROLS_DESCRIPTION "controls for screens of a kiosk's cash devices (Qt ${VELMOLIB_QT_MAJOR})
+ What to do, what is paid and what became of a note for the customer;
+ devices, cassettes, faults, settings and a PIN for the staff.")
 
 # Both programs load libmosquitto when they need it, which the packaging does not see.
 set(mosquitto_package libmosquitto1)

@@ -36,11 +36,12 @@ build_packages=(cmake g++ ninja-build qtbase5-dev libqt5serialport5-dev libqt5sq
     qttools5-dev-tools zlib1g-dev dbus fonts-dejavu-core
     libmosquitto-dev prometheus-cpp-dev libcivetweb-dev mosquitto python3 python3-paho-mqtt
     qtdeclarative5-dev qtdeclarative5-dev-tools qml-module-qtquick2 qml-module-qtquick-controls2
-    qml-module-qtquick-layouts qml-module-qtquick-window2 qml-module-qttest)
+    qml-module-qtquick-layouts qml-module-qtquick-shapes qml-module-qtquick-templates2
+    qml-module-qtquick-window2 qml-module-qttest)
 qt6_packages=(qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libqt6sql6-psql qt6-serialport-dev qt6-l10n-tools qt6-tools-dev
     qt6-tools-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qml6-module-qtqml
     qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-controls
-    qml6-module-qtquick-layouts qml6-module-qtquick-templates qml6-module-qtquick-window
+    qml6-module-qtquick-layouts qml6-module-qtquick-shapes qml6-module-qtquick-templates qml6-module-qtquick-window
     qml6-module-qttest)
 install_packages=(make pkg-config qt5-qmake qmake6)
 test_packages=(postgresql)

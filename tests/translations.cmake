@@ -4,18 +4,20 @@
 # Checks that the translations cover the texts of the source tree, no more and no less. Without a
 # WORK_DIR it takes the texts into the files that are translated.
 
-# A catalogue, the folder that it stands in, those whose texts it has, and what its English has: the
-# library's mends misspelt texts, which are part of its interface; other English only has plurals, and
-# the example's screen needs none.
-foreach(row velmolib:translations:src:all
-        diagnosis:translations:diagnosis,broker,history,quick:plurals
-        velmo:translations:tools:plurals
-        kiosk:examples/kiosk/screen:examples/kiosk/screen:none)
-    string(REGEX MATCH "(.*):(.*):(.*):(.*)" row ${row})
+# A catalogue, the folder that it stands in, those whose texts it has and in what files, and what its
+# English has: the library's mends misspelt texts, which are part of its interface; other English only
+# has plurals, and the example's screen needs none.
+foreach(row velmolib:translations:src:cpp,h:all
+        diagnosis:translations:diagnosis,broker,history,quick:cpp,h:plurals
+        velmo:translations:tools:cpp,h:plurals
+        controls:translations:quick/controls:qml:plurals
+        kiosk:examples/kiosk/screen:examples/kiosk/screen:qml:none)
+    string(REGEX MATCH "(.*):(.*):(.*):(.*):(.*)" row ${row})
     set(name ${CMAKE_MATCH_1})
     set(folder ${CMAKE_MATCH_2})
     string(REPLACE "," ";" sources ${CMAKE_MATCH_3})
-    set(english ${CMAKE_MATCH_4})
+    set(extensions ${CMAKE_MATCH_4})
+    set(english ${CMAKE_MATCH_5})
     foreach(locale en_US ru_RU)
         string(REGEX MATCH "^.." language ${locale})
         if(language STREQUAL en AND english STREQUAL none)
@@ -31,7 +33,7 @@ foreach(row velmolib:translations:src:all
         if(language STREQUAL en AND english STREQUAL plurals)
             set(which -pluralonly)
         endif()
-        execute_process(COMMAND ${LUPDATE} -silent -locations none -no-obsolete -source-language en
+        execute_process(COMMAND ${LUPDATE} -silent -locations none -no-obsolete -extensions ${extensions} -source-language en
             -target-language ${locale} ${which} ${sources} -ts ${updated}
             WORKING_DIRECTORY ${SOURCE_DIR} COMMAND_ERROR_IS_FATAL ANY)
         file(READ ${updated} text)

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+import QtQuick 2.15
+import QtQuick.Shapes 1.15
+
+/// A sign that says without colour what a colour says.
+Item {
+    id: icon
+
+    /// "good", "bad", "warn", "wait", "info", "lock", "lampOn" or "lampOff"; nothing is drawn for others.
+    property string kind: ""
+
+    property color color: KioskTheme.ink
+
+    readonly property var paths: ({
+        "good": "M 4 13 L 10 19 L 20 6",
+        "bad": "M 5 5 L 19 19 M 19 5 L 5 19",
+        "warn": "M 12 3 L 22 21 L 2 21 Z M 12 10 L 12 15 M 12 18 L 12 18.5",
+        "wait": "M 6 3 L 18 3 M 6 21 L 18 21 M 7 3 L 17 21 M 17 3 L 7 21",
+        "info": "M 12 10 L 12 19 M 12 5 L 12 5.5",
+        "lock": "M 5 11 L 19 11 L 19 21 L 5 21 Z M 8 11 L 8 7 A 4 4 0 0 1 16 7 L 16 11",
+        "lampOn": "M 12 6 A 6 6 0 1 1 11.9 6 Z M 12 9 A 3 3 0 1 1 11.9 9 Z",
+        "lampOff": "M 12 6 A 6 6 0 1 1 11.9 6 Z"
+    })
+
+    implicitWidth: KioskTheme.small
+    implicitHeight: KioskTheme.small
+
+    Shape {
+        width: 24
+        height: 24
+        scale: Math.min(icon.width, icon.height) / 24
+        transformOrigin: Item.TopLeft
+        ShapePath {
+            strokeColor: icon.color
+            strokeWidth: 2.5
+            fillColor: "transparent"
+            capStyle: ShapePath.RoundCap
+            joinStyle: ShapePath.RoundJoin
+            PathSvg {
+                path: icon.paths[icon.kind] || ""
+            }
+        }
+    }
+}
