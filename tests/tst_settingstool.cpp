@@ -753,7 +753,8 @@ private Q_SLOTS:
         velmo({"settings"_s, "set"_s, m_list, "acceptor_common/maxSumm=5000000000"_s});
         const VelmoRun shown = velmo({"settings"_s, "filters"_s, m_list, "--json"_s});
         QCOMPARE(shown.exitCode, 0);
-        QCOMPARE(QJsonDocument::fromJson(shown.out.toUtf8())[1]["params"_s]["attempts"_s], 127);
+        QCOMPARE(QJsonDocument::fromJson(shown.out.toUtf8())[1]["params"_s]["attempts"_s].toInt(),
+                 127);
         QVERIFY2(shown.err.contains("200 attempts (\"denom\" 1): it takes 127"_s)
                      && shown.err.contains("the sum 5000000000: it takes 2147483647"_s),
                  qPrintable(shown.err));
