@@ -7,11 +7,12 @@
 #include <QFont>
 #include <QFontMetrics>
 #include <QStandardPaths>
-#include <QStringList>
 
 #include <algorithm>
 #include <cstdio>
 #include <utility>
+
+const QStringList Language::LANGUAGES{QStringLiteral("en"), QStringLiteral("ru")};
 
 Language::Language(const QString& language, QObject* parent)
     : QObject(parent)

@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QTranslator>
 
 #include <memory>
@@ -22,6 +23,8 @@ class Language : public QObject
     Q_PROPERTY(QString first MEMBER m_first CONSTANT)
 
 public:
+    static const QStringList LANGUAGES;
+
     explicit Language(const QString& language, QObject* parent = nullptr);
 
     QString current() const { return m_current; }
