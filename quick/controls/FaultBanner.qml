@@ -16,12 +16,21 @@ KioskNotice {
     property int others: 0
 
     readonly property bool isSilent: !service || !service.available || service.stale || service.fault !== ""
+                                     || service.devices.count === 0
+    readonly property bool isFaulty: worst.text !== undefined
 
     function look() {
         const faults = service ? service.worstFaults : null;
         worst = faults && faults.count > 0 ? faults.get(0) : {};
         others = faults ? Math.max(0, faults.count - 1) : 0;
     }
+
+    kind: isSilent ? "bad" : !isFaulty ? "good" : "bad"
+    title: isSilent || !isFaulty ? "" : worst.deviceName
+    text: (isSilent ? Array.from(service ? service.reasons : []) : [])
+          .concat(!isFaulty ? [] : isSilent ? [worst.deviceName + ": " + worst.text] : [worst.text],
+                  others > 0 ? [qsTr("Other faults: %1").arg(others)] : [],
+                  isSilent || isFaulty ? [] : [qsTr("No device has a fault.")]).join("\n")
 
     onServiceChanged: look()
     Component.onCompleted: look()
