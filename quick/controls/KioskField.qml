@@ -19,7 +19,7 @@ T.TextField {
     font.pixelSize: KioskTheme.small
     color: KioskTheme.ink
     selectionColor: KioskTheme.accent
-    selectedTextColor: KioskTheme.onAccent
+    selectedTextColor: KioskTheme.accentInk
     selectByMouse: true
 
     background: Rectangle {

@@ -15,6 +15,8 @@ Rectangle {
 
     property string text: ""
 
+    property int size: KioskTheme.small
+
     readonly property color front: kind === "good" ? KioskTheme.good : kind === "bad" ? KioskTheme.bad
                                  : kind === "warn" ? KioskTheme.warn : KioskTheme.ink
 
@@ -31,6 +33,8 @@ Rectangle {
         id: sign
         x: KioskTheme.gap / 2
         anchors.verticalCenter: parent.verticalCenter
+        width: notice.size
+        height: notice.size
         kind: notice.kind
         color: notice.front
     }
@@ -45,6 +49,7 @@ Rectangle {
             width: parent.width
             visible: notice.title !== ""
             text: notice.title
+            font.pixelSize: notice.size
             font.bold: true
             color: notice.front
             Accessible.ignored: true
@@ -52,6 +57,7 @@ Rectangle {
         KioskText {
             width: parent.width
             text: notice.text
+            font.pixelSize: notice.size
             color: notice.front
             Accessible.ignored: true
         }

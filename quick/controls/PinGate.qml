@@ -94,12 +94,14 @@ FocusScope {
         anchors.bottom: parent.bottom
         anchors.bottomMargin: KioskTheme.gap
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width - 2 * KioskTheme.gap, 120 * KioskTheme.density)
+        width: Math.min(parent.width - 2 * KioskTheme.gap, 120 * KioskTheme.density * KioskTheme.grown)
         spacing: KioskTheme.gap / 2
 
         KioskNotice {
             objectName: "message"
             width: parent.width
+            size: KioskTheme.medium
+            title: gate.isReady ? "" : qsTr("The screens of the staff stay closed.")
             kind: !gate.isReady || hidden.isWrong || gate.isWaiting ? "bad" : "lock"
             text: !gate.isReady ? (gate.lock ? gate.lock.fault : qsTr("There is no PIN."))
                 : gate.isWaiting ? qsTr("Wrong PIN. Wait %1 s.").arg(gate.lock.waitSeconds)
@@ -148,6 +150,7 @@ FocusScope {
                     required property string modelData
                     objectName: "key-" + modelData
                     width: (pad.parent.width - 2 * pad.spacing) / 3
+                    font.pixelSize: modelData.length > 1 ? KioskTheme.small : KioskTheme.medium
                     padding: KioskTheme.gap / 4
                     leftPadding: padding
                     rightPadding: padding
