@@ -219,7 +219,8 @@ TestCase {
 
     function test_lampsAreThoseOfTheKind() {
         const lamps = make([device(1, 1), device(100, 1), device(200, 1), device(51, 1)]).devices;
-        const names = row => lamps.get(row).lamps.map(lamp => lamp.name).join(" ");
+        const names = row => Array.from({length: lamps.get(row).lamps.count},
+                                        (_, at) => lamps.get(row).lamps.get(at).name).join(" ");
         compare(names(0), "accepting stacker stackerFull error halted offline");
         compare(names(1), "accepting error halted offline");
         compare(names(2), names(1));
