@@ -44,7 +44,8 @@ PinLock::PinLock(QObject* parent)
     : QObject(parent)
     , m_language([this] { look(); })
 {
-    m_countDown.setInterval(std::chrono::seconds(1));
+    m_countDown.setSingleShot(true);
+    m_countDown.setTimerType(Qt::PreciseTimer);
     connect(&m_countDown, &QTimer::timeout, this, &PinLock::countDown);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &PinLock::look);
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &PinLock::look);
@@ -93,7 +94,6 @@ bool PinLock::check(const QString& tried)
         const int doublings = std::min(m_wrongTries - triesBeforeWait, 10);
         m_waitEnd.setRemainingTime(
             std::chrono::seconds(std::min(m_firstWait << doublings, longestWait)));
-        m_countDown.start();
         countDown();
     }
     return false;
@@ -107,7 +107,8 @@ void PinLock::look()
         const QByteArray pin = readFile(&fault);
         m_digest = fault.isEmpty() ? digestOf(pin) : QByteArray();
     } else if (m_digest.isEmpty()) {
-        fault = Diagnosis::tr("The PIN given has to have %1 to %2 digits.").arg(shortest).arg(longest);
+        fault =
+            Diagnosis::tr("The PIN given has to have %1 to %2 digits.").arg(shortest).arg(longest);
     }
     watchFile();
     if (fault == m_fault)
@@ -137,7 +138,7 @@ QByteArray PinLock::readFile(QString* fault)
         line.chop(1);
     if (!isPin(line)) {
         *fault = Diagnosis::tr("%1: line 1: expected a PIN of %2 to %3 digits")
-                     .arg(m_file).arg(shortest).arg(longest);
+                     .arg(m_file, QString::number(shortest), QString::number(longest));
     }
     return line;
 }
@@ -162,9 +163,10 @@ void PinLock::watchFile()
 
 void PinLock::countDown()
 {
-    const int seconds = int((m_waitEnd.remainingTime() + 999) / 1000);
-    if (seconds == 0)
-        m_countDown.stop();
+    const int left = int(m_waitEnd.remainingTime()); // milliseconds
+    const int seconds = (left + 999) / 1000;
+    if (seconds > 0)
+        m_countDown.start(left - (seconds - 1) * 1000);
     if (seconds == m_waitSeconds)
         return;
     m_waitSeconds = seconds;

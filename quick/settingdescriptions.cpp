@@ -39,8 +39,8 @@ void SettingDescriptions::list()
         const bool isDefault = !m_values.contains(own.path()) || value == defaultValue;
         rows += Row{setting.path(),
                     {own.group(), own.key(), own.path(), own.label(), own.help(),
-                     kindName(own.kind()), own.minimum(), own.maximum(), own.choices(), defaultValue,
-                     value, isDefault, own.accepts(value)}};
+                     kindName(own.kind()), own.minimum(), own.maximum(), own.choices(),
+                     defaultValue, value, isDefault, own.accepts(value)}};
     }
     setRows(rows);
 }
