@@ -41,7 +41,10 @@ Column {
     Loader {
         id: loader
         width: frame.width
-        height: !item ? 0 : item.whole ? frame.view.height : item.implicitHeight
+        Binding on height {
+            when: loader.item !== null && loader.item.whole === true
+            value: frame.view.height
+        }
         Component.onCompleted: {
             setSource(frame.page + "Page.qml", {service: service, sample: frame.sample});
             frame.take(frame.sample.steps || []);

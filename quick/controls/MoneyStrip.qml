@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import Velmolib 5.0
 
 /// The sums of a payment: what is left to pay is largest. It says what becomes of change before and after,
@@ -15,55 +14,61 @@ Rectangle {
     /// Whom to call; empty when nobody can be called.
     property string contact: ""
 
-    readonly property bool lost: service.lostSum > 0
     readonly property string help: contact === "" ? "" : qsTr("Help: %1").arg(contact)
 
-    readonly property string changeText: {
-        const mode = service.changeMode;
-        if (service.change > 0) {
-            return qsTr("You have paid %1 too much.").arg(service.moneyText(service.change)) + " "
-                + (mode === "paid" ? qsTr("Your change is paid out. Please take it.")
-                   : mode === "credited" ? qsTr("It stays on your account.")
-                   : mode === "none" ? qsTr("This kiosk gives no change. Please call the staff.")
-                                     : qsTr("Please ask the staff for your change."));
-        }
-        if (service.paid || service.price <= 0)
-            return "";
-        return mode === "none" ? qsTr("This kiosk gives no change.")
-             : mode === "paid" ? qsTr("Change is paid out.")
-             : mode === "credited" ? qsTr("What you pay too much stays on your account.") : "";
-    }
+    // What becomes of a sum above the price, as long as it may still be avoided.
+    readonly property string ruleText: service.paid || service.price <= 0 ? ""
+        : ({"none": qsTr("This kiosk gives no change."), "paid": qsTr("Change is paid out."),
+            "credited": qsTr("What you pay too much stays on your account.")})[service.changeMode] || ""
 
-    readonly property string lostText: !lost ? ""
-        : [qsTr("Before a fault you had paid %1 more. It is missing in the sum now.").arg(service.moneyText(service.lostSum)),
-           service.lostSumRecorded ? qsTr("It is recorded. Please call the staff.") : qsTr("Please call the staff."),
-           help].join(" ").trim()
+    readonly property string changeText: service.change <= 0 ? ""
+        : qsTr("You have paid %1 too much.").arg(service.moneyText(service.change)) + " "
+          + (({"none": qsTr("This kiosk gives no change. Please call the staff."),
+               "paid": qsTr("Your change is paid out. Please take it."),
+               "credited": qsTr("It stays on your account.")})[service.changeMode]
+             || qsTr("Please ask the staff for your change."))
 
-    implicitWidth: content.implicitWidth + 2 * content.x
+    readonly property string lostText: service.lostSum <= 0 ? ""
+        : qsTr("Before a fault you had paid %1 more. It is missing in the sum now.").arg(service.moneyText(service.lostSum))
+          + " " + (service.lostSumRecorded ? qsTr("It is recorded. Please call the staff.")
+                                           : qsTr("Please call the staff."))
+
+    readonly property string figure: service.moneyText(service.price > 0 && !service.paid ? service.left
+                                                                                          : service.sessionSum)
+
+    implicitWidth: label.implicitWidth + natural.width + 4 * content.x
     implicitHeight: content.implicitHeight + 2 * content.y
     radius: KioskTheme.radius
     color: KioskTheme.panel
     border.color: KioskTheme.edge
     border.width: KioskTheme.border
     Accessible.role: Accessible.StatusBar
-    Accessible.name: [label.text + ": " + rest.text, sum.text, changeText, lostText].filter(text => text !== "").join("\n")
+    Accessible.name: label.text + ": " + figure + "\n" + sum.text
 
-    ColumnLayout {
+    TextMetrics {
+        id: natural
+        font.family: rest.font.family
+        font.pixelSize: KioskTheme.huge
+        font.bold: true
+        text: strip.figure
+    }
+
+    Column {
         id: content
         x: 1.5 * KioskTheme.gap
         y: KioskTheme.gap
         width: strip.width - 2 * x
         spacing: KioskTheme.gap / 2
 
-        GridLayout {
-            Layout.fillWidth: true
-            columns: label.implicitWidth + rest.implicitWidth + columnSpacing > content.width ? 1 : 2
-            columnSpacing: 2 * KioskTheme.gap
-            rowSpacing: 0
+        Item {
+            readonly property bool low: label.implicitWidth + natural.width + 2 * KioskTheme.gap < width
+            width: parent.width
+            height: rest.y + rest.height
 
             KioskText {
                 id: label
-                Layout.fillWidth: true
+                width: parent.low ? implicitWidth : parent.width
+                y: parent.low ? rest.baselineOffset - baselineOffset : 0
                 text: strip.service.price > 0 && !strip.service.paid ? qsTr("Left to pay") : qsTr("Paid")
                 font.pixelSize: KioskTheme.large
                 Accessible.ignored: true
@@ -71,24 +76,23 @@ Rectangle {
             KioskText {
                 id: rest
                 objectName: "rest"
-                Layout.fillWidth: true
-                Layout.maximumWidth: content.width
-                text: strip.service.moneyText(strip.service.price > 0 && !strip.service.paid ? strip.service.left
-                                                                                             : strip.service.sessionSum)
+                y: parent.low ? 0 : label.height
+                width: parent.width
+                text: strip.figure
                 font.pixelSize: KioskTheme.huge
                 font.bold: true
                 fontSizeMode: Text.HorizontalFit
-                minimumPixelSize: KioskTheme.medium
+                minimumPixelSize: KioskTheme.small
                 wrapMode: Text.NoWrap
-                horizontalAlignment: Text.AlignRight
+                horizontalAlignment: parent.low ? Text.AlignRight : Text.AlignLeft
                 Accessible.ignored: true
             }
         }
         Rectangle {
             objectName: "bar"
             readonly property real part: Math.min(1, Math.max(0, strip.service.sessionSum) / Math.max(1, strip.service.price))
-            Layout.fillWidth: true
-            Layout.preferredHeight: KioskTheme.gap
+            width: parent.width
+            height: KioskTheme.gap
             visible: strip.service.price > 0
             radius: height / 2
             color: KioskTheme.ground
@@ -109,42 +113,47 @@ Rectangle {
         KioskText {
             id: sum
             objectName: "sum"
-            Layout.fillWidth: true
-            visible: text !== ""
+            width: parent.width
+            visible: strip.service.price > 0
             text: strip.service.price > 0
                   ? qsTr("Paid: %1 of %2").arg(strip.service.moneyText(strip.service.sessionSum))
                                           .arg(strip.service.moneyText(strip.service.price))
-                  : ""
+                  : qsTr("Paid: %1").arg(strip.figure)
             font.pixelSize: KioskTheme.medium
             Accessible.ignored: true
         }
-        Repeater {
-            model: [
-                {name: "change", text: strip.changeText, kind: "info", color: KioskTheme.ink},
-                {name: "lostSum", text: strip.lostText, kind: "warn", color: KioskTheme.bad}
-            ]
-            RowLayout {
-                id: line
-                required property var modelData
-                Layout.fillWidth: true
-                visible: modelData.text !== ""
-                spacing: KioskTheme.gap / 2
+        KioskText {
+            objectName: "changeRule"
+            width: parent.width
+            visible: text !== ""
+            leftPadding: 1.3 * KioskTheme.medium
+            text: strip.ruleText
+            font.pixelSize: KioskTheme.medium
+            color: KioskTheme.quiet
 
-                KioskIcon {
-                    Layout.preferredWidth: KioskTheme.medium
-                    Layout.preferredHeight: KioskTheme.medium
-                    kind: line.modelData.kind
-                    color: line.modelData.color
-                }
-                KioskText {
-                    objectName: line.modelData.name
-                    Layout.fillWidth: true
-                    text: line.modelData.text
-                    font.pixelSize: KioskTheme.medium
-                    color: line.modelData.color
-                    Accessible.ignored: true
-                }
+            KioskIcon {
+                y: (KioskTheme.medium - height) / 2 + parent.topPadding + KioskTheme.medium / 10
+                width: KioskTheme.medium
+                height: width
+                kind: "info"
+                color: KioskTheme.quiet
             }
+        }
+        Notice {
+            objectName: "change"
+            width: parent.width
+            visible: text !== ""
+            kind: "warn"
+            sign: "info"
+            text: strip.changeText
+        }
+        Notice {
+            objectName: "lostSum"
+            width: parent.width
+            visible: text !== ""
+            kind: "bad"
+            text: strip.lostText
+            detail: strip.help
         }
     }
 }

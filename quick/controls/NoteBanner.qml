@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import Velmolib 5.0
 
 /// What became of the pieces of money: each one whose end is not told, which stays until it is, and for a while
@@ -34,93 +33,45 @@ Column {
         interval: 1000 * banner.freshSeconds
     }
 
-    component Message: Rectangle {
-        id: message
-
-        property int outcome
-        property string text
-        property string detail
-
-        readonly property bool good: outcome === ServiceState.NoteTaken
-        readonly property bool waits: outcome === ServiceState.NoteChecked
-        readonly property bool bad: outcome === ServiceState.NoteStuck || outcome === ServiceState.NoteLost
-        readonly property color front: good ? KioskTheme.good : waits ? KioskTheme.ink
-                                     : bad ? KioskTheme.bad : KioskTheme.warn
-
-        width: banner.width
-        implicitHeight: row.implicitHeight + 2 * row.y
-        radius: KioskTheme.radius
-        color: good ? KioskTheme.goodGround : waits ? KioskTheme.panel
-             : bad ? KioskTheme.badGround : KioskTheme.warnGround
-        border.color: front
-        border.width: (bad ? 2 : 1) * KioskTheme.border
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: [text, detail].filter(part => part !== "").join("\n")
-
-        RowLayout {
-            id: row
-            x: KioskTheme.gap
-            y: KioskTheme.gap / 2
-            width: message.width - 2 * x
-            spacing: KioskTheme.gap
-
-            KioskIcon {
-                Layout.preferredWidth: KioskTheme.large
-                Layout.preferredHeight: KioskTheme.large
-                Layout.alignment: Qt.AlignTop
-                kind: message.good ? "good" : message.waits ? "wait" : message.bad ? "warn" : "bad"
-                color: message.front
-            }
-            ColumnLayout {
-                spacing: KioskTheme.gap / 4
-
-                KioskText {
-                    objectName: message.objectName + "Text"
-                    Layout.fillWidth: true
-                    text: message.text
-                    font.pixelSize: KioskTheme.medium
-                    font.bold: true
-                    color: message.front
-                    Accessible.ignored: true
-                }
-                KioskText {
-                    Layout.fillWidth: true
-                    visible: text !== ""
-                    text: message.detail
-                    font.pixelSize: KioskTheme.medium
-                    Accessible.ignored: true
-                }
-            }
-        }
-    }
-
     Repeater {
+        id: open
         model: banner.service.openNotes
-        Message {
+        Notice {
             required property int index
             required property var model
+            readonly property bool inHand: model.outcome === ServiceState.NoteChecked
+            readonly property bool isLast: index === Math.min(open.count, banner.limit) - 1
             objectName: "openNote"
+            width: banner.width
             visible: index < banner.limit
-            outcome: model.outcome
+            kind: inHand ? "info" : "bad"
+            sign: inHand ? "wait" : "warn"
             text: model.text
-            detail: waits ? "" : [model.timeText, model.amountText,
-                                  model.incident === "" ? "" : qsTr("No. %1").arg(model.incident),
-                                  banner.contact === "" ? "" : qsTr("Help: %1").arg(banner.contact)]
-                                 .filter(part => part !== "").join(" · ")
+            detail: inHand ? ""
+                  : [[model.timeText, model.amountText, model.incident === "" ? "" : qsTr("No. %1").arg(model.incident)]
+                     .filter(part => part !== "").join(" · "),
+                     isLast && banner.contact !== "" ? qsTr("Help: %1").arg(banner.contact) : ""]
+                    .filter(line => line !== "").join("\n")
         }
     }
     KioskText {
+        objectName: "moreNotes"
         width: banner.width
-        visible: banner.service.openNotes.count > banner.limit
-        text: qsTr("and %n more", "", banner.service.openNotes.count - banner.limit)
+        visible: open.count > banner.limit
+        text: qsTr("and %n more", "", open.count - banner.limit)
         font.pixelSize: KioskTheme.medium
+        font.bold: true
         color: KioskTheme.bad
     }
-    Message {
+    Notice {
+        readonly property int outcome: banner.service.lastNoteOutcome
+        readonly property bool ended: outcome === ServiceState.NoteTaken || outcome === ServiceState.NoteRefused
+                                      || outcome === ServiceState.NoteRejected || outcome === ServiceState.NoteReturned
         objectName: "lastNote"
-        // What is open is told above.
-        visible: text !== "" && freshness.running && !waits && !bad
-        outcome: banner.service.lastNoteOutcome
+        width: banner.width
+        visible: ended && text !== "" && freshness.running // what has not ended is told above
+        kind: outcome === ServiceState.NoteTaken ? "good" : "warn"
+        sign: outcome === ServiceState.NoteTaken ? "good" : "back"
         text: banner.service.lastNoteText
     }
 }
