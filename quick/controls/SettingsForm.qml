@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import Velmolib 5.0
 
 /// The settings of the service or of a device as a form. What is entered goes through
@@ -36,6 +35,9 @@ Flickable {
     }
     Accessible.role: Accessible.Form
 
+    Catalogue {
+        id: catalogue
+    }
     Column {
         id: rows
         width: form.width - bar.width - KioskTheme.gap / 2
@@ -60,8 +62,15 @@ Flickable {
 
                 readonly property bool isEntered: kind === "number" || kind === "text"
                 readonly property bool isChosen: kind === "switch" || kind === "choice"
+                // A default that the service cannot work with stands for nothing.
+                readonly property bool hasDefault: defaultValue !== undefined && defaultValue !== ""
+                                                   && form.settings.accepts(group, key, defaultValue)
+                // What is beyond whole numbers of JavaScript is no bound that anybody meets.
+                readonly property string bounds: kind !== "number" ? ""
+                    : maximum > Number.MAX_SAFE_INTEGER ? qsTr("%1 or more").arg(minimum)
+                    : qsTr("%1 to %2").arg(minimum.toFixed(0)).arg(maximum.toFixed(0))
                 readonly property string fault: valid ? ""
-                    : kind === "number" ? qsTr("Enter a whole number from %1 to %2.").arg(minimum).arg(maximum)
+                    : kind === "number" ? qsTr("Enter a whole number: %1.").arg(bounds)
                     : kind === "text" ? qsTr("Enter a text.")
                     : isChosen ? qsTr("“%1” is none of the choices. Choose one.").arg(value)
                     : qsTr("The service cannot work with this.")
@@ -76,62 +85,52 @@ Flickable {
 
                 objectName: group + "/" + key
                 width: rows.width
-                height: grid.implicitHeight + KioskTheme.gap
+                height: Math.max(about.height, answer.y + answer.height - about.y) + KioskTheme.gap
 
-                GridLayout {
-                    id: grid
+                Column {
+                    id: about
                     y: KioskTheme.gap / 2
-                    width: parent.width
-                    columns: form.isWide ? 2 : 1
-                    columnSpacing: KioskTheme.gap
-                    rowSpacing: KioskTheme.gap / 4
+                    width: form.isWide ? (row.width - KioskTheme.gap) / 2 : row.width
 
-                    ColumnLayout {
-                        Layout.fillWidth: true
-                        Layout.preferredWidth: 1
-                        Layout.alignment: Qt.AlignTop
-                        spacing: 0
-
-                        KioskText {
-                            Layout.fillWidth: true
-                            text: row.label
-                            font.bold: true
-                        }
-                        KioskText {
-                            Layout.fillWidth: true
-                            visible: text !== ""
-                            text: row.help
-                            color: KioskTheme.quiet
-                        }
+                    KioskText {
+                        width: about.width
+                        text: row.label
+                        font.bold: true
                     }
-                    ColumnLayout {
-                        Layout.fillWidth: true
-                        Layout.preferredWidth: 1
-                        Layout.alignment: Qt.AlignTop
-                        spacing: KioskTheme.gap / 4
+                    KioskText {
+                        width: about.width
+                        visible: text !== ""
+                        text: row.help
+                        color: KioskTheme.quiet
+                    }
+                }
+                Column {
+                    id: answer
+                    x: row.width - width
+                    y: form.isWide ? about.y : about.y + about.height + spacing
+                    width: about.width
+                    spacing: KioskTheme.gap / 4
 
-                        Loader {
-                            Layout.fillWidth: true
-                            sourceComponent: row.isEntered ? entry : row.isChosen ? choice : reading
-                        }
-                        KioskNotice {
-                            objectName: "fault"
-                            Layout.fillWidth: true
-                            visible: row.fault !== ""
-                            kind: "bad"
-                            text: row.fault
-                        }
-                        KioskText {
-                            objectName: "bounds"
-                            Layout.fillWidth: true
-                            visible: text !== ""
-                            text: [row.kind === "number" ? qsTr("%1 to %2").arg(row.minimum).arg(row.maximum) : "",
-                                   row.isDefault ? qsTr("this is the default")
-                                   : row.defaultValue === undefined || row.defaultValue === "" ? ""
-                                   : qsTr("default: %1").arg(row.wordOf(row.defaultValue))
-                                  ].filter(part => part !== "").join(" · ")
-                            color: KioskTheme.quiet
-                        }
+                    Loader {
+                        width: answer.width
+                        sourceComponent: row.isEntered ? entry : row.isChosen ? choice : reading
+                    }
+                    KioskNotice {
+                        objectName: "fault"
+                        width: answer.width
+                        visible: row.fault !== ""
+                        kind: "bad"
+                        text: row.fault
+                    }
+                    KioskText {
+                        objectName: "bounds"
+                        width: answer.width
+                        visible: text !== ""
+                        text: [row.bounds, row.key === "device_id" ? catalogue.deviceName(Number(row.value)) : "",
+                               !row.hasDefault ? "" : row.isDefault ? qsTr("this is the default")
+                               : qsTr("default: %1").arg(row.wordOf(row.defaultValue))
+                              ].filter(part => part !== "").join(" · ")
+                        color: KioskTheme.quiet
                     }
                 }
                 Rectangle {
