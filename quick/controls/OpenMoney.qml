@@ -20,8 +20,8 @@ Column {
     component Line: RowLayout {
         id: line
 
-        property alias title: notice.title
-        property alias text: notice.text
+        property string title
+        property string text
         property bool asked: false
 
         signal settled
@@ -31,10 +31,11 @@ Column {
         onVisibleChanged: asked = false
 
         KioskNotice {
-            id: notice
             Layout.fillWidth: true
             Layout.fillHeight: true
             kind: "bad"
+            title: line.title
+            text: line.text
         }
         KioskKey {
             objectName: "settleKey"
