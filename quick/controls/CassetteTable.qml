@@ -24,27 +24,24 @@ Column {
     readonly property bool isLedger: places !== null && places !== undefined
     readonly property int count: isLedger ? kept.count : registry ? registry.count : 0
 
+    readonly property var locale: service ? Qt.locale(service.locale) : Qt.locale()
+
     function numberText(value: real): string {
-        return isFinite(value) ? value.toLocaleString(service ? Qt.locale(service.locale) : Qt.locale(), "f", 0)
-                               : "?";
+        return isFinite(value) ? value.toLocaleString(locale, "f", 0) : "?";
     }
 
     /// A face value; that of another currency than the service's own is written with its code.
     function valueText(value: real, currency: string): string {
-        if (!isFinite(value)) {
-            return "?";
-        }
-        if (service && (currency === "" || currency === service.currency)) {
-            return service.moneyText(value);
-        }
+        // Read in any case: a binding follows what it has read.
         const digits = service ? service.digits : 0;
-        const number = (value / Math.pow(10, digits)).toLocaleString(
-                         service ? Qt.locale(service.locale) : Qt.locale(), "f", digits);
-        return currency === "" ? number : number + "\u00a0" + currency;
+        const ours = service ? service.currency : "";
+        const number = isFinite(value) ? (value / Math.pow(10, digits)).toLocaleString(locale, "f", digits) : "?";
+        return isFinite(value) && service && (currency === "" || currency === ours) ? service.moneyText(value)
+             : currency === "" ? number : number + "\u00a0" + currency;
     }
 
     // What a service publishes may be anything.
-    function line(place: var): var {
+    function line(place) {
         const given = place || {};
         const currency = /^\w{1,8}$/.test(given.currency) ? given.currency : "";
         const least = numberText(Number(given.min));
@@ -70,11 +67,9 @@ Column {
     }
 
     onPlacesChanged: keep()
+    onLocaleChanged: keep()
     Connections {
         target: table.service
-        function onLocaleChanged() {
-            table.keep();
-        }
         function onCurrencyChanged() {
             table.keep();
         }

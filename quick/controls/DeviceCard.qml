@@ -31,7 +31,7 @@ Rectangle {
         return pieces.filter(piece => piece && piece.stuck === isStuck).map(piece => {
             const since = new Date(piece.since);
             const time = isNaN(since.getTime()) ? "?"
-                       : since.toLocaleString(service ? Qt.locale(service.locale) : Qt.locale(), Locale.ShortFormat);
+                       : since.toLocaleString(table.locale, Locale.ShortFormat);
             const denomination = Number(piece.denomination);
             return (isStuck ? qsTr("Stuck: %1, since %2") : qsTr("On its way: %1, since %2"))
                    .arg(table.numberText(Number(piece.count)) + "\u00a0×\u00a0"

@@ -25,7 +25,7 @@ KioskNotice {
         others = faults ? Math.max(0, faults.count - 1) : 0;
     }
 
-    kind: isSilent ? "bad" : !isFaulty ? "good" : "bad"
+    kind: isSilent ? "bad" : !isFaulty ? "good" : ["info", "warn", "bad", "bad"][worst.severity] || "bad"
     title: isSilent || !isFaulty ? "" : worst.deviceName
     text: (isSilent ? Array.from(service ? service.reasons : []) : [])
           .concat(!isFaulty ? [] : isSilent ? [worst.deviceName + ": " + worst.text] : [worst.text],
