@@ -30,6 +30,9 @@ KioskPage {
 
     // Each under the shortest column.
     function place() {
+        if (!visible) {
+            return;
+        }
         const all = Array.from({length: cells.count}, (_, row) => cells.itemAt(row)).filter(cell => cell);
         const broken = all.filter(cell => cell.isBroken);
         const ends = new Array(columns).fill(0);
@@ -44,6 +47,7 @@ KioskPage {
         contentHeight = Math.max(...ends);
     }
 
+    onVisibleChanged: Qt.callLater(place)
     onContentYChanged: Qt.callLater(place)
     onHeightChanged: Qt.callLater(place)
     onStepChanged: Qt.callLater(place)
