@@ -59,13 +59,13 @@ QVector<RowModel::Row> registryRows(const QVariantMap& registry)
 }
 
 // Worst first; severity is what colour and icon go by.
-struct Fault
+struct FaultRank
 {
     const char* reason;
     int severity;
 };
 
-constexpr Fault faults[] = {
+constexpr FaultRank faults[] = {
     {"money", 3},   {"error", 2},           {"state", 2},        {"offline", 2},
     {"halted", 2},  {"stacker_missing", 1}, {"stacker_full", 1}, {"disabled", 0},
 };
@@ -74,7 +74,7 @@ QVector<int> rankAndSeverity(const QString& reason)
 {
     const auto* const found =
         std::find_if(std::begin(faults), std::end(faults),
-                     [&](const Fault& fault) { return reason == QLatin1String(fault.reason); });
+                     [&](const FaultRank& fault) { return reason == QLatin1String(fault.reason); });
     return {int(found - std::begin(faults)), found == std::end(faults) ? 0 : found->severity};
 }
 
