@@ -16,7 +16,7 @@ KioskPage {
 
     readonly property int count: cells.count
 
-    readonly property int columns: Math.max(1, Math.floor(width / (100 * KioskTheme.density)))
+    readonly property int columns: Math.max(1, Math.floor(width / (120 * KioskTheme.density)))
     readonly property real gap: KioskTheme.gap / 2
     readonly property real step: (width - gap) / columns
 

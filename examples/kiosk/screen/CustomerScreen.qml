@@ -3,25 +3,21 @@
 
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
-import Kiosk 1.0
 import Velmolib 5.0
 import Velmolib.Controls 5.0
 
-// What the customer sees: what to do, the sums, and what became of the money. The keys are at the bottom, where
-// everybody reaches them on a tall kiosk.
+// What the customer sees: what to do, the sums, and what became of the money. The language keys are at the
+// bottom, where everybody reaches them on a tall kiosk.
 FocusScope {
     id: screen
 
     property ServiceState service
     property string contact // whom to call; empty for nobody
+    property alias language: keys.current
 
-    readonly property bool tall: height > width
+    signal languageChosen(string code)
 
-    onVisibleChanged: {
-        if (visible)
-            languageKeys.forceActiveFocus();
-    }
-    focus: true
+    onVisibleChanged: if (visible) forceActiveFocus()
 
     ColumnLayout {
         anchors.fill: parent
@@ -43,17 +39,13 @@ FocusScope {
             Layout.fillWidth: true
             service: screen.service
             contact: screen.contact
-            limit: screen.tall ? 3 : 1
-        }
-        Item {
-            Layout.fillHeight: screen.tall
+            limit: screen.height > screen.width ? 3 : 1
         }
         LanguageKey {
-            id: languageKeys
+            id: keys
             Layout.alignment: Qt.AlignRight
             languages: [{code: "en", name: "English"}, {code: "ru", name: "Русский"}]
-            current: Language.current
-            onChosen: code => Language.current = code
+            onChosen: code => screen.languageChosen(code)
         }
     }
 }

@@ -3,7 +3,6 @@
 
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
-import Kiosk 1.0
 import Velmolib 5.0
 import Velmolib.Controls 5.0
 
@@ -12,19 +11,13 @@ Rectangle {
     id: screen
 
     property ServiceState service
+    property alias refused: openMoney.refused // an incident that the service would not settle
     property bool reportShown: false
 
     signal closed
 
     color: KioskTheme.ground
     Keys.onEscapePressed: closed()
-
-    Connections {
-        target: ServiceLink
-        function onSettleFailed(incident) {
-            openMoney.refused = incident;
-        }
-    }
 
     ColumnLayout {
         anchors.fill: parent
