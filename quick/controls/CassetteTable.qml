@@ -57,7 +57,7 @@ Column {
     }
 
     function keep() {
-        const lines = isLedger ? Array.from(places).map(line) : [];
+        const lines = isLedger ? Array.from(typeof places === "object" ? places : []).map(line) : [];
         for (let i = 0; i < lines.length; ++i) {
             kept.set(i, lines[i]);
         }

@@ -10,7 +10,7 @@ Rectangle {
     id: card
 
     /// The roles of the device's row in ServiceState.devices.
-    property var entry: null
+    required property var entry
 
     /// What the service published as the content of the device; null where it keeps no ledger, and the
     /// registry is shown instead.

@@ -126,7 +126,7 @@ Flickable {
                         objectName: "bounds"
                         width: answer.width
                         visible: text !== ""
-                        text: [row.bounds, row.key === "device_id" ? catalogue.deviceName(Number(row.value)) : "",
+                        text: [row.bounds, row.key === "device_id" && row.valid ? catalogue.deviceName(Number(row.value)) : "",
                                !row.hasDefault ? "" : row.isDefault ? qsTr("this is the default")
                                : qsTr("default: %1").arg(row.wordOf(row.defaultValue))
                               ].filter(part => part !== "").join(" · ")
