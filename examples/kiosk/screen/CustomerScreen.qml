@@ -24,22 +24,36 @@ FocusScope {
         anchors.margins: KioskTheme.gap
         spacing: KioskTheme.gap
 
-        PaymentPrompt {
+        KioskPage { // moves only where large texts leave no room
             Layout.fillWidth: true
             Layout.fillHeight: true
-            service: screen.service
-            contact: screen.contact
-        }
-        MoneyStrip {
-            Layout.fillWidth: true
-            service: screen.service
-            contact: screen.contact
-        }
-        NoteBanner {
-            Layout.fillWidth: true
-            service: screen.service
-            contact: screen.contact
-            limit: screen.height > screen.width ? 3 : 1
+            contentHeight: Math.max(height, column.implicitHeight)
+
+            ColumnLayout {
+                id: column
+                width: parent.width
+                height: parent.height
+                spacing: KioskTheme.gap
+
+                Item { Layout.fillHeight: true }
+                PaymentPrompt {
+                    Layout.fillWidth: true
+                    Layout.fillHeight: false
+                    service: screen.service
+                    contact: screen.contact
+                }
+                Item { Layout.fillHeight: true }
+                NoteBanner {
+                    Layout.fillWidth: true
+                    service: screen.service
+                    contact: screen.contact
+                }
+                MoneyStrip {
+                    Layout.fillWidth: true
+                    service: screen.service
+                    contact: screen.contact
+                }
+            }
         }
         LanguageKey {
             id: keys

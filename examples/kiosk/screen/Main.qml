@@ -18,9 +18,7 @@ Window {
     property alias pinFile: staff.file
     property string contact: ""
     property var theme: ({}) // what KioskTheme is to have
-
-    /// "customer", "pin" or "service"
-    property string page: "customer"
+    property string page: "customer" // or "pin" or "service"
 
     width: 1024
     height: 768
@@ -41,12 +39,7 @@ Window {
         locale: Language.current
         staleAfter: 15 // three heartbeats of the service
         onSettleWanted: incident => ServiceLink.settle(incident)
-        onNoteEvent: {
-            if (window.page === "customer") { // who pays is there
-                watch.running = false;
-                watch.running = true;
-            }
-        }
+        onNoteEvent: if (window.page === "customer") watch.restart() // who pays is there
     }
     Connections {
         target: ServiceLink

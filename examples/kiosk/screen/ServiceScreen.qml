@@ -39,18 +39,11 @@ Rectangle {
                 text: screen.reportShown ? qsTr("Devices") : qsTr("Report")
                 onClicked: screen.reportShown = !screen.reportShown
             }
-            KioskKey {
-                text: KioskTheme.motion ? qsTr("Motion is on") : qsTr("Motion is off")
-                onClicked: KioskTheme.motion = !KioskTheme.motion
-            }
         }
         StateAge {
             objectName: "age"
             Layout.fillWidth: true
             service: screen.service
-        }
-        KioskText {
-            text: qsTr("Devices: %1, with faults: %2.").arg(devices.count).arg(devices.faulty)
         }
         FaultBanner {
             Layout.fillWidth: true
@@ -62,7 +55,6 @@ Rectangle {
             service: screen.service
         }
         DeviceCards {
-            id: devices
             objectName: "devices"
             Layout.fillWidth: true
             Layout.fillHeight: true
