@@ -24,7 +24,7 @@ T.Button {
     Accessible.name: text
     Accessible.onPressAction: clicked()
 
-    readonly property color front: down || checked ? KioskTheme.onAccent : KioskTheme.accent
+    readonly property color front: down || checked ? KioskTheme.accentInk : KioskTheme.accent
 
     contentItem: Item {
         implicitWidth: row.implicitWidth

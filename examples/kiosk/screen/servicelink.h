@@ -25,7 +25,13 @@ public:
     /// Begins to follow the service; stateReceived() tells of its state from then on.
     Q_INVOKABLE void follow();
 
+    /// Tells the service that somebody found out where the piece of money of an incident is.
+    Q_INVOKABLE void settle(const QString& incident);
+
 Q_SIGNALS:
+    /// The service did not take it.
+    void settleFailed(const QString& incident);
+
     void stateReceived(const QString& text, const QDateTime& timestamp);
     void availableChanged();
 
