@@ -244,16 +244,16 @@ TestCase {
     function test_staleServiceInvitesNobody() {
         const [all, empty] = [10, 0].map(sum => [device(1, 1, {session_sum: sum}), device(100, 2)]);
         const state = make(all);
-        state.staleAfter = 1;
-        wait(600);
+        state.staleAfter = 2;
+        wait(1100);
         state.take(state.text, state.timestamp); // the same again
-        wait(600);
+        wait(1100);
         compare([state.stale, state.customerText].join(), "false,Input money or coin");
         tryCompare(state, "stale", true);
         compare([state.customerText, state.paymentText, state.acceptingAllowed, state.noteAccepted, state.coinAccepted,
                  state.inService, state.sessionSum, state.devices.count].join(),
                 "Out of service,Out of service,false,false,false,false,10,2");
-        compare(state.reasons, ["The service has told nothing for 1 s."]);
+        compare(state.reasons, ["The service has told nothing for 2 s."]);
         compare(state.devices.get(0).accepting, false);
         state.take(state.text, state.timestamp);
         tryCompare(state, "customerText", "Input money or coin");
