@@ -4,7 +4,7 @@
 import QtQuick 2.15
 import Velmolib 5.0
 
-/// A card for each device, in columns, the broken ones first. What the service publishes as "content" stands on
+/// How many devices there are, and a card for each, in columns, the broken ones first. What the service publishes as "content" stands on
 /// them; while it is silent they are dimmed. A card is made when it comes into sight.
 KioskPage {
     id: page
@@ -16,7 +16,7 @@ KioskPage {
 
     readonly property int count: cells.count
 
-    readonly property int columns: Math.max(1, Math.floor(width / (100 * KioskTheme.density)))
+    readonly property int columns: Math.max(1, Math.floor(width / (120 * KioskTheme.density)))
     readonly property real gap: KioskTheme.gap / 2
     readonly property real step: (width - gap) / columns
 
@@ -35,7 +35,7 @@ KioskPage {
         }
         const all = Array.from({length: cells.count}, (_, row) => cells.itemAt(row)).filter(cell => cell);
         const broken = all.filter(cell => cell.isBroken);
-        const ends = new Array(columns).fill(0);
+        const ends = new Array(columns).fill(heading.height + gap);
         for (const cell of broken.concat(all.filter(cell => !cell.isBroken))) {
             const column = ends.indexOf(Math.min(...ends));
             cell.x = column * step;
@@ -52,8 +52,16 @@ KioskPage {
     onHeightChanged: Qt.callLater(place)
     onStepChanged: Qt.callLater(place)
     Accessible.role: Accessible.List
-    Accessible.name: qsTr("Devices: %1, with faults: %2").arg(count).arg(faulty)
+    Accessible.name: heading.text
 
+    KioskText {
+        id: heading
+        width: page.width
+        text: qsTr("Devices: %1, with faults: %2").arg(page.count).arg(page.faulty)
+        font.bold: true
+        onHeightChanged: Qt.callLater(page.place)
+        Accessible.ignored: true
+    }
     Repeater {
         id: cells
         model: page.service ? page.service.devices : null

@@ -3,57 +3,63 @@
 
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
-import Kiosk 1.0
 import Velmolib 5.0
 import Velmolib.Controls 5.0
 
-// What the customer sees: what to do, the sums, and what became of the money. The keys are at the bottom, where
-// everybody reaches them on a tall kiosk.
+// What the customer sees: what to do, the sums, and what became of the money. The language keys are at the
+// bottom, where everybody reaches them on a tall kiosk.
 FocusScope {
     id: screen
 
     property ServiceState service
     property string contact // whom to call; empty for nobody
+    property alias language: keys.current
 
-    readonly property bool tall: height > width
+    signal languageChosen(string code)
 
-    onVisibleChanged: {
-        if (visible)
-            languageKeys.forceActiveFocus();
-    }
-    focus: true
+    onVisibleChanged: if (visible) forceActiveFocus()
 
     ColumnLayout {
         anchors.fill: parent
         anchors.margins: KioskTheme.gap
         spacing: KioskTheme.gap
 
-        PaymentPrompt {
+        KioskPage { // moves only where large texts leave no room
             Layout.fillWidth: true
             Layout.fillHeight: true
-            service: screen.service
-            contact: screen.contact
-        }
-        MoneyStrip {
-            Layout.fillWidth: true
-            service: screen.service
-            contact: screen.contact
-        }
-        NoteBanner {
-            Layout.fillWidth: true
-            service: screen.service
-            contact: screen.contact
-            limit: screen.tall ? 3 : 1
-        }
-        Item {
-            Layout.fillHeight: screen.tall
+            contentHeight: Math.max(height, column.implicitHeight)
+
+            ColumnLayout {
+                id: column
+                width: parent.width
+                height: parent.height
+                spacing: KioskTheme.gap
+
+                Item { Layout.fillHeight: true }
+                PaymentPrompt {
+                    Layout.fillWidth: true
+                    Layout.fillHeight: false
+                    service: screen.service
+                    contact: screen.contact
+                }
+                Item { Layout.fillHeight: true }
+                NoteBanner {
+                    Layout.fillWidth: true
+                    service: screen.service
+                    contact: screen.contact
+                }
+                MoneyStrip {
+                    Layout.fillWidth: true
+                    service: screen.service
+                    contact: screen.contact
+                }
+            }
         }
         LanguageKey {
-            id: languageKeys
+            id: keys
             Layout.alignment: Qt.AlignRight
             languages: [{code: "en", name: "English"}, {code: "ru", name: "Русский"}]
-            current: Language.current
-            onChosen: code => Language.current = code
+            onChosen: code => screen.languageChosen(code)
         }
     }
 }
