@@ -57,7 +57,7 @@ Column {
     }
 
     function keep() {
-        const lines = isLedger ? Array.from(typeof places === "object" ? places : []).map(line) : [];
+        const lines = Array.from(typeof places === "object" && places || []).map(line);
         for (let i = 0; i < lines.length; ++i) {
             kept.set(i, lines[i]);
         }
@@ -66,7 +66,7 @@ Column {
         }
     }
 
-    onPlacesChanged: keep()
+    onPlacesChanged: keep() // before isLedger follows
     onLocaleChanged: keep()
     Connections {
         target: table.service

@@ -23,7 +23,12 @@ Rectangle {
     property bool dimmed: false
 
     readonly property bool isNamed: entry.name.includes(entry.modelName)
-    readonly property bool isWrong: entry.wrong.length > 0
+    readonly property string statusLine: !entry.enabled ? qsTr("switched off")
+        : entry.statusText + (entry.description === "" ? "" : ": " + entry.description)
+    readonly property bool isStopped: entry.enabled && ["jammed", "error"].includes(entry.status)
+    readonly property var faults: (isStopped ? [statusLine] : []).concat(Array.from(entry.wrong))
+    // That a device is disabled is the only thing that is wrong when it is on purpose.
+    readonly property bool isWrong: faults.length > (entry.enabled ? 0 : 1)
     readonly property color ink: dimmed ? KioskTheme.quiet : KioskTheme.ink
 
     function pieceLines(isStuck: bool): string {
@@ -82,25 +87,28 @@ Rectangle {
             text: qsTr("As it was told last; there is no news.")
             color: card.ink
         }
-        KioskNotice {
+        Notice {
             objectName: "wrong"
             width: column.width
-            visible: card.isWrong
-            kind: "bad"
-            text: Array.from(card.entry.wrong).join("\n")
+            visible: text !== ""
+            kind: card.dimmed || !card.isWrong ? "info" : "bad"
+            sign: card.dimmed ? "wait" : card.isWrong ? "warn" : "info"
+            size: KioskTheme.small
+            text: card.faults.join("\n")
         }
-        KioskNotice {
+        Notice {
             objectName: "stuck"
             width: column.width
             visible: text !== ""
             kind: "bad"
+            size: KioskTheme.small
             text: card.pieceLines(true)
         }
         KioskText {
             objectName: "status"
             width: column.width
-            text: !card.entry.enabled ? qsTr("switched off")
-                : card.entry.statusText + (card.entry.description === "" ? "" : ": " + card.entry.description)
+            visible: !card.isStopped
+            text: card.statusLine
             color: card.ink
         }
         Flow {

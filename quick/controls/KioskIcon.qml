@@ -24,8 +24,8 @@ Item {
         "insert": "M 12 2 L 12 15 M 6 9 L 12 15 L 18 9 M 3 20 L 21 20",
         "lock": "M 5 11 L 19 11 L 19 21 L 5 21 Z M 8 11 L 8 7 A 4 4 0 0 1 16 7 L 16 11",
         "globe": "M 12 3 A 9 9 0 1 1 11.9 3 Z M 3 12 L 21 12 M 12 3 C 6 9 6 15 12 21 M 12 3 C 18 9 18 15 12 21",
-        "lampOn": "M 12 6 A 6 6 0 1 1 11.9 6 Z M 12 9 A 3 3 0 1 1 11.9 9 Z",
-        "lampOff": "M 12 6 A 6 6 0 1 1 11.9 6 Z"
+        "lampOn": "M 12 4 A 8 8 0 1 1 11.9 4 Z M 12 6 A 6 6 0 1 1 11.9 6 Z M 12 8 A 4 4 0 1 1 11.9 8 Z M 12 10 A 2 2 0 1 1 11.9 10 Z",
+        "lampOff": "M 12 4 A 8 8 0 1 1 11.9 4 Z"
     })
 
     implicitWidth: KioskTheme.small

@@ -115,11 +115,12 @@ Flickable {
                         width: answer.width
                         sourceComponent: row.isEntered ? entry : row.isChosen ? choice : reading
                     }
-                    KioskNotice {
+                    Notice {
                         objectName: "fault"
                         width: answer.width
                         visible: row.fault !== ""
                         kind: "bad"
+                        size: KioskTheme.small
                         text: row.fault
                     }
                     KioskText {
