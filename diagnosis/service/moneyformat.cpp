@@ -3,11 +3,20 @@
 
 #include "service/moneyformat.h"
 
-#include <cmath>
-
 QString MoneyFormat::text(qint64 value) const
 {
-    const QString number = locale.toString(double(value) / std::pow(10, digits), 'f', digits);
+    qint64 unit = 1;
+    for (int digit = 0; digit < digits; ++digit)
+        unit *= 10;
+    QString number = locale.toString(qAbs(value) / unit);
+    if (digits > 0) {
+        QLocale ungrouped = locale;
+        ungrouped.setNumberOptions(QLocale::OmitGroupSeparator);
+        // With a one before it, so that it begins with its noughts.
+        number += locale.decimalPoint() + ungrouped.toString(unit + qAbs(value) % unit).mid(1);
+    }
+    if (value < 0)
+        number.prepend(locale.negativeSign());
     return currency.isEmpty() ? number : number + QChar(QChar::Nbsp) + currency;
 }
 

@@ -4,15 +4,11 @@
 #include "service/notewatch.h"
 
 #include "devicestatesconst.h"
-#include "text/devicename.h"
-#include "text/diagnosis.h"
-#include "text/filterwords.h"
 
 #include <QSet>
 
 #include <algorithm>
 #include <iterator>
-#include <optional>
 
 using namespace deviceStatesConst;
 
@@ -21,46 +17,6 @@ namespace {
 // Beyond so many the oldest are given up: no device holds them, and a service that makes them up must
 // not fill the memory.
 constexpr size_t mostPieces = 200;
-
-// Said of a note and of a coin; %1 is the face value.
-struct Words
-{
-    const char* note;
-    const char* coin;
-
-    QString of(int model) const
-    {
-        return Diagnosis::tr(moneyOf(model) == Money::Coin ? coin : note);
-    }
-};
-
-// By NoteWatch::Outcome; of a refused note the filter has them.
-constexpr Words outcomes[] = {
-    {},
-    {QT_TRANSLATE_NOOP("Diagnosis", "Checking a note of %1..."),
-     QT_TRANSLATE_NOOP("Diagnosis", "Checking a coin of %1...")},
-    {QT_TRANSLATE_NOOP("Diagnosis", "A note of %1 was accepted."),
-     QT_TRANSLATE_NOOP("Diagnosis", "A coin of %1 was accepted.")},
-    {},
-    {QT_TRANSLATE_NOOP("Diagnosis", "Your note was not recognised. Please try another one."),
-     QT_TRANSLATE_NOOP("Diagnosis", "Your coin was not recognised. Please try another one.")},
-    {QT_TRANSLATE_NOOP("Diagnosis", "Your note of %1 was returned. Please take it."),
-     QT_TRANSLATE_NOOP("Diagnosis", "Your coin of %1 was returned. Please take it.")},
-    {QT_TRANSLATE_NOOP("Diagnosis",
-                       "The device failed with your note of %1 in it. Please call the staff."),
-     QT_TRANSLATE_NOOP("Diagnosis",
-                       "The device failed with your coin of %1 in it. Please call the staff.")},
-    {QT_TRANSLATE_NOOP("Diagnosis",
-                       "It is not known what became of your note of %1. Please call the staff."),
-     QT_TRANSLATE_NOOP("Diagnosis",
-                       "It is not known what became of your coin of %1. Please call the staff.")},
-};
-
-constexpr Words stuckOfUnknownValue{
-    QT_TRANSLATE_NOOP("Diagnosis",
-                      "The device failed with your note in it. Please call the staff."),
-    QT_TRANSLATE_NOOP("Diagnosis",
-                      "The device failed with your coin in it. Please call the staff.")};
 
 bool isOf(const QVariantMap& refusal, const AcceptorStateItem& device)
 {
@@ -111,8 +67,9 @@ std::vector<NoteWatch::Note> NoteWatch::take(const PublishedState& state, const 
     m_currency = state.money.currency;
     m_isSettledByService = state.incidents.has_value();
     const qint64 sum = state.sessionSum();
-    if (sum < m_sum && m_last.outcome != Checked)
-        m_last = Note(); // of a session before
+    const bool isAnotherSession = sum < m_sum;
+    if (isAnotherSession && m_last.outcome != Checked)
+        m_last = Note();
     m_sum = sum;
     ++m_turn;
     QMap<std::pair<int, int>, int> twins;
@@ -130,6 +87,8 @@ std::vector<NoteWatch::Note> NoteWatch::take(const PublishedState& state, const 
     }
     if (state.incidents)
         heed(*state.incidents);
+    if (isAnotherSession && !m_last.isOpen())
+        m_last = Note(); // it was of the session before
     while (m_pieces.size() > mostPieces)
         drop(m_pieces.front().id);
     m_isFirst = false;
@@ -321,11 +280,13 @@ void NoteWatch::heed(const std::vector<Incident>& incidents)
         Note* piece = pieceOf(incident);
         if (!piece) {
             m_pieces.push_back({++m_lastId, None, incident.device, incident.thread,
-                                incident.denomination,
-                                incident.currency.isEmpty() ? m_currency : incident.currency,
-                                incident.time.isValid() ? incident.time : m_time});
+                                incident.denomination, m_currency, m_time});
             piece = &m_pieces.back();
         }
+        if (!incident.currency.isEmpty())
+            piece->currency = incident.currency;
+        if (incident.time.isValid())
+            piece->time = incident.time; // that of the service's log
         piece->incident = incident.number;
         if (piece->value == 0)
             piece->value = incident.denomination;
@@ -400,25 +361,4 @@ void NoteWatch::drop(quint64 id)
     m_pieces.erase(std::remove_if(m_pieces.begin(), m_pieces.end(),
                                   [id](const Note& piece) { return piece.id == id; }),
                    m_pieces.end());
-}
-
-QString NoteWatch::text(const Note& note, const MoneyFormat& format)
-{
-    if (note.outcome == None)
-        return {};
-    const MoneyFormat own = format.of(note.currency);
-    const QVariantMap params = note.refusal.value(QStringLiteral("params")).toMap();
-    const FilterWords* filter = &filterWords(note.refusal.value(QStringLiteral("name")).toString());
-    const QString parameter = QLatin1String(filter->refusalParameter);
-    const std::optional<qint64> limit = wholeNumber(params.value(parameter));
-    if (!parameter.isEmpty() && !limit)
-        filter = &filterWords({}); // nothing can be said of the limit
-    Words words = outcomes[note.outcome];
-    if (note.outcome == Refused)
-        words = {filter->noteRefused, filter->coinRefused};
-    else if (note.outcome == Stuck && note.value == 0)
-        words = stuckOfUnknownValue;
-    QString text = words.of(note.device);
-    text.replace(QLatin1String("%1"), own.text(note.value));
-    return text.replace(QLatin1String("%2"), own.text(limit.value_or(0)));
 }

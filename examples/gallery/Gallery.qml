@@ -153,7 +153,7 @@ Window {
                 x: KioskTheme.gap
                 y: KioskTheme.gap
                 width: parent.width - 2 * x
-                spacing: KioskTheme.gap
+                spacing: 2 * KioskTheme.gap
 
                 Repeater {
                     model: window.samples[window.page] || []
@@ -163,6 +163,7 @@ Window {
                         page: window.page
                         sample: modelData
                         view: window.view
+                        language: window.language
                     }
                 }
             }

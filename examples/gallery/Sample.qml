@@ -12,6 +12,7 @@ Column {
     property string page
     property var sample
     property size view
+    property string language
 
     spacing: KioskTheme.gap / 2
 
@@ -33,8 +34,10 @@ Column {
 
     ServiceState {
         id: service
+        locale: frame.language
     }
     KioskText {
+        width: frame.width
         text: frame.sample.name
         color: KioskTheme.quiet
     }

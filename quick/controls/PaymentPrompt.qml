@@ -33,16 +33,20 @@ GridLayout {
     readonly property bool owes: service.hasStuckMoney || service.openNotes.count > 0
                                  || service.sessionSum > 0 && !service.sumRecorded
 
-    readonly property string advice: mode === "late"
-        ? [qsTr("Please call the staff before you leave. Insert no more money."), help].join("\n").trim()
-        : mode !== "out" ? ""
-        : [owes ? qsTr("Please call the staff before you leave.")
-           : service.sessionSum > 0 ? qsTr("What you have paid is recorded. Please call the staff.")
-                                    : qsTr("Please use another kiosk."), help].join("\n").trim()
+    readonly property string advice: {
+        if (mode === "paid")
+            return service.hasStuckMoney ? qsTr("Please call the staff before you leave.") : "";
+        if (mode !== "out" && mode !== "late")
+            return "";
+        return [mode === "late" ? qsTr("Please call the staff before you leave. Insert no more money.")
+                : owes ? qsTr("Please call the staff before you leave.")
+                : service.sessionSum > 0 ? qsTr("What you have paid is recorded. Please call the staff.")
+                                         : qsTr("Please use another kiosk."), help].join("\n").trim();
+    }
 
     // The pictures stand beside the sentence where that leaves it one line.
     readonly property bool low: pictures.visible
-                                && sign.width + headline.implicitWidth + pictures.implicitWidth + 2 * columnSpacing
+                                && sign.width + headline.implicitWidth + pictures.natural + 2 * columnSpacing
                                    <= width
 
     columnSpacing: KioskTheme.gap
@@ -116,9 +120,14 @@ GridLayout {
         font.bold: true
         Accessible.ignored: true
     }
-    Row {
+    Flow {
         id: pictures
         objectName: "pictures"
+        // In one line.
+        readonly property real natural: [notePicture, coinPicture, cardPicture].reduce(
+            (sum, picture) => picture.visible ? sum + picture.implicitWidth + spacing : sum, -spacing)
+        Layout.fillWidth: !prompt.low
+        Layout.preferredWidth: natural
         Layout.row: prompt.low ? 0 : 1
         Layout.column: prompt.low ? 2 : 1
         Layout.columnSpan: prompt.low ? 1 : 2
@@ -126,18 +135,21 @@ GridLayout {
         visible: prompt.mode === "invite" && prompt.pictured
 
         MoneyPicture {
+            id: notePicture
             objectName: "notePicture"
             kind: "note"
             word: qsTr("Notes")
             visible: prompt.service.noteAccepted
         }
         MoneyPicture {
+            id: coinPicture
             objectName: "coinPicture"
             kind: "coin"
             word: qsTr("Coins")
             visible: prompt.service.coinAccepted
         }
         MoneyPicture {
+            id: cardPicture
             objectName: "cardPicture"
             kind: "card"
             word: qsTr("Card")

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import Velmolib 5.0
+
+/// For the staff: each piece of money whose end nobody told, and what was lost of the sum, with a key that
+/// settles it once it was asked for a second time. It is 0 high when nothing is open.
+Column {
+    id: list
+
+    property ServiceState service
+
+    /// The number of an incident that the service would not take as settled; empty for none.
+    property string refused: ""
+
+    spacing: KioskTheme.gap / 2
+
+    component Line: RowLayout {
+        id: line
+
+        property string title
+        property string text
+        property bool asked: false
+
+        signal settled
+
+        width: list.width
+        spacing: KioskTheme.gap / 2
+        onVisibleChanged: asked = false
+
+        KioskNotice {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            kind: "bad"
+            title: line.title
+            text: line.text
+        }
+        KioskKey {
+            objectName: "settleKey"
+            visible: !line.asked
+            text: qsTr("Settled")
+            onClicked: {
+                line.asked = true;
+                no.forceActiveFocus();
+            }
+        }
+        KioskKey {
+            objectName: "reallyKey"
+            visible: line.asked
+            text: qsTr("Really settled")
+            onClicked: {
+                line.asked = false;
+                line.settled();
+            }
+        }
+        KioskKey {
+            id: no
+            objectName: "noKey"
+            visible: line.asked
+            text: qsTr("No")
+            onClicked: line.asked = false
+        }
+    }
+
+    Repeater {
+        model: list.service ? list.service.openNotes : null
+        Line {
+            required property var model
+            objectName: "openMoney"
+            visible: model.outcome !== ServiceState.NoteChecked
+            title: [model.deviceName, model.amountText, model.timeText,
+                    model.incident === "" ? "" : qsTr("No. %1").arg(model.incident)]
+                   .filter(part => part !== "").join(" · ")
+            text: (model.outcome === ServiceState.NoteStuck ? qsTr("It is stuck in the device.")
+                                                            : qsTr("Nobody says what became of it."))
+                  + (model.incident !== "" && model.incident === list.refused
+                     ? " " + qsTr("The service did not take it as settled.") : "")
+            onSettled: list.service.settle(model.noteId)
+        }
+    }
+    Line {
+        objectName: "openLoss"
+        visible: list.service !== null && list.service.lostSum > 0
+        title: visible ? list.service.moneyText(list.service.lostSum) : ""
+        text: qsTr("The customer had paid so much before the service was lost, and it is missing in the sum.")
+        onSettled: list.service.settleLoss()
+    }
+}
