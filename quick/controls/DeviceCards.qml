@@ -74,7 +74,7 @@ KioskPage {
             readonly property bool isBroken: model.wrong.length > 0
 
             width: page.step - page.gap
-            height: item ? implicitHeight : 60 * KioskTheme.density
+            height: item ? (item as Item).implicitHeight : 60 * KioskTheme.density
             active: false
             onHeightChanged: Qt.callLater(page.place)
             onIndexChanged: Qt.callLater(page.place)
