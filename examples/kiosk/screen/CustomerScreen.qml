@@ -25,31 +25,31 @@ FocusScope {
         spacing: KioskTheme.gap
 
         KioskPage { // moves only where large texts leave no room
+            id: page
             Layout.fillWidth: true
             Layout.fillHeight: true
-            contentHeight: Math.max(height, column.implicitHeight)
+            contentHeight: Math.max(height, prompt.height + KioskTheme.gap + money.height)
 
-            ColumnLayout {
-                id: column
-                width: parent.width
-                height: parent.height
+            PaymentPrompt {
+                id: prompt
+                y: (money.y - height) / 2
+                width: page.width
+                service: screen.service
+                contact: screen.contact
+            }
+            Column {
+                id: money
+                y: page.contentHeight - height
+                width: page.width
                 spacing: KioskTheme.gap
 
-                Item { Layout.fillHeight: true }
-                PaymentPrompt {
-                    Layout.fillWidth: true
-                    Layout.fillHeight: false
-                    service: screen.service
-                    contact: screen.contact
-                }
-                Item { Layout.fillHeight: true }
                 NoteBanner {
-                    Layout.fillWidth: true
+                    width: parent.width
                     service: screen.service
                     contact: screen.contact
                 }
                 MoneyStrip {
-                    Layout.fillWidth: true
+                    width: parent.width
                     service: screen.service
                     contact: screen.contact
                 }
