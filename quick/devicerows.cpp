@@ -25,8 +25,7 @@ QVector<RowModel::Row> lampRows(const PublishedDevice& device, bool isAccepting)
     const Money money = moneyOf(device.deviceId());
     QVector<RowModel::Row> lamps;
     if (money != Money::None)
-        lamps +=
-            lamp("accepting", QT_TRANSLATE_NOOP("Diagnosis", "Accepting"), isAccepting, false);
+        lamps += lamp("accepting", QT_TRANSLATE_NOOP("Diagnosis", "Accepting"), isAccepting, false);
     for (const Condition::Kind kind : Condition::lampOrder) {
         const bool isOfStacker =
             kind == Condition::StackerMissing || kind == Condition::StackerFull;
@@ -59,22 +58,23 @@ QVector<RowModel::Row> registryRows(const QVariantMap& registry)
 }
 
 // Worst first; severity is what colour and icon go by.
-struct FaultRank
+struct RankedFault
 {
     const char* reason;
     int severity;
 };
 
-constexpr FaultRank faults[] = {
-    {"money", 3},   {"error", 2},           {"state", 2},        {"offline", 2},
-    {"halted", 2},  {"stacker_missing", 1}, {"stacker_full", 1}, {"disabled", 0},
+constexpr RankedFault faults[] = {
+    {"money", 3},  {"error", 2},           {"state", 2},        {"offline", 2},
+    {"halted", 2}, {"stacker_missing", 1}, {"stacker_full", 1}, {"disabled", 0},
 };
 
 QVector<int> rankAndSeverity(const QString& reason)
 {
     const auto* const found =
-        std::find_if(std::begin(faults), std::end(faults),
-                     [&](const FaultRank& fault) { return reason == QLatin1String(fault.reason); });
+        std::find_if(std::begin(faults), std::end(faults), [&](const RankedFault& fault) {
+            return reason == QLatin1String(fault.reason);
+        });
     return {int(found - std::begin(faults)), found == std::end(faults) ? 0 : found->severity};
 }
 
