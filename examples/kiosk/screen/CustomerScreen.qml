@@ -30,12 +30,15 @@ FocusScope {
             Layout.fillHeight: true
             contentHeight: Math.max(height, prompt.height + KioskTheme.gap + money.height)
 
-            PaymentPrompt {
-                id: prompt
-                y: (money.y - height) / 2
-                width: page.width
-                service: screen.service
-                contact: screen.contact
+            Item {
+                y: (money.y - prompt.height) / 2
+
+                PaymentPrompt {
+                    id: prompt
+                    width: page.width
+                    service: screen.service
+                    contact: screen.contact
+                }
             }
             Column {
                 id: money

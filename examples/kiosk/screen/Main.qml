@@ -47,9 +47,7 @@ Window {
             acceptor.take(text, timestamp);
         }
     }
-    PinLock {
-        id: staff
-    }
+    PinLock { id: staff }
     IdleWatch {
         id: watch
         onIdle: {
