@@ -79,7 +79,8 @@ Rectangle {
 
             KioskText {
                 id: label
-                width: parent.low ? Math.ceil(words.width) + 1 : parent.width
+                width: parent.width
+                wrapMode: parent.low ? Text.NoWrap : Text.Wrap
                 y: parent.low ? rest.baselineOffset - baselineOffset : 0
                 text: strip.service.price > 0 && !strip.service.paid ? qsTr("Left to pay") : qsTr("Paid")
                 font.pixelSize: KioskTheme.large

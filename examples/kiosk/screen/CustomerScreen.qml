@@ -42,7 +42,7 @@ FocusScope {
             }
             Column {
                 id: money
-                y: page.contentHeight - height
+                y: Math.floor(page.contentHeight - height)
                 width: page.width
                 spacing: KioskTheme.gap
 
