@@ -25,31 +25,34 @@ FocusScope {
         spacing: KioskTheme.gap
 
         KioskPage { // moves only where large texts leave no room
+            id: page
             Layout.fillWidth: true
             Layout.fillHeight: true
-            contentHeight: Math.max(height, column.implicitHeight)
+            contentHeight: Math.max(height, prompt.height + KioskTheme.gap + money.height)
 
-            ColumnLayout {
-                id: column
-                width: parent.width
-                height: parent.height
-                spacing: KioskTheme.gap
+            Item {
+                y: (money.y - prompt.height) / 2
 
-                Item { Layout.fillHeight: true }
                 PaymentPrompt {
-                    Layout.fillWidth: true
-                    Layout.fillHeight: false
+                    id: prompt
+                    width: page.width
                     service: screen.service
                     contact: screen.contact
                 }
-                Item { Layout.fillHeight: true }
+            }
+            Column {
+                id: money
+                y: Math.floor(page.contentHeight - height)
+                width: page.width
+                spacing: KioskTheme.gap
+
                 NoteBanner {
-                    Layout.fillWidth: true
+                    width: parent.width
                     service: screen.service
                     contact: screen.contact
                 }
                 MoneyStrip {
-                    Layout.fillWidth: true
+                    width: parent.width
                     service: screen.service
                     contact: screen.contact
                 }
