@@ -75,7 +75,7 @@ Rectangle {
                 width: parent.low ? implicitWidth : parent.width
                 y: parent.low ? rest.baselineOffset - baselineOffset : 0
                 text: strip.service.price > 0 && !strip.service.paid ? qsTr("Left to pay") : qsTr("Paid")
-                font.pixelSize: KioskTheme.large
+                font.pixelSize: (KioskTheme.medium + KioskTheme.large) / 2
                 Accessible.ignored: true
             }
             KioskText {
@@ -98,7 +98,7 @@ Rectangle {
             readonly property real part: Math.min(1, Math.max(0, strip.service.sessionSum) / Math.max(1, strip.service.price))
             width: parent.width
             height: KioskTheme.gap
-            visible: strip.service.price > 0
+            visible: strip.service.price > 0 && !strip.service.paid
             radius: height / 2
             color: KioskTheme.ground
             border.color: KioskTheme.edge
