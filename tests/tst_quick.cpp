@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include <QAbstractItemModel>
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMetaEnum>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QSaveFile>
@@ -86,6 +88,15 @@ public:
 
     Q_INVOKABLE QStringList takeChanges() { return std::exchange(m_changes, {}); }
 
+    // What a screen reader finds below the object, as "Button: Pay", each after what it is in.
+    Q_INVOKABLE QStringList accessibles(QObject* object)
+    {
+        QAccessible::setActive(true);
+        QStringList lines;
+        addAccessibles(QAccessible::queryAccessibleInterface(object), &lines);
+        return lines;
+    }
+
     Q_INVOKABLE void repeatKey()
     {
         QKeyEvent event(QEvent::KeyPress, Qt::Key_1, Qt::NoModifier, QStringLiteral("1"), true);
@@ -99,6 +110,20 @@ public Q_SLOTS:
     }
 
 private:
+    static void addAccessibles(QAccessibleInterface* object, QStringList* lines)
+    {
+        for (int i = 0; object && i < object->childCount(); ++i) {
+            QAccessibleInterface* const child = object->child(i);
+            if (!child || child->state().invisible)
+                continue;
+            const char* const role =
+                QMetaEnum::fromType<QAccessible::Role>().valueToKey(child->role());
+            *lines +=
+                QString::fromLatin1(role) + QLatin1String(": ") + child->text(QAccessible::Name);
+            addAccessibles(child, lines);
+        }
+    }
+
     QTemporaryDir m_folder;
     Marks m_marks;
     QMetaObject::Connection m_listening;

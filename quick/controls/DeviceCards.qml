@@ -66,25 +66,32 @@ KioskPage {
         id: cells
         model: page.service ? page.service.devices : null
         onCountChanged: Qt.callLater(page.place)
-        Loader {
+        Item {
             id: cell
 
             required property int index
             required property var model
             readonly property bool isBroken: model.wrong.length > 0
+            property alias active: card.active
+            readonly property Item item: card.item
 
             width: page.step - page.gap
-            height: item ? implicitHeight : 60 * KioskTheme.density
-            active: false
+            height: item ? item.height : 60 * KioskTheme.density
             onHeightChanged: Qt.callLater(page.place)
             onIndexChanged: Qt.callLater(page.place)
             onIsBrokenChanged: Qt.callLater(page.place)
-            sourceComponent: DeviceCard {
-                service: page.service
-                entry: cell.model
-                dimmed: !page.service.available || page.service.stale
-                content: page.contents.find(device => device && device.device_id === cell.model.deviceId
-                                            && device.thread_id === cell.model.threadId) || null
+
+            Loader {
+                id: card
+                width: cell.width
+                active: false
+                sourceComponent: DeviceCard {
+                    service: page.service
+                    entry: cell.model
+                    dimmed: !page.service.available || page.service.stale
+                    content: page.contents.find(device => device && device.device_id === cell.model.deviceId
+                                                && device.thread_id === cell.model.threadId) || null
+                }
             }
         }
     }

@@ -30,12 +30,12 @@ Column {
         spacing: KioskTheme.gap / 2
         onVisibleChanged: asked = false
 
-        KioskNotice {
+        Notice {
             Layout.fillWidth: true
             Layout.fillHeight: true
             kind: "bad"
-            title: line.title
-            text: line.text
+            text: line.title
+            detail: line.text
         }
         KioskKey {
             objectName: "settleKey"

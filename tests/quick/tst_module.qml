@@ -44,10 +44,14 @@ TestCase {
         return JSON.stringify(Object.assign({device_states: devices}, more));
     }
 
-    // What the properties show follows within a frame's time.
     function publish(state, devices, more) {
         state.text = text(devices, more);
-        wait(40);
+        update(state);
+    }
+
+    // The properties follow within a frame's time; with this at once.
+    function update(state) {
+        state.settle(0);
     }
 
     function make(devices, more) {
@@ -58,7 +62,7 @@ TestCase {
         const state = make([device(1, 1), device(100, 2)]);
         changes = 0;
         state.text = text([device(1, 1), device(100, 2)]) + " ";
-        wait(40);
+        update(state);
         compare(changes, 0);
         publish(state, [device(1, 1), device(100, 2, {session_sum: 10})]);
         compare(changes, 1);
@@ -166,7 +170,7 @@ TestCase {
         state.available = true;
         compare(state.paymentText, "Input money or coin");
         state.text = "{";
-        wait(40);
+        update(state);
         compare([state.paymentText, state.devices.count, state.sessionSum].join(), "Wait...,0,1510");
         compare(state.fault, "expected a JSON object");
         compare(state.reasons, ["The service's state cannot be read: expected a JSON object."]);

@@ -66,8 +66,13 @@ TestCase {
         state.text = JSON.stringify(Object.assign({device_states: published, refusals: refusals, count: ++count}, more));
     }
 
+    // The properties follow within a frame's time; with this at once.
+    function update(state) {
+        state.settle(0);
+    }
+
     function open(state) {
-        wait(40); // the properties follow within a frame's time
+        update(state);
         return Array.from({length: state.openNotes.count}, (_, row) => {
             const {outcome, value, incident} = state.openNotes.get(row);
             return [outcomes[outcome], value, incident].join(" ").trim();
@@ -244,7 +249,7 @@ TestCase {
         more = {money: row.value, incidents: row.value, refusals: row.value};
         for (const text of ["", "1 accepting 1000", "1 accepted 1000", "1 idling 0 session_sum=1000"])
             step(state, text);
-        wait(40);
+        update(state);
         compare([state.currency, state.digits, state.changeMode, state.sumRecorded, state.openNotes.count].join(), ",0,,false,0");
         compare(state.lastNoteText, "A note of 1,000 was accepted.");
     }
@@ -254,7 +259,7 @@ TestCase {
         step(state, "");
         more = {refusals: [{device_id: 1, name: "SessionSumFilter", params: {sessionSum: "<img src=http://x>"}}]};
         step(state, "1 accepting 1000");
-        wait(40);
+        update(state);
         compare(state.lastNoteText, "This note cannot be accepted. It comes back to you.");
     }
 
@@ -306,12 +311,12 @@ TestCase {
         state.locale = "en";
         more.refusals = limit;
         step(state, "1 accepting " + row.value);
-        wait(40);
+        update(state);
         compare(state.lastNoteText, "This note would pass the limit of " + state.moneyText(row.value) + ". It comes back to you.");
         more.refusals = [];
         step(state, "1 idling");
         step(state, "1 accepting " + row.value);
-        wait(40);
+        update(state);
         compare(state.lastNoteText, "Checking a note of " + state.moneyText(row.value) + "...");
         compare(state.openNotes.get(0).amountText, state.moneyText(row.value));
     }
@@ -351,7 +356,7 @@ TestCase {
             if (text === "lost")
                 more = {};
         }
-        wait(40);
+        update(state);
         compare([state.lostSum, state.lostSumRecorded, state.hasStuckMoney].join(),
                 [row.lost, row.isRecorded === true, row.lost > 0].join());
         state.settleLoss();

@@ -442,7 +442,7 @@ Item {
             }
             tryVerify(() => named(cards, "counters").text.includes("200"));
             const after = new Set(seen(cards));
-            verify(before.every(item => after.has(item)));
+            verify(before.every(item => after.has(item)), before.filter(item => !after.has(item)).join());
             compare(before.length, after.size);
             verify(words(named(cards, "places")).includes("200"));
         }
