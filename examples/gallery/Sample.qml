@@ -14,6 +14,9 @@ Column {
     property size view
     property string language
 
+    readonly property Item shown: loader.item
+    readonly property bool whole: shown !== null && shown.whole === true
+
     spacing: KioskTheme.gap / 2
 
     function take(steps) {
@@ -43,9 +46,9 @@ Column {
     }
     Loader {
         id: loader
-        width: frame.width
+        width: frame.whole ? frame.view.width : frame.width
         Binding on height {
-            when: loader.item !== null && loader.item.whole === true
+            when: frame.whole
             value: frame.view.height
         }
         Component.onCompleted: {

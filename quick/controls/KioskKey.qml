@@ -39,6 +39,8 @@ T.Button {
             KioskIcon {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: key.sign !== ""
+                width: key.font.pixelSize
+                height: width
                 kind: key.sign
                 color: key.front
             }

@@ -31,7 +31,7 @@ QtObject {
     // What stands beside large texts grows with them, but less.
     readonly property real grown: Math.max(1, Math.sqrt(scale))
     readonly property int small: Math.round(4.9 * capital * (largeText ? 1.3 : 1))
-    readonly property int medium: Math.round(6 * grown * capital * (largeText ? 1.3 : 1))
+    readonly property int medium: Math.round(4.9 * Math.max(1, Math.pow(scale, 0.75)) * capital * (largeText ? 1.3 : 1))
     readonly property int large: Math.round(Math.max(8, 9 * scale) * capital * (largeText ? 1.2 : 1))
     readonly property int huge: Math.round(Math.max(11, 14 * scale) * capital * (largeText ? 1.2 : 1))
     readonly property int touch: Math.round(15 * density)
