@@ -71,7 +71,7 @@ KioskPage {
 
             required property int index
             required property var model
-            readonly property bool isBroken: model.wrong.length > 0
+            readonly property bool isBroken: model.severity > 0
             property alias active: card.active
             readonly property Item item: card.item
 
