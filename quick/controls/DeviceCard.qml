@@ -67,15 +67,18 @@ Rectangle {
             KioskIcon {
                 id: sign
                 objectName: "sign"
-                y: (KioskTheme.medium - height) / 2
+                y: (title.implicitHeight / title.lineCount - height) / 2
+                width: title.font.pixelSize
+                height: width
                 kind: card.dimmed ? "wait" : card.isWrong ? "bad" : card.entry.enabled ? "good" : "info"
                 color: card.dimmed ? card.ink : card.isWrong ? KioskTheme.bad
                      : card.entry.enabled ? KioskTheme.good : card.ink
             }
             KioskText {
+                id: title
                 width: column.width - sign.width - parent.spacing
                 text: card.entry.name
-                font.pixelSize: KioskTheme.medium
+                font.pixelSize: Math.round(1.2 * KioskTheme.small)
                 font.bold: true
                 color: card.ink
             }

@@ -491,6 +491,13 @@ Item {
             return control;
         }
 
+        function isOverwritten(control) {
+            const texts = seen(control).filter(item => isText(item) && item.text !== "").map(item => ({
+                from: item.mapToItem(control, 0, 0), to: item.mapToItem(control, item.width, item.height)}));
+            return texts.some(one => texts.some(two => one !== two && one.to.x > two.from.x + 1 && two.to.x > one.from.x + 1
+                                                && one.to.y > two.from.y + 1 && two.to.y > one.from.y + 1));
+        }
+
         function test_everythingFitsAndMeetsAFinger(row) {
             KioskTheme.density = 2;
             const control = makeControl(row);
@@ -498,14 +505,7 @@ Item {
             KioskTheme.largeText = row.largeText;
             waitForRendering(control);
             const isScrolled = row.control.endsWith("form") || row.control === "card" || row.control === "registry";
-            const texts = seen(control).filter(item => isText(item) && item.text !== "").map(item => ({
-                text: item.text, from: item.mapToItem(control, 0, 0), to: item.mapToItem(control, item.width, item.height)}));
-            for (const one of texts) {
-                for (const two of texts) {
-                    verify(one === two || one.to.x <= two.from.x + 1 || two.to.x <= one.from.x + 1
-                           || one.to.y <= two.from.y + 1 || two.to.y <= one.from.y + 1, one.text + " over " + two.text);
-                }
-            }
+            tryVerify(() => !isOverwritten(control)); // a column places its items a frame later
             for (const item of seen(control)) {
                 const left = item.mapToItem(control, 0, 0);
                 const right = item.mapToItem(control, item.width, item.height);
