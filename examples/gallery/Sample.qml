@@ -21,7 +21,7 @@ Column {
 
     function take(steps) {
         let state = {};
-        let time = Date.UTC(2026, 10, 26, 13, 5, 0);
+        let time = Date.now() - 1000 * (steps.length + 3);
         for (const step of steps) {
             if (step.set) {
                 Object.assign(service, step.set);

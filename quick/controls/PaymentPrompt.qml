@@ -33,8 +33,6 @@ Item {
                                  || service.sessionSum > 0 && !service.sumRecorded
 
     readonly property string advice: {
-        if (mode === "paid")
-            return service.hasStuckMoney ? qsTr("Please call the staff before you leave.") : "";
         if (mode !== "out" && mode !== "late")
             return "";
         return [mode === "late" ? qsTr("Please call the staff before you leave. Insert no more money.")
@@ -135,8 +133,8 @@ Item {
         readonly property real unit: prompt.tall ? Math.min(KioskTheme.large / 40, (0.8 * prompt.width - 2 * spacing) / 480)
                                                  : KioskTheme.large / 60
         // In one line.
-        readonly property real natural: [notePicture, coinPicture, cardPicture].reduce(
-            (sum, picture) => picture.shown ? sum + picture.implicitWidth + spacing : sum, -spacing)
+        readonly property real natural: Math.ceil([notePicture, coinPicture, cardPicture].reduce(
+            (sum, picture) => picture.shown ? sum + picture.implicitWidth + spacing : sum, -spacing))
         x: prompt.tall ? (prompt.width - natural) / 2 : prompt.low ? prompt.width - natural : headline.x
         y: prompt.start + (prompt.low ? (prompt.line - height) / 2 : prompt.line + prompt.between)
         width: prompt.tall || prompt.low ? natural : prompt.width - x
