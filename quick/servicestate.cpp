@@ -67,13 +67,12 @@ void ServiceState::read()
     m_fault.clear();
     m_state = PublishedState();
     if (m_text.isEmpty())
-        return;
+        return lose();
     try {
         m_state = readServiceState(m_text);
     } catch (const Fault& fault) {
         m_fault = fault.message;
-        lose();
-        return;
+        return lose();
     }
     makePlain(m_state);
     m_money = m_state.money;

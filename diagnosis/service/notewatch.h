@@ -112,6 +112,7 @@ private:
     void forget(Note& piece);
     void heed(const std::vector<Incident>& incidents);
     Note* pieceOf(const Incident& incident);
+    Note& add(const Note& piece);
     Note* find(quint64 id);
     void drop(quint64 id);
 

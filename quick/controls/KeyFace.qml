@@ -27,6 +27,8 @@ Item {
         KioskIcon {
             anchors.verticalCenter: parent.verticalCenter
             visible: face.sign !== ""
+            width: face.control.font.pixelSize
+            height: width
             kind: face.sign
             color: face.front
         }

@@ -58,6 +58,12 @@ Rectangle {
         text: strip.figure
     }
 
+    TextMetrics { // as wide as the label is where there is room
+        id: words
+        font: label.font
+        text: label.text
+    }
+
     Column {
         id: content
         x: 1.5 * KioskTheme.gap
@@ -66,16 +72,17 @@ Rectangle {
         spacing: KioskTheme.gap / 2
 
         Item {
-            readonly property bool low: label.implicitWidth + natural.width + 2 * KioskTheme.gap < width
+            readonly property bool low: words.width + natural.width + 2 * KioskTheme.gap < width
             width: parent.width
             height: rest.y + rest.contentHeight
 
             KioskText {
                 id: label
-                width: parent.low ? implicitWidth : parent.width
+                width: parent.width
+                wrapMode: parent.low ? Text.NoWrap : Text.Wrap
                 y: parent.low ? rest.baselineOffset - baselineOffset : 0
                 text: strip.service.price > 0 && !strip.service.paid ? qsTr("Left to pay") : qsTr("Paid")
-                font.pixelSize: KioskTheme.large
+                font.pixelSize: (KioskTheme.medium + KioskTheme.large) / 2
                 Accessible.ignored: true
             }
             KioskText {
@@ -98,7 +105,7 @@ Rectangle {
             readonly property real part: Math.min(1, Math.max(0, strip.service.sessionSum) / Math.max(1, strip.service.price))
             width: parent.width
             height: KioskTheme.gap
-            visible: strip.service.price > 0
+            visible: strip.service.price > 0 && !strip.service.paid
             radius: height / 2
             color: KioskTheme.ground
             border.color: KioskTheme.edge

@@ -34,7 +34,7 @@ TestCase {
         wanted = [];
         more = {};
         refusals = [];
-        devices = {1: {device_id: 1, thread_id: 1}, 100: {device_id: 100, thread_id: 2}};
+        devices = {1: {device_id: 1, thread_id: 1}, 100: {device_id: 100, thread_id: 2}, 200: {device_id: 200, thread_id: 2}};
     }
 
     function make() {
@@ -127,6 +127,7 @@ TestCase {
              events: "checked 1000, taken 1000"},
             {tag: "another one after a loss", steps: ["1 accepting 1000", "lost", "1 accepting 100"], open: "lost 1000, checked 100",
              events: "checked 1000, lost 1000, checked 100"},
+            {tag: "nobody knows what it was", steps: ["1 accepting 0", "lost", "1 idling", "back"], events: ""},
             {tag: "offline, but goes on", steps: ["1 accepting 1000 offline", "1 stacking 1000", "1 stacked"],
              events: "checked 1000, lost 1000, checked 1000, taken 1000"},
             {tag: "gone after it was returned", steps: ["1 accepting 1000", "1 returned 1000", "1 idling 0 gone", "1 idling"],
@@ -340,6 +341,9 @@ TestCase {
              steps: [paid, "lost", empty, "back", "1 accepting 100", "1 stacked 100 session_sum=100", "1 idling 0 session_sum=1610"]},
             {tag: "twice", lost: 1610,
              steps: [paid, "lost", empty, "back", "1 accepting 100", "1 stacked 100 session_sum=100", "1 idling", "lost", empty, "back"]},
+            {tag: "other money behind the service's back", lost: 1510,
+             steps: [paid, "lost", empty, "back", "1 accepting 2000", "lost", "1 idling 0 session_sum=2000", "back"]},
+            {tag: "paid by card", lost: 1510, steps: [paid, "lost", empty, "back", "200 busy 0 session_sum=2000"]},
             {tag: "never away in vain", steps: [paid, "lost", "back"], lost: 0}
         ];
     }

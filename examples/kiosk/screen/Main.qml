@@ -28,7 +28,7 @@ Window {
 
     Component.onCompleted: {
         KioskTheme.density = Qt.binding(() => Screen.pixelDensity);
-        KioskTheme.scale = Qt.binding(() => Math.min(width, height) / KioskTheme.density / 158);
+        KioskTheme.scale = Qt.binding(() => Math.min(1.1 * width, height) / KioskTheme.density / 158);
         Object.assign(KioskTheme, theme);
         ServiceLink.follow();
     }
@@ -47,9 +47,7 @@ Window {
             acceptor.take(text, timestamp);
         }
     }
-    PinLock {
-        id: staff
-    }
+    PinLock { id: staff }
     IdleWatch {
         id: watch
         onIdle: {

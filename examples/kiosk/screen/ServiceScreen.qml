@@ -41,7 +41,6 @@ Rectangle {
             }
         }
         StateAge {
-            objectName: "age"
             Layout.fillWidth: true
             service: screen.service
         }
