@@ -29,6 +29,9 @@ public:
     bool isRunning() const { return m_isRunning; }
     void setRunning(bool isRunning);
 
+    /// Somebody is there who touches nothing, who pays for one: the time begins anew.
+    Q_INVOKABLE void restart();
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
@@ -39,8 +42,6 @@ Q_SIGNALS:
     void runningChanged();
 
 private:
-    void restart();
-
     int m_seconds = 0;
     bool m_isRunning = true;
     QTimer m_timer;

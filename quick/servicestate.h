@@ -130,9 +130,10 @@ class ServiceState : public QObject
     /// The devices in published order. Roles: deviceId, threadId, modelName, kind, name, idText,
     /// enabled, status (the state's name), statusText, description, wrong (a list of sentences),
     /// accepting (takes money now), lamps (those that apply to it: a model with the roles name,
-    /// label, lit and alarm), notesInserted, notesRejected, notesReturned, and registry: a model of
-    /// the cassettes and hoppers with the roles channel, isCoin, denomination, currency, stock and
-    /// rejects.
+    /// label, lit and alarm), notesInserted, notesRejected, notesReturned, registry: a model of the
+    /// cassettes and hoppers with the roles channel, isCoin, denomination, currency, stock and
+    /// rejects, and severity: that of the worst of worstFaults that its machine and state have; -1
+    /// for one that works.
     Q_PROPERTY(RowModel* devices READ devices CONSTANT)
 
     /// What is wrong with all devices, worst first. Roles: deviceName, deviceId, threadId, reason

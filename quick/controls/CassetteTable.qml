@@ -6,7 +6,7 @@ import Velmolib 5.0
 
 /// What lies in a device, a line for each cassette, hopper, channel and box of rejects: by the registry
 /// of the device, or by the places that the service's ledger publishes. Its lines stay while what they
-/// say changes.
+/// say changes. Where the columns have no room, a line is written as two.
 Column {
     id: table
 
@@ -22,7 +22,20 @@ Column {
     property color ink: KioskTheme.ink
 
     readonly property bool isLedger: places !== null && places !== undefined
-    readonly property int count: isLedger ? kept.count : registry ? registry.count : 0
+    readonly property int count: kept.count
+
+    // What the lines say; a binding follows whatever it is made of, the language too.
+    readonly property var lines: isLedger ? Array.from(typeof places === "object" && places || []).map(placeLine)
+                               : Array.from({length: registry && changes >= 0 ? registry.count : 0},
+                                            (_, row) => registryLine(registry.get(row)))
+    property int changes: 0 // of the registry
+    readonly property var head: ({"place": qsTr("Place"), "value": qsTr("Value"), "pieces": qsTr("Pieces"),
+                                  "rejected": isLedger ? "" : qsTr("Rejected")})
+
+    // How wide each column has to be, and what is left of the width between them.
+    readonly property var needs: measure(lines.concat(head), metrics.font)
+    readonly property real spare: (width - needs.reduce((sum, need) => sum + need)) / (isLedger ? 2 : 3)
+    readonly property bool isNarrow: spare < KioskTheme.gap
 
     readonly property var locale: service ? Qt.locale(service.locale) : Qt.locale()
 
@@ -40,8 +53,14 @@ Column {
              : currency === "" ? number : number + "\u00a0" + currency;
     }
 
+    // The font is that of the metrics, given for the binding to follow it.
+    function measure(written, font) {
+        return ["place", "value", "pieces", "rejected"].map(
+            column => Math.ceil(Math.max(...written.map(line => metrics.advanceWidth(line[column])))));
+    }
+
     // What a service publishes may be anything.
-    function line(place) {
+    function placeLine(place) {
         const given = place || {};
         const currency = /^\w{1,8}$/.test(given.currency) ? given.currency : "";
         const least = numberText(Number(given.min));
@@ -52,29 +71,36 @@ Column {
             "value": valueText(Number(given.denomination), currency),
             "pieces": given.max === undefined ? qsTr("at least %1").arg(least)
                     : given.max === given.min ? least
-                    : qsTr("%1 to %2").arg(least).arg(numberText(Number(given.max)))
+                    : qsTr("%1 to %2").arg(least).arg(numberText(Number(given.max))),
+            "rejected": ""
         };
     }
 
-    function keep() {
-        const lines = isLedger ? Array.from(typeof places === "object" ? places : []).map(line) : [];
-        for (let i = 0; i < lines.length; ++i) {
-            kept.set(i, lines[i]);
-        }
+    function registryLine(row) {
+        return {
+            "place": (row.isCoin ? qsTr("Hopper %1") : qsTr("Cassette %1")).arg(row.channel),
+            "value": valueText(row.denomination, row.currency),
+            "pieces": numberText(row.stock),
+            "rejected": numberText(row.rejects)
+        };
+    }
+
+    onLinesChanged: {
+        lines.forEach((line, row) => kept.set(row, line));
         if (kept.count > lines.length) {
             kept.remove(lines.length, kept.count - lines.length);
         }
     }
-
-    onPlacesChanged: keep()
-    onLocaleChanged: keep()
     Connections {
-        target: table.service
-        function onCurrencyChanged() {
-            table.keep();
+        target: table.registry
+        function onDataChanged() {
+            table.changes++;
         }
-        function onDigitsChanged() {
-            table.keep();
+        function onRowsMoved() {
+            table.changes++;
+        }
+        function onRowsInserted() {
+            table.changes++;
         }
     }
 
@@ -85,63 +111,60 @@ Column {
     ListModel {
         id: kept
     }
+    FontMetrics {
+        id: metrics
+        font.family: sample.font.family
+        font.pixelSize: KioskTheme.small
+        font.bold: true
+    }
+    KioskText {
+        id: sample
+        visible: false
+    }
 
     component Line: Item {
         id: cells
 
-        property string place
-        property string value
-        property string pieces
-        property string rejected
-        property bool hasRejected: true
+        property var owner // the table
+        property var line
         property bool isHead: false
-        property color ink
 
-        readonly property real unit: (width - 3 * KioskTheme.gap / 2) / (hasRejected ? 100 : 80)
+        readonly property var ends: owner.needs.map(
+            (need, column) => owner.needs.slice(0, column + 1).reduce((sum, width) => sum + width) + column * owner.spare)
 
-        implicitHeight: Math.max(first.implicitHeight, second.implicitHeight, third.implicitHeight,
-                                 fourth.implicitHeight) + KioskTheme.gap / 2
+        width: owner.width
+        implicitHeight: texts.height + KioskTheme.gap / 2
         Accessible.role: Accessible.Row
-        Accessible.name: [place, value, pieces, rejected].filter(text => text !== "").join(", ")
+        Accessible.name: [line.place, line.value, line.pieces, line.rejected].filter(text => text !== "").join(", ")
 
-        Row {
+        Item {
+            id: texts
             anchors.verticalCenter: parent.verticalCenter
-            spacing: KioskTheme.gap / 2
+            width: parent.width
+            height: cells.owner.isNarrow ? narrow.implicitHeight : Math.ceil(metrics.height)
 
-            KioskText {
-                id: first
-                width: cells.unit * 30
-                text: cells.place
-                font.bold: cells.isHead
-                color: cells.ink
-                Accessible.ignored: true
+            Repeater {
+                model: cells.owner.isNarrow ? [] : ["place", "value", "pieces", "rejected"]
+                KioskText {
+                    required property string modelData
+                    required property int index
+                    x: cells.ends[index] - (index > 0 ? implicitWidth : cells.ends[index])
+                    visible: text !== ""
+                    text: cells.line[modelData]
+                    wrapMode: Text.NoWrap
+                    font.bold: cells.isHead
+                    color: cells.owner.ink
+                    Accessible.ignored: true
+                }
             }
             KioskText {
-                id: second
-                width: cells.unit * 28
-                horizontalAlignment: Text.AlignRight
-                text: cells.value
-                font.bold: cells.isHead
-                color: cells.ink
-                Accessible.ignored: true
-            }
-            KioskText {
-                id: third
-                width: cells.unit * 22
-                horizontalAlignment: Text.AlignRight
-                text: cells.pieces
-                font.bold: cells.isHead
-                color: cells.ink
-                Accessible.ignored: true
-            }
-            KioskText {
-                id: fourth
-                width: cells.unit * 20
-                visible: cells.hasRejected
-                horizontalAlignment: Text.AlignRight
-                text: cells.rejected
-                font.bold: cells.isHead
-                color: cells.ink
+                id: narrow
+                width: parent.width
+                visible: cells.owner.isNarrow
+                text: cells.line.place + " · " + cells.line.value + "\n" + cells.owner.head.pieces + ": " + cells.line.pieces
+                      + (cells.line.rejected === "" ? ""
+                         : " · " + cells.owner.head.rejected + ": " + cells.line.rejected)
+                color: cells.owner.ink
                 Accessible.ignored: true
             }
         }
@@ -155,37 +178,17 @@ Column {
     }
 
     Line {
-        width: table.width
+        owner: table
+        visible: !table.isNarrow
         isHead: true
-        hasRejected: !table.isLedger
-        ink: table.ink
-        place: qsTr("Place")
-        value: qsTr("Value")
-        pieces: qsTr("Pieces")
-        rejected: hasRejected ? qsTr("Rejected") : ""
+        line: table.head
     }
     Repeater {
         model: kept
         Line {
             required property var model
-            width: table.width
-            hasRejected: false
-            ink: table.ink
-            place: model.place
-            value: model.value
-            pieces: model.pieces
-        }
-    }
-    Repeater {
-        model: table.isLedger ? null : table.registry
-        Line {
-            required property var model
-            width: table.width
-            ink: table.ink
-            place: (model.isCoin ? qsTr("Hopper %1") : qsTr("Cassette %1")).arg(model.channel)
-            value: table.valueText(model.denomination, model.currency)
-            pieces: table.numberText(model.stock)
-            rejected: table.numberText(model.rejects)
+            owner: table
+            line: model
         }
     }
 }

@@ -4,8 +4,9 @@
 import QtQuick 2.15
 import Velmolib 5.0
 
-/// A card for each device, in columns, the broken ones first. What the service publishes as "content" stands on
-/// them; while it is silent they are dimmed. A card is made when it comes into sight.
+/// How many devices there are, and a card for each, in columns, the broken ones first. What the service
+/// publishes as "content" stands on them; while it is silent they are dimmed. A card is made when it comes
+/// into sight.
 KioskPage {
     id: page
 
@@ -16,15 +17,29 @@ KioskPage {
 
     readonly property int count: cells.count
 
-    readonly property int columns: Math.max(1, Math.floor(width / (100 * KioskTheme.density)))
+    readonly property int columns: Math.max(1, Math.floor(width / (120 * KioskTheme.density)))
     readonly property real gap: KioskTheme.gap / 2
     readonly property real step: (width - gap) / columns
 
-    readonly property var contents: {
-        try {
-            return Array.from(JSON.parse(service.text).content || []);
-        } catch (error) {
-            return [];
+    property var contents: []
+
+    // Read a few times in a second, however fast states follow each other.
+    Timer {
+        id: reading
+        interval: 100
+        running: page.visible
+        onTriggered: {
+            try {
+                page.contents = Array.from(JSON.parse(page.service.text).content || []);
+            } catch (error) {
+                page.contents = [];
+            }
+        }
+    }
+    Connections {
+        target: page.visible ? page.service : null
+        function onTextChanged() {
+            reading.start();
         }
     }
 
@@ -35,7 +50,7 @@ KioskPage {
         }
         const all = Array.from({length: cells.count}, (_, row) => cells.itemAt(row)).filter(cell => cell);
         const broken = all.filter(cell => cell.isBroken);
-        const ends = new Array(columns).fill(0);
+        const ends = new Array(columns).fill(heading.height + gap);
         for (const cell of broken.concat(all.filter(cell => !cell.isBroken))) {
             const column = ends.indexOf(Math.min(...ends));
             cell.x = column * step;
@@ -52,31 +67,46 @@ KioskPage {
     onHeightChanged: Qt.callLater(place)
     onStepChanged: Qt.callLater(place)
     Accessible.role: Accessible.List
-    Accessible.name: qsTr("Devices: %1, with faults: %2").arg(count).arg(faulty)
+    Accessible.name: heading.text
 
+    KioskText {
+        id: heading
+        width: page.width
+        text: qsTr("Devices: %1, with faults: %2").arg(page.count).arg(page.faulty)
+        font.bold: true
+        onHeightChanged: Qt.callLater(page.place)
+        Accessible.ignored: true
+    }
     Repeater {
         id: cells
         model: page.service ? page.service.devices : null
         onCountChanged: Qt.callLater(page.place)
-        Loader {
+        Item {
             id: cell
 
             required property int index
             required property var model
-            readonly property bool isBroken: model.wrong.length > 0
+            readonly property bool isBroken: model.severity > 0
+            property alias active: card.active
+            property alias item: card.item
 
             width: page.step - page.gap
-            height: item ? implicitHeight : 60 * KioskTheme.density
-            active: false
+            height: card.item ? card.height : 60 * KioskTheme.density
             onHeightChanged: Qt.callLater(page.place)
             onIndexChanged: Qt.callLater(page.place)
             onIsBrokenChanged: Qt.callLater(page.place)
-            sourceComponent: DeviceCard {
-                service: page.service
-                entry: cell.model
-                dimmed: !page.service.available || page.service.stale
-                content: page.contents.find(device => device && device.device_id === cell.model.deviceId
-                                            && device.thread_id === cell.model.threadId) || null
+
+            Loader {
+                id: card
+                width: cell.width
+                active: false
+                sourceComponent: DeviceCard {
+                    service: page.service
+                    entry: cell.model
+                    dimmed: !page.service.available || page.service.stale
+                    content: page.contents.find(device => device && device.device_id === cell.model.deviceId
+                                                && device.thread_id === cell.model.threadId) || null
+                }
             }
         }
     }

@@ -6,7 +6,7 @@ import Velmolib 5.0
 
 /// The worst of what is wrong with the devices, and how much more there is; that all is well only while
 /// the service says so.
-KioskNotice {
+Notice {
     id: banner
 
     property ServiceState service: null
@@ -25,12 +25,13 @@ KioskNotice {
         others = faults ? Math.max(0, faults.count - 1) : 0;
     }
 
+    readonly property string reasons: service ? Array.from(service.reasons).join("\n") : ""
+    readonly property string fault: isFaulty ? worst.deviceName + ": " + worst.text : ""
+
     kind: isSilent ? "bad" : !isFaulty ? "good" : ["info", "warn", "bad", "bad"][worst.severity] || "bad"
-    title: isSilent || !isFaulty ? "" : worst.deviceName
-    text: (isSilent ? Array.from(service ? service.reasons : []) : [])
-          .concat(!isFaulty ? [] : isSilent ? [worst.deviceName + ": " + worst.text] : [worst.text],
-                  others > 0 ? [qsTr("Other faults: %1").arg(others)] : [],
-                  isSilent || isFaulty ? [] : [qsTr("No device has a fault.")]).join("\n")
+    text: isSilent ? reasons : isFaulty ? fault : qsTr("No device has a fault.")
+    detail: [isSilent ? fault : "", others > 0 ? qsTr("Other faults: %1").arg(others) : ""]
+            .filter(line => line !== "").join("\n")
 
     onServiceChanged: look()
     Component.onCompleted: look()

@@ -24,10 +24,12 @@ Row {
 
     KioskIcon {
         id: sign
+        y: (text.implicitHeight / text.lineCount - height) / 2
         kind: !lamp.lit ? "lampOff" : lamp.alarm ? "warn" : "lampOn"
         color: lamp.front
     }
     KioskText {
+        id: text
         width: Math.min(implicitWidth, lamp.room - sign.width - lamp.spacing)
         text: lamp.label
         font.bold: lamp.lit && lamp.alarm

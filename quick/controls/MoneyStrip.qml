@@ -16,24 +16,29 @@ Rectangle {
 
     readonly property string help: contact === "" ? "" : qsTr("Help: %1").arg(contact)
 
+    // As text, again when the way it is written changes.
+    function money(value: real): string {
+        return [service.currency, service.digits, service.locale] && service.moneyText(value);
+    }
+
     // What becomes of a sum above the price, as long as it may still be avoided.
     readonly property string ruleText: service.paid || service.price <= 0 ? ""
         : ({"none": qsTr("This kiosk gives no change."), "paid": qsTr("Change is paid out."),
             "credited": qsTr("What you pay too much stays on your account.")})[service.changeMode] || ""
 
     readonly property string changeText: service.change <= 0 ? ""
-        : qsTr("You have paid %1 too much.").arg(service.moneyText(service.change)) + " "
+        : qsTr("You have paid %1 too much.").arg(strip.money(service.change)) + " "
           + (({"none": qsTr("This kiosk gives no change. Please call the staff."),
                "paid": qsTr("Your change is paid out. Please take it."),
                "credited": qsTr("It stays on your account.")})[service.changeMode]
              || qsTr("Please ask the staff for your change."))
 
     readonly property string lostText: service.lostSum <= 0 ? ""
-        : qsTr("Before a fault you had paid %1 more. It is missing in the sum now.").arg(service.moneyText(service.lostSum))
+        : qsTr("Before a fault you had paid %1 more. It is missing in the sum now.").arg(strip.money(service.lostSum))
           + " " + (service.lostSumRecorded ? qsTr("It is recorded. Please call the staff.")
                                            : qsTr("Please call the staff."))
 
-    readonly property string figure: service.moneyText(service.price > 0 && !service.paid ? service.left
+    readonly property string figure: money(service.price > 0 && !service.paid ? service.left
                                                                                           : service.sessionSum)
 
     implicitWidth: label.implicitWidth + natural.width + 4 * content.x
@@ -53,6 +58,12 @@ Rectangle {
         text: strip.figure
     }
 
+    TextMetrics { // as wide as the label is where there is room
+        id: words
+        font: label.font
+        text: label.text
+    }
+
     Column {
         id: content
         x: 1.5 * KioskTheme.gap
@@ -61,16 +72,17 @@ Rectangle {
         spacing: KioskTheme.gap / 2
 
         Item {
-            readonly property bool low: label.implicitWidth + natural.width + 2 * KioskTheme.gap < width
+            readonly property bool low: words.width + natural.width + 2 * KioskTheme.gap < width
             width: parent.width
-            height: rest.y + rest.height
+            height: rest.y + rest.contentHeight
 
             KioskText {
                 id: label
-                width: parent.low ? implicitWidth : parent.width
+                width: parent.width
+                wrapMode: parent.low ? Text.NoWrap : Text.Wrap
                 y: parent.low ? rest.baselineOffset - baselineOffset : 0
                 text: strip.service.price > 0 && !strip.service.paid ? qsTr("Left to pay") : qsTr("Paid")
-                font.pixelSize: KioskTheme.large
+                font.pixelSize: (KioskTheme.medium + KioskTheme.large) / 2
                 Accessible.ignored: true
             }
             KioskText {
@@ -93,7 +105,7 @@ Rectangle {
             readonly property real part: Math.min(1, Math.max(0, strip.service.sessionSum) / Math.max(1, strip.service.price))
             width: parent.width
             height: KioskTheme.gap
-            visible: strip.service.price > 0
+            visible: strip.service.price > 0 && !strip.service.paid
             radius: height / 2
             color: KioskTheme.ground
             border.color: KioskTheme.edge
@@ -116,8 +128,8 @@ Rectangle {
             width: parent.width
             visible: strip.service.price > 0
             text: strip.service.price > 0
-                  ? qsTr("Paid: %1 of %2").arg(strip.service.moneyText(strip.service.sessionSum))
-                                          .arg(strip.service.moneyText(strip.service.price))
+                  ? qsTr("Paid: %1 of %2").arg(strip.money(strip.service.sessionSum))
+                                          .arg(strip.money(strip.service.price))
                   : qsTr("Paid: %1").arg(strip.figure)
             font.pixelSize: KioskTheme.medium
             Accessible.ignored: true

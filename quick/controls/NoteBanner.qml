@@ -20,6 +20,9 @@ Column {
     /// How many open pieces are shown at most; the others are counted.
     property int limit: 3
 
+    // Nobody checks anything then: what is in a device's hand stays there.
+    readonly property bool away: !service.available || service.stale
+
     spacing: KioskTheme.gap / 2
 
     Connections {
@@ -39,16 +42,18 @@ Column {
         Notice {
             required property int index
             required property var model
-            readonly property bool inHand: model.outcome === ServiceState.NoteChecked
+            readonly property bool inHand: !banner.away && model.outcome === ServiceState.NoteChecked
             readonly property bool isLast: index === Math.min(open.count, banner.limit) - 1
             objectName: "openNote"
             width: banner.width
             visible: index < banner.limit
             kind: inHand ? "info" : "bad"
             sign: inHand ? "wait" : "warn"
-            text: model.text
+            text: banner.away && model.outcome === ServiceState.NoteChecked
+                  ? qsTr("Your money is still in the device. Please call the staff.") : model.text
             detail: inHand ? ""
-                  : [[model.timeText, model.amountText, model.incident === "" ? "" : qsTr("No. %1").arg(model.incident)]
+                  : [[model.timeText, model.text.includes(model.amountText) ? "" : model.amountText,
+                      model.incident === "" ? "" : qsTr("No.\u00a0%1").arg(model.incident)]
                      .filter(part => part !== "").join(" · "),
                      isLast && banner.contact !== "" ? qsTr("Help: %1").arg(banner.contact) : ""]
                     .filter(line => line !== "").join("\n")

@@ -18,6 +18,8 @@ Rectangle {
     /// In lines below the text.
     property string detail: ""
 
+    property int size: KioskTheme.medium
+
     readonly property color front: kind === "good" ? KioskTheme.good : kind === "warn" ? KioskTheme.warn
                                  : kind === "bad" ? KioskTheme.bad : KioskTheme.ink
 
@@ -35,7 +37,7 @@ Rectangle {
         id: icon
         x: KioskTheme.gap
         y: texts.y
-        width: 1.3 * KioskTheme.medium
+        width: 1.3 * notice.size
         height: width
         kind: notice.sign
         color: notice.front
@@ -52,7 +54,7 @@ Rectangle {
             objectName: notice.objectName + "Text"
             width: parent.width
             text: notice.text
-            font.pixelSize: KioskTheme.medium
+            font.pixelSize: notice.size
             font.bold: true
             color: notice.front
             Accessible.ignored: true
@@ -63,7 +65,7 @@ Rectangle {
             width: parent.width
             visible: text !== ""
             text: notice.detail
-            font.pixelSize: KioskTheme.medium
+            font.pixelSize: notice.size
             Accessible.ignored: true
         }
     }

@@ -30,12 +30,12 @@ Column {
         spacing: KioskTheme.gap / 2
         onVisibleChanged: asked = false
 
-        KioskNotice {
+        Notice {
             Layout.fillWidth: true
             Layout.fillHeight: true
             kind: "bad"
-            title: line.title
-            text: line.text
+            text: line.title
+            detail: line.text
         }
         KioskKey {
             objectName: "settleKey"
@@ -73,8 +73,10 @@ Column {
             title: [model.deviceName, model.amountText, model.timeText,
                     model.incident === "" ? "" : qsTr("No. %1").arg(model.incident)]
                    .filter(part => part !== "").join(" · ")
-            text: model.text + (model.incident !== "" && model.incident === list.refused
-                                ? " " + qsTr("The service did not take it as settled.") : "")
+            text: (model.outcome === ServiceState.NoteStuck ? qsTr("It is stuck in the device.")
+                                                            : qsTr("Nobody says what became of it."))
+                  + (model.incident !== "" && model.incident === list.refused
+                     ? " " + qsTr("The service did not take it as settled.") : "")
             onSettled: list.service.settle(model.noteId)
         }
     }

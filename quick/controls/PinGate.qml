@@ -94,16 +94,16 @@ FocusScope {
         anchors.bottom: parent.bottom
         anchors.bottomMargin: KioskTheme.gap
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width - 2 * KioskTheme.gap, 120 * KioskTheme.density * KioskTheme.grown)
+        width: Math.min(parent.width - 2 * KioskTheme.gap, 20 * KioskTheme.medium)
         spacing: KioskTheme.gap / 2
 
-        KioskNotice {
+        Notice {
             objectName: "message"
             width: parent.width
-            size: KioskTheme.medium
-            title: gate.isReady ? "" : qsTr("The screens of the staff stay closed.")
-            kind: !gate.isReady || hidden.isWrong || gate.isWaiting ? "bad" : "lock"
-            text: !gate.isReady ? (gate.lock ? gate.lock.fault : qsTr("There is no PIN."))
+            kind: !gate.isReady || hidden.isWrong || gate.isWaiting ? "bad" : "info"
+            sign: "lock"
+            detail: gate.isReady || !gate.lock ? "" : gate.lock.fault
+            text: !gate.isReady ? qsTr("There is no PIN: the screens of the staff stay closed.")
                 : gate.isWaiting ? qsTr("Wrong PIN. Wait %1 s.").arg(gate.lock.waitSeconds)
                 : hidden.isWrong ? qsTr("Wrong PIN. Try again.") : qsTr("For the staff: enter the PIN.")
         }
@@ -150,7 +150,6 @@ FocusScope {
                     required property string modelData
                     objectName: "key-" + modelData
                     width: (pad.parent.width - 2 * pad.spacing) / 3
-                    font.pixelSize: modelData.length > 1 ? KioskTheme.small : KioskTheme.medium
                     padding: KioskTheme.gap / 4
                     leftPadding: padding
                     rightPadding: padding

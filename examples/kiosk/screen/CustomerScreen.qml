@@ -2,58 +2,59 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
-import Kiosk 1.0
 import Velmolib 5.0
 import Velmolib.Controls 5.0
 
-// What the customer sees: what to do, the sums, and what became of the money. The keys are at the bottom, where
-// everybody reaches them on a tall kiosk.
+// What the customer sees: what to do, the sums, and what became of the money. The language keys of a
+// tall kiosk are at the bottom, where everybody reaches them.
 FocusScope {
     id: screen
 
     property ServiceState service
     property string contact // whom to call; empty for nobody
+    property alias language: keys.current
 
     readonly property bool tall: height > width
 
-    onVisibleChanged: {
-        if (visible)
-            languageKeys.forceActiveFocus();
-    }
-    focus: true
+    signal languageChosen(string code)
 
-    ColumnLayout {
+    onVisibleChanged: if (visible) forceActiveFocus()
+
+    KioskPage { // moves only where large texts leave no room
         anchors.fill: parent
         anchors.margins: KioskTheme.gap
-        spacing: KioskTheme.gap
+        anchors.bottomMargin: screen.height - strip.y + KioskTheme.gap
+        contentHeight: banner.y + banner.height
 
         PaymentPrompt {
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            service: screen.service
-            contact: screen.contact
-        }
-        MoneyStrip {
-            Layout.fillWidth: true
+            id: prompt
+            tall: screen.tall
+            width: screen.tall ? parent.width : keys.x - 2 * KioskTheme.gap
+            height: Math.max(bareHeight, strip.y - 2 * KioskTheme.gap - (banner.height > 0 ? banner.height + KioskTheme.gap : 0))
             service: screen.service
             contact: screen.contact
         }
         NoteBanner {
-            Layout.fillWidth: true
+            id: banner
+            y: prompt.height + (height > 0 ? KioskTheme.gap : 0)
+            width: parent.width
             service: screen.service
             contact: screen.contact
-            limit: screen.tall ? 3 : 1
         }
-        Item {
-            Layout.fillHeight: screen.tall
-        }
-        LanguageKey {
-            id: languageKeys
-            Layout.alignment: Qt.AlignRight
-            languages: [{code: "en", name: "English"}, {code: "ru", name: "Русский"}]
-            current: Language.current
-            onChosen: code => Language.current = code
-        }
+    }
+    MoneyStrip {
+        id: strip
+        x: KioskTheme.gap
+        y: (screen.tall ? keys.y : screen.height) - height - KioskTheme.gap
+        width: screen.width - 2 * x
+        service: screen.service
+        contact: screen.contact
+    }
+    LanguageKey {
+        id: keys
+        x: screen.width - width - KioskTheme.gap
+        y: screen.tall ? screen.height - height - KioskTheme.gap : KioskTheme.gap
+        languages: [{code: "en", name: "English"}, {code: "ru", name: "Русский"}]
+        onChosen: code => screen.languageChosen(code)
     }
 }

@@ -17,13 +17,8 @@ Window {
     property alias idleSeconds: watch.seconds
     property alias pinFile: staff.file
     property string contact: ""
-    property real density: 0 // that of the screen
-    property bool largeText: false
-    property bool highContrast: false
-    property bool motion: true
-
-    /// "customer", "pin" or "service"
-    property string page: "customer"
+    property var theme: ({}) // what KioskTheme is to have
+    property string page: "customer" // or "pin" or "service"
 
     width: 1024
     height: 768
@@ -32,11 +27,9 @@ Window {
     color: KioskTheme.ground
 
     Component.onCompleted: {
-        KioskTheme.density = Qt.binding(() => density > 0 ? density : Screen.pixelDensity);
-        KioskTheme.scale = Qt.binding(() => Math.min(width, height) / KioskTheme.density / 158);
-        KioskTheme.largeText = Qt.binding(() => largeText);
-        KioskTheme.highContrast = Qt.binding(() => highContrast);
-        KioskTheme.motion = motion;
+        KioskTheme.density = Qt.binding(() => Screen.pixelDensity);
+        KioskTheme.scale = Qt.binding(() => Math.min(1.1 * width, height) / KioskTheme.density / 158);
+        Object.assign(KioskTheme, theme);
         ServiceLink.follow();
     }
 
@@ -46,12 +39,7 @@ Window {
         locale: Language.current
         staleAfter: 15 // three heartbeats of the service
         onSettleWanted: incident => ServiceLink.settle(incident)
-        onNoteEvent: {
-            if (window.page === "customer") { // who pays is there
-                watch.running = false;
-                watch.running = true;
-            }
-        }
+        onNoteEvent: if (window.page === "customer") watch.restart() // who pays is there
     }
     Connections {
         target: ServiceLink
@@ -59,9 +47,7 @@ Window {
             acceptor.take(text, timestamp);
         }
     }
-    PinLock {
-        id: staff
-    }
+    PinLock { id: staff }
     IdleWatch {
         id: watch
         onIdle: {
@@ -79,6 +65,8 @@ Window {
         visible: window.page === "customer"
         service: acceptor
         contact: window.contact
+        language: Language.current
+        onLanguageChosen: code => Language.current = code
     }
     MouseArea {
         objectName: "corner"
@@ -98,11 +86,9 @@ Window {
 
         KioskText {
             objectName: "pinHint"
-            x: KioskTheme.gap
-            y: KioskTheme.gap
-            width: parent.width - 2 * x
+            width: parent.width
             visible: !staff.ready
-            text: qsTr("Write a PIN of 4 to 12 digits into a file that only this program may read, and start the screen with --pin-file FILE.")
+            text: qsTr("To set a PIN: write 4 to 12 digits into a file and start with --pin-file FILE.")
         }
     }
     Loader {
@@ -111,6 +97,7 @@ Window {
         sourceComponent: ServiceScreen {
             objectName: "serviceScreen"
             service: acceptor
+            refused: ServiceLink.refused
             onClosed: window.page = "customer"
         }
     }

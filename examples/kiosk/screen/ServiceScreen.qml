@@ -3,7 +3,6 @@
 
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
-import Kiosk 1.0
 import Velmolib 5.0
 import Velmolib.Controls 5.0
 
@@ -12,19 +11,13 @@ Rectangle {
     id: screen
 
     property ServiceState service
+    property alias refused: openMoney.refused // an incident that the service would not settle
     property bool reportShown: false
 
     signal closed
 
     color: KioskTheme.ground
     Keys.onEscapePressed: closed()
-
-    Connections {
-        target: ServiceLink
-        function onSettleFailed(incident) {
-            openMoney.refused = incident;
-        }
-    }
 
     ColumnLayout {
         anchors.fill: parent
@@ -46,18 +39,10 @@ Rectangle {
                 text: screen.reportShown ? qsTr("Devices") : qsTr("Report")
                 onClicked: screen.reportShown = !screen.reportShown
             }
-            KioskKey {
-                text: KioskTheme.motion ? qsTr("Motion is on") : qsTr("Motion is off")
-                onClicked: KioskTheme.motion = !KioskTheme.motion
-            }
         }
         StateAge {
-            objectName: "age"
             Layout.fillWidth: true
             service: screen.service
-        }
-        KioskText {
-            text: qsTr("Devices: %1, with faults: %2.").arg(devices.count).arg(devices.faulty)
         }
         FaultBanner {
             Layout.fillWidth: true
@@ -69,7 +54,6 @@ Rectangle {
             service: screen.service
         }
         DeviceCards {
-            id: devices
             objectName: "devices"
             Layout.fillWidth: true
             Layout.fillHeight: true

@@ -15,7 +15,7 @@
 #include <QWindow>
 
 #include <cstdio>
-#include <utility>
+#include <tuple>
 
 namespace {
 
@@ -69,7 +69,7 @@ int main(int argc, char* argv[])
         QStringLiteral("density"),
         QStringLiteral(
             "Pixels in a millimetre of the screen, where it does not tell the right ones itself."),
-        QStringLiteral("NUMBER"), QStringLiteral("0"));
+        QStringLiteral("NUMBER"));
     const QCommandLineOption large(QStringLiteral("large-text"), QStringLiteral("Larger texts."));
     const QCommandLineOption contrast(QStringLiteral("high-contrast"),
                                       QStringLiteral("Light on black."));
@@ -80,12 +80,15 @@ int main(int argc, char* argv[])
     parser.addOptions(
         {names, lang, price, contact, idle, pin, density, large, contrast, still, full});
     parser.process(app);
-    for (const auto& [option, end] : {std::pair(price, 1e15), {idle, 1e6}, {density, 1e3}}) {
+    const std::tuple<const QCommandLineOption&, double, double> numbers[]{
+        {price, 0, 1e15}, {idle, 0, 1e6}, {density, 0.5, 100}};
+    for (const auto& [option, least, most] : numbers) {
         bool isNumber = false;
         const double number = parser.value(option).toDouble(&isNumber);
-        if (!isNumber || !(number >= 0 && number < end)) {
-            fprintf(stderr, "kioskscreen: --%s %s: expected a number from 0 to %g\n",
-                    qPrintable(option.names().constFirst()), qPrintable(parser.value(option)), end);
+        if (parser.isSet(option) && !(isNumber && number >= least && number <= most)) {
+            fprintf(stderr, "kioskscreen: --%s %s: expected a number from %g to %g\n",
+                    qPrintable(option.names().constFirst()), qPrintable(parser.value(option)),
+                    least, most);
             return 2;
         }
     }
@@ -104,6 +107,11 @@ int main(int argc, char* argv[])
     qmlRegisterSingletonInstance("Kiosk", 1, 0, "ServiceLink", &link);
     // In the build folder the module stands beside the programs.
     engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../qml"));
+    QVariantMap theme{{QStringLiteral("largeText"), parser.isSet(large)},
+                      {QStringLiteral("highContrast"), parser.isSet(contrast)},
+                      {QStringLiteral("motion"), !parser.isSet(still)}};
+    if (parser.isSet(density))
+        theme.insert(QStringLiteral("density"), parser.value(density).toDouble());
     QVariantMap properties{
         {QStringLiteral("names"),
          parser.isSet(names) ? readNames(parser.value(names)) : QVariantMap()},
@@ -111,10 +119,7 @@ int main(int argc, char* argv[])
         {QStringLiteral("contact"), parser.value(contact)},
         {QStringLiteral("idleSeconds"), parser.value(idle).toDouble()},
         {QStringLiteral("pinFile"), parser.value(pin)},
-        {QStringLiteral("density"), parser.value(density).toDouble()},
-        {QStringLiteral("largeText"), parser.isSet(large)},
-        {QStringLiteral("highContrast"), parser.isSet(contrast)},
-        {QStringLiteral("motion"), !parser.isSet(still)},
+        {QStringLiteral("theme"), theme},
     };
     if (parser.isSet(full)) {
         // Many a kiosk has no window manager, which would make the window as large as the screen.

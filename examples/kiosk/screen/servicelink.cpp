@@ -69,8 +69,8 @@ void ServiceLink::settle(const QString& incident)
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, incident] {
         call->deleteLater();
         const QDBusPendingReply<bool> reply = *call;
-        if (reply.isError() || !reply.value())
-            Q_EMIT settleFailed(incident);
+        m_refused = reply.isError() || !reply.value() ? incident : QString();
+        Q_EMIT refusedChanged();
     });
 }
 
