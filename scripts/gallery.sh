@@ -20,5 +20,5 @@ if [[ " $* " == *" --screenshots"* ]]; then
 fi
 require_packages "${packages[@]}"
 cmake --preset "$preset"
-cmake --build --preset "$preset" --target gallery velmolib_quick velmolib_translations
+cmake --build --preset "$preset" --target gallery velmolib_quick velmolib_translations kiosk_translations
 "${run[@]}" "build/$preset/bin/gallery" "$@"

@@ -17,6 +17,7 @@
 #include <sys/stat.h>
 
 #include <utility>
+#include <vector>
 
 // A language that has every text, with a mark before it.
 class Marks : public QTranslator
@@ -89,12 +90,28 @@ public:
     Q_INVOKABLE QStringList takeChanges() { return std::exchange(m_changes, {}); }
 
     // What a screen reader finds below the object, as "Button: Pay", each after what it is in.
-    Q_INVOKABLE QStringList accessibles(QObject* object)
+    Q_INVOKABLE QStringList accessibles(QObject* object) const
     {
-        QAccessible::setActive(true);
         QStringList lines;
-        addAccessibles(QAccessible::queryAccessibleInterface(object), &lines);
+        for (QAccessibleInterface* const found : accessiblesIn(object))
+            lines += lineOf(found);
         return lines;
+    }
+
+    // Presses one of them as a screen reader does.
+    Q_INVOKABLE bool press(QObject* object, const QString& line) const
+    {
+        for (QAccessibleInterface* const found : accessiblesIn(object)) {
+            if (lineOf(found) != line)
+                continue;
+            QAccessibleActionInterface* const actions = found->actionInterface();
+            if (!actions
+                || !actions->actionNames().contains(QAccessibleActionInterface::pressAction()))
+                return false;
+            actions->doAction(QAccessibleActionInterface::pressAction());
+            return true;
+        }
+        return false;
     }
 
     Q_INVOKABLE void repeatKey()
@@ -110,18 +127,31 @@ public Q_SLOTS:
     }
 
 private:
-    static void addAccessibles(QAccessibleInterface* object, QStringList* lines)
+    static std::vector<QAccessibleInterface*> accessiblesIn(QObject* object)
     {
-        for (int i = 0; object && i < object->childCount(); ++i) {
-            QAccessibleInterface* const child = object->child(i);
+        QAccessible::setActive(true);
+        std::vector<QAccessibleInterface*> found;
+        addAccessibles(QAccessible::queryAccessibleInterface(object), &found);
+        return found;
+    }
+
+    static void addAccessibles(QAccessibleInterface* parent,
+                               std::vector<QAccessibleInterface*>* found)
+    {
+        for (int i = 0; parent && i < parent->childCount(); ++i) {
+            QAccessibleInterface* const child = parent->child(i);
             if (!child || child->state().invisible)
                 continue;
-            const char* const role =
-                QMetaEnum::fromType<QAccessible::Role>().valueToKey(child->role());
-            *lines +=
-                QString::fromLatin1(role) + QLatin1String(": ") + child->text(QAccessible::Name);
-            addAccessibles(child, lines);
+            found->push_back(child);
+            addAccessibles(child, found);
         }
+    }
+
+    static QString lineOf(QAccessibleInterface* object)
+    {
+        const char* const role =
+            QMetaEnum::fromType<QAccessible::Role>().valueToKey(object->role());
+        return QLatin1String(role) + QLatin1String(": ") + object->text(QAccessible::Name);
     }
 
     QTemporaryDir m_folder;

@@ -14,8 +14,7 @@ using namespace deviceStatesConst;
 
 namespace {
 
-// Beyond so many the oldest are given up: no device holds them, and a service that makes them up must
-// not fill the memory.
+// Beyond so many the oldest are given up: a service that makes them up must not fill the memory.
 constexpr size_t mostPieces = 200;
 
 bool isOf(const QVariantMap& refusal, const AcceptorStateItem& device)
@@ -89,8 +88,6 @@ std::vector<NoteWatch::Note> NoteWatch::take(const PublishedState& state, const 
         heed(*state.incidents);
     if (isAnotherSession && !m_last.isOpen())
         m_last = Note(); // it was of the session before
-    while (m_pieces.size() > mostPieces)
-        drop(m_pieces.front().id);
     m_isFirst = false;
     return m_events;
 }
@@ -139,8 +136,7 @@ void NoteWatch::begin(const PublishedDevice& device, Track& track)
 {
     if (find(track.hand))
         rest(device, track);
-    m_pieces.push_back(pieceOf(device));
-    track.hand = m_lastId;
+    track.hand = add(pieceOf(device)).id;
     track.phase = Entering;
     track.start = Reading(device);
     track.isAway = false;
@@ -224,7 +220,7 @@ void NoteWatch::rest(const PublishedDevice& device, Track& track)
         if (!isLostSight(piece.outcome))
             tell(piece, Lost);
         if (device.state() != DS_BUSY) // then it may still be at that piece
-            track.hand = 0;
+            release(track);
     }
 }
 
@@ -279,9 +275,8 @@ void NoteWatch::heed(const std::vector<Incident>& incidents)
             continue;
         Note* piece = pieceOf(incident);
         if (!piece) {
-            m_pieces.push_back({++m_lastId, None, incident.device, incident.thread,
-                                incident.denomination, m_currency, m_time});
-            piece = &m_pieces.back();
+            piece = &add({++m_lastId, None, incident.device, incident.thread, incident.denomination,
+                          m_currency, m_time});
         }
         if (!incident.currency.isEmpty())
             piece->currency = incident.currency;
@@ -312,8 +307,9 @@ NoteWatch::Note* NoteWatch::pieceOf(const Incident& incident)
                 || incident.denomination == 0);
     };
     for (const bool isFailed : {true, false}) {
-        const auto found = std::find_if(m_pieces.begin(), m_pieces.end(),
-                                        [&](const Note& piece) { return isMeant(piece, isFailed); });
+        const auto found = std::find_if(m_pieces.begin(), m_pieces.end(), [&](const Note& piece) {
+            return isMeant(piece, isFailed);
+        });
         if (found != m_pieces.end())
             return &*found;
     }
@@ -345,6 +341,14 @@ std::vector<NoteWatch::Note> NoteWatch::open() const
     std::stable_sort(open.begin(), open.end(),
                      [](const Note& a, const Note& b) { return a.time < b.time; });
     return open;
+}
+
+NoteWatch::Note& NoteWatch::add(const Note& piece)
+{
+    if (m_pieces.size() >= mostPieces)
+        drop(m_pieces.front().id);
+    m_pieces.push_back(piece);
+    return m_pieces.back();
 }
 
 NoteWatch::Note* NoteWatch::find(quint64 id)

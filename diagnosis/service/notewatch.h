@@ -103,7 +103,7 @@ private:
     Note pieceOf(const PublishedDevice& device);
     void begin(const PublishedDevice& device, Track& track);
     void look(const PublishedDevice& device, Phase phase, Note& piece,
-                     const QVariantList& refusals);
+              const QVariantList& refusals);
     void move(const PublishedDevice& device, Track& track, bool isNew);
     void rest(const PublishedDevice& device, Track& track);
     void end(Track& track, Outcome outcome);
@@ -112,6 +112,7 @@ private:
     void forget(Note& piece);
     void heed(const std::vector<Incident>& incidents);
     Note* pieceOf(const Incident& incident);
+    Note& add(const Note& piece);
     Note* find(quint64 id);
     void drop(quint64 id);
 

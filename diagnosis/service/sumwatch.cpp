@@ -15,14 +15,13 @@ void SumWatch::take(const PublishedState& state, const std::vector<NoteWatch::No
         m_cardSum += moneyOf(device.deviceId()) == Money::Card ? device.sessionSum : 0;
     m_recorded = state.money.recorded;
 
+    m_whole += qMax(m_cardSum - cardSumBefore, qint64(0));
+    for (const NoteWatch::Note& note : notes)
+        m_whole += note.outcome == NoteWatch::Taken ? note.value : 0;
     if (m_isAway && m_before > m_sum) {
         m_isLostRecorded = m_isBeforeRecorded && (m_lost == 0 || m_isLostRecorded);
         m_lost += m_before - m_sum;
         m_whole = m_sum + m_lost;
-    } else if (!m_isAway) {
-        m_whole += qMax(m_cardSum - cardSumBefore, qint64(0));
-        for (const NoteWatch::Note& note : notes)
-            m_whole += note.outcome == NoteWatch::Taken ? note.value : 0;
     }
     m_isAway = false;
     // A piece may be in the sum before the device says that it is taken.

@@ -69,7 +69,7 @@ Window {
                 for (const page of pages)
                     for (const mode of size === sizes[0] ? ["", "-large", "-contrast"] : [""])
                         list.push({size: size, language: language, page: page, mode: mode,
-                                   file: `${page}-${size.width}x${size.height}-${language}${mode}.png`});
+                                   name: `${size.width}x${size.height}-${language}${mode}`});
         jobs = list;
         next();
     }
@@ -90,18 +90,28 @@ Window {
         settle.restart();
     }
 
+    // One picture of all samples, or one of each that fills a screen.
+    function take(index) {
+        const job = jobs[0];
+        const frame = frames.itemAt(index);
+        const item = frame && frame.whole ? frame.shown : content;
+        const file = `${folder}/${job.page}${item === content ? "" : "-" + index}-${job.name}.png`;
+        item.grabToImage(result => {
+            if (!result.saveToFile(file)) {
+                gallery.fail(file);
+            } else if (item !== content && index + 1 < frames.count) {
+                take(index + 1);
+            } else {
+                jobs.shift();
+                Qt.callLater(next); // which takes away what is grabbed
+            }
+        });
+    }
+
     Timer { // until what is shown stays as it is
         id: settle
         interval: 150
-        onTriggered: content.grabToImage(result => {
-            const file = window.folder + "/" + window.jobs[0].file;
-            if (!result.saveToFile(file)) {
-                window.gallery.fail(file);
-                return;
-            }
-            window.jobs.shift();
-            window.next();
-        })
+        onTriggered: window.take(0)
     }
 
     Flow {
@@ -156,6 +166,7 @@ Window {
                 spacing: 2 * KioskTheme.gap
 
                 Repeater {
+                    id: frames
                     model: window.samples[window.page] || []
                     Sample {
                         required property var modelData

@@ -14,11 +14,14 @@ Column {
     property size view
     property string language
 
+    readonly property Item shown: loader.item
+    readonly property bool whole: shown !== null && shown.whole === true
+
     spacing: KioskTheme.gap / 2
 
     function take(steps) {
         let state = {};
-        let time = Date.UTC(2026, 10, 26, 13, 5, 0);
+        let time = Date.now() - 1000 * (steps.length + 3);
         for (const step of steps) {
             if (step.set) {
                 Object.assign(service, step.set);
@@ -43,9 +46,9 @@ Column {
     }
     Loader {
         id: loader
-        width: frame.width
+        width: frame.whole ? frame.view.width : frame.width
         Binding on height {
-            when: loader.item !== null && loader.item.whole === true
+            when: frame.whole
             value: frame.view.height
         }
         Component.onCompleted: {

@@ -33,8 +33,7 @@ Column {
                                   "rejected": isLedger ? "" : qsTr("Rejected")})
 
     // How wide each column has to be, and what is left of the width between them.
-    readonly property var needs: ["place", "value", "pieces", "rejected"].map(
-        column => Math.ceil(Math.max(...lines.concat(head).map(line => metrics.advanceWidth(line[column])))))
+    readonly property var needs: measure(lines.concat(head), metrics.font)
     readonly property real spare: (width - needs.reduce((sum, need) => sum + need)) / (isLedger ? 2 : 3)
     readonly property bool isNarrow: spare < KioskTheme.gap
 
@@ -52,6 +51,12 @@ Column {
         const number = isFinite(value) ? (value / Math.pow(10, digits)).toLocaleString(locale, "f", digits) : "?";
         return isFinite(value) && service && (currency === "" || currency === ours) ? service.moneyText(value)
              : currency === "" ? number : number + "\u00a0" + currency;
+    }
+
+    // The font is that of the metrics, given for the binding to follow it.
+    function measure(written, font) {
+        return ["place", "value", "pieces", "rejected"].map(
+            column => Math.ceil(Math.max(...written.map(line => metrics.advanceWidth(line[column])))));
     }
 
     // What a service publishes may be anything.
@@ -120,7 +125,7 @@ Column {
     component Line: Item {
         id: cells
 
-        property CassetteTable owner
+        property var owner // the table
         property var line
         property bool isHead: false
 
@@ -136,7 +141,7 @@ Column {
             id: texts
             anchors.verticalCenter: parent.verticalCenter
             width: parent.width
-            height: childrenRect.height
+            height: cells.owner.isNarrow ? narrow.implicitHeight : Math.ceil(metrics.height)
 
             Repeater {
                 model: cells.owner.isNarrow ? [] : ["place", "value", "pieces", "rejected"]
@@ -153,6 +158,7 @@ Column {
                 }
             }
             KioskText {
+                id: narrow
                 width: parent.width
                 visible: cells.owner.isNarrow
                 text: cells.line.place + " · " + cells.line.value + "\n" + cells.owner.head.pieces + ": " + cells.line.pieces

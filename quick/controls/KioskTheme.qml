@@ -15,6 +15,7 @@ QtObject {
     /// How large what fills the window is, beside its size on a screen of 211 x 158 mm; the window sets it.
     property real scale: 1
 
+    /// Whether the smaller texts are larger, at the cost of how much of them is seen at once.
     property bool largeText: false
     property bool highContrast: false
 
@@ -31,9 +32,9 @@ QtObject {
     // What stands beside large texts grows with them, but less.
     readonly property real grown: Math.max(1, Math.sqrt(scale))
     readonly property int small: Math.round(4.9 * capital * (largeText ? 1.3 : 1))
-    readonly property int medium: Math.round(6 * grown * capital * (largeText ? 1.3 : 1))
-    readonly property int large: Math.round(Math.max(8, 9 * scale) * capital * (largeText ? 1.2 : 1))
-    readonly property int huge: Math.round(Math.max(11, 14 * scale) * capital * (largeText ? 1.2 : 1))
+    readonly property int medium: Math.round(4.9 * Math.max(1, Math.pow(scale, 0.75)) * capital * (largeText ? 1.3 : 1))
+    readonly property int large: Math.round(Math.max(8, 9 * scale) * capital)
+    readonly property int huge: Math.round(Math.max(11, 14 * scale) * capital)
     readonly property int touch: Math.round(15 * density)
     readonly property int gap: Math.round(4 * grown * density)
     readonly property int radius: highContrast ? 0 : Math.round(2 * density)

@@ -11,11 +11,17 @@ Column {
     property string kind
     property string word
 
-    readonly property real unit: KioskTheme.large / 60
+    /// Whether it is accepted.
+    property bool shown: true
+
+    property real unit: 1
+    property int wordSize: KioskTheme.medium
+
     readonly property color front: kind === "note" ? KioskTheme.good : kind === "coin" ? KioskTheme.warn : KioskTheme.accent
     readonly property color ground: kind === "note" ? KioskTheme.goodGround : kind === "coin" ? KioskTheme.warnGround
                                                                                            : KioskTheme.panel
 
+    visible: shown
     spacing: KioskTheme.gap / 2
     Accessible.role: Accessible.Graphic
     Accessible.name: word
@@ -91,7 +97,7 @@ Column {
     KioskText {
         anchors.horizontalCenter: parent.horizontalCenter
         text: picture.word
-        font.pixelSize: KioskTheme.medium
+        font.pixelSize: picture.wordSize
         Accessible.ignored: true
     }
 }

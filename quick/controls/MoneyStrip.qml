@@ -60,8 +60,7 @@ Rectangle {
 
     TextMetrics { // as wide as the label is where there is room
         id: words
-        font.family: label.font.family
-        font.pixelSize: KioskTheme.large
+        font: label.font
         text: label.text
     }
 
@@ -83,7 +82,7 @@ Rectangle {
                 wrapMode: parent.low ? Text.NoWrap : Text.Wrap
                 y: parent.low ? rest.baselineOffset - baselineOffset : 0
                 text: strip.service.price > 0 && !strip.service.paid ? qsTr("Left to pay") : qsTr("Paid")
-                font.pixelSize: KioskTheme.large
+                font.pixelSize: (KioskTheme.medium + KioskTheme.large) / 2
                 Accessible.ignored: true
             }
             KioskText {
@@ -106,7 +105,7 @@ Rectangle {
             readonly property real part: Math.min(1, Math.max(0, strip.service.sessionSum) / Math.max(1, strip.service.price))
             width: parent.width
             height: KioskTheme.gap
-            visible: strip.service.price > 0
+            visible: strip.service.price > 0 && !strip.service.paid
             radius: height / 2
             color: KioskTheme.ground
             border.color: KioskTheme.edge

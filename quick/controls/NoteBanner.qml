@@ -52,7 +52,8 @@ Column {
             text: banner.away && model.outcome === ServiceState.NoteChecked
                   ? qsTr("Your money is still in the device. Please call the staff.") : model.text
             detail: inHand ? ""
-                  : [[model.timeText, model.amountText, model.incident === "" ? "" : qsTr("No.\u00a0%1").arg(model.incident)]
+                  : [[model.timeText, model.text.includes(model.amountText) ? "" : model.amountText,
+                      model.incident === "" ? "" : qsTr("No.\u00a0%1").arg(model.incident)]
                      .filter(part => part !== "").join(" · "),
                      isLast && banner.contact !== "" ? qsTr("Help: %1").arg(banner.contact) : ""]
                     .filter(line => line !== "").join("\n")

@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import Velmolib 5.0
 
 /// What the customer is to do now: a sign with a sentence, and pictures of what is accepted or, when nothing
-/// is, where to turn.
-GridLayout {
+/// is, where to turn. Where it is lower than its implicitHeight there are no pictures.
+Item {
     id: prompt
 
     property ServiceState service
@@ -18,8 +17,8 @@ GridLayout {
     /// After how many seconds of "Wait..." the customer is told that something is the matter.
     property int waitLimit: 45
 
-    /// Whether there is room for the pictures.
-    property bool pictured: true
+    /// Whether it has a room that is rather high than wide: all is large and in the middle then.
+    property bool tall: false
 
     /// "invite", "wait", "late" (it waits for too long), "paid" or "out" (of service).
     readonly property string mode: service.paid ? "paid"
@@ -34,8 +33,6 @@ GridLayout {
                                  || service.sessionSum > 0 && !service.sumRecorded
 
     readonly property string advice: {
-        if (mode === "paid")
-            return service.hasStuckMoney ? qsTr("Please call the staff before you leave.") : "";
         if (mode !== "out" && mode !== "late")
             return "";
         return [mode === "late" ? qsTr("Please call the staff before you leave. Insert no more money.")
@@ -44,13 +41,24 @@ GridLayout {
                                          : qsTr("Please use another kiosk."), help].join("\n").trim();
     }
 
-    // The pictures stand beside the sentence where that leaves it one line.
-    readonly property bool low: pictures.visible
-                                && sign.width + headline.implicitWidth + pictures.natural + 2 * columnSpacing
-                                   <= width
+    /// Below this height something is cut off.
+    readonly property real bareHeight: sentence + (advice === "" ? 0 : between + adviceText.height)
 
-    columnSpacing: KioskTheme.gap
-    rowSpacing: KioskTheme.gap
+    readonly property real between: KioskTheme.gap * (tall ? 2 : 0.5)
+    readonly property int wordSize: KioskTheme.medium * (tall ? 1.3 : 1)
+    readonly property bool pictured: mode === "invite" && height >= implicitHeight
+    // The pictures stand beside the sentence where that leaves it one line.
+    readonly property bool low: mode === "invite" && !tall && sign.width + headline.implicitWidth + pictures.natural
+                                                              + 2 * KioskTheme.gap <= width
+    readonly property real sentence: tall ? sign.height + KioskTheme.gap + headline.height : Math.max(sign.height, headline.height)
+    readonly property real line: low && pictured ? Math.max(sentence, pictures.height) : sentence
+    readonly property real used: advice !== "" ? bareHeight
+                               : pictured && !low ? sentence + between + pictures.height : line
+    readonly property real start: Math.max(0, (height - used) / 2)
+
+    implicitWidth: sign.width + KioskTheme.gap + headline.implicitWidth
+    implicitHeight: mode !== "invite" ? bareHeight : low ? Math.max(sentence, pictures.height)
+                                                         : sentence + between + pictures.height
     Accessible.role: Accessible.AlertMessage
     Accessible.name: [headline.text, advice].join("\n").trim()
 
@@ -66,11 +74,10 @@ GridLayout {
 
     Item {
         id: sign
-        Layout.row: 0
-        Layout.column: 0
-        Layout.alignment: headline.lineCount > 1 ? Qt.AlignTop : Qt.AlignVCenter
-        implicitWidth: 1.3 * KioskTheme.large
-        implicitHeight: 1.2 * KioskTheme.large
+        x: prompt.tall ? (prompt.width - width) / 2 : 0
+        y: prompt.start + (prompt.tall || headline.lineCount > 1 ? 0 : (prompt.line - height) / 2)
+        width: prompt.tall ? prompt.width / 4 : 1.3 * KioskTheme.large
+        height: width
 
         KioskIcon {
             anchors.fill: parent
@@ -110,61 +117,68 @@ GridLayout {
     KioskText {
         id: headline
         objectName: "headline"
-        Layout.row: 0
-        Layout.column: 1
-        Layout.columnSpan: prompt.low ? 1 : 2
-        Layout.fillWidth: true
+        x: prompt.tall ? 0 : sign.width + KioskTheme.gap
+        y: prompt.tall ? sign.y + sign.height + KioskTheme.gap : prompt.start + (prompt.line - height) / 2
+        width: prompt.width - x - (prompt.low ? pictures.natural + KioskTheme.gap : 0)
+        horizontalAlignment: prompt.tall ? Text.AlignHCenter : Text.AlignLeft
         text: prompt.mode === "paid" ? qsTr("Paid. Thank you!")
             : prompt.mode === "late" ? qsTr("This takes longer than usual.") : prompt.service.customerText
-        font.pixelSize: KioskTheme.large
+        font.pixelSize: KioskTheme.large * (prompt.tall ? 1.25 : 1)
         font.bold: true
         Accessible.ignored: true
     }
     Flow {
         id: pictures
         objectName: "pictures"
+        readonly property real unit: prompt.tall ? Math.min(KioskTheme.large / 40, (0.8 * prompt.width - 2 * spacing) / 480)
+                                                 : KioskTheme.large / 60
         // In one line.
-        readonly property real natural: [notePicture, coinPicture, cardPicture].reduce(
-            (sum, picture) => picture.visible ? sum + picture.implicitWidth + spacing : sum, -spacing)
-        Layout.fillWidth: !prompt.low
-        Layout.preferredWidth: natural
-        Layout.row: prompt.low ? 0 : 1
-        Layout.column: prompt.low ? 2 : 1
-        Layout.columnSpan: prompt.low ? 1 : 2
+        readonly property real natural: Math.ceil([notePicture, coinPicture, cardPicture].reduce(
+            (sum, picture) => picture.shown ? sum + picture.implicitWidth + spacing : sum, -spacing))
+        x: prompt.tall ? (prompt.width - natural) / 2 : prompt.low ? prompt.width - natural : headline.x
+        y: prompt.start + (prompt.low ? (prompt.line - height) / 2 : prompt.line + prompt.between)
+        width: prompt.tall || prompt.low ? natural : prompt.width - x
         spacing: 2 * KioskTheme.gap
-        visible: prompt.mode === "invite" && prompt.pictured
+        visible: prompt.pictured
 
         MoneyPicture {
             id: notePicture
             objectName: "notePicture"
             kind: "note"
+            unit: pictures.unit
+            wordSize: prompt.wordSize
             word: qsTr("Notes")
-            visible: prompt.service.noteAccepted
+            shown: prompt.service.noteAccepted
         }
         MoneyPicture {
             id: coinPicture
             objectName: "coinPicture"
             kind: "coin"
+            unit: pictures.unit
+            wordSize: prompt.wordSize
             word: qsTr("Coins")
-            visible: prompt.service.coinAccepted
+            shown: prompt.service.coinAccepted
         }
         MoneyPicture {
             id: cardPicture
             objectName: "cardPicture"
             kind: "card"
+            unit: pictures.unit
+            wordSize: prompt.wordSize
             word: qsTr("Card")
-            visible: prompt.service.cardAccepted
+            shown: prompt.service.cardAccepted
         }
     }
     KioskText {
+        id: adviceText
         objectName: "outOfService"
-        Layout.row: 2
-        Layout.column: 1
-        Layout.columnSpan: 2
-        Layout.fillWidth: true
+        x: headline.x
+        y: prompt.start + prompt.line + prompt.between
+        width: prompt.width - x
+        horizontalAlignment: headline.horizontalAlignment
         visible: text !== ""
         text: prompt.advice
-        font.pixelSize: KioskTheme.medium
+        font.pixelSize: prompt.wordSize
         color: KioskTheme.quiet
         Accessible.ignored: true
     }

@@ -94,7 +94,7 @@ FocusScope {
         anchors.bottom: parent.bottom
         anchors.bottomMargin: KioskTheme.gap
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width - 2 * KioskTheme.gap, 120 * KioskTheme.density * KioskTheme.grown)
+        width: Math.min(parent.width - 2 * KioskTheme.gap, 20 * KioskTheme.medium)
         spacing: KioskTheme.gap / 2
 
         Notice {
@@ -150,7 +150,6 @@ FocusScope {
                     required property string modelData
                     objectName: "key-" + modelData
                     width: (pad.parent.width - 2 * pad.spacing) / 3
-                    font.pixelSize: modelData.length > 1 ? KioskTheme.small : KioskTheme.medium
                     padding: KioskTheme.gap / 4
                     leftPadding: padding
                     rightPadding: padding

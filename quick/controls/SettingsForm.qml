@@ -34,6 +34,7 @@ Flickable {
         }
     }
     Accessible.role: Accessible.Form
+    Accessible.name: qsTr("Settings")
 
     Catalogue {
         id: catalogue
@@ -165,18 +166,13 @@ Flickable {
                         spacing: KioskTheme.gap / 2
                         Repeater {
                             model: row.kind === "switch" ? ["1", "0"] : row.choices
-                            KioskKey {
+                            KioskChoice {
                                 required property string modelData
                                 objectName: "choice-" + modelData
-                                font.pixelSize: KioskTheme.small
                                 text: row.wordOf(modelData)
                                 checked: row.valid && row.wordOf(form.settings.readAs(row.group, row.key, row.value))
                                                       === text
-                                sign: checked ? "good" : ""
-                                Accessible.role: Accessible.RadioButton
                                 Accessible.name: row.label + ": " + text
-                                Accessible.checkable: true
-                                Accessible.checked: checked
                                 onClicked: row.enter(modelData)
                                 onActiveFocusChanged: if (activeFocus) form.reveal(row)
                             }

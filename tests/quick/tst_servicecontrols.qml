@@ -401,6 +401,7 @@ Item {
             return [
                 {tag: "works", device: {}, sign: "good"},
                 {tag: "jam", device: {state: "jammed", state_text: "transport"}, sign: "bad", says: ": transport"},
+                {tag: "stacker", device: {stacker_full: true}, sign: "warn", says: "The stacker is full."},
                 {tag: "error", device: {state: "error"}, sign: "bad", says: "error"},
                 {tag: "offline", device: {online: false}, sign: "bad", says: "The device is offline."},
                 {tag: "off", device: {enabled: false}, sign: "info", says: "The device is disabled."},
@@ -451,7 +452,8 @@ Item {
             const rows = [];
             for (const size of [[800, 600, 3.8], [1080, 1920, 2.7]]) {
                 for (const largeText of [false, true]) {
-                    for (const control of ["gate", "closed gate", "waiting gate", "form", "device form", "banner", "card"]) {
+                    for (const control of ["gate", "closed gate", "waiting gate", "form", "device form", "banner", "card",
+                                         "registry"]) {
                         rows.push({tag: `${control} ${size[0]} ${largeText}`, control: control, width: size[0],
                                    height: size[1], density: size[2], largeText: largeText});
                     }
@@ -476,20 +478,35 @@ Item {
                     {device: row.control === "form" ? -1 : 0, model: 1, values: {"acceptor_common/acceptAll": "maybe"}});
                 return createTemporaryObject(formComponent, root, Object.assign({settings: settings}, size));
             }
-            const service = state([everythingWrong], {money: rubles});
-            const seen = {service: service, width: row.width - 60};
-            return row.control === "banner" ? createTemporaryObject(bannerComponent, root, seen)
-                : createTemporaryObject(cardsComponent, root, Object.assign({content: {pieces: [], places: [
-                    {place: "channel", channel: 12, denomination: 500000000, currency: "RUB", min: 120000, max: 130000}]}},
-                                                                            seen));
+            const service = state([]);
+            const text = test.text([everythingWrong, {device_id: 51, dispenser_registry: [
+                {channel: 1, bill_type: 0, denomination: 500000000, currency: "RUB", count: 12000, rejected: 3}]}],
+                {money: rubles});
+            const given = {service: service, width: row.width - 60};
+            if (row.control === "card") {
+                given.content = {pieces: [], places: [{place: "channel", channel: 12, denomination: 500000000,
+                                                       currency: "RUB", min: 120000, max: 130000}]};
+            }
+            const control = createTemporaryObject(row.control === "banner" ? bannerComponent : cardsComponent, root, given);
+            service.text = text; // which the control follows
+            return control;
+        }
+
+        function isOverwritten(control) {
+            const texts = seen(control).filter(item => isText(item) && item.text !== "").map(item => ({
+                from: item.mapToItem(control, 0, 0), to: item.mapToItem(control, item.width, item.height)}));
+            return texts.some(one => texts.some(two => one !== two && one.to.x > two.from.x + 1 && two.to.x > one.from.x + 1
+                                                && one.to.y > two.from.y + 1 && two.to.y > one.from.y + 1));
         }
 
         function test_everythingFitsAndMeetsAFinger(row) {
-            KioskTheme.density = row.density;
-            KioskTheme.largeText = row.largeText;
+            KioskTheme.density = 2;
             const control = makeControl(row);
+            KioskTheme.density = row.density; // as a window does when it is on a screen
+            KioskTheme.largeText = row.largeText;
             waitForRendering(control);
-            const isScrolled = row.control.endsWith("form") || row.control === "card";
+            const isScrolled = row.control.endsWith("form") || row.control === "card" || row.control === "registry";
+            tryVerify(() => !isOverwritten(control)); // a column places its items a frame later
             for (const item of seen(control)) {
                 const left = item.mapToItem(control, 0, 0);
                 const right = item.mapToItem(control, item.width, item.height);

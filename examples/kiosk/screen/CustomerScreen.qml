@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import Velmolib 5.0
 import Velmolib.Controls 5.0
 
-// What the customer sees: what to do, the sums, and what became of the money. The language keys are at the
-// bottom, where everybody reaches them on a tall kiosk.
+// What the customer sees: what to do, the sums, and what became of the money. The language keys of a
+// tall kiosk are at the bottom, where everybody reaches them.
 FocusScope {
     id: screen
 
@@ -15,54 +14,47 @@ FocusScope {
     property string contact // whom to call; empty for nobody
     property alias language: keys.current
 
+    readonly property bool tall: height > width
+
     signal languageChosen(string code)
 
     onVisibleChanged: if (visible) forceActiveFocus()
 
-    ColumnLayout {
+    KioskPage { // moves only where large texts leave no room
         anchors.fill: parent
         anchors.margins: KioskTheme.gap
-        spacing: KioskTheme.gap
+        anchors.bottomMargin: screen.height - strip.y + KioskTheme.gap
+        contentHeight: banner.y + banner.height
 
-        KioskPage { // moves only where large texts leave no room
-            id: page
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            contentHeight: Math.max(height, prompt.height + KioskTheme.gap + money.height)
-
-            Item {
-                y: (money.y - prompt.height) / 2
-
-                PaymentPrompt {
-                    id: prompt
-                    width: page.width
-                    service: screen.service
-                    contact: screen.contact
-                }
-            }
-            Column {
-                id: money
-                y: Math.floor(page.contentHeight - height)
-                width: page.width
-                spacing: KioskTheme.gap
-
-                NoteBanner {
-                    width: parent.width
-                    service: screen.service
-                    contact: screen.contact
-                }
-                MoneyStrip {
-                    width: parent.width
-                    service: screen.service
-                    contact: screen.contact
-                }
-            }
+        PaymentPrompt {
+            id: prompt
+            tall: screen.tall
+            width: screen.tall ? parent.width : keys.x - 2 * KioskTheme.gap
+            height: Math.max(bareHeight, strip.y - 2 * KioskTheme.gap - (banner.height > 0 ? banner.height + KioskTheme.gap : 0))
+            service: screen.service
+            contact: screen.contact
         }
-        LanguageKey {
-            id: keys
-            Layout.alignment: Qt.AlignRight
-            languages: [{code: "en", name: "English"}, {code: "ru", name: "Русский"}]
-            onChosen: code => screen.languageChosen(code)
+        NoteBanner {
+            id: banner
+            y: prompt.height + (height > 0 ? KioskTheme.gap : 0)
+            width: parent.width
+            service: screen.service
+            contact: screen.contact
         }
+    }
+    MoneyStrip {
+        id: strip
+        x: KioskTheme.gap
+        y: (screen.tall ? keys.y : screen.height) - height - KioskTheme.gap
+        width: screen.width - 2 * x
+        service: screen.service
+        contact: screen.contact
+    }
+    LanguageKey {
+        id: keys
+        x: screen.width - width - KioskTheme.gap
+        y: screen.tall ? screen.height - height - KioskTheme.gap : KioskTheme.gap
+        languages: [{code: "en", name: "English"}, {code: "ru", name: "Русский"}]
+        onChosen: code => screen.languageChosen(code)
     }
 }
