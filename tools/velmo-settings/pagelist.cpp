@@ -61,9 +61,9 @@ PageList::PageList(SettingsDocument& document, QWidget* parent)
     m_pages->setAccessibleName(Velmo::tr("Service and devices"));
     m_results->setAccessibleName(Velmo::tr("Settings that match"));
     m_results->hide();
-    for (QListWidget* const list : {m_pages, m_results})
-        list->setWordWrap(true);
+    m_results->setWordWrap(true);
     auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_search);
     layout->addWidget(m_pages);
     layout->addWidget(m_results);
@@ -76,6 +76,7 @@ PageList::PageList(SettingsDocument& document, QWidget* parent)
             [this](QListWidgetItem* item) { choose(m_results->row(item)); });
     connect(m_results, &QListWidget::itemClicked, this,
             [this](QListWidgetItem* item) { choose(m_results->row(item)); });
+    connect(m_pages, &QListWidget::itemActivated, this, &PageList::pageEntered);
     connect(m_pages, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
         if (m_isFilling || !item)
             return;
@@ -112,6 +113,7 @@ void PageList::refresh()
         const auto worst = worstOf(m_document, device);
         const QString title = SettingsPage::title(m_document, device);
         item->setText(title);
+        item->setToolTip(title);
         item->setIcon(findingIcon(worst));
         item->setData(deviceRole, toVariant(device));
         item->setData(Qt::AccessibleTextRole,
@@ -139,19 +141,23 @@ void PageList::search()
     m_results->clear();
     if (!isSearching)
         return;
-    for (const SettingsList::Used& used : m_document.list().used()) {
-        const QString page = SettingsPage::title(m_document, used.setting.device());
-        const QString text = QStringLiteral("%1\n%2\n%3")
-                                 .arg(SettingField::labelOf(used.setting), page,
-                                      used.setting.path());
-        const bool matches = std::all_of(words.begin(), words.end(), [&text](const QString& word) {
+    const auto areIn = [&words](const QString& text) {
+        return std::all_of(words.begin(), words.end(), [&text](const QString& word) {
             return text.contains(word, Qt::CaseInsensitive);
         });
-        if (!matches)
+    };
+    int labels = 0; // that have all the words: they come first
+    for (const SettingsList::Used& used : m_document.list().used()) {
+        const ServiceSetting& setting = used.setting;
+        const QString label = SettingField::labelOf(setting);
+        const QString text = QStringLiteral("%1\n%2\n%3").arg(
+            label, SettingsPage::title(m_document, setting.device()), setting.path());
+        if (!areIn(text))
             continue;
-        auto* const item = new QListWidgetItem(text, m_results);
-        item->setData(deviceRole, toVariant(used.setting.device()));
-        item->setData(pathRole, used.setting.path());
+        auto* const item = new QListWidgetItem(text);
+        item->setData(deviceRole, toVariant(setting.device()));
+        item->setData(pathRole, setting.path());
+        m_results->insertItem(areIn(label) ? labels++ : m_results->count(), item);
     }
     if (m_results->count() > 0)
         return m_results->setCurrentRow(0);

@@ -28,6 +28,7 @@ public:
 
 Q_SIGNALS:
     void pageChosen(std::optional<int> device);
+    void pageEntered(); ///< the one that was chosen
     void settingChosen(std::optional<int> device, const QString& path);
 
 protected:

@@ -53,10 +53,10 @@ SettingField::SettingField(const SettingsList::Used& used, QWidget* parent)
     , m_finding(plainLabel(this))
 {
     setObjectName(m_setting.path());
+    m_finding->setObjectName(QStringLiteral("finding"));
     m_label->setText(labelOf(m_setting));
     m_label->setToolTip(m_setting.path());
     m_label->setBuddy(m_editor->control());
-    m_editor->control()->setAccessibleName(labelOf(m_setting));
     m_help->setText(helpText());
     m_help->setVisible(!m_help->text().isEmpty());
     m_menu->setText(QStringLiteral("\u22ef"));
@@ -71,11 +71,20 @@ SettingField::SettingField(const SettingsList::Used& used, QWidget* parent)
         m_isEdited = true;
         Q_EMIT edited(m_setting.path(), text);
     });
-    connect(m_editor, &ValueEditor::finished, this, &SettingField::endEditing);
+    connect(m_editor, &ValueEditor::finished, this, [this] {
+        m_isEdited = false;
+        Q_EMIT finished();
+    });
     connect(m_menu, &QToolButton::clicked, this, [this] {
         control()->setFocus();
         Q_EMIT menuAsked(m_menu->mapToGlobal(QPoint(0, m_menu->height())));
     });
+}
+
+void SettingField::endEditing()
+{
+    m_editor->commit();
+    m_isEdited = false;
 }
 
 void SettingField::makeLayout()
@@ -87,12 +96,15 @@ void SettingField::makeLayout()
     layout->setColumnStretch(1, 3);
     layout->setColumnStretch(2, 2);
     layout->addWidget(m_label, 0, 0, Qt::AlignTop);
-    layout->addWidget(m_editor, 0, 1);
-    layout->addWidget(m_mark, 0, 2);
+    QWidget* const value = m_editor->widget();
+    const bool isNarrow = value->maximumWidth() < QWIDGETSIZE_MAX;
+    layout->addWidget(value, 0, 1, isNarrow ? Qt::AlignLeft : Qt::Alignment());
+    layout->addWidget(m_mark, 0, 2, Qt::AlignTop);
     layout->addWidget(m_menu, 0, 3, Qt::AlignTop);
-    layout->addWidget(m_finding, 1, 1, 1, 2);
-    layout->addWidget(m_help, 2, 1, 1, 2);
-    m_label->setContentsMargins(0, 4, 0, 0);
+    layout->addWidget(m_finding, 1, 1, 1, 3);
+    layout->addWidget(m_help, 2, 1, 1, 3);
+    for (QLabel* const label : {m_label, m_mark})
+        label->setContentsMargins(0, 4, 0, 0); // beside the first line of the value
     m_mark->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
 }
 
@@ -111,17 +123,21 @@ QString SettingField::helpText() const
 
 QString SettingField::markText() const
 {
+    const bool hasDefault = m_setting.defaultValue().isValid();
     const QString shown = m_setting.defaultValue().toString();
-    if (!m_used.isListed()) {
-        return m_setting.defaultValue().isValid() ? Velmo::tr("not in the list: the default")
-                                                  : Velmo::tr("not in the list");
-    }
+    if (!m_used.isListed())
+        return hasDefault ? Velmo::tr("not in the list: the default") : Velmo::tr("not in the list");
     if (!m_used.isForDevice)
         return Velmo::tr("not used by this device");
-    if (!m_setting.defaultValue().isValid())
-        return {};
-    if (m_used.value == m_setting.defaultValue())
+    if (hasDefault && m_used.value == m_setting.defaultValue())
         return Velmo::tr("the default");
+    if (m_setting.kind() == SettingDescription::Switch)
+        return Velmo::tr("default: %1").arg(shown == QLatin1String("1") ? Velmo::tr("on") : Velmo::tr("off"));
+    const bool isTable = m_setting.kind() == SettingDescription::AttemptsLimits
+        || m_setting.kind() == SettingDescription::RouteMap;
+    if (isTable)
+        return Velmo::tr("default: no rows");
+    // One that is refused stands for nothing.
     return shown.isEmpty() || !m_setting.accepts(shown) ? QString()
                                                         : Velmo::tr("default: %1").arg(shown);
 }
@@ -159,5 +175,6 @@ void SettingField::showValue(const SettingsList::Used& used, const QString& text
                                  colors));
     m_finding->setPalette(colors);
     const QStringList told{m_finding->text(), m_mark->text(), m_help->text()};
+    control()->setAccessibleName(m_label->text());
     control()->setAccessibleDescription(told.join(QLatin1Char('\n')).trimmed());
 }

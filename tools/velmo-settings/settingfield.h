@@ -31,7 +31,7 @@ public:
                 const QList<SettingsFinding>& findings);
 
     /// What a person types stays as it is typed until this is called.
-    void endEditing() { m_isEdited = false; }
+    void endEditing();
 
     QWidget* control() const;
     QLabel* label() const { return m_label; }
@@ -43,6 +43,7 @@ public:
 
 Q_SIGNALS:
     void edited(const QString& path, const QString& text);
+    void finished(); ///< what was edited last is done
     void menuAsked(const QPoint& place); ///< on the screen
 
 private:

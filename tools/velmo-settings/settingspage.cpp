@@ -35,6 +35,7 @@ const struct
     {S::HARDWARE_SECTION, QT_TRANSLATE_NOOP("Velmo", "Connection")},
     {S::DEBUG_SECTION, QT_TRANSLATE_NOOP("Velmo", "Log")},
 };
+constexpr int widestLabel = 240;
 constexpr int sectionOfProtocol = int(std::size(sections));
 
 int sectionIndex(const ServiceSetting& setting)
@@ -79,7 +80,7 @@ SettingsPage::SettingsPage(SettingsDocument& document, QWidget* parent)
 QString SettingsPage::title(const SettingsDocument& document, std::optional<int> device)
 {
     if (!device)
-        return Velmo::tr("Service");
+        return Velmo::tr("Common settings");
     const SettingsList& list = document.list();
     const ServiceSetting name =
         ServiceSetting::find(deviceGroup(*device, S::DEVICE_SECTION), S::DEVICE_NAME);
@@ -150,10 +151,11 @@ void SettingsPage::build(const QStringList& paths)
         m_fields.insert(field->path(), field);
         labelWidth = std::max(labelWidth, fontMetrics().horizontalAdvance(field->label()->text()));
         connect(field, &SettingField::edited, this, &SettingsPage::edited);
+        connect(field, &SettingField::finished, &m_document, &SettingsDocument::closeStep);
         connect(field, &SettingField::menuAsked, this, &SettingsPage::menuAsked);
     }
     for (SettingField* const field : std::as_const(m_fields))
-        field->label()->setFixedWidth(std::min(labelWidth, 240) + 4);
+        field->label()->setFixedWidth(std::min(labelWidth, widestLabel) + 4);
     layout->addStretch();
     // One of its fields may be what had this made.
     QWidget* const old = takeWidget();
@@ -162,6 +164,16 @@ void SettingsPage::build(const QStringList& paths)
         old->deleteLater();
     }
     setWidget(form);
+    // In the order of the form, and before what stands under it.
+    QWidget* last = m_predecessor;
+    for (const QString& path : paths) {
+        for (QWidget* const control : m_fields.value(path)->findChildren<QWidget*>()) {
+            if (control->focusPolicy() & Qt::TabFocus) {
+                setTabOrder(last, control);
+                last = control;
+            }
+        }
+    }
 }
 
 SettingField* SettingsPage::fieldOf(const QWidget* widget) const
@@ -171,6 +183,12 @@ SettingField* SettingsPage::fieldOf(const QWidget* widget) const
             return field;
     }
     return nullptr;
+}
+
+void SettingsPage::goToFirst()
+{
+    if (!m_paths.isEmpty())
+        goTo(m_paths.constFirst());
 }
 
 void SettingsPage::goTo(const QString& path)
@@ -186,4 +204,6 @@ void SettingsPage::endEditing()
 {
     for (SettingField* const field : std::as_const(m_fields))
         field->endEditing();
+    if (m_document.isOpen())
+        refresh();
 }

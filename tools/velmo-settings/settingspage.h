@@ -21,6 +21,9 @@ public:
 
     std::optional<int> device() const { return m_device; }
 
+    /// What the Tab key leaves for the page.
+    void setPredecessor(QWidget* widget) { m_predecessor = widget; }
+
     /// Shows those of a device or, without one, of the service.
     void showDevice(std::optional<int> device);
 
@@ -29,6 +32,7 @@ public:
 
     /// Scrolls to a setting of the page and gives it the keyboard.
     void goTo(const QString& path);
+    void goToFirst();
 
     /// The field that has the keyboard; null without one.
     SettingField* currentField() const { return fieldOf(focusWidget()); }
@@ -38,6 +42,7 @@ public:
 
     SettingField* field(const QString& path) const { return m_fields.value(path); }
 
+    /// Takes what was typed and shows it as the list has it.
     void endEditing();
 
 Q_SIGNALS:
@@ -49,6 +54,7 @@ private:
     void build(const QStringList& paths);
 
     SettingsDocument& m_document;
+    QWidget* m_predecessor = nullptr;
     std::optional<int> m_device;
     QStringList m_paths; // in the order of the form
     QHash<QString, SettingField*> m_fields;

@@ -23,8 +23,14 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
+
+namespace {
+
+constexpr int messageTime = 10000; // ms
+
+} // namespace
 
 SettingsWindow::SettingsWindow()
     : m_pages(new PageList(m_document, this))
@@ -35,6 +41,7 @@ SettingsWindow::SettingsWindow()
     makeActions();
     makeLayout();
     connect(m_pages, &PageList::pageChosen, this, &SettingsWindow::showPage);
+    connect(m_pages, &PageList::pageEntered, m_page, &SettingsPage::goToFirst);
     connect(m_pages, &PageList::settingChosen, this,
             [this](std::optional<int> /*device*/, const QString& path) { showSetting(path); });
     connect(m_page, &SettingsPage::edited, this, [this](const QString& path, const QString& text) {
@@ -56,20 +63,32 @@ SettingsWindow::SettingsWindow()
     connect(&m_document, &SettingsDocument::changed, this, &SettingsWindow::follow);
     connect(qApp, &QApplication::focusChanged, this, &SettingsWindow::followFocus);
     setWindowTitle(Velmo::tr("Settings of cash devices"));
-    resize(1080, 800);
+    resize(1100, 800);
     follow();
+}
+
+// What shows the document goes before it.
+SettingsWindow::~SettingsWindow()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+    m_document.disconnect();
+    delete takeCentralWidget();
 }
 
 void SettingsWindow::makeLayout()
 {
-    auto* const devices = new QToolBar(this);
-    devices->addActions({m_add, m_remove, m_up, m_down});
-    devices->setToolButtonStyle(Qt::ToolButtonTextOnly);
     auto* const left = new QWidget(this);
     auto* const column = new QVBoxLayout(left);
-    column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(m_pages);
-    column->addWidget(devices);
+    auto* const buttons = new QHBoxLayout;
+    column->addLayout(buttons);
+    for (QAction* const action : {m_add, m_remove, m_up, m_down}) {
+        auto* const button = new QToolButton(left);
+        button->setDefaultAction(action);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        buttons->addWidget(button);
+        m_page->setPredecessor(button);
+    }
     auto* const right = new QSplitter(Qt::Vertical, this);
     right->addWidget(m_page);
     right->addWidget(m_findings);
@@ -80,7 +99,7 @@ void SettingsWindow::makeLayout()
     both->addWidget(left);
     both->addWidget(right);
     both->setStretchFactor(1, 1);
-    both->setSizes({300, 780});
+    both->setSizes({330, 770});
     both->setChildrenCollapsible(false);
     auto* const nothing = new QLabel(Velmo::tr("No settings list is open.\nCtrl+O opens one."), this);
     nothing->setAlignment(Qt::AlignCenter);
@@ -109,8 +128,7 @@ void SettingsWindow::follow()
                                 Velmo::tr("Settings of cash devices")));
     }
     setWindowModified(m_document.isModified());
-    m_save->setEnabled(m_document.isModified());
-    for (QAction* const action : {m_saveAs, m_reload, m_find, m_nextFinding, m_add})
+    for (QAction* const action : {m_save, m_saveAs, m_reload, m_find, m_nextFinding, m_add})
         action->setEnabled(isOpen);
     m_undo->setEnabled(isOpen && m_document.canUndo());
     m_redo->setEnabled(isOpen && m_document.canRedo());
@@ -157,9 +175,11 @@ bool SettingsWindow::save()
 {
     m_page->endEditing();
     m_document.closeStep();
-    if (!m_document.isModified())
+    if (!m_document.isModified()) {
+        statusBar()->showMessage(Velmo::tr("Nothing has changed."), messageTime);
         return true;
-    return write([this] { m_document.save(); });
+    }
+    return write(m_document.fileName());
 }
 
 bool SettingsWindow::saveAs()
@@ -169,27 +189,30 @@ bool SettingsWindow::saveAs()
     const QString name = QFileDialog::getSaveFileName(this, Velmo::tr("Save the settings list as"),
                                                       m_document.fileName(),
                                                       Velmo::tr("Settings lists (*.json);;All files (*)"));
-    return !name.isEmpty() && write([&] { m_document.saveAs(name); });
+    return !name.isEmpty() && write(name);
 }
 
 // Writes the list once a person has seen what changes in it.
-bool SettingsWindow::write(const std::function<void()>& action)
+bool SettingsWindow::write(const QString& fileName)
 {
     try {
         m_document.requireSound();
+        if (fileName == m_document.fileName())
+            m_document.requireUnchanged();
         if (m_document.isModified()) {
             QStringList warnings;
             for (const SettingsFinding& finding : m_document.newFindings()) {
                 warnings += QStringLiteral("%1: %2: %3").arg(findingWord(finding.level), finding.path,
                                                              finding.text);
             }
-            DiffDialog dialog(m_document.fileName(), m_document.savedText(), m_document.text(),
+            DiffDialog dialog(fileName, m_document.savedText(), m_document.text(),
                               warnings, this);
             if (dialog.exec() != QDialog::Accepted)
                 return false;
         }
-        action();
-        statusBar()->showMessage(Velmo::tr("Saved %1.").arg(printable(m_document.fileName())), 10000);
+        m_document.saveAs(fileName);
+        statusBar()->showMessage(Velmo::tr("Saved %1.").arg(printable(m_document.fileName())),
+                                 messageTime);
         return true;
     } catch (const ChangedOnDisk& fault) {
         return resolveChange(fault.message);

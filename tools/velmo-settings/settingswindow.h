@@ -21,6 +21,7 @@ class SettingsWindow : public QMainWindow
 
 public:
     SettingsWindow();
+    ~SettingsWindow() override;
 
     /// Throws Fault when the file is no settings list; the window stays as it is.
     void open(const QString& fileName);
@@ -40,7 +41,7 @@ private:
     void reload();
     bool save();
     bool saveAs();
-    bool write(const std::function<void()>& action);
+    bool write(const QString& fileName);
     bool resolveChange(const QString& message);
     bool mayGo();
 

@@ -99,10 +99,11 @@ QVector<TableEditor::Column> TableEditor::columnsOf(SettingDescription::Kind kin
 TableEditor::TableEditor(SettingDescription::Kind kind, QWidget* parent)
     : ValueEditor(parent)
     , m_columns(columnsOf(kind))
-    , m_table(new QTableWidget(this))
-    , m_line(new QLineEdit(this))
-    , m_add(new QPushButton(Velmo::tr("Add row"), this))
-    , m_remove(new QPushButton(Velmo::tr("Remove row"), this))
+    , m_widget(new QWidget(parent))
+    , m_table(new QTableWidget(m_widget))
+    , m_line(new QLineEdit(m_widget))
+    , m_add(new QPushButton(Velmo::tr("Add row"), m_widget))
+    , m_remove(new QPushButton(Velmo::tr("Remove row"), m_widget))
 {
     QStringList titles;
     for (const Column& column : m_columns)
@@ -114,6 +115,7 @@ TableEditor::TableEditor(SettingDescription::Kind kind, QWidget* parent)
             m_table->setItemDelegateForColumn(i, new ChoiceDelegate(m_columns.at(i).choices, this));
     }
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 8);
     m_table->setTabKeyNavigation(false); // the key goes on to the next setting
     m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked
@@ -125,14 +127,14 @@ TableEditor::TableEditor(SettingDescription::Kind kind, QWidget* parent)
     buttons->addWidget(m_add);
     buttons->addWidget(m_remove);
     buttons->addStretch();
-    auto* const layout = new QVBoxLayout(this);
+    auto* const layout = new QVBoxLayout(m_widget);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_table);
     layout->addWidget(m_line);
     layout->addLayout(buttons);
     for (QWidget* const control : {static_cast<QWidget*>(m_table), static_cast<QWidget*>(m_line)})
-        control->installEventFilter(this);
-    setFocusProxy(m_table);
+        watch(control);
+    m_widget->setFocusProxy(m_table);
 
     connect(m_table, &QTableWidget::cellChanged, this, &TableEditor::changeCell);
     connect(m_add, &QPushButton::clicked, this, &TableEditor::addRow);
@@ -142,7 +144,15 @@ TableEditor::TableEditor(SettingDescription::Kind kind, QWidget* parent)
 
 QWidget* TableEditor::control() const
 {
-    return m_table;
+    return m_line->isHidden() ? static_cast<QWidget*>(m_table) : m_line;
+}
+
+// A cell that is being edited is taken when it loses the keyboard.
+void TableEditor::commit()
+{
+    const QWidget* const typing = m_table->focusWidget();
+    if (typing && typing != m_table && typing->hasFocus() && m_table->isAncestorOf(typing))
+        m_table->setFocus();
 }
 
 void TableEditor::showText(const QString& text)

@@ -21,6 +21,8 @@ public:
 
     void showText(const QString& text) override;
     QWidget* control() const override;
+    QWidget* widget() const override { return m_widget; }
+    void commit() override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -44,6 +46,7 @@ private:
     void take(const QByteArray& text);
 
     const QVector<Column> m_columns;
+    QWidget* const m_widget;
     QTableWidget* const m_table;
     QLineEdit* const m_line;
     QPushButton* const m_add;

@@ -10,7 +10,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -21,12 +20,12 @@ class LineEditor : public ValueEditor
 public:
     LineEditor(const ServiceSetting& setting, QWidget* parent)
         : ValueEditor(parent)
-        , m_line(new QLineEdit(this))
+        , m_line(new QLineEdit(parent))
     {
-        if (setting.kind() == SettingDescription::Number)
-            m_line->setMaximumWidth(fontMetrics().averageCharWidth() * 28);
         connect(m_line, &QLineEdit::textEdited, this, &ValueEditor::edited);
-        setControl(m_line);
+        watch(m_line);
+        if (setting.kind() == SettingDescription::Number)
+            m_line->setFixedWidth(m_line->fontMetrics().averageCharWidth() * 24);
     }
 
     void showText(const QString& text) override
@@ -46,12 +45,12 @@ class SwitchEditor : public ValueEditor
 public:
     explicit SwitchEditor(QWidget* parent)
         : ValueEditor(parent)
-        , m_box(new QCheckBox(Velmo::tr("on"), this))
+        , m_box(new QCheckBox(Velmo::tr("on"), parent))
     {
         connect(m_box, &QCheckBox::clicked, this, [this](bool isOn) {
             Q_EMIT edited(isOn ? QStringLiteral("1") : QStringLiteral("0"));
         });
-        setControl(m_box);
+        watch(m_box);
     }
 
     void showText(const QString& text) override
@@ -71,7 +70,7 @@ public:
     ChoiceEditor(const ServiceSetting& setting, QWidget* parent)
         : ValueEditor(parent)
         , m_setting(setting)
-        , m_box(new QComboBox(this))
+        , m_box(new QComboBox(parent))
     {
         const bool isModel = setting.key() == AcceptorSettings::DEVICE_ID;
         const QStringList choices = setting.choices();
@@ -79,7 +78,7 @@ public:
             m_box->addItem(isModel ? deviceName(choice.toInt()) : choice, choice);
         connect(m_box, QOverload<int>::of(&QComboBox::activated), this,
                 [this](int index) { Q_EMIT edited(m_box->itemData(index).toString()); });
-        setControl(m_box);
+        watch(m_box);
     }
 
     void showText(const QString& text) override
@@ -119,14 +118,15 @@ ValueEditor* ValueEditor::make(const ServiceSetting& setting, QWidget* parent)
     }
 }
 
-void ValueEditor::setControl(QWidget* control)
+ValueEditor::ValueEditor(QWidget* parent)
+    : QObject(parent)
 {
-    auto* const layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(control);
+}
+
+void ValueEditor::watch(QWidget* control)
+{
     control->setFocusPolicy(Qt::StrongFocus);
     control->installEventFilter(this);
-    setFocusProxy(control);
 }
 
 // A wheel that scrolls the page changes no value that it comes upon; undo is the window's.
@@ -143,5 +143,5 @@ bool ValueEditor::eventFilter(QObject* watched, QEvent* event)
             return true;
         }
     }
-    return QWidget::eventFilter(watched, event);
+    return QObject::eventFilter(watched, event);
 }

@@ -5,11 +5,13 @@
 
 #include "settings/servicesetting.h"
 
-#include <QWidget>
+#include <QObject>
+
+class QWidget;
 
 /// What a value is edited with, as its kind needs it. Values go in and out as texts; those that a
 /// person did not change stay as they are.
-class ValueEditor : public QWidget
+class ValueEditor : public QObject
 {
     Q_OBJECT
 
@@ -21,18 +23,21 @@ public:
     /// What has the keyboard, and a name for those who do not see it.
     virtual QWidget* control() const = 0;
 
+    /// What stands in the form.
+    virtual QWidget* widget() const { return control(); }
+
+    /// Has what is typed told of, if it was not yet.
+    virtual void commit() { }
+
 Q_SIGNALS:
     void edited(const QString& text); ///< by a person, also when one is not done yet
     void finished(); ///< that person is done with what was edited last
 
 protected:
-    explicit ValueEditor(QWidget* parent)
-        : QWidget(parent)
-    {
-    }
+    explicit ValueEditor(QWidget* parent);
 
-    /// To be called once there is one.
-    void setControl(QWidget* control);
+    /// To be called for what has the keyboard.
+    void watch(QWidget* control);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 };
