@@ -399,7 +399,8 @@ private Q_SLOTS:
         limits->setCurrentCell(1, 1);
         QTest::keyClicks(limits, "3"_s);
         enter();
-        QCOMPARE(limitsText(), R"([{"attempts":"2","denom":"1000"},{"attempts":"3","denom":"5000"}])"_s);
+        QCOMPARE(limitsText(),
+                 R"([{"attempts":"2","denom":"1000"},{"attempts":"3","denom":"5000"}])"_s);
         press(*field("acceptor_common/attempts_filter_settings"_s), "Add row"_s);
         QCOMPARE(limits->rowCount(), 3);
         QTest::keyClicks(limits, "x"_s);
@@ -423,7 +424,8 @@ private Q_SLOTS:
         QTest::keyClicks(routes, "1"_s);
         enter();
         QByteArray expected = contentOf(m_list);
-        expected.replace(R"(\"denomination\":10,\"route\":2)", R"(\"denomination\":10,\"route\":1)");
+        expected.replace(R"(\"denomination\":10,\"route\":2)",
+                         R"(\"denomination\":10,\"route\":1)");
         QCOMPARE(m_window->document().text(), expected);
 
         // A cell that is still open when the window is left counts as well.
@@ -431,7 +433,8 @@ private Q_SLOTS:
         QCOMPARE(m_window->document().text(), expected);
         inDialog([](QWidget& dialog) { press(dialog, "Cancel"_s); });
         m_window->close();
-        expected.replace(R"(\"denomination\":10,\"route\":1)", R"(\"denomination\":10,\"route\":7)");
+        expected.replace(R"(\"denomination\":10,\"route\":1)",
+                         R"(\"denomination\":10,\"route\":7)");
         QCOMPARE(m_window->document().text(), expected);
     }
 
@@ -528,8 +531,7 @@ private Q_SLOTS:
     {
         control<QLineEdit>("acceptor_common/maxSumm"_s)->setFocus();
         QTest::keyClicks(QApplication::focusWidget(), "9"_s);
-        const QString other =
-            QString::fromUtf8(contentOf(m_list)).replace("15000"_s, "16000"_s);
+        const QString other = QString::fromUtf8(contentOf(m_list)).replace("15000"_s, "16000"_s);
         QVERIFY(!writeFile(m_list, other).isEmpty());
         const auto answer = [this](const QString& button) {
             inDialog([&button](QWidget& dialog) {
@@ -573,7 +575,8 @@ private Q_SLOTS:
         });
         key(Qt::Key_Q, Qt::ControlModifier);
         QCOMPARE(m_window->isVisible(), goes == "no"_s);
-        QVERIFY(contentOf(m_list).contains("\"maxSumm\", \"value\": "_s.toUtf8() + sum.toUtf8() + "}"));
+        QVERIFY(
+            contentOf(m_list).contains("\"maxSumm\", \"value\": "_s.toUtf8() + sum.toUtf8() + "}"));
     }
 
     void badFileLeavesTheWindowAsItIs()
@@ -608,13 +611,15 @@ private Q_SLOTS:
             QStringList written;
             for (const SettingField* const field : fields) {
                 written += field->path();
-                QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(field->control());
+                QAccessibleInterface* const told =
+                    QAccessible::queryAccessibleInterface(field->control());
                 // A name, or a label that gives it.
                 const auto labels = told->relations(QAccessible::Label);
                 const QString name = labels.isEmpty() ? told->text(QAccessible::Name)
                                                       : labels.at(0).first->text(QAccessible::Name);
                 QCOMPARE(name, field->label()->text());
-                QVERIFY2(!told->text(QAccessible::Description).isEmpty(), qPrintable(field->path()));
+                QVERIFY2(!told->text(QAccessible::Description).isEmpty(),
+                         qPrintable(field->path()));
             }
             QCOMPARE(reached, written);
         }
@@ -637,15 +642,9 @@ private:
         QCoreApplication::processEvents();
     }
 
-    QListWidget* pages() const
-    {
-        return named<QListWidget>("Service and devices"_s);
-    }
+    QListWidget* pages() const { return named<QListWidget>("Service and devices"_s); }
 
-    QListWidget* findings() const
-    {
-        return named<QListWidget>("What is found in the list"_s);
-    }
+    QListWidget* findings() const { return named<QListWidget>("What is found in the list"_s); }
 
     template <typename Widget>
     Widget* named(const QString& name) const

@@ -47,7 +47,8 @@ std::pair<int, int> sameEnds(const QByteArray& a, const QByteArray& b)
     return {begin, end};
 }
 
-// Lines that go are followed by those that come: the first of the one is now the first of the other.
+// Lines that go are followed by those that come: the first of the one is now the first of the
+// other.
 QVector<ShownLine> withChangedParts(const QVector<DiffLine>& lines)
 {
     QVector<ShownLine> shown;
@@ -79,13 +80,14 @@ QVector<ShownLine> withChangedParts(const QVector<DiffLine>& lines)
 // Part of a line; of what is the same in a long one only what stands by the change.
 QString partOf(const QByteArray& bytes, bool isBegin, bool isEnd)
 {
-    constexpr int mostSame = 120;
+    constexpr int mostBefore = 50;
+    constexpr int mostBehind = 120;
     const QString text = printable(QString::fromUtf8(bytes));
-    if (text.size() <= mostSame)
-        return text;
-    if (isBegin)
-        return QStringLiteral("\u2026") + text.right(mostSame / 2);
-    return isEnd ? text.left(mostSame / 2) + QStringLiteral("\u2026") : text;
+    if (isBegin && text.size() > mostBefore)
+        return QStringLiteral("\u2026") + text.right(mostBefore);
+    if (isEnd && text.size() > mostBehind)
+        return text.left(mostBehind) + QStringLiteral("\u2026");
+    return text;
 }
 
 class DiffView : public QPlainTextEdit
@@ -107,9 +109,8 @@ public:
         const auto isShown = [&lines](int i) {
             const int begin = std::max(0, i - contextLines);
             const int end = std::min(int(lines.size()), i + contextLines + 1);
-            return std::any_of(lines.begin() + begin, lines.begin() + end, [](const auto& line) {
-                return line.line.kind != DiffLine::Same;
-            });
+            return std::any_of(lines.begin() + begin, lines.begin() + end,
+                               [](const auto& line) { return line.line.kind != DiffLine::Same; });
         };
         bool isGap = true;
         for (int i = 0; i < lines.size(); ++i) {
@@ -142,7 +143,8 @@ private:
             const bool isAdded = shown.line.kind == DiffLine::Added;
             sign = isAdded ? QStringLiteral("  + ") : QStringLiteral("  \u2212 ");
             const int hue = isAdded ? 130 : 0;
-            plain.setBackground(isDark ? QColor::fromHsl(hue, 80, 45) : QColor::fromHsl(hue, 120, 238));
+            plain.setBackground(isDark ? QColor::fromHsl(hue, 80, 45)
+                                       : QColor::fromHsl(hue, 120, 238));
             strong.setBackground(isDark ? QColor::fromHsl(hue, 140, 75)
                                         : QColor::fromHsl(hue, 150, 200));
             strong.setFontWeight(QFont::Bold);
@@ -167,7 +169,8 @@ DiffDialog::DiffDialog(const QString& fileName, const QByteArray& before, const 
     : QDialog(parent)
 {
     setWindowTitle(Velmo::tr("Save changes"));
-    auto* const heading = new QLabel(Velmo::tr("This changes in %1:").arg(printable(fileName)), this);
+    auto* const heading =
+        new QLabel(Velmo::tr("This changes in %1:").arg(printable(fileName)), this);
     heading->setTextFormat(Qt::PlainText);
     heading->setWordWrap(true);
     auto* const view = new DiffView(this);

@@ -20,6 +20,7 @@ FindingsPanel::FindingsPanel(SettingsDocument& document, QWidget* parent)
 {
     m_findings->setAccessibleName(Velmo::tr("What is found in the list"));
     m_filters->setAccessibleName(Velmo::tr("Filters that follow from the settings"));
+    m_findings->setIconSize(findingIconSize);
     for (QListWidget* const list : {m_findings, m_filters})
         list->setWordWrap(true);
     addTab(m_findings, {});
@@ -42,11 +43,11 @@ void FindingsPanel::refresh()
             const int line = m_document.file().lineOf(finding.element);
             place = Velmo::tr("%1 in line %2").arg(place, QString::number(line));
         }
-        const QString text =
-            finding.path.isEmpty() ? finding.text : finding.path + QStringLiteral(": ") + finding.text;
-        auto* const item = new QListWidgetItem(findingIcon(finding.level),
-                                               printable(place + QStringLiteral(": ") + text),
-                                               m_findings);
+        const QString text = finding.path.isEmpty()
+            ? finding.text
+            : finding.path + QStringLiteral(": ") + finding.text;
+        auto* const item = new QListWidgetItem(
+            findingIcon(finding.level), printable(place + QStringLiteral(": ") + text), m_findings);
         item->setData(Qt::AccessibleTextRole, item->text());
     }
     m_findings->setCurrentRow(std::min(current, m_findings->count() - 1));
@@ -54,8 +55,9 @@ void FindingsPanel::refresh()
         auto* const nothing = new QListWidgetItem(Velmo::tr("Nothing is wrong."), m_findings);
         nothing->setFlags(Qt::NoItemFlags);
     }
-    setTabText(0, findings.isEmpty() ? Velmo::tr("Fi&ndings")
-                                     : Velmo::tr("Fi&ndings (%1)").arg(findings.size()));
+    setTabText(0,
+               findings.isEmpty() ? Velmo::tr("Fi&ndings")
+                                  : Velmo::tr("Fi&ndings (%1)").arg(findings.size()));
     m_filters->clear();
     m_filters->addItems(m_document.filters());
 }

@@ -51,8 +51,8 @@ QVector<DiffLine> lineDiff(const QByteArray& before, const QByteArray& after)
 {
     const Lines old = linesOf(before);
     const Lines now = linesOf(after);
-    const int begin = int(std::mismatch(old.begin(), old.end(), now.begin(), now.end()).first
-                          - old.begin());
+    const int begin =
+        int(std::mismatch(old.begin(), old.end(), now.begin(), now.end()).first - old.begin());
     const int most = int(std::min(old.size(), now.size())) - begin;
     int same = 0; // at the end
     while (same < most && old.at(old.size() - 1 - same) == now.at(now.size() - 1 - same))

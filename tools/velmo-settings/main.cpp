@@ -43,8 +43,8 @@ public:
             throw Fault{m_parser.errorText()};
         GivenOptions(m_parser).requireValue(languageOption);
         if (m_parser.positionalArguments().size() > 1) {
-            throw Fault{Velmo::tr("unknown argument \"%1\"")
-                            .arg(m_parser.positionalArguments().at(1))};
+            throw Fault{
+                Velmo::tr("unknown argument \"%1\"").arg(m_parser.positionalArguments().at(1))};
         }
     }
 

@@ -62,6 +62,10 @@ PageList::PageList(SettingsDocument& document, QWidget* parent)
     m_results->setAccessibleName(Velmo::tr("Settings that match"));
     m_results->hide();
     m_results->setWordWrap(true);
+    m_results->setAlternatingRowColors(true);
+    m_pages->setIconSize(findingIconSize);
+    for (QListWidget* const list : {m_pages, m_results})
+        list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_search);
@@ -150,8 +154,9 @@ void PageList::search()
     for (const SettingsList::Used& used : m_document.list().used()) {
         const ServiceSetting& setting = used.setting;
         const QString label = SettingField::labelOf(setting);
-        const QString text = QStringLiteral("%1\n%2\n%3").arg(
-            label, SettingsPage::title(m_document, setting.device()), setting.path());
+        const QString text =
+            QStringLiteral("%1\n%2\n%3")
+                .arg(label, SettingsPage::title(m_document, setting.device()), setting.path());
         if (!areIn(text))
             continue;
         auto* const item = new QListWidgetItem(text);

@@ -95,17 +95,19 @@ void SettingField::makeLayout()
     layout->setVerticalSpacing(2);
     layout->setColumnStretch(1, 3);
     layout->setColumnStretch(2, 2);
+    const bool isTable = m_editor->isTable();
     layout->addWidget(m_label, 0, 0, Qt::AlignTop);
     QWidget* const value = m_editor->widget();
     const bool isNarrow = value->maximumWidth() < QWIDGETSIZE_MAX;
-    layout->addWidget(value, 0, 1, isNarrow ? Qt::AlignLeft : Qt::Alignment());
-    layout->addWidget(m_mark, 0, 2, Qt::AlignTop);
+    layout->addWidget(value, isTable ? 1 : 0, 1, 1, isTable ? 2 : 1,
+                      isNarrow ? Qt::AlignLeft : Qt::Alignment());
+    layout->addWidget(m_mark, 0, isTable ? 1 : 2, Qt::AlignTop);
     layout->addWidget(m_menu, 0, 3, Qt::AlignTop);
-    layout->addWidget(m_finding, 1, 1, 1, 3);
-    layout->addWidget(m_help, 2, 1, 1, 3);
+    layout->addWidget(m_finding, 2, 1, 1, 3);
+    layout->addWidget(m_help, 3, 1, 1, 3);
     for (QLabel* const label : {m_label, m_mark})
         label->setContentsMargins(0, 4, 0, 0); // beside the first line of the value
-    m_mark->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
+    m_mark->setMinimumWidth(fontMetrics().averageCharWidth() * 20);
 }
 
 QString SettingField::helpText() const
@@ -126,16 +128,16 @@ QString SettingField::markText() const
     const bool hasDefault = m_setting.defaultValue().isValid();
     const QString shown = m_setting.defaultValue().toString();
     if (!m_used.isListed())
-        return hasDefault ? Velmo::tr("not in the list: the default") : Velmo::tr("not in the list");
+        return hasDefault ? Velmo::tr("not in the list: the default")
+                          : Velmo::tr("not in the list");
     if (!m_used.isForDevice)
         return Velmo::tr("not used by this device");
     if (hasDefault && m_used.value == m_setting.defaultValue())
         return Velmo::tr("the default");
     if (m_setting.kind() == SettingDescription::Switch)
-        return Velmo::tr("default: %1").arg(shown == QLatin1String("1") ? Velmo::tr("on") : Velmo::tr("off"));
-    const bool isTable = m_setting.kind() == SettingDescription::AttemptsLimits
-        || m_setting.kind() == SettingDescription::RouteMap;
-    if (isTable)
+        return Velmo::tr("default: %1")
+            .arg(shown == QLatin1String("1") ? Velmo::tr("on") : Velmo::tr("off"));
+    if (m_editor->isTable())
         return Velmo::tr("default: no rows");
     // One that is refused stands for nothing.
     return shown.isEmpty() || !m_setting.accepts(shown) ? QString()
@@ -154,7 +156,7 @@ QWidget* SettingField::control() const
 }
 
 void SettingField::showValue(const SettingsList::Used& used, const QString& text,
-                          const QList<SettingsFinding>& findings)
+                             const QList<SettingsFinding>& findings)
 {
     m_used = used;
     if (!m_isEdited)
@@ -170,9 +172,9 @@ void SettingField::showValue(const SettingsList::Used& used, const QString& text
     m_finding->setText(lines.join(QLatin1Char('\n')));
     m_finding->setVisible(!lines.isEmpty());
     QPalette colors = palette();
-    colors.setColor(QPalette::WindowText,
-                    findingColor(isError ? SettingsFinding::Error : SettingsFinding::Warning,
-                                 colors));
+    colors.setColor(
+        QPalette::WindowText,
+        findingColor(isError ? SettingsFinding::Error : SettingsFinding::Warning, colors));
     m_finding->setPalette(colors);
     const QStringList told{m_finding->text(), m_mark->text(), m_help->text()};
     control()->setAccessibleName(m_label->text());

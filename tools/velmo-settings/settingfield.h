@@ -28,7 +28,7 @@ public:
 
     /// @param text of the value, as SettingsDocument::shownText() has it
     void showValue(const SettingsList::Used& used, const QString& text,
-                const QList<SettingsFinding>& findings);
+                   const QList<SettingsFinding>& findings);
 
     /// What a person types stays as it is typed until this is called.
     void endEditing();

@@ -15,8 +15,9 @@ struct ChangedOnDisk : Fault
 {
 };
 
-/// A settings list that is open in the window: its text, what was done to it, what is wrong with it.
-/// Every change is one of SettingsEdit, so that the text is what the command line would make of it.
+/// A settings list that is open in the window: its text, what was done to it, what is wrong with
+/// it. Every change is one of SettingsEdit, so that the text is what the command line would make of
+/// it.
 class SettingsDocument : public QObject
 {
     Q_OBJECT

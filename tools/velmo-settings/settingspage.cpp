@@ -168,7 +168,8 @@ void SettingsPage::build(const QStringList& paths)
     QWidget* last = m_predecessor;
     for (const QString& path : paths) {
         for (QWidget* const control : m_fields.value(path)->findChildren<QWidget*>()) {
-            if (control->focusPolicy() & Qt::TabFocus) {
+            // The list of a combo box stands in a window of its own.
+            if ((control->focusPolicy() & Qt::TabFocus) && control->window() == window()) {
                 setTabOrder(last, control);
                 last = control;
             }

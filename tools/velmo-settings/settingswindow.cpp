@@ -101,7 +101,8 @@ void SettingsWindow::makeLayout()
     both->setStretchFactor(1, 1);
     both->setSizes({330, 770});
     both->setChildrenCollapsible(false);
-    auto* const nothing = new QLabel(Velmo::tr("No settings list is open.\nCtrl+O opens one."), this);
+    auto* const nothing =
+        new QLabel(Velmo::tr("No settings list is open.\nCtrl+O opens one."), this);
     nothing->setAlignment(Qt::AlignCenter);
     m_views->addWidget(nothing);
     m_views->addWidget(both);
@@ -158,9 +159,9 @@ void SettingsWindow::chooseFile()
 {
     if (!mayGo())
         return;
-    const QString name = QFileDialog::getOpenFileName(this, Velmo::tr("Open a settings list"),
-                                                      QFileInfo(m_document.fileName()).path(),
-                                                      Velmo::tr("Settings lists (*.json);;All files (*)"));
+    const QString name = QFileDialog::getOpenFileName(
+        this, Velmo::tr("Open a settings list"), QFileInfo(m_document.fileName()).path(),
+        Velmo::tr("Settings lists (*.json);;All files (*)"));
     if (!name.isEmpty())
         attempt([&] { open(name); });
 }
@@ -186,9 +187,9 @@ bool SettingsWindow::saveAs()
 {
     m_page->endEditing();
     m_document.closeStep();
-    const QString name = QFileDialog::getSaveFileName(this, Velmo::tr("Save the settings list as"),
-                                                      m_document.fileName(),
-                                                      Velmo::tr("Settings lists (*.json);;All files (*)"));
+    const QString name = QFileDialog::getSaveFileName(
+        this, Velmo::tr("Save the settings list as"), m_document.fileName(),
+        Velmo::tr("Settings lists (*.json);;All files (*)"));
     return !name.isEmpty() && write(name);
 }
 
@@ -202,11 +203,10 @@ bool SettingsWindow::write(const QString& fileName)
         if (m_document.isModified()) {
             QStringList warnings;
             for (const SettingsFinding& finding : m_document.newFindings()) {
-                warnings += QStringLiteral("%1: %2: %3").arg(findingWord(finding.level), finding.path,
-                                                             finding.text);
+                warnings += QStringLiteral("%1: %2: %3")
+                                .arg(findingWord(finding.level), finding.path, finding.text);
             }
-            DiffDialog dialog(fileName, m_document.savedText(), m_document.text(),
-                              warnings, this);
+            DiffDialog dialog(fileName, m_document.savedText(), m_document.text(), warnings, this);
             if (dialog.exec() != QDialog::Accepted)
                 return false;
         }
@@ -240,8 +240,9 @@ bool SettingsWindow::mayGo()
     m_page->endEditing();
     if (!m_document.isModified())
         return true;
-    const int answer = ask(Velmo::tr("%1: has changes that are not saved.").arg(m_document.fileName()),
-                           {Velmo::tr("&Save..."), Velmo::tr("&Discard"), Velmo::tr("&Cancel")});
+    const int answer =
+        ask(Velmo::tr("%1: has changes that are not saved.").arg(m_document.fileName()),
+            {Velmo::tr("&Save..."), Velmo::tr("&Discard"), Velmo::tr("&Cancel")});
     return answer == Drop || (answer == Save && save());
 }
 
@@ -329,7 +330,8 @@ void SettingsWindow::showPage(std::optional<int> device)
 
 void SettingsWindow::showSetting(const QString& path)
 {
-    const std::optional<int> device = SettingDescription::deviceOf(path.section(QLatin1Char('/'), 0, -2));
+    const std::optional<int> device =
+        SettingDescription::deviceOf(path.section(QLatin1Char('/'), 0, -2));
     if (device != m_page->device())
         showPage(device);
     m_page->goTo(path);

@@ -70,8 +70,7 @@ public:
     void setModelData(QWidget* editor, QAbstractItemModel* model,
                       const QModelIndex& index) const override
     {
-        model->setData(index,
-                       QString::number(qobject_cast<QComboBox*>(editor)->currentIndex()));
+        model->setData(index, QString::number(qobject_cast<QComboBox*>(editor)->currentIndex()));
     }
 
 private:
@@ -86,14 +85,12 @@ QVector<TableEditor::Column> TableEditor::columnsOf(SettingDescription::Kind kin
         return {{QStringLiteral("denom"), Velmo::tr("Face value"), QStringLiteral("1")},
                 {QStringLiteral("attempts"), Velmo::tr("Rejections"), QStringLiteral("1")}};
     }
-    return {{QStringLiteral("currency"), Velmo::tr("Currency"), QStringLiteral("RUB")},
-            {QStringLiteral("denomination"), Velmo::tr("Face value"), 0},
-            {QStringLiteral("bill_type"),
-             Velmo::tr("Kind"),
-             0,
-             {Velmo::tr("note"), Velmo::tr("coin")}},
-            {QStringLiteral("route"), Velmo::tr("Route"), 0},
-            {QStringLiteral("count"), Velmo::tr("Count"), 0}};
+    return {
+        {QStringLiteral("currency"), Velmo::tr("Currency"), QStringLiteral("RUB")},
+        {QStringLiteral("denomination"), Velmo::tr("Face value"), 0},
+        {QStringLiteral("bill_type"), Velmo::tr("Kind"), 0, {Velmo::tr("note"), Velmo::tr("coin")}},
+        {QStringLiteral("route"), Velmo::tr("Route"), 0},
+        {QStringLiteral("count"), Velmo::tr("Count"), 0}};
 }
 
 TableEditor::TableEditor(SettingDescription::Kind kind, QWidget* parent)

@@ -22,6 +22,7 @@ public:
     void showText(const QString& text) override;
     QWidget* control() const override;
     QWidget* widget() const override { return m_widget; }
+    bool isTable() const override { return true; }
     void commit() override;
 
 protected:

@@ -76,6 +76,8 @@ public:
         const QStringList choices = setting.choices();
         for (const QString& choice : choices)
             m_box->addItem(isModel ? deviceName(choice.toInt()) : choice, choice);
+        m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        m_box->setMinimumContentsLength(12);
         connect(m_box, QOverload<int>::of(&QComboBox::activated), this,
                 [this](int index) { Q_EMIT edited(m_box->itemData(index).toString()); });
         watch(m_box);

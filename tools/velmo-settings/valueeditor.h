@@ -26,6 +26,8 @@ public:
     /// What stands in the form.
     virtual QWidget* widget() const { return control(); }
 
+    virtual bool isTable() const { return false; }
+
     /// Has what is typed told of, if it was not yet.
     virtual void commit() { }
 

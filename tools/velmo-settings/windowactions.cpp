@@ -41,17 +41,17 @@ QMenu* addMenu(QMenuBar* bar, const QString& title, const QVector<Command>& comm
 
 void SettingsWindow::makeActions()
 {
-    addMenu(menuBar(), Velmo::tr("&File"),
-            {{nullptr, QT_TRANSLATE_NOOP("Velmo", "&Open..."), QKeySequence::Open,
-              [this] { chooseFile(); }},
-             {&m_save, QT_TRANSLATE_NOOP("Velmo", "&Save..."), QKeySequence::Save,
-              [this] { save(); }},
-             {&m_saveAs, QT_TRANSLATE_NOOP("Velmo", "Save &as..."),
-              QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), [this] { saveAs(); }},
-             {&m_reload, QT_TRANSLATE_NOOP("Velmo", "&Reload"), QKeySequence(Qt::Key_F5),
-              [this] { reload(); }},
-             {nullptr, QT_TRANSLATE_NOOP("Velmo", "&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q),
-              [this] { close(); }}});
+    addMenu(
+        menuBar(), Velmo::tr("&File"),
+        {{nullptr, QT_TRANSLATE_NOOP("Velmo", "&Open..."), QKeySequence::Open,
+          [this] { chooseFile(); }},
+         {&m_save, QT_TRANSLATE_NOOP("Velmo", "&Save..."), QKeySequence::Save, [this] { save(); }},
+         {&m_saveAs, QT_TRANSLATE_NOOP("Velmo", "Save &as..."),
+          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), [this] { saveAs(); }},
+         {&m_reload, QT_TRANSLATE_NOOP("Velmo", "&Reload"), QKeySequence(Qt::Key_F5),
+          [this] { reload(); }},
+         {nullptr, QT_TRANSLATE_NOOP("Velmo", "&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q),
+          [this] { close(); }}});
     addMenu(menuBar(), Velmo::tr("&Edit"),
             {{&m_undo, QT_TRANSLATE_NOOP("Velmo", "&Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z),
               [this] { step(&SettingsDocument::undo); }},
@@ -63,8 +63,8 @@ void SettingsWindow::makeActions()
               QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D), [this] { unset(); }},
              {&m_find, QT_TRANSLATE_NOOP("Velmo", "&Find a setting"), QKeySequence::Find,
               [this] { m_pages->startSearch(); }},
-             {&m_nextFinding, QT_TRANSLATE_NOOP("Velmo", "&Next finding"),
-              QKeySequence(Qt::Key_F8), [this] { m_findings->goToNext(); }}});
+             {&m_nextFinding, QT_TRANSLATE_NOOP("Velmo", "&Next finding"), QKeySequence(Qt::Key_F8),
+              [this] { m_findings->goToNext(); }}});
     addMenu(menuBar(), Velmo::tr("&Devices"),
             {{&m_add, QT_TRANSLATE_NOOP("Velmo", "&Add..."), QKeySequence(Qt::CTRL | Qt::Key_N),
               [this] { addDevice(); }},
