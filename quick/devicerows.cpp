@@ -133,8 +133,6 @@ DeviceRows::Parts& DeviceRows::partsOf(const QString& key)
         parts.lamps = new RowModel({"name", "label", "lit", "alarm"}, this);
         parts.registry = new RowModel(
             {"channel", "isCoin", "denomination", "currency", "stock", "rejects"}, this);
-        for (QObject* const part : {parts.lamps, parts.registry})
-            QQmlEngine::setObjectOwnership(part, QQmlEngine::CppOwnership);
     }
     return parts;
 }
