@@ -78,12 +78,20 @@ QVector<int> rankAndSeverity(const QString& reason)
     return {int(found - std::begin(faults)), found == std::end(faults) ? 0 : found->severity};
 }
 
+int severityOf(const PublishedDevice& device)
+{
+    int severity = -1;
+    for (const DeviceFault& fault : whyNotWorking(device))
+        severity = std::max(severity, rankAndSeverity(QLatin1String(fault.reason)).last());
+    return severity;
+}
+
 } // namespace
 
 DeviceRows::DeviceRows(QObject* parent)
     : RowModel({"deviceId", "threadId", "modelName", "kind", "name", "idText", "enabled", "status",
                 "statusText", "description", "wrong", "accepting", "lamps", "notesInserted",
-                "notesRejected", "notesReturned", "registry"},
+                "notesRejected", "notesReturned", "registry", "severity"},
                parent)
 {
 }
@@ -108,7 +116,7 @@ void DeviceRows::show(const PublishedState& state, const QMap<int, QString>& nam
                      AcceptorState::stateDescr(device.state()), device.stateText(),
                      deviceFaults(device), isAccepting, QVariant::fromValue(parts.lamps),
                      device.insertedInFull, device.rejectedInFull, device.returnedInFull,
-                     QVariant::fromValue(parts.registry)}};
+                     QVariant::fromValue(parts.registry), severityOf(device)}};
     }
     setRows(rows);
     for (auto parts = gone.begin(); parts != gone.end(); ++parts) {

@@ -277,13 +277,13 @@ void ServiceState::showNotes(const QMap<int, QString>& names)
     QVector<RowModel::Row> rows;
     for (const NoteWatch::Note& note : open) {
         const MoneyFormat own = money.of(note.currency);
-        rows += RowModel::Row{
-            QString::number(note.id),
-            {double(note.id), note.outcome, double(note.value),
-             note.value > 0 ? own.text(note.value) : QString(),
-             names.value(note.device, deviceName(note.device)), note.device, note.thread, note.time,
-             money.locale.toString(note.time.toLocalTime(), QLocale::ShortFormat), note.incident,
-             NoteWatch::text(note, money)}};
+        rows += RowModel::Row{QString::number(note.id),
+                              {double(note.id), note.outcome, double(note.value),
+                               note.value > 0 ? own.text(note.value) : QString(),
+                               names.value(note.device, deviceName(note.device)), note.device,
+                               note.thread, note.time,
+                               money.locale.toString(note.time.toLocalTime(), QLocale::ShortFormat),
+                               note.incident, NoteWatch::text(note, money)}};
     }
     m_openNotes.setRows(rows);
     m_worstFaults.setRows(faultRows(m_state, names, open, money));

@@ -40,8 +40,8 @@ class ServiceState : public QObject
     /// says the same again is one.
     Q_PROPERTY(int staleAfter READ staleAfter WRITE setStaleAfter NOTIFY staleAfterChanged)
 
-    /// Whether the service has told nothing for too long. As with one that is not available, nothing
-    /// is accepted then.
+    /// Whether the service has told nothing for too long. As with one that is not available,
+    /// nothing is accepted then.
     Q_PROPERTY(bool stale READ isStale NOTIFY staleChanged)
 
     /// The locale that money and times are written in, for example "ru_RU"; initially the
@@ -99,14 +99,14 @@ class ServiceState : public QObject
     /// Whether the service confirmed that the whole sum is stored and outlives it.
     Q_PROPERTY(bool sumRecorded READ isSumRecorded NOTIFY sumRecordedChanged)
 
-    /// What was told as paid before the service was lost and is not in the sum that came back; 0 for
-    /// nothing, and where the price was paid before. It stays until the sum is back, or
+    /// What was told as paid before the service was lost and is not in the sum that came back; 0
+    /// for nothing, and where the price was paid before. It stays until the sum is back, or
     /// settleLoss(). lostSumRecorded: whether the service had confirmed it as stored.
     Q_PROPERTY(double lostSum READ lostSum NOTIFY lostSumChanged)
     Q_PROPERTY(bool lostSumRecorded READ isLostSumRecorded NOTIFY lostSumRecordedChanged)
 
-    /// Notes and coins whose end is not told, oldest first: in a device's hand, stuck in it, or lost
-    /// sight of. Roles: noteId, outcome, value (0 when not known), amountText (empty then),
+    /// Notes and coins whose end is not told, oldest first: in a device's hand, stuck in it, or
+    /// lost sight of. Roles: noteId, outcome, value (0 when not known), amountText (empty then),
     /// deviceName, deviceId, threadId, time, timeText, incident (the number that the service's log
     /// has for it, where the service publishes one) and text. A stuck one stays, over sessions too,
     /// until the service says that it is settled, or without the service's list until the device
@@ -130,15 +130,17 @@ class ServiceState : public QObject
     /// The devices in published order. Roles: deviceId, threadId, modelName, kind, name, idText,
     /// enabled, status (the state's name), statusText, description, wrong (a list of sentences),
     /// accepting (takes money now), lamps (those that apply to it: a model with the roles name,
-    /// label, lit and alarm), notesInserted, notesRejected, notesReturned, and registry: a model of
-    /// the cassettes and hoppers with the roles channel, isCoin, denomination, currency, stock and
-    /// rejects.
+    /// label, lit and alarm), notesInserted, notesRejected, notesReturned, registry: a model of the
+    /// cassettes and hoppers with the roles channel, isCoin, denomination, currency, stock and
+    /// rejects, and severity: that of the worst of worstFaults that its machine and state have; -1
+    /// for one that works.
     Q_PROPERTY(RowModel* devices READ devices CONSTANT)
 
     /// What is wrong with all devices, worst first. Roles: deviceName, deviceId, threadId, reason
     /// ("money" of a note or coin that is stuck or lost, "error", "state", "offline", "halted",
-    /// "stacker_missing", "stacker_full", "disabled"; in this order), text (a sentence) and severity
-    /// (3 for money, 2 for what stops a device, 1 for its stacker, 0 for one that is disabled).
+    /// "stacker_missing", "stacker_full", "disabled"; in this order), text (a sentence) and
+    /// severity (3 for money, 2 for what stops a device, 1 for its stacker, 0 for one that is
+    /// disabled).
     Q_PROPERTY(RowModel* worstFaults READ worstFaults CONSTANT)
 
 public:

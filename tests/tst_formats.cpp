@@ -220,11 +220,13 @@ const QMap<QString, std::function<QVariant(const QVariant& example)>> checks{
          const PublishedState state = readServiceState(text(v));
          const PublishedMoney& money = state.money;
          const Incident incident = state.incidents.value_or(std::vector<Incident>()).at(0);
-         const QVariantMap row{
-             {"number"_s, incident.number},     {"device_id"_s, incident.device},
-             {"thread_id"_s, incident.thread},  {"denomination"_s, incident.denomination},
-             {"currency"_s, incident.currency}, {"time"_s, incident.time.toString(Qt::ISODateWithMs)},
-             {"settled"_s, false}};
+         const QVariantMap row{{"number"_s, incident.number},
+                               {"device_id"_s, incident.device},
+                               {"thread_id"_s, incident.thread},
+                               {"denomination"_s, incident.denomination},
+                               {"currency"_s, incident.currency},
+                               {"time"_s, incident.time.toString(Qt::ISODateWithMs)},
+                               {"settled"_s, false}};
          return QVariantMap{{"device_states"_s, QVariantList()},
                             {"money"_s,
                              QVariantMap{{"currency"_s, money.currency},

@@ -275,8 +275,8 @@ void NoteWatch::heed(const std::vector<Incident>& incidents)
             continue;
         Note* piece = pieceOf(incident);
         if (!piece) {
-            piece = &add({++m_lastId, None, incident.device, incident.thread,
-                          incident.denomination, m_currency, m_time});
+            piece = &add({++m_lastId, None, incident.device, incident.thread, incident.denomination,
+                          m_currency, m_time});
         }
         if (!incident.currency.isEmpty())
             piece->currency = incident.currency;
@@ -307,8 +307,9 @@ NoteWatch::Note* NoteWatch::pieceOf(const Incident& incident)
                 || incident.denomination == 0);
     };
     for (const bool isFailed : {true, false}) {
-        const auto found = std::find_if(m_pieces.begin(), m_pieces.end(),
-                                        [&](const Note& piece) { return isMeant(piece, isFailed); });
+        const auto found = std::find_if(m_pieces.begin(), m_pieces.end(), [&](const Note& piece) {
+            return isMeant(piece, isFailed);
+        });
         if (found != m_pieces.end())
             return &*found;
     }

@@ -103,7 +103,7 @@ private:
     Note pieceOf(const PublishedDevice& device);
     void begin(const PublishedDevice& device, Track& track);
     void look(const PublishedDevice& device, Phase phase, Note& piece,
-                     const QVariantList& refusals);
+              const QVariantList& refusals);
     void move(const PublishedDevice& device, Track& track, bool isNew);
     void rest(const PublishedDevice& device, Track& track);
     void end(Track& track, Outcome outcome);

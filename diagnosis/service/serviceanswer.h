@@ -58,8 +58,8 @@ struct PublishedState
     qint64 sessionSum() const;
 };
 
-/// A text from outside as a screen can show it: control characters become spaces, marks that turn the
-/// direction of writing are left out, and what is longer than anybody reads is cut.
+/// A text from outside as a screen can show it: control characters become spaces, marks that turn
+/// the direction of writing are left out, and what is longer than anybody reads is cut.
 QString plainText(const QString& text);
 
 /// Makes the texts of a state that plainText().

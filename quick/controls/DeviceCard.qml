@@ -25,10 +25,12 @@ Rectangle {
     readonly property bool isNamed: entry.name.includes(entry.modelName)
     readonly property string statusLine: !entry.enabled ? qsTr("switched off")
         : entry.statusText + (entry.description === "" ? "" : ": " + entry.description)
-    readonly property bool isStopped: entry.enabled && ["jammed", "error"].includes(entry.status)
-    readonly property var faults: (isStopped ? [statusLine] : []).concat(Array.from(entry.wrong))
-    // That a device is disabled is the only thing that is wrong when it is on purpose.
-    readonly property bool isWrong: faults.length > (entry.enabled ? 0 : 1)
+    // Where nothing else is wrong with it.
+    readonly property bool isStopped: isWrong && entry.wrong.length === 0
+    readonly property bool isWrong: entry.severity > 0
+    readonly property string kind: entry.severity < 0 ? "good" : ["info", "warn", "bad"][entry.severity]
+    readonly property color front: dimmed ? ink : kind === "good" ? KioskTheme.good : kind === "warn" ? KioskTheme.warn
+                                 : kind === "bad" ? KioskTheme.bad : ink
     readonly property color ink: dimmed ? KioskTheme.quiet : KioskTheme.ink
 
     function pieceLines(isStuck: bool): string {
@@ -48,7 +50,7 @@ Rectangle {
     implicitHeight: column.implicitHeight + 2 * KioskTheme.gap
     radius: KioskTheme.radius
     color: dimmed ? KioskTheme.ground : KioskTheme.panel
-    border.color: isWrong && !dimmed ? KioskTheme.bad : KioskTheme.edge
+    border.color: isWrong && !dimmed ? front : KioskTheme.edge
     border.width: (isWrong && !dimmed ? 3 : 1) * KioskTheme.border
     Accessible.role: Accessible.Grouping
     Accessible.name: entry.name
@@ -70,9 +72,8 @@ Rectangle {
                 y: (title.implicitHeight / title.lineCount - height) / 2
                 width: title.font.pixelSize
                 height: width
-                kind: card.dimmed ? "wait" : card.isWrong ? "bad" : card.entry.enabled ? "good" : "info"
-                color: card.dimmed ? card.ink : card.isWrong ? KioskTheme.bad
-                     : card.entry.enabled ? KioskTheme.good : card.ink
+                kind: card.dimmed ? "wait" : card.kind
+                color: card.front
             }
             KioskText {
                 id: title
@@ -94,10 +95,10 @@ Rectangle {
             objectName: "wrong"
             width: column.width
             visible: text !== ""
-            kind: card.dimmed || !card.isWrong ? "info" : "bad"
+            kind: card.dimmed ? "info" : card.kind
             sign: card.dimmed ? "wait" : card.isWrong ? "warn" : "info"
             size: KioskTheme.small
-            text: card.faults.join("\n")
+            text: card.isStopped ? card.statusLine : Array.from(card.entry.wrong).join("\n")
         }
         Notice {
             objectName: "stuck"

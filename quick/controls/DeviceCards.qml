@@ -4,8 +4,9 @@
 import QtQuick 2.15
 import Velmolib 5.0
 
-/// How many devices there are, and a card for each, in columns, the broken ones first. What the service publishes as "content" stands on
-/// them; while it is silent they are dimmed. A card is made when it comes into sight.
+/// How many devices there are, and a card for each, in columns, the broken ones first. What the service
+/// publishes as "content" stands on them; while it is silent they are dimmed. A card is made when it comes
+/// into sight.
 KioskPage {
     id: page
 
@@ -20,11 +21,25 @@ KioskPage {
     readonly property real gap: KioskTheme.gap / 2
     readonly property real step: (width - gap) / columns
 
-    readonly property var contents: {
-        try {
-            return Array.from(JSON.parse(service.text).content || []);
-        } catch (error) {
-            return [];
+    property var contents: []
+
+    // Read a few times in a second, however fast states follow each other.
+    Timer {
+        id: reading
+        interval: 100
+        running: page.visible
+        onTriggered: {
+            try {
+                page.contents = Array.from(JSON.parse(page.service.text).content || []);
+            } catch (error) {
+                page.contents = [];
+            }
+        }
+    }
+    Connections {
+        target: page.visible ? page.service : null
+        function onTextChanged() {
+            reading.start();
         }
     }
 
@@ -71,12 +86,12 @@ KioskPage {
 
             required property int index
             required property var model
-            readonly property bool isBroken: model.wrong.length > 0
+            readonly property bool isBroken: model.severity > 0
             property alias active: card.active
-            readonly property Item item: card.item
+            property alias item: card.item
 
             width: page.step - page.gap
-            height: item ? item.height : 60 * KioskTheme.density
+            height: card.item ? card.height : 60 * KioskTheme.density
             onHeightChanged: Qt.callLater(page.place)
             onIndexChanged: Qt.callLater(page.place)
             onIsBrokenChanged: Qt.callLater(page.place)

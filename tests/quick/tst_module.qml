@@ -245,6 +245,42 @@ TestCase {
         compare(names(3), "error halted offline");
     }
 
+    function test_paidLeftAndChange_data() {
+        return [
+            {tag: "nothing", price: 2510, sum: 0, expected: "false,2510,0,none,false"},
+            {tag: "part", price: 2510, sum: 1510, recorded: 1510, expected: "false,1000,0,none,true"},
+            {tag: "exact", price: 2510, sum: 2510, recorded: 2509, expected: "true,0,0,none,false"},
+            {tag: "above", price: 2510, sum: 6010, recorded: 7000, expected: "true,0,3500,none,true"},
+            {tag: "any sum", price: 0, sum: 6010, expected: "false,0,0,none,false"}
+        ];
+    }
+
+    function test_paidLeftAndChange(row) {
+        const state = make([device(1, 1, {session_sum: row.sum})], {money: {change: "none", recorded: row.recorded}});
+        state.price = row.price;
+        const {paid, left, change, changeMode, sumRecorded} = state;
+        compare([paid, left, change, changeMode, sumRecorded].join(), row.expected);
+        state.available = false; // what was confirmed stays so
+        compare(state.sumRecorded, sumRecorded);
+    }
+
+    function test_textsFromOutsideAreTamed() {
+        const hostile = "<img src=x>\u202e\u0007\u200f" + "A".repeat(1e6);
+        const broken = device(1, 1, {state: hostile, id_string: hostile, state_text: hostile, error_critical: true,
+                                     error_text: hostile, dispenser_registry: [{channel: 1, currency: hostile, count: 1}]});
+        const state = make([broken], {incidents: [{number: hostile, device_id: 1, thread_id: 1}]});
+        state.names = {"1": hostile};
+        const shown = state.devices.get(0);
+        const texts = [shown.idText, shown.status, shown.statusText, shown.description, shown.name, shown.wrong.join(),
+                       shown.registry.get(0).currency, state.reasons.join(), state.report,
+                       state.openNotes.get(0).incident, state.worstFaults.get(1).text];
+        for (const text of texts) {
+            verify(text.length < 1500, text.length);
+            verify(!/[\u202e\u0007\u200f]/.test(text), JSON.stringify(text));
+        }
+        verify(shown.idText.startsWith("<img src=x> AAA"), shown.idText);
+    }
+
     function test_staleServiceInvitesNobody() {
         const [all, empty] = [10, 0].map(sum => [device(1, 1, {session_sum: sum}), device(100, 2)]);
         const state = make(all);
@@ -261,7 +297,9 @@ TestCase {
         compare(state.devices.get(0).accepting, false);
         state.take(state.text, state.timestamp);
         tryCompare(state, "customerText", "Input money or coin");
+        publish(state, empty); // it is heard again: that is another session
         compare([state.stale, state.lostSum].join(), "false,0");
+        publish(state, all);
         tryCompare(state, "stale", true);
         publish(state, empty);
         compare(state.lostSum, 10);

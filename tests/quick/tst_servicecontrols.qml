@@ -401,6 +401,7 @@ Item {
             return [
                 {tag: "works", device: {}, sign: "good"},
                 {tag: "jam", device: {state: "jammed", state_text: "transport"}, sign: "bad", says: ": transport"},
+                {tag: "stacker", device: {stacker_full: true}, sign: "warn", says: "The stacker is full."},
                 {tag: "error", device: {state: "error"}, sign: "bad", says: "error"},
                 {tag: "offline", device: {online: false}, sign: "bad", says: "The device is offline."},
                 {tag: "off", device: {enabled: false}, sign: "info", says: "The device is disabled."},
