@@ -168,14 +168,14 @@ public:
     void type(const QString& keys) const
     {
         for (const QChar key : keys)
-            QTest::keyClick(window(), key.toLatin1());
+            QTest::keyClick(window(),
+                            key == QLatin1Char('\n') ? Qt::Key_Return : Qt::Key(key.unicode()));
     }
 
     void openService() const
     {
         show("pin"_s);
-        type(rightPin);
-        QTest::keyClick(window(), Qt::Key_Return);
+        type(rightPin + "\n"_s);
         QTRY_COMPARE(page(), "service"_s);
     }
 
@@ -311,7 +311,9 @@ private Q_SLOTS:
     {
         const auto [folder, sessions, steps, expected] = cells<4>();
         startService(folder, sessions);
-        Kiosk kiosk(m_language, {{"pinFile"_s, m_pinFile}});
+        // So that all cards have room.
+        Kiosk kiosk(m_language,
+                    {{"pinFile"_s, m_pinFile}, {"theme"_s, QVariantMap{{"density"_s, 1.5}}}});
         step(steps.toInt());
         kiosk.openService();
         QTRY_COMPARE_WITH_TIMEOUT(kiosk.contents(), expected, longest);
