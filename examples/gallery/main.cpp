@@ -18,8 +18,8 @@
 
 namespace {
 
-// A list of samples for each page, from samples/<page>.json; without those that cannot be read, about
-// which it complains.
+// A list of samples for each page, from samples/<page>.json; without those that cannot be read,
+// about which it complains.
 QVariantMap readSamples(bool& isSound)
 {
     QVariantMap samples;

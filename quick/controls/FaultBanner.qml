@@ -15,7 +15,7 @@ Notice {
     property var worst: ({})
     property int others: 0
 
-    readonly property bool isSilent: !service || !service.available || service.stale || service.fault !== ""
+    readonly property bool isSilent: !service || !service.available || service.stale
                                      || service.devices.count === 0
     readonly property bool isFaulty: worst.text !== undefined
 
@@ -41,9 +41,6 @@ Notice {
             banner.look();
         }
         function onDataChanged() {
-            banner.look();
-        }
-        function onRowsMoved() {
             banner.look();
         }
         function onRowsInserted() {

@@ -31,19 +31,26 @@ Item {
     implicitWidth: KioskTheme.small
     implicitHeight: KioskTheme.small
 
-    Shape {
-        width: 24
-        height: 24
-        scale: Math.min(icon.width, icon.height) / 24
-        transformOrigin: Item.TopLeft
-        ShapePath {
-            strokeColor: icon.color
-            strokeWidth: 2.5
-            fillColor: "transparent"
-            capStyle: ShapePath.RoundCap
-            joinStyle: ShapePath.RoundJoin
-            PathSvg {
-                path: icon.paths[icon.kind] || ""
+    // Drawn without a graphics card, a shape that is scrolled out of its list is not cut off but seen beside
+    // it; a picture of the shape is.
+    Item {
+        anchors.fill: parent
+        layer.enabled: GraphicsInfo.api === GraphicsInfo.Software
+
+        Shape {
+            width: 24
+            height: 24
+            scale: Math.min(icon.width, icon.height) / 24
+            transformOrigin: Item.TopLeft
+            ShapePath {
+                strokeColor: icon.color
+                strokeWidth: 2.5
+                fillColor: "transparent"
+                capStyle: ShapePath.RoundCap
+                joinStyle: ShapePath.RoundJoin
+                PathSvg {
+                    path: icon.paths[icon.kind] || ""
+                }
             }
         }
     }

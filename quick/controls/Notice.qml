@@ -23,7 +23,6 @@ Rectangle {
     readonly property color front: kind === "good" ? KioskTheme.good : kind === "warn" ? KioskTheme.warn
                                  : kind === "bad" ? KioskTheme.bad : KioskTheme.ink
 
-    implicitWidth: texts.x + Math.max(sentence.implicitWidth, more.implicitWidth) + icon.x
     implicitHeight: texts.implicitHeight + 2 * texts.y
     radius: KioskTheme.radius
     color: kind === "good" ? KioskTheme.goodGround : kind === "warn" ? KioskTheme.warnGround

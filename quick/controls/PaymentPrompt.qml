@@ -135,7 +135,8 @@ Item {
         // In one line.
         readonly property real natural: Math.ceil([notePicture, coinPicture, cardPicture].reduce(
             (sum, picture) => picture.shown ? sum + picture.implicitWidth + spacing : sum, -spacing))
-        x: prompt.tall ? (prompt.width - natural) / 2 : prompt.low ? prompt.width - natural : headline.x
+        x: prompt.tall ? (prompt.width - natural) / 2 : prompt.low ? Math.min(prompt.width - natural, headline.x + headline.implicitWidth + 2 * KioskTheme.gap)
+                                                                  : headline.x
         y: prompt.start + (prompt.low ? (prompt.line - height) / 2 : prompt.line + prompt.between)
         width: prompt.tall || prompt.low ? natural : prompt.width - x
         spacing: 2 * KioskTheme.gap

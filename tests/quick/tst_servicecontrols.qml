@@ -71,6 +71,27 @@ Item {
         }
     }
 
+    Component {
+        id: listComponent
+        Rectangle {
+            width: 200
+            height: 200
+            Flickable {
+                width: 200
+                height: 100
+                contentHeight: 200
+                clip: true
+                KioskIcon {
+                    y: 140
+                    width: 60
+                    height: 60
+                    kind: "lampOn"
+                    color: "black"
+                }
+            }
+        }
+    }
+
     TestCase {
         id: test
         name: "ServiceControls"
@@ -313,6 +334,9 @@ Item {
                 {tag: "disabled", devices: [disabled], kind: "info", says: "The device is disabled.", others: ""},
                 {tag: "lost", devices: [{device_id: 1}], set: {available: false}, kind: "bad", says: "does not answer"},
                 {tag: "lost with a fault", devices: [offline], set: {available: false}, kind: "bad", says: "offline"},
+                {tag: "stale", devices: [{device_id: 1}], set: {staleAfter: 1}, kind: "bad", says: "service"},
+                {tag: "another text", devices: [{device_id: 1, error_critical: true, error_text: "motor"}],
+                 then: [{device_id: 1, error_critical: true, error_text: "belt"}], kind: "bad", says: "belt"},
                 {tag: "no device", devices: [], kind: "bad", says: "device"},
                 {tag: "no state", devices: [{device_id: 1}], set: {text: "<b>"}, kind: "bad", says: "cannot be read"},
                 {tag: "repaired", devices: [offline], then: [{device_id: 100, thread_id: 2}], kind: "good", says: "No device"},
@@ -329,9 +353,19 @@ Item {
                 service.text = text(row.then);
             }
             Object.assign(service, row.set || {});
-            tryCompare(banner, "kind", row.kind);
-            verify(banner.Accessible.name.includes(row.says), banner.Accessible.name);
+            tryVerify(() => banner.kind === row.kind && banner.Accessible.name.includes(row.says), 5000,
+                      banner.Accessible.name);
             compare((banner.detail.match(/Other faults: (\d+)/) || ["", ""])[1], row.others || "");
+        }
+
+        // Qt 5 has no picture to look at without a screen.
+        function test_iconsAreCutOffWithTheirList() {
+            const list = createTemporaryObject(listComponent, root);
+            waitForRendering(list);
+            const image = grabImage(list);
+            for (let at = 0; image.width > 0 && at < 60; ++at) {
+                compare(image.pixel(at, 140 + at), Qt.rgba(1, 1, 1, 1), at);
+            }
         }
 
         readonly property var everythingWrong: ({device_id: 1, state: "jammed", state_text: "<b>jam</b>", halt: true,
@@ -431,21 +465,27 @@ Item {
         }
 
         // What a card shows stays the same items while they change, however fast.
-        function test_itemsStayWhileStatesFollow() {
-            const places = count => ({places: [{place: "cassette", denomination: 1, min: count, max: count}], pieces: []});
-            const service = state([{device_id: 1}]);
-            const cards = createTemporaryObject(cardsComponent, root, {service: service, content: places(0)});
+        function test_itemsStayWhileStatesFollow_data() {
+            return [{tag: "ledger", content: count => ({places: [{place: "cassette", denomination: 1, min: count, max: count}]})},
+                    {tag: "registry", content: () => null}];
+        }
+
+        function test_itemsStayWhileStatesFollow(row) {
+            const device = count => ({device_id: 51, stacker_full: count % 2 === 1, halt: count % 2 === 1, notes_inserted: count,
+                dispenser_registry: [{channel: 1, bill_type: 0, denomination: 1, currency: "", count: count, rejected: 0}]});
+            const service = state([device(0)]);
+            const cards = createTemporaryObject(cardsComponent, root, {service: service, content: row.content(0)});
             wait(20);
-            const before = seen(cards);
+            const before = seen(named(cards, "places"));
+            const lamps = seen(cards).filter(item => item.Accessible.role === Accessible.Indicator);
             for (let i = 1; i <= 200; ++i) {
-                service.text = text([{device_id: 1, stacker_full: i % 2 === 1, notes_inserted: i}]);
-                cards.content = places(i);
+                service.text = text([device(i)]);
+                cards.content = row.content(i);
             }
             tryVerify(() => named(cards, "counters").text.includes("200"));
+            tryVerify(() => words(named(cards, "places")).includes("200"));
             const after = new Set(seen(cards));
-            verify(before.every(item => after.has(item)), before.filter(item => !after.has(item)).join());
-            compare(before.length, after.size);
-            verify(words(named(cards, "places")).includes("200"));
+            verify(lamps.length > 0 && before.concat(lamps).every(item => after.has(item)));
         }
 
         function test_everythingFitsAndMeetsAFinger_data() {
@@ -502,6 +542,7 @@ Item {
         function test_everythingFitsAndMeetsAFinger(row) {
             KioskTheme.density = 2;
             const control = makeControl(row);
+            wait(20); // until it has what the service says
             KioskTheme.density = row.density; // as a window does when it is on a screen
             KioskTheme.largeText = row.largeText;
             waitForRendering(control);
