@@ -100,8 +100,9 @@ private Q_SLOTS:
         m_window = std::make_unique<SettingsWindow>();
         m_window->open(m_list);
         m_window->show();
-        QApplication::setActiveWindow(m_window.get());
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get(), 2000));
     }
 
     void cleanup() { m_window.reset(); }
@@ -499,6 +500,9 @@ private Q_SLOTS:
         QVERIFY(field("device3/hw_interface/portname"_s));
         QVERIFY(control<QComboBox>("device3/hw_interface/interface_type"_s)->hasFocus());
         key(Qt::Key_Down);
+        // This opens the choices and moves no device.
+        key(Qt::Key_Down, Qt::AltModifier);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
         QVERIFY(field("device3/hw_interface/tcp_host"_s));
         QCOMPARE(m_window->document().text(), contentOf(m_list));
     }
@@ -561,7 +565,8 @@ private Q_SLOTS:
 
     void unsavedChangesAreAskedAbout()
     {
-        const auto [button, goes, sum] = cells<3>();
+        const auto [answer, goes, sum] = cells<3>();
+        const QString button = answer; // which a lambda may have
         control<QLineEdit>("acceptor_common/maxSumm"_s)->setFocus();
         key(Qt::Key_End);
         QTest::keyClicks(QApplication::focusWidget(), "9"_s);

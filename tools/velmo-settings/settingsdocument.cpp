@@ -58,12 +58,12 @@ void SettingsDocument::open(const QString& fileName)
 }
 
 // What is shown now is in the file now.
-void SettingsDocument::begin(const ArrayFile& saved)
+void SettingsDocument::begin(ArrayFile saved)
 {
-    m_saved = std::make_unique<const ArrayFile>(saved);
+    m_saved = std::make_unique<const ArrayFile>(std::move(saved));
     Step& step = m_steps[m_now];
-    step.edit = std::make_shared<const SettingsEdit>(saved);
-    step.before = saved.text();
+    step.edit = std::make_shared<const SettingsEdit>(*m_saved);
+    step.before = m_saved->text();
     step.isClosed = true;
 }
 

@@ -94,7 +94,7 @@ private:
 
     template <typename Action>
     void change(std::size_t from, Action action, const QString& path = {});
-    void begin(const ArrayFile& saved);
+    void begin(ArrayFile saved);
     void read();
 
     QString m_fileName;

@@ -144,6 +144,12 @@ bool ValueEditor::eventFilter(QObject* watched, QEvent* event)
             event->ignore();
             return true;
         }
+        // These open a combo box, and nothing else then.
+        if (key->modifiers() == Qt::AltModifier && qobject_cast<const QComboBox*>(watched)
+            && (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down)) {
+            event->accept();
+            return true;
+        }
     }
     return QObject::eventFilter(watched, event);
 }

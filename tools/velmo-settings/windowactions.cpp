@@ -20,7 +20,7 @@ struct Command
 {
     QAction** action; // null where nobody needs it
     const char* text;
-    QKeySequence keys;
+    const char* keys;
     std::function<void()> run;
 };
 
@@ -29,7 +29,7 @@ QMenu* addMenu(QMenuBar* bar, const QString& title, const QVector<Command>& comm
     QMenu* const menu = bar->addMenu(title);
     for (const Command& command : commands) {
         QAction* const action = menu->addAction(Velmo::tr(command.text));
-        action->setShortcut(command.keys);
+        action->setShortcut(QKeySequence(QLatin1String(command.keys)));
         QObject::connect(action, &QAction::triggered, bar, command.run);
         if (command.action)
             *command.action = action;
@@ -41,39 +41,33 @@ QMenu* addMenu(QMenuBar* bar, const QString& title, const QVector<Command>& comm
 
 void SettingsWindow::makeActions()
 {
-    addMenu(
-        menuBar(), Velmo::tr("&File"),
-        {{nullptr, QT_TRANSLATE_NOOP("Velmo", "&Open..."), QKeySequence::Open,
-          [this] { chooseFile(); }},
-         {&m_save, QT_TRANSLATE_NOOP("Velmo", "&Save..."), QKeySequence::Save, [this] { save(); }},
-         {&m_saveAs, QT_TRANSLATE_NOOP("Velmo", "Save &as..."),
-          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), [this] { saveAs(); }},
-         {&m_reload, QT_TRANSLATE_NOOP("Velmo", "&Reload"), QKeySequence(Qt::Key_F5),
-          [this] { reload(); }},
-         {nullptr, QT_TRANSLATE_NOOP("Velmo", "&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q),
-          [this] { close(); }}});
+    addMenu(menuBar(), Velmo::tr("&File"),
+            {{nullptr, QT_TRANSLATE_NOOP("Velmo", "&Open..."), "Ctrl+O", [this] { chooseFile(); }},
+             {&m_save, QT_TRANSLATE_NOOP("Velmo", "&Save..."), "Ctrl+S", [this] { save(); }},
+             {&m_saveAs, QT_TRANSLATE_NOOP("Velmo", "Save &as..."), "Ctrl+Shift+S",
+              [this] { saveAs(); }},
+             {&m_reload, QT_TRANSLATE_NOOP("Velmo", "&Reload"), "F5", [this] { reload(); }},
+             {nullptr, QT_TRANSLATE_NOOP("Velmo", "&Quit"), "Ctrl+Q", [this] { close(); }}});
     addMenu(menuBar(), Velmo::tr("&Edit"),
-            {{&m_undo, QT_TRANSLATE_NOOP("Velmo", "&Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z),
+            {{&m_undo, QT_TRANSLATE_NOOP("Velmo", "&Undo"), "Ctrl+Z",
               [this] { step(&SettingsDocument::undo); }},
-             {&m_redo, QT_TRANSLATE_NOOP("Velmo", "&Redo"), QKeySequence(Qt::CTRL | Qt::Key_Y),
+             {&m_redo, QT_TRANSLATE_NOOP("Velmo", "&Redo"), "Ctrl+Y",
               [this] { step(&SettingsDocument::redo); }},
-             {&m_setDefault, QT_TRANSLATE_NOOP("Velmo", "Set the &default"),
-              QKeySequence(Qt::CTRL | Qt::Key_D), [this] { setDefault(); }},
-             {&m_unset, QT_TRANSLATE_NOOP("Velmo", "&Take out of the list"),
-              QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D), [this] { unset(); }},
-             {&m_find, QT_TRANSLATE_NOOP("Velmo", "&Find a setting"), QKeySequence::Find,
+             {&m_setDefault, QT_TRANSLATE_NOOP("Velmo", "Set the &default"), "Ctrl+D",
+              [this] { setDefault(); }},
+             {&m_unset, QT_TRANSLATE_NOOP("Velmo", "&Take out of the list"), "Ctrl+Shift+D",
+              [this] { unset(); }},
+             {&m_find, QT_TRANSLATE_NOOP("Velmo", "&Find a setting"), "Ctrl+F",
               [this] { m_pages->startSearch(); }},
-             {&m_nextFinding, QT_TRANSLATE_NOOP("Velmo", "&Next finding"), QKeySequence(Qt::Key_F8),
+             {&m_nextFinding, QT_TRANSLATE_NOOP("Velmo", "&Next finding"), "F8",
               [this] { m_findings->goToNext(); }}});
-    addMenu(menuBar(), Velmo::tr("&Devices"),
-            {{&m_add, QT_TRANSLATE_NOOP("Velmo", "&Add..."), QKeySequence(Qt::CTRL | Qt::Key_N),
-              [this] { addDevice(); }},
-             {&m_remove, QT_TRANSLATE_NOOP("Velmo", "&Remove"),
-              QKeySequence(Qt::CTRL | Qt::Key_Delete), [this] { removeDevice(); }},
-             {&m_up, QT_TRANSLATE_NOOP("Velmo", "Move &up"), QKeySequence(Qt::ALT | Qt::Key_Up),
-              [this] { moveDevice(-1); }},
-             {&m_down, QT_TRANSLATE_NOOP("Velmo", "Move do&wn"),
-              QKeySequence(Qt::ALT | Qt::Key_Down), [this] { moveDevice(1); }}});
+    addMenu(
+        menuBar(), Velmo::tr("&Devices"),
+        {{&m_add, QT_TRANSLATE_NOOP("Velmo", "&Add..."), "Ctrl+N", [this] { addDevice(); }},
+         {&m_remove, QT_TRANSLATE_NOOP("Velmo", "&Remove"), "Ctrl+Del", [this] { removeDevice(); }},
+         {&m_up, QT_TRANSLATE_NOOP("Velmo", "Move &up"), "Alt+Up", [this] { moveDevice(-1); }},
+         {&m_down, QT_TRANSLATE_NOOP("Velmo", "Move do&wn"), "Alt+Down",
+          [this] { moveDevice(1); }}});
 }
 
 // Which of the answers a person gives: its place, and the last one for none.
