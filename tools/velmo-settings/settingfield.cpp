@@ -132,7 +132,7 @@ QString SettingField::markText() const
                           : Velmo::tr("not in the list");
     if (!m_used.isForDevice)
         return Velmo::tr("not used by this device");
-    if (hasDefault && m_used.value == m_setting.defaultValue())
+    if (hasDefault && m_isSound && m_used.value == m_setting.defaultValue())
         return Velmo::tr("the default");
     if (m_setting.kind() == SettingDescription::Switch)
         return Velmo::tr("default: %1")
@@ -159,6 +159,7 @@ void SettingField::showValue(const SettingsList::Used& used, const QString& text
                              const QList<SettingsFinding>& findings)
 {
     m_used = used;
+    m_isSound = m_setting.accepts(text);
     if (!m_isEdited)
         m_editor->showText(text);
     m_mark->setText(markText());
