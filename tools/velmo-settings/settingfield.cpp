@@ -107,7 +107,7 @@ void SettingField::makeLayout()
     layout->addWidget(m_help, 3, 1, 1, 3);
     for (QLabel* const label : {m_label, m_mark})
         label->setContentsMargins(0, 4, 0, 0); // beside the first line of the value
-    m_mark->setMinimumWidth(fontMetrics().averageCharWidth() * 20);
+    m_mark->setMinimumWidth(fontMetrics().averageCharWidth() * 17);
 }
 
 QString SettingField::helpText() const

@@ -35,7 +35,7 @@ const struct
     {S::HARDWARE_SECTION, QT_TRANSLATE_NOOP("Velmo", "Connection")},
     {S::DEBUG_SECTION, QT_TRANSLATE_NOOP("Velmo", "Log")},
 };
-constexpr int widestLabel = 190;
+constexpr int widestLabel = 170;
 constexpr int sectionOfProtocol = int(std::size(sections));
 
 int sectionIndex(const ServiceSetting& setting)
