@@ -11,8 +11,6 @@ RowModel::RowModel(const QByteArrayList& roles, QObject* parent)
     : QAbstractListModel(parent)
     , m_roles(roles)
 {
-    // A view must not think that it owns what a property returns.
-    QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
 }
 
 void RowModel::setRows(const QVector<Row>& rows)

@@ -26,6 +26,9 @@ ServiceState::ServiceState(QObject* parent)
                    "time", "timeText", "incident", "text"})
     , m_worstFaults({"deviceName", "deviceId", "threadId", "reason", "text", "severity"})
 {
+    // A view must not think that it owns what a property returns.
+    for (RowModel* const model : {static_cast<RowModel*>(&m_devices), &m_openNotes, &m_worstFaults})
+        QQmlEngine::setObjectOwnership(model, QQmlEngine::CppOwnership);
     m_staleTimer.setSingleShot(true);
     connect(&m_staleTimer, &QTimer::timeout, this, [this] {
         m_isStale = true;

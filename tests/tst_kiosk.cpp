@@ -182,7 +182,10 @@ public:
     void press(const QString& key) const
     {
         QTRY_VERIFY2(item(key), qPrintable(key));
-        QMetaObject::invokeMethod(item(key), "clicked");
+        const QQuickItem* const pressed = item(key);
+        QTest::mouseClick(
+            window(), Qt::LeftButton, {},
+            pressed->mapToScene({pressed->width() / 2, pressed->height() / 2}).toPoint());
     }
 
 private:
@@ -596,7 +599,7 @@ private Q_SLOTS:
 
         // Who pays is there too.
         kiosk.press("languageKey"_s);
-        step(1);
+        step(2);
         QTest::qWait(1200);
         step(1); // a note
         QTest::qWait(1200);
@@ -755,10 +758,11 @@ private Q_SLOTS:
         QProcess screen;
         screen.setProcessEnvironment(environment);
         screen.start(QStringLiteral(KIOSKSCREEN), QStringList());
+        QByteArray told;
         QTRY_VERIFY_WITH_TIMEOUT(
-            (screen.waitForReadyRead(10),
-             screen.readAllStandardError().contains("no font has Cyrillic letters")),
+            (told += screen.readAllStandardError()).contains("no font has Cyrillic letters"),
             longest);
+        QVERIFY(told.contains("no font has Latin letters"));
         screen.terminate();
         QVERIFY(screen.waitForFinished(longest));
     }
@@ -768,13 +772,15 @@ private:
     {
         QJsonArray devices;
         for (int device = 0; device < 3; ++device) {
-            devices += QJsonObject{{"device_id"_s, device + 1},
-                                   {"thread_id"_s, 1},
-                                   {"enabled"_s, true},
-                                   {"stacker_full"_s, number % 50 == 0},
-                                   {"state"_s, number % 2 ? "idling"_s : "accepting"_s},
-                                   {"session_sum"_s, number},
-                                   {"current_note"_s, number % 2 ? 0 : 100}};
+            devices += QJsonObject{
+                {"device_id"_s, device + 1},
+                {"thread_id"_s, 1},
+                {"enabled"_s, true},
+                {"stacker_full"_s, number % 50 == 0},
+                {"state"_s,
+                 QStringList{"accepting"_s, "stacking"_s, "stacked"_s, "idling"_s}.at(number % 4)},
+                {"session_sum"_s, number},
+                {"current_note"_s, number % 4 == 3 ? 0 : 100}};
         }
         const QJsonObject state{{"device_states"_s, devices}};
         return QString::fromUtf8(QJsonDocument(state).toJson(QJsonDocument::Compact));

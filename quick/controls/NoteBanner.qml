@@ -39,24 +39,31 @@ Column {
     Repeater {
         id: open
         model: banner.service.openNotes
-        Notice {
+        Loader {
+            id: note
             required property int index
             required property var model
-            readonly property bool inHand: !banner.away && model.outcome === ServiceState.NoteChecked
-            readonly property bool isLast: index === Math.min(open.count, banner.limit) - 1
-            objectName: "openNote"
+            active: index < banner.limit
+            visible: active
             width: banner.width
-            visible: index < banner.limit
-            kind: inHand ? "info" : "bad"
-            sign: inHand ? "wait" : "warn"
-            text: banner.away && model.outcome === ServiceState.NoteChecked
-                  ? qsTr("Your money is still in the device. Please call the staff.") : model.text
-            detail: inHand ? ""
-                  : [[model.timeText, model.text.includes(model.amountText) ? "" : model.amountText,
-                      model.incident === "" ? "" : qsTr("No.\u00a0%1").arg(model.incident)]
-                     .filter(part => part !== "").join(" · "),
-                     isLast && banner.contact !== "" ? qsTr("Help: %1").arg(banner.contact) : ""]
-                    .filter(line => line !== "").join("\n")
+            sourceComponent: Notice {
+                readonly property var model: note.model
+                readonly property bool inHand: !banner.away && model.outcome === ServiceState.NoteChecked
+                readonly property bool isLast: note.index === Math.min(open.count, banner.limit) - 1
+                // While the row goes it has no text.
+                readonly property string told: model.text || ""
+                objectName: "openNote"
+                kind: inHand ? "info" : "bad"
+                sign: inHand ? "wait" : "warn"
+                text: banner.away && model.outcome === ServiceState.NoteChecked
+                      ? qsTr("Your money is still in the device. Please call the staff.") : told
+                detail: inHand ? ""
+                      : [[model.timeText, told.includes(model.amountText) ? "" : model.amountText,
+                          model.incident === "" ? "" : qsTr("No.\u00a0%1").arg(model.incident)]
+                         .filter(part => part !== "").join(" · "),
+                         isLast && banner.contact !== "" ? qsTr("Help: %1").arg(banner.contact) : ""]
+                        .filter(line => line !== "").join("\n")
+            }
         }
     }
     KioskText {

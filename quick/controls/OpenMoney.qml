@@ -15,6 +15,9 @@ Column {
     /// The number of an incident that the service would not take as settled; empty for none.
     property string refused: ""
 
+    /// How many pieces are shown at most, the oldest ones; the others are counted.
+    property int limit: 4
+
     spacing: KioskTheme.gap / 2
 
     component Line: RowLayout {
@@ -65,20 +68,35 @@ Column {
     }
 
     Repeater {
+        id: open
         model: list.service ? list.service.openNotes : null
-        Line {
+        Loader {
+            id: note
+            required property int index
             required property var model
-            objectName: "openMoney"
-            visible: model.outcome !== ServiceState.NoteChecked
-            title: [model.deviceName, model.amountText, model.timeText,
-                    model.incident === "" ? "" : qsTr("No. %1").arg(model.incident)]
-                   .filter(part => part !== "").join(" · ")
-            text: (model.outcome === ServiceState.NoteStuck ? qsTr("It is stuck in the device.")
-                                                            : qsTr("Nobody says what became of it."))
-                  + (model.incident !== "" && model.incident === list.refused
-                     ? " " + qsTr("The service did not take it as settled.") : "")
-            onSettled: list.service.settle(model.noteId)
+            active: index < list.limit && model.outcome !== ServiceState.NoteChecked
+            visible: active
+            sourceComponent: Line {
+                readonly property var model: note.model
+                objectName: "openMoney"
+                title: [model.deviceName, model.amountText, model.timeText,
+                        model.incident === "" ? "" : qsTr("No.\u00a0%1").arg(model.incident)]
+                       .filter(part => part !== "").join(" · ")
+                text: (model.outcome === ServiceState.NoteStuck ? qsTr("It is stuck in the device.")
+                                                                : qsTr("Nobody says what became of it."))
+                      + (model.incident !== "" && model.incident === list.refused
+                         ? " " + qsTr("The service did not take it as settled.") : "")
+                onSettled: list.service.settle(model.noteId)
+            }
         }
+    }
+    KioskText {
+        objectName: "moreMoney"
+        width: list.width
+        visible: open.count > list.limit
+        text: qsTr("and %n more", "", open.count - list.limit)
+        font.bold: true
+        color: KioskTheme.bad
     }
     Line {
         objectName: "openLoss"

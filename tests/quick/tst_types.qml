@@ -100,7 +100,6 @@ TestCase {
         host.listenTo(settings);
         const byDefault = settings.get(row).defaultValue;
         compare(settings.get(rowOf("device_id")).valid, false); // the default is no model
-        compare([settings.get(rowOf("portname")).defaultValue, settings.get(rowOf("portname")).isDefault], [undefined, true]);
         compare(settings.get(row).path, "device2/ccnet/response_time");
         compare(shown(), byDefault + ",true,true");
         compare(edit("soon"), [row + ": value isDefault valid"]);

@@ -15,10 +15,10 @@ using namespace deviceStateDescConst;
 
 namespace {
 
-const QString number = QStringLiteral("number");
-const QString incident = QStringLiteral("incident");
-const QString settled = QStringLiteral("settled");
-const QString timeKey = QStringLiteral("time");
+const QString numberKey = QStringLiteral("number");
+const QString incidentKey = QStringLiteral("incident");
+const QString settledKey = QStringLiteral("settled");
+const QString beganKey = QStringLiteral("time");
 
 bool isSameDevice(const QVariantMap& one, const QVariantMap& other)
 {
@@ -28,12 +28,12 @@ bool isSameDevice(const QVariantMap& one, const QVariantMap& other)
 
 QVariantMap entryOf(const QVariantMap& report, const QString& name)
 {
-    return {{number, name},
+    return {{numberKey, name},
             {DEVICE_ID, report.value(DEVICE_ID)},
             {THREAD_ID, report.value(THREAD_ID)},
             {QStringLiteral("denomination"), report.value(CURRENT_NOTE)},
-            {timeKey, report.value(timeKey)},
-            {settled, false}};
+            {beganKey, report.value(beganKey)},
+            {settledKey, false}};
 }
 
 } // namespace
@@ -48,8 +48,8 @@ void Incidents::readLog(const QString& fileName)
         if (!line.contains("\"incident\"") && !line.contains("\"settled\""))
             continue;
         const QVariantMap report = QJsonDocument::fromJson(line).object().toVariantMap();
-        settle(report.value(settled).toString());
-        const QString name = report.value(incident).toString();
+        settle(report.value(settledKey).toString());
+        const QString name = report.value(incidentKey).toString();
         if (name.isEmpty())
             continue;
         m_last = std::max(m_last, name.section(QLatin1Char('-'), -1).toInt());
@@ -71,18 +71,19 @@ QString Incidents::openOf(const QVariantMap& report) const
     const auto found = std::find_if(m_open.rbegin(), m_open.rend(), [&](const QVariant& entry) {
         return isSameDevice(entry.toMap(), report);
     });
-    return found == m_open.rend() ? QString() : found->toMap().value(number).toString();
+    return found == m_open.rend() ? QString() : found->toMap().value(numberKey).toString();
 }
 
 QVariantMap Incidents::settle(const QString& name)
 {
     const auto found = std::find_if(m_open.begin(), m_open.end(), [&](const QVariant& entry) {
-        return entry.toMap().value(number) == name;
+        return entry.toMap().value(numberKey) == name;
     });
     if (found == m_open.end())
         return {};
     const QVariantMap entry = found->toMap();
     m_open.erase(found);
-    return {
-        {DEVICE_ID, entry.value(DEVICE_ID)}, {THREAD_ID, entry.value(THREAD_ID)}, {settled, name}};
+    return {{DEVICE_ID, entry.value(DEVICE_ID)},
+            {THREAD_ID, entry.value(THREAD_ID)},
+            {settledKey, name}};
 }
