@@ -274,7 +274,12 @@ private Q_SLOTS:
         QFile file(EXPECTED "/%1.expected"_s.arg(name));
         QVERIFY(file.open(QIODevice::ReadOnly));
         startService(folder, sessions, {"--money"_s, "RUB:0"_s, "--change"_s, "none"_s});
-        Kiosk kiosk(m_language, {{"price"_s, 2510}, {"contact"_s, "8 800"_s}});
+        Kiosk kiosk(m_language,
+                    {{"price"_s, 2510},
+                     {"contact"_s, "8 800"_s},
+                     {"width"_s, 1080}, // where there is room for all
+                     {"height"_s, 1920},
+                     {"density"_s, 2.7}});
         for (QDBusReply<bool> more = callService("step"_s); more; more = callService("step"_s)) {
             QString expected;
             for (int line = 0; line < 3; ++line)
