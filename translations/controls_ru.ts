@@ -64,15 +64,11 @@
     </message>
     <message>
         <source>Stuck: %1, since %2</source>
-        <translation>Застряло: %1, с %2</translation>
+        <translation>Застряло: %1, с&#xa0;%2</translation>
     </message>
     <message>
         <source>On its way: %1, since %2</source>
-        <translation>В пути: %1, с %2</translation>
-    </message>
-    <message>
-        <source>As it was told last; there is no news.</source>
-        <translation>Последние известные данные; новых нет.</translation>
+        <translation>В пути: %1, с&#xa0;%2</translation>
     </message>
     <message>
         <source>device %1, thread %2</source>
@@ -81,6 +77,10 @@
     <message>
         <source>Inserted %1, rejected %2, returned %3</source>
         <translation>Внесено: %1, отклонено: %2, возвращено: %3</translation>
+    </message>
+    <message>
+        <source>As last reported; there is no news since.</source>
+        <translation>Последние известные данные; новых нет.</translation>
     </message>
 </context>
 <context>
@@ -120,15 +120,11 @@
     </message>
     <message>
         <source>This kiosk gives no change.</source>
-        <translation>Сдача не выдаётся.</translation>
+        <translation>Сдача не&#xa0;выдаётся.</translation>
     </message>
     <message>
         <source>Change is paid out.</source>
         <translation>Сдача выдаётся.</translation>
-    </message>
-    <message>
-        <source>What you pay too much stays on your account.</source>
-        <translation>Переплата остаётся на вашем счёте.</translation>
     </message>
     <message>
         <source>You have paid %1 too much.</source>
@@ -136,31 +132,27 @@
     </message>
     <message>
         <source>This kiosk gives no change. Please call the staff.</source>
-        <translation>Сдача не выдаётся. Позовите сотрудника.</translation>
+        <translation>Сдача не&#xa0;выдаётся. Позовите&#xa0;сотрудника.</translation>
     </message>
     <message>
         <source>Your change is paid out. Please take it.</source>
-        <translation>Сдача выдаётся. Заберите её.</translation>
+        <translation>Сдача выдаётся. Заберите&#xa0;её.</translation>
     </message>
     <message>
         <source>It stays on your account.</source>
-        <translation>Она остаётся на вашем счёте.</translation>
+        <translation>Она остаётся на&#xa0;вашем&#xa0;счёте.</translation>
     </message>
     <message>
         <source>Please ask the staff for your change.</source>
-        <translation>За сдачей обратитесь к сотруднику.</translation>
-    </message>
-    <message>
-        <source>Before a fault you had paid %1 more. It is missing in the sum now.</source>
-        <translation>До сбоя вы внесли ещё %1. Сейчас эти деньги не учтены в сумме.</translation>
+        <translation>За сдачей обратитесь к&#xa0;сотруднику.</translation>
     </message>
     <message>
         <source>It is recorded. Please call the staff.</source>
-        <translation>Запись о них сохранена. Позовите сотрудника.</translation>
+        <translation>Запись о них сохранена. Позовите&#xa0;сотрудника.</translation>
     </message>
     <message>
         <source>Please call the staff.</source>
-        <translation>Позовите сотрудника.</translation>
+        <translation>Позовите&#xa0;сотрудника.</translation>
     </message>
     <message>
         <source>Left to pay</source>
@@ -178,12 +170,20 @@
         <source>Paid: %1</source>
         <translation>Внесено: %1</translation>
     </message>
+    <message>
+        <source>What you overpay stays on your account.</source>
+        <translation>Переплата остаётся на&#xa0;вашем&#xa0;счёте.</translation>
+    </message>
+    <message>
+        <source>Before a fault you had paid %1 more. It is missing from the sum now.</source>
+        <translation>До сбоя вы внесли ещё %1. Сейчас эти деньги не&#xa0;учтены в&#xa0;сумме.</translation>
+    </message>
 </context>
 <context>
     <name>NoteBanner</name>
     <message>
         <source>Your money is still in the device. Please call the staff.</source>
-        <translation>Ваши деньги ещё в устройстве. Позовите сотрудника.</translation>
+        <translation>Ваши деньги ещё в&#xa0;устройстве. Позовите&#xa0;сотрудника.</translation>
     </message>
     <message>
         <source>No.&#xa0;%1</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>Really settled</source>
-        <translation>Точно решено</translation>
+        <translation>Да, решено</translation>
     </message>
     <message>
         <source>No</source>
@@ -222,11 +222,7 @@
     </message>
     <message>
         <source>It is stuck in the device.</source>
-        <translation>Деньги застряли в устройстве.</translation>
-    </message>
-    <message>
-        <source>Nobody says what became of it.</source>
-        <translation>Что стало с этими деньгами, неизвестно.</translation>
+        <translation>Деньги застряли в&#xa0;устройстве.</translation>
     </message>
     <message>
         <source>The service did not take it as settled.</source>
@@ -241,8 +237,12 @@
         </translation>
     </message>
     <message>
-        <source>The customer had paid so much before the service was lost, and it is missing in the sum.</source>
-        <translation>Столько клиент внёс до сбоя службы; в сумме этих денег нет.</translation>
+        <source>It is not known what became of it.</source>
+        <translation>Что стало с этими деньгами, неизвестно.</translation>
+    </message>
+    <message>
+        <source>The customer had paid this much before the service was lost; it is missing from the sum.</source>
+        <translation>Столько клиент внёс до сбоя службы; в&#xa0;сумме этих денег нет.</translation>
     </message>
 </context>
 <context>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>What you have paid is recorded. Please call the staff.</source>
-        <translation>Внесённая сумма записана. Позовите сотрудника.</translation>
+        <translation>Внесённая сумма записана. Позовите&#xa0;сотрудника.</translation>
     </message>
     <message>
         <source>Please use another kiosk.</source>
@@ -269,7 +269,7 @@
     </message>
     <message>
         <source>Paid. Thank you!</source>
-        <translation>Оплачено. Спасибо!</translation>
+        <translation>Оплата принята</translation>
     </message>
     <message>
         <source>This takes longer than usual.</source>
@@ -296,7 +296,7 @@
     </message>
     <message>
         <source>Wrong PIN. Wait %1 s.</source>
-        <translation>Неверный ПИН-код. Подождите %1 с.</translation>
+        <translation>Неверный ПИН-код. Подождите %1&#xa0;с.</translation>
     </message>
     <message>
         <source>Wrong PIN. Try again.</source>
@@ -331,7 +331,7 @@
     </message>
     <message>
         <source>%1 or more</source>
-        <translation>не меньше %1</translation>
+        <translation>не&#xa0;меньше&#xa0;%1</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -355,19 +355,19 @@
     </message>
     <message>
         <source>on</source>
-        <translation>включено</translation>
+        <translation>вкл.</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>выключено</translation>
+        <translation>выкл.</translation>
     </message>
     <message>
         <source>this is the default</source>
-        <translation>это встроенное значение</translation>
+        <translation>встроенное</translation>
     </message>
     <message>
         <source>default: %1</source>
-        <translation>встроенное: %1</translation>
+        <translation>встроенное:&#xa0;%1</translation>
     </message>
     <message>
         <source>nothing</source>
@@ -386,7 +386,7 @@
     </message>
     <message>
         <source>State of %1, %2 s old.</source>
-        <translation>Состояние на %1, %2 с назад.</translation>
+        <translation>Состояние на %1, %2&#xa0;с назад.</translation>
     </message>
 </context>
 </TS>
