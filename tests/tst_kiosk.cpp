@@ -278,8 +278,7 @@ private Q_SLOTS:
                     {{"price"_s, 2510},
                      {"contact"_s, "8 800"_s},
                      {"width"_s, 1080}, // where there is room for all
-                     {"height"_s, 1920},
-                     {"density"_s, 2.7}});
+                     {"height"_s, 1920}});
         for (QDBusReply<bool> more = callService("step"_s); more; more = callService("step"_s)) {
             QString expected;
             for (int line = 0; line < 3; ++line)
