@@ -253,11 +253,11 @@
     </message>
     <message>
         <source>Please call the staff before you leave. Insert no more money.</source>
-        <translation>Не вносите больше денег. Прежде чем уйти, позовите сотрудника.</translation>
+        <translation>Не вносите больше денег. Не уходите, позовите сотрудника.</translation>
     </message>
     <message>
         <source>Please call the staff before you leave.</source>
-        <translation>Прежде чем уйти, позовите сотрудника.</translation>
+        <translation>Не уходите, позовите сотрудника.</translation>
     </message>
     <message>
         <source>What you have paid is recorded. Please call the staff.</source>

@@ -863,11 +863,11 @@
     </message>
     <message>
         <source>Your note of %1 was returned. Please take it.</source>
-        <translation>Ваша купюра %1 возвращена. Заберите её.</translation>
+        <translation>Ваша купюра %1 возвращена. Заберите&#xa0;её.</translation>
     </message>
     <message>
         <source>Your coin of %1 was returned. Please take it.</source>
-        <translation>Ваша монета %1 возвращена. Заберите её.</translation>
+        <translation>Ваша монета %1 возвращена. Заберите&#xa0;её.</translation>
     </message>
     <message>
         <source>Notes are not accepted at the moment. It comes back to you.</source>
