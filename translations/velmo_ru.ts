@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Answers questions about the cash devices of a kiosk.</source>
-        <translation>Отвечает на вопросы о денежных устройствах киоска.</translation>
+        <translation>Отвечает на вопросы о денежных устройствах терминала.</translation>
     </message>
     <message>
         <source>no command given; velmo --help lists them</source>
