@@ -386,7 +386,7 @@ private Q_SLOTS:
         addRows(R"(
             none     | This kiosk gives no change. | You have paid 3,500 RUB too much. This kiosk gives no change. Please call the staff.
             paid     | Change is paid out.         | You have paid 3,500 RUB too much. Your change is paid out. Please take it.
-            credited | What you pay too much stays on your account. | You have paid 3,500 RUB too much. It stays on your account.)"_s);
+            credited | What you overpay stays on your account. | You have paid 3,500 RUB too much. It stays on your account.)"_s);
     }
 
     void changeIsTold()

@@ -33,6 +33,8 @@ Item {
                                  || service.sessionSum > 0 && !service.sumRecorded
 
     readonly property string advice: {
+        if (mode === "paid")
+            return service.hasStuckMoney ? qsTr("Please call the staff before you leave.") : "";
         if (mode !== "out" && mode !== "late")
             return "";
         return [mode === "late" ? qsTr("Please call the staff before you leave. Insert no more money.")
