@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -314,6 +315,39 @@ private Q_SLOTS:
         document.saveAs(m_folder.filePath("rescued.json"_s));
         QCOMPARE(contentOf(m_folder.filePath("rescued.json"_s)), document.text());
         QVERIFY(!document.isModified());
+    }
+
+    void addedLinesEndLikeTheOthers()
+    {
+        const QString content = QString::fromUtf8(contentOf(m_list)).replace("\n"_s, "\r\n"_s);
+        QVERIFY(!writeFile(m_list, content).isEmpty());
+        SettingsDocument document;
+        document.open(m_list);
+        document.addDevice("1"_s);
+        document.unset("acceptor_common/acceptAll"_s); // the first
+        document.set("acceptor_common/acceptAll"_s, "1"_s);
+        QVERIFY(document.text().count('\n') > content.count(QLatin1Char('\n')));
+        QCOMPARE(document.text().count("\r\n"), document.text().count('\n'));
+    }
+
+    // Nobody waits for the window because there are many devices.
+    void manyDevicesAreRenumberedAtOnce()
+    {
+        QString content = R"([{"group": "service", "key": "devices_count", "value": 150})"_s;
+        for (int i = 0; i < 150; ++i) {
+            for (const QString& key : {"device_id"_s, "device_name"_s, "x"_s, "y"_s, "z"_s}) {
+                content += R"(,
+                    {"group": "device%1/device", "key": "%2", "value": %1})"_s.arg(i).arg(key);
+            }
+        }
+        QVERIFY(!writeFile(m_list, content + "]"_s).isEmpty());
+        SettingsDocument document;
+        document.open(m_list);
+        QElapsedTimer time;
+        time.start();
+        document.removeDevice(0);
+        QVERIFY2(time.elapsed() < 4000, qPrintable(QString::number(time.elapsed())));
+        QCOMPARE(document.list().devices().size(), 149);
     }
 
     // The lines of both texts, each in its order, and no more of them than need be.
