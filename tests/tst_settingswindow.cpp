@@ -28,6 +28,7 @@
 #include <csignal>
 #include <functional>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -317,6 +318,24 @@ private Q_SLOTS:
         QVERIFY(!document.isModified());
     }
 
+    // What cannot be opened again is not written under another name, and what is no file is not
+    // waited for.
+    void opensAndWritesFilesOfSettingsOnly()
+    {
+        const QString content = R"([{"group": "acceptor_common", "key": "maxSumm", "value": 1}])"_s;
+        QVERIFY(!writeFile(m_list, content).isEmpty());
+        SettingsDocument document;
+        document.open(m_list);
+        document.unset("acceptor_common/maxSumm"_s);
+        const QString other = m_folder.filePath("emptied.json"_s);
+        QVERIFY_EXCEPTION_THROWN(document.saveAs(other), Fault);
+        QVERIFY(!QFile::exists(other));
+        QCOMPARE(document.fileName(), m_list);
+        const QString pipe = m_folder.filePath("pipe"_s);
+        QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+        QVERIFY_EXCEPTION_THROWN(document.open(pipe), Fault);
+    }
+
     void addedLinesEndLikeTheOthers()
     {
         const QString content = QString::fromUtf8(contentOf(m_list)).replace("\n"_s, "\r\n"_s);
@@ -562,6 +581,27 @@ private Q_SLOTS:
                          R"("acceptor_common", "key": "port_logging", "value": 1)");
         QCOMPARE(contentOf(m_list), expected);
         QVERIFY(!m_window->isWindowModified());
+    }
+
+    void otherFileIsShownAsItWillChange()
+    {
+        const QString other = m_folder.filePath("other.json"_s);
+        QVERIFY(!writeFile(other, "precious\n"_s).isEmpty());
+        inDialog([&other](QWidget& dialog) {
+            inDialog([](QWidget& overwrite) {
+                inDialog([](QWidget& diff) {
+                    const auto* const view = diff.findChild<QPlainTextEdit*>();
+                    QVERIFY2(view, "nothing is shown");
+                    QVERIFY(view->toPlainText().contains("precious"_s));
+                    press(diff, "Cancel"_s);
+                });
+                press(overwrite, "Yes"_s);
+            });
+            dialog.findChild<QLineEdit*>()->setText(other);
+            QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+        });
+        key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(contentOf(other), QByteArray("precious\n"));
     }
 
     void fileThatChangedIsReloadedWhenAsked()

@@ -202,13 +202,14 @@ bool SettingsWindow::write(const QString& fileName)
         m_document.requireSound();
         if (fileName == m_document.fileName())
             m_document.requireUnchanged();
-        if (m_document.isModified()) {
+        const QByteArray before = SettingsDocument::textOf(fileName);
+        if (before != m_document.text()) {
             QStringList warnings;
             for (const SettingsFinding& finding : m_document.newFindings()) {
                 warnings += QStringLiteral("%1: %2: %3")
                                 .arg(findingWord(finding.level), finding.path, finding.text);
             }
-            DiffDialog dialog(fileName, m_document.savedText(), m_document.text(), warnings, this);
+            DiffDialog dialog(fileName, before, m_document.text(), warnings, this);
             if (dialog.exec() != QDialog::Accepted)
                 return false;
         }
