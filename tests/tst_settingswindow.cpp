@@ -22,6 +22,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRandomGenerator>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QTimer>
 
@@ -491,6 +492,47 @@ private Q_SLOTS:
         QCOMPARE(m_window->document().text(), expected);
     }
 
+    // What no choice stands for is shown as it is, and looking at it changes nothing.
+    void cellsOfUnknownKindsStay_data()
+    {
+        addRows(R"(
+            "bill_type\":7        | 7
+            "bill_type\":\"abc\" | abc
+            "type\":1             |)"_s);
+    }
+
+    void cellsOfUnknownKindsStay()
+    {
+        const auto [kind, shown] = cells<2>();
+        const QString content = QString::fromUtf8(contentOf(m_list));
+        const QString changed = QString(content).replace(R"("bill_type\":1)"_s, kind);
+        QVERIFY(changed != content && !writeFile(m_list, changed).isEmpty());
+        m_window->open(m_list);
+        auto* const routes = control<QTableWidget>("dispenser/route_map"_s);
+        auto* const styled = qobject_cast<QStyledItemDelegate*>(routes->itemDelegateForColumn(2));
+        QCOMPARE(styled->displayText(routes->item(3, 2)->text(), {}), shown);
+        routes->setFocus();
+        routes->setCurrentCell(3, 2);
+        routes->editItem(routes->item(3, 2));
+        QVERIFY(qobject_cast<QComboBox*>(QApplication::focusWidget()));
+        key(Qt::Key_Tab);
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void longTextsStayWhole()
+    {
+        const QString name = QString(40000, QLatin1Char('x')) + "end"_s;
+        const QString content = QString::fromUtf8(contentOf(m_list));
+        QVERIFY(!writeFile(m_list, QString(content).replace("Bill validator"_s, name)).isEmpty());
+        m_window->open(m_list);
+        choosePage(1);
+        auto* const line = control<QLineEdit>("device0/device/device_name"_s);
+        line->setFocus();
+        QTest::keyClick(line, Qt::Key_Home);
+        QTest::keyClick(line, Qt::Key_Delete);
+        QVERIFY(m_window->document().text().contains("xend"));
+    }
+
     void searchGoesToTheSetting_data()
     {
         addRows(R"(
@@ -538,6 +580,24 @@ private Q_SLOTS:
         QTest::mouseClick(findings()->viewport(), Qt::LeftButton, {},
                           findings()->visualItemRect(findings()->item(0)).center());
         QVERIFY(control<QLineEdit>("device4/hw_interface/portname"_s)->hasFocus());
+    }
+
+    // The one behind it has its place, and its values, also in the field where one types.
+    void removalWhileTypingShowsTheNextDevice()
+    {
+        choosePage(2);
+        const QString path = "device1/device/device_name"_s;
+        control<QLineEdit>(path)->setFocus();
+        QTest::keyClicks(control<QLineEdit>(path), "typed"_s);
+        action("Remove"_s)->trigger();
+        QCOMPARE(control<QLineEdit>(path)->text(), "Coin acceptor"_s);
+    }
+
+    // Names are no markup that has pictures fetched.
+    void toolTipsShowNamesAsTheyAre()
+    {
+        m_window->document().set("device0/device/device_name"_s, "<img src='x'>"_s);
+        QVERIFY(!pages()->item(1)->toolTip().contains("<img"_s));
     }
 
     // What a model has no use for goes with it, and its field with that.

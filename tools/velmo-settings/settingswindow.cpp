@@ -281,6 +281,7 @@ void SettingsWindow::addDevice()
 void SettingsWindow::removeDevice()
 {
     const std::optional<int> device = m_page->device();
+    m_page->endEditing();
     if (device)
         attempt([&] { m_document.removeDevice(*device); });
 }
