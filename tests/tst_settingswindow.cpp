@@ -22,6 +22,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRandomGenerator>
+#include <QScreen>
 #include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QTimer>
@@ -629,6 +630,7 @@ private Q_SLOTS:
             return dialog.findChild<QPlainTextEdit*>()->toPlainText();
         };
         inDialog([&](QWidget& dialog) {
+            QVERIFY(dialog.width() <= dialog.screen()->availableSize().width());
             QCOMPARE(shown(dialog).count(R"("port_logging", "value": 0})"_s), 1);
             QCOMPARE(shown(dialog).count(R"("port_logging", "value": 1})"_s), 1);
             press(dialog, "Cancel"_s);
@@ -675,6 +677,7 @@ private Q_SLOTS:
                 const auto* const box = qobject_cast<QMessageBox*>(&dialog);
                 QVERIFY2(box, "the lines are shown in vain");
                 QVERIFY(box->text().contains("changed meanwhile"_s));
+                QVERIFY(!box->defaultButton()->text().contains("Reload"_s)); // loses changes
                 press(dialog, button);
             });
             key(Qt::Key_S, Qt::ControlModifier);

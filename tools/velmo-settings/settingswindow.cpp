@@ -227,10 +227,10 @@ bool SettingsWindow::write(const QString& fileName)
 
 bool SettingsWindow::resolveChange(const QString& message)
 {
-    enum Answer { Reload, SaveAs };
+    enum Answer { SaveAs, Reload }; // the first is what Return gives: it loses nothing
     const int answer = ask(message + QLatin1Char('\n')
                                + Velmo::tr("Reloading drops the changes that were made here."),
-                           {Velmo::tr("&Reload"), Velmo::tr("Save &as..."), Velmo::tr("&Cancel")});
+                           {Velmo::tr("Save &as..."), Velmo::tr("&Reload"), Velmo::tr("&Cancel")});
     if (answer == Reload)
         attempt([this] { open(m_document.fileName()); });
     return answer == SaveAs && saveAs();
