@@ -358,7 +358,8 @@ private Q_SLOTS:
         for (int i = 0; i < 150; ++i) {
             for (const QString& key : {"device_id"_s, "device_name"_s, "x"_s, "y"_s, "z"_s}) {
                 content += R"(,
-                    {"group": "device%1/device", "key": "%2", "value": %1})"_s.arg(i).arg(key);
+                    {"group": "device%1/device", "key": "%2", "value": %1})"_s.arg(i)
+                               .arg(key);
             }
         }
         QVERIFY(!writeFile(m_list, content + "]"_s).isEmpty());
