@@ -51,7 +51,7 @@ TestCase {
             const [id, name, value, ...words] = part.split(" ");
             if (name === undefined)
                 continue;
-            const before = devices[id];
+            const before = devices[id] || {};
             const has = word => words.includes(word);
             const after = {device_id: Number(id), thread_id: id === "1" ? 1 : 2, enabled: true, state: name,
                            current_note: Number(value || 0), session_sum: before.session_sum || 0,
@@ -350,6 +350,12 @@ TestCase {
             {tag: "lost in part", steps: [paid, "lost", "1 idling 0 session_sum=1000", "back"], lost: 510},
             {tag: "cannot be read", steps: [paid, "unreadable", empty], lost: 1510},
             {tag: "a state that comes late", steps: [paid, "lost", paid, empty, "back"], lost: 1510},
+            {tag: "device gone", steps: [paid, "1 idling 0 gone"], lost: 1510},
+            {tag: "device gone with a part", steps: [paid + "; 100 idling 0 session_sum=10", "100 idling 0 gone"], lost: 10},
+            {tag: "device gone, session over", steps: [paid, empty, "1 idling 0 gone"], lost: 0},
+            {tag: "device gone after the payment", price: 1510, steps: [paid, "1 idling 0 gone"], lost: 0},
+            {tag: "device comes back with it", steps: [paid, "1 idling 0 gone", paid], lost: 0},
+            {tag: "device has another number", steps: [paid, "1 idling 0 gone; 7 idling 0 session_sum=1510"], lost: 0},
             {tag: "sum comes back", steps: [paid, "lost", empty, "back", paid], lost: 0},
             {tag: "other money", lost: 1510,
              steps: [paid, "lost", empty, "back", "1 accepting 2000", "1 accepted 2000 session_sum=2000", "1 stacked",
