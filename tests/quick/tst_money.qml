@@ -341,6 +341,18 @@ TestCase {
         compare(state.openNotes.get(0).amountText, state.moneyText(row.value));
     }
 
+    function test_sumsAreWhole_data() {
+        return [[2147483648, 2147483648], [-2147483649, -2147483649], [9007199254740991, 9007199254740991],
+                [9007199254740992, 0], [10.5, 0], ["1510", 0], [true, 0]
+               ].map(([value, sum]) => ({tag: JSON.stringify(value), value: value, sum: sum}));
+    }
+
+    function test_sumsAreWhole(row) {
+        const state = make();
+        state.text = JSON.stringify({device_states: [{device_id: 1, thread_id: 1, session_sum: row.value}]});
+        compare(state.sessionSum, row.sum);
+    }
+
     function test_sumThatFellAfterALossIsTold_data() {
         const paid = "1 idling 0 session_sum=1510", empty = "1 idling 0 session_sum=0";
         return [
