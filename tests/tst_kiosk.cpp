@@ -368,6 +368,21 @@ private Q_SLOTS:
         QCOMPARE(kiosk.warnings(), QStringList());
     }
 
+    // The screen starts within a payment, which then ends.
+    void sumOfASessionThatEndsIsNotMissing()
+    {
+        write("session.jsonl"_s,
+              R"({"session":"start","device_id":1,"thread_id":1,"online":true,"enabled":true,"state":"idling","session_sum":100}
+{"session":"start","session_sum":0})");
+        startService(m_folder.path(), "session"_s);
+        step(1);
+        Kiosk kiosk(m_language, {{"price"_s, 2510}});
+        QTRY_COMPARE_WITH_TIMEOUT(kiosk.text("sum"_s), "Paid: 100 of 2,510"_s, longest);
+        step(1);
+        QTRY_COMPARE_WITH_TIMEOUT(kiosk.text("sum"_s), "Paid: 0 of 2,510"_s, longest);
+        QCOMPARE(kiosk.text("lostSum"_s), QString());
+    }
+
     void stoppedServiceInvitesNobody()
     {
         startService("samples"_s, "plain-payment"_s);
