@@ -32,8 +32,11 @@ Item {
     readonly property bool owes: service.hasStuckMoney || service.openNotes.count > 0
                                  || service.sessionSum > 0 && !service.sumRecorded
 
+    // Whether nobody can say any more that what is paid was heard of.
+    readonly property bool unheard: mode === "paid" && owes && (!service.available || service.stale)
+
     readonly property string advice: {
-        if (mode !== "out" && mode !== "late")
+        if (mode !== "out" && mode !== "late" && !unheard)
             return "";
         return [mode === "late" ? qsTr("Please call the staff before you leave. Insert no more money.")
                 : owes ? qsTr("Please call the staff before you leave.")
