@@ -33,10 +33,12 @@ Item {
                                  || service.sessionSum > 0 && !service.sumRecorded
 
     // Whether nobody can say any more that what is paid was heard of.
-    readonly property bool unheard: mode === "paid" && owes && (!service.available || service.stale)
+    readonly property bool unheard: owes && (!service.available || service.stale)
 
     readonly property string advice: {
-        if (mode !== "out" && mode !== "late" && !unheard)
+        if (mode === "paid")
+            return service.hasStuckMoney || unheard ? qsTr("Please call the staff before you leave.") : "";
+        if (mode !== "out" && mode !== "late")
             return "";
         return [mode === "late" ? qsTr("Please call the staff before you leave. Insert no more money.")
                 : owes ? qsTr("Please call the staff before you leave.")
