@@ -364,8 +364,9 @@ private Q_SLOTS:
     // The screen starts within a payment, which then ends.
     void sumOfASessionThatEndsIsNotMissing()
     {
-        write("session.jsonl"_s,
-              R"({"session":"start","device_id":1,"thread_id":1,"online":true,"enabled":true,"state":"idling","session_sum":100}
+        write(
+            "session.jsonl"_s,
+            R"({"session":"start","device_id":1,"thread_id":1,"online":true,"enabled":true,"state":"idling","session_sum":100}
 {"session":"start","session_sum":0})");
         startService(m_folder.path(), "session"_s);
         step(1);
@@ -412,7 +413,8 @@ private Q_SLOTS:
             R"({"session":"start","device_id":1,"thread_id":1,"online":true,"enabled":true,"state":"idling"}
 {"state":"accepting","current_note":6010}
 {"state":"stacked","session_sum":6010})");
-        startService(m_folder.path(), "overpaid"_s, {"--money"_s, "RUB:0"_s, "--change"_s, mode}, false);
+        startService(m_folder.path(), "overpaid"_s, {"--money"_s, "RUB:0"_s, "--change"_s, mode},
+                     false);
         Kiosk kiosk(m_language, {{"price"_s, 2510}});
         step(1);
         QTRY_COMPARE_WITH_TIMEOUT(kiosk.text("changeRule"_s), before, longest);
@@ -420,9 +422,11 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(kiosk.text("headline"_s), "Paid. Thank you!"_s, longest);
         QCOMPARE(kiosk.text("change"_s), after);
         m_service.kill(); // it promises nothing any more
-        QTRY_VERIFY_WITH_TIMEOUT(kiosk.text("outOfService"_s).startsWith("Please call the staff before you leave."_s),
-                                 longest);
-        QCOMPARE(kiosk.text("change"_s), "You have paid 3,500 RUB too much. "_s
+        QTRY_VERIFY_WITH_TIMEOUT(
+            kiosk.text("outOfService"_s).startsWith("Please call the staff before you leave."_s),
+            longest);
+        QCOMPARE(kiosk.text("change"_s),
+                 "You have paid 3,500 RUB too much. "_s
                      + (mode == "none"_s ? "This kiosk gives no change. Please call the staff."_s
                                          : "Please ask the staff for your change."_s));
     }

@@ -9,8 +9,8 @@
 
 #include <utility>
 
-/// What is paid, over losses of the service and of devices: what was told as paid before one and is not in the sum
-/// that came back is lost, until the service has it again or the staff settles it.
+/// What is paid, over losses of the service and of devices: what was told as paid before one and is
+/// not in the sum that came back is lost, until the service has it again or the staff settles it.
 class SumWatch
 {
 public:
