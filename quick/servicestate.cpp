@@ -78,13 +78,15 @@ void ServiceState::read()
         return lose();
     }
     makePlain(m_state);
+    const bool wasComplete = isComplete();
     m_money = m_state.money;
     const std::vector<NoteWatch::Note> events = m_notes.take(
         m_state, m_timestamp.isValid() ? m_timestamp : QDateTime::currentDateTimeUtc());
     const std::vector<NoteWatch::Note> open = m_notes.open();
-    m_sums.take(m_state, events, std::any_of(open.begin(), open.end(), [](const auto& note) {
-                    return note.outcome == NoteWatch::Checked;
-                }));
+    const bool isBusy = std::any_of(open.begin(), open.end(), [](const auto& note) {
+        return note.outcome == NoteWatch::Checked;
+    });
+    m_sums.take(m_state, events, isBusy, wasComplete);
     if (!m_available)
         lose(); // a state that came late
     const QMap<int, QString> names = givenNames();

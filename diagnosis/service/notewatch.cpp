@@ -4,6 +4,7 @@
 #include "service/notewatch.h"
 
 #include "devicestatesconst.h"
+#include "text/devicename.h"
 
 #include <QSet>
 
@@ -73,6 +74,8 @@ std::vector<NoteWatch::Note> NoteWatch::take(const PublishedState& state, const 
     ++m_turn;
     QMap<std::pair<int, int>, int> twins;
     for (const PublishedDevice& device : state.devices) {
+        if (moneyOf(device.deviceId()) == Money::Card)
+            continue; // it has no piece of money in its hand
         const std::pair<int, int> key(device.deviceId(), device.threadId());
         Track& track = m_tracks[Key(key.first, key.second, twins[key]++)];
         track.turn = m_turn;
@@ -95,7 +98,7 @@ std::vector<NoteWatch::Note> NoteWatch::take(const PublishedState& state, const 
 void NoteWatch::follow(const PublishedDevice& device, Track& track, const QVariantList& refusals)
 {
     const QString name = device.state();
-    const qint32 note = device.currentNote;
+    const qint64 note = device.currentNote;
     const bool isNew = track.state != name || (name == DS_ACCEPTING && track.note != note);
     // Otherwise it has come to know what the piece in its hand is worth.
     const bool isAnother = track.state != name || track.isAway || !find(track.hand);
@@ -204,10 +207,10 @@ void NoteWatch::rest(const PublishedDevice& device, Track& track)
     Outcome outcome = None;
     if (piece.value > 0 && now.sum - track.start.sum >= piece.value)
         outcome = Taken;
-    else if (!isUnsure && track.phase == In)
-        outcome = Taken;
     else if (now.returned > track.start.returned)
         outcome = Returned;
+    else if (!isUnsure && track.phase == In)
+        outcome = Taken;
     else if (now.rejected > track.start.rejected)
         outcome = Rejected;
 

@@ -6,8 +6,19 @@
 #include "text/devicename.h"
 
 void SumWatch::take(const PublishedState& state, const std::vector<NoteWatch::Note>& notes,
-                    bool isBusy)
+                    bool isBusy, bool wasComplete)
 {
+    QSet<std::pair<int, int>> known;
+    QSet<std::pair<int, int>> paid;
+    for (const PublishedDevice& device : state.devices) {
+        const std::pair<int, int> key(device.deviceId(), device.threadId());
+        known.insert(key);
+        if (device.sessionSum != 0)
+            paid.insert(key);
+    }
+    if (!known.contains(std::exchange(m_devices, paid)))
+        lose(wasComplete); // a device took its part of the sum away
+
     const qint64 cardSumBefore = m_cardSum;
     m_sum = state.sessionSum();
     m_cardSum = 0;

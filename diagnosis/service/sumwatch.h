@@ -5,14 +5,20 @@
 
 #include "service/notewatch.h"
 
-/// What is paid, over losses of the service: what was told as paid before one and is not in the sum
-/// that came back is lost, until the service has it again or the staff settles it.
+#include <QSet>
+
+#include <utility>
+
+/// What is paid, over losses of the service and of devices: what was told as paid before one and is
+/// not in the sum that came back is lost, until the service has it again or the staff settles it.
 class SumWatch
 {
 public:
     /// @param notes what became of pieces with that state
     /// @param isBusy whether some piece is in a device's hand
-    void take(const PublishedState& state, const std::vector<NoteWatch::Note>& notes, bool isBusy);
+    /// @param wasComplete as in lose(), before that state: devices may be lost with it
+    void take(const PublishedState& state, const std::vector<NoteWatch::Note>& notes, bool isBusy,
+              bool wasComplete);
 
     /// The service cannot be heard any more.
     /// @param isComplete whether what is paid was enough; then nobody misses it
@@ -27,6 +33,7 @@ public:
 
 private:
     qint64 m_sum = 0;
+    QSet<std::pair<int, int>> m_devices; // model and thread of those that have a part in it
     qint64 m_cardSum = 0; // of that, paid by card
     qint64 m_recorded = 0;
     bool m_isAway = false;

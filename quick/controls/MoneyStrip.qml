@@ -26,11 +26,14 @@ Rectangle {
         : ({"none": qsTr("This kiosk gives no change."), "paid": qsTr("Change is paid out."),
             "credited": qsTr("What you overpay stays on your account.")})[service.changeMode] || ""
 
+    // What a service that is lost would do with it, nobody can promise.
+    readonly property bool away: !service.available || service.stale
+
     readonly property string changeText: service.change <= 0 ? ""
         : qsTr("You have paid %1 too much.").arg(strip.money(service.change)) + " "
           + (({"none": qsTr("This kiosk gives no change. Please call the staff."),
                "paid": qsTr("Your change is paid out. Please take it."),
-               "credited": qsTr("It stays on your account.")})[service.changeMode]
+               "credited": qsTr("It stays on your account.")})[away && service.changeMode !== "none" ? "" : service.changeMode]
              || qsTr("Please ask the staff for your change."))
 
     readonly property string lostText: service.lostSum <= 0 ? ""

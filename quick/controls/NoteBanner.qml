@@ -17,7 +17,7 @@ Column {
     /// For how many seconds the end of a piece is told.
     property int freshSeconds: 15
 
-    /// How many open pieces are shown at most; the others are counted.
+    /// How many open pieces are shown at most, the newest ones; the others are counted.
     property int limit: 3
 
     // Nobody checks anything then: what is in a device's hand stays there.
@@ -43,13 +43,13 @@ Column {
             id: note
             required property int index
             required property var model
-            active: index < banner.limit
+            active: index >= open.count - banner.limit // the customer's own is among the newest
             visible: active
             width: banner.width
             sourceComponent: Notice {
                 readonly property var model: note.model
                 readonly property bool inHand: !banner.away && model.outcome === ServiceState.NoteChecked
-                readonly property bool isLast: note.index === Math.min(open.count, banner.limit) - 1
+                readonly property bool isLast: note.index === open.count - 1
                 // While the row goes it has no text.
                 readonly property string told: model.text || ""
                 objectName: "openNote"

@@ -87,8 +87,8 @@ void AcceptorService::keep(SimulatedDevice& device)
     report.insert(timeKey, now());
     if (device.pieceEnd() == SimulatedDevice::Piece::Stuck)
         report.insert(QStringLiteral("incident"), m_incidents.open(report));
-    if (write(report))
-        m_recorded[&device] = device.sessionSum();
+    // What was written before may be of another session.
+    m_recorded[&device] = write(report) ? device.sessionSum() : 0;
     if (device.pieceEnd() == SimulatedDevice::Piece::Ended)
         settle(m_incidents.openOf(report));
 }
