@@ -86,6 +86,20 @@ int severityOf(const PublishedDevice& device)
     return severity;
 }
 
+// In words for the staff.
+QString openText(const NoteWatch::Note& note, const MoneyFormat& format)
+{
+    const bool isStuck = note.outcome == NoteWatch::Stuck;
+    if (note.value == 0) {
+        return isStuck ? Diagnosis::tr("Money of a customer is stuck.")
+                       : Diagnosis::tr("It is not known what became of a customer's money.");
+    }
+    const QString text = isStuck
+        ? Diagnosis::tr("Money of a customer is stuck: %1.")
+        : Diagnosis::tr("It is not known what became of a customer's money: %1.");
+    return text.arg(format.of(note.currency).text(note.value));
+}
+
 } // namespace
 
 DeviceRows::DeviceRows(QObject* parent)
@@ -151,7 +165,7 @@ QVector<RowModel::Row> faultRows(const PublishedState& state, const QMap<int, QS
     for (const NoteWatch::Note& note : open) {
         if (note.outcome != NoteWatch::Checked)
             add(QString::number(note.id), note.device, note.thread, QStringLiteral("money"),
-                NoteWatch::text(note, format));
+                openText(note, format));
     }
     int place = 0;
     for (const PublishedDevice& device : state.devices) {

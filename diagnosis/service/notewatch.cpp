@@ -250,7 +250,7 @@ void NoteWatch::tell(Note& piece, Outcome outcome)
 {
     if (!piece.incident.isEmpty() && outcome != Stuck)
         return; // the service says when it is settled
-    const bool isSaid = piece.value > 0 || outcome == Stuck || outcome == Rejected;
+    const bool isSaid = piece.value > 0 || isLostSight(outcome) || outcome == Rejected;
     if (!isSaid && piece.isOpen())
         forget(piece);
     if (!isSaid)
@@ -306,8 +306,8 @@ NoteWatch::Note* NoteWatch::pieceOf(const Incident& incident)
         return piece.incident.isEmpty() && piece.device == incident.device
             && piece.thread == incident.thread && piece.isOpen()
             && isLostSight(piece.outcome) == isFailed
-            && (piece.value == incident.denomination || piece.value == 0
-                || incident.denomination == 0);
+            && (piece.value == incident.denomination
+                || (isFailed && (piece.value == 0 || incident.denomination == 0)));
     };
     for (const bool isFailed : {true, false}) {
         const auto found = std::find_if(m_pieces.begin(), m_pieces.end(), [&](const Note& piece) {
@@ -321,8 +321,12 @@ NoteWatch::Note* NoteWatch::pieceOf(const Incident& incident)
 
 void NoteWatch::lose()
 {
-    for (Track& track : m_tracks)
-        track.isAway = find(track.hand) != nullptr;
+    for (Track& track : m_tracks) {
+        Note* const piece = find(track.hand);
+        track.isAway = piece != nullptr;
+        if (piece && piece->outcome == None)
+            piece->outcome = Checked; // it is inside, whatever it is worth
+    }
 }
 
 QString NoteWatch::settle(quint64 id)

@@ -113,7 +113,7 @@ void readMoney(PublishedState& state, const QVariant& published)
                               QStringLiteral("credited")};
     state.money = {currencyOf(map.value(QStringLiteral("currency"))),
                    digits >= 0 && digits <= mostDigits ? int(digits) : 0,
-                   wholeNumber(map.value(QStringLiteral("recorded"))).value_or(0),
+                   wholeNumber(map.value(QStringLiteral("recorded"))),
                    changes.contains(change) ? change : QString()};
 }
 

@@ -36,7 +36,7 @@ void SumWatch::take(const PublishedState& state, const std::vector<NoteWatch::No
     }
     m_isAway = false;
     // A piece may be in the sum before the device says that it is taken.
-    if (m_sum >= m_whole && !isBusy)
+    if (m_sum == m_whole && !isBusy)
         m_lost = 0;
 }
 
@@ -45,8 +45,8 @@ void SumWatch::lose(bool isComplete)
     if (m_isAway)
         return;
     m_isAway = true;
-    m_before = isComplete ? 0 : m_sum;
     m_isBeforeRecorded = isRecorded();
+    m_before = isComplete && (m_isBeforeRecorded || !m_recorded) ? 0 : m_sum;
 }
 
 void SumWatch::settle()

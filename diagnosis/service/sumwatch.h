@@ -7,6 +7,7 @@
 
 #include <QSet>
 
+#include <optional>
 #include <utility>
 
 /// What is paid, over losses of the service and of devices: what was told as paid before one and is
@@ -21,13 +22,14 @@ public:
               bool wasComplete);
 
     /// The service cannot be heard any more.
-    /// @param isComplete whether what is paid was enough; then nobody misses it
+    /// @param isComplete whether what is paid was enough; then nobody misses it, unless the service
+    /// had not recorded it yet
     void lose(bool isComplete);
 
     void settle();
 
     qint64 sum() const { return m_sum; } ///< as it was told last
-    bool isRecorded() const { return m_recorded >= m_sum && m_sum > 0; }
+    bool isRecorded() const { return m_recorded.value_or(0) >= m_sum && m_sum > 0; }
     qint64 lost() const { return m_lost; }
     bool isLostRecorded() const { return m_lost > 0 && m_isLostRecorded; }
 
@@ -35,11 +37,11 @@ private:
     qint64 m_sum = 0;
     QSet<std::pair<int, int>> m_devices; // model and thread of those that have a part in it
     qint64 m_cardSum = 0; // of that, paid by card
-    qint64 m_recorded = 0;
+    std::optional<qint64> m_recorded; // as the service says it
     bool m_isAway = false;
     qint64 m_before = 0; // this and the following of the loss that goes on
     bool m_isBeforeRecorded = false;
     qint64 m_lost = 0;
     bool m_isLostRecorded = false;
-    qint64 m_whole = 0; // with what was paid since then, the sum that has it again
+    qint64 m_whole = 0; // with what was paid since then, just the sum that has it again
 };

@@ -136,7 +136,9 @@ TestCase {
              events: "checked 1000, taken 1000"},
             {tag: "another one after a loss", steps: ["1 accepting 1000", "lost", "1 accepting 100"], open: "lost 1000, checked 100",
              events: "checked 1000, lost 1000, checked 100"},
-            {tag: "nobody knows what it was", steps: ["1 accepting 0", "lost", "1 idling", "back"], events: ""},
+            {tag: "nobody knows what it was", steps: ["1 accepting 0", "lost", "1 idling", "back"], events: "lost 0", open: "lost 0"},
+            {tag: "known after a loss", steps: ["1 accepting 0", "lost", "back", "1 accepting 500", "1 stacked 500"],
+             events: "checked 500, taken 500"},
             {tag: "offline, but goes on", steps: ["1 accepting 1000 offline", "1 stacking 1000", "1 stacked"],
              events: "checked 1000, lost 1000, checked 1000, taken 1000"},
             {tag: "gone after it was returned", steps: ["1 accepting 1000", "1 returned 1000", "1 idling 0 gone", "1 idling"],
@@ -252,6 +254,14 @@ TestCase {
         compare(open(state).split(", ").sort(), ["stuck 1000", "stuck 1000 0418-1", "stuck 1000 2", "stuck 5 3"]);
     }
 
+    function test_incidentOfUnknownValueIsNotWhatIsInHand() {
+        const state = make();
+        step(state, "");
+        more = {incidents: [incident({denomination: null})]};
+        step(state, "1 accepting 1000");
+        compare(open(state).split(", ").sort().join(), "checked 1000,stuck 0 0418-1");
+    }
+
     function test_noteThatIsLostWithTheSumIsTold() {
         const state = make();
         for (const text of ["1 idling 0 session_sum=10", "1 accepting 1000", "lost", "1 idling 0 session_sum=0", "back"])
@@ -361,6 +371,8 @@ TestCase {
             {tag: "recorded", recorded: 1510, steps: [paid, "lost", empty, "back"], lost: 1510, isRecorded: true},
             {tag: "recorded in part", recorded: 1500, steps: [paid, "lost", empty, "back"], lost: 1510},
             {tag: "payment complete", price: 1510, steps: [paid, "lost", empty, "back"], lost: 0},
+            {tag: "payment complete and recorded", price: 1510, recorded: 1510, steps: [paid, "lost", empty, "back"], lost: 0},
+            {tag: "payment complete, not recorded", price: 1510, recorded: 1500, steps: [paid, "lost", empty, "back"], lost: 1510},
             {tag: "payment not complete", price: 1511, steps: [paid, "lost", empty, "back"], lost: 1510},
             {tag: "lost in part", steps: [paid, "lost", "1 idling 0 session_sum=1000", "back"], lost: 510},
             {tag: "cannot be read", steps: [paid, "unreadable", empty], lost: 1510},
@@ -375,6 +387,8 @@ TestCase {
             {tag: "other money", lost: 1510,
              steps: [paid, "lost", empty, "back", "1 accepting 2000", "1 accepted 2000 session_sum=2000", "1 stacked",
                      "1 idling 0 session_sum=2000", "1 idling 0 session_sum=0"]},
+            {tag: "other money without a word", lost: 1510,
+             steps: [paid, "lost", empty, "back", "1 idling 0 session_sum=1000", "1 idling 0 session_sum=2000"]},
             {tag: "sum comes back beside other money", lost: 0,
              steps: [paid, "lost", empty, "back", "1 accepting 100", "1 stacked 100 session_sum=100", "1 idling 0 session_sum=1610"]},
             {tag: "twice", lost: 1610,

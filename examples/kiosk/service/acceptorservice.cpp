@@ -143,7 +143,8 @@ void AcceptorService::publish()
     QVariantMap published = AcceptorState::stateMap(devices);
     published.insert(QStringLiteral("refusals"), refusals);
     published.insert(QStringLiteral("content"), m_content.toList());
-    published.insert(QStringLiteral("incidents"), incidents());
+    if (m_record.isOpen()) // which has their numbers
+        published.insert(QStringLiteral("incidents"), incidents());
     published.insert(QStringLiteral("money"), money());
     const QJsonDocument document(QJsonObject::fromVariantMap(published));
     const QString state = QString::fromUtf8(document.toJson(QJsonDocument::Compact));
