@@ -1864,11 +1864,11 @@
     </message>
     <message>
         <source>Checking your note...</source>
-        <translation>Проверяем купюру...</translation>
+        <translation>Проверяется ваша купюра...</translation>
     </message>
     <message>
         <source>Checking your coin...</source>
-        <translation>Проверяем монету...</translation>
+        <translation>Проверяется ваша монета...</translation>
     </message>
     <message>
         <source>It is not known what became of your note. Please call the staff.</source>

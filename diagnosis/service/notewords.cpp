@@ -55,13 +55,14 @@ Words wordsWithoutValue(NoteWatch::Outcome outcome)
     case NoteWatch::Stuck:
         return {QT_TRANSLATE_NOOP("Diagnosis",
                                   "The device failed with your note in it. Please call the staff."),
-                QT_TRANSLATE_NOOP("Diagnosis",
-                                  "The device failed with your coin in it. Please call the staff.")};
+                QT_TRANSLATE_NOOP(
+                    "Diagnosis", "The device failed with your coin in it. Please call the staff.")};
     case NoteWatch::Lost:
-        return {QT_TRANSLATE_NOOP("Diagnosis",
-                                  "It is not known what became of your note. Please call the staff."),
-                QT_TRANSLATE_NOOP("Diagnosis",
-                                  "It is not known what became of your coin. Please call the staff.")};
+        return {
+            QT_TRANSLATE_NOOP("Diagnosis",
+                              "It is not known what became of your note. Please call the staff."),
+            QT_TRANSLATE_NOOP("Diagnosis",
+                              "It is not known what became of your coin. Please call the staff.")};
     default:
         return outcomes[outcome];
     }
