@@ -354,8 +354,8 @@ private Q_SLOTS:
     // Nobody waits for the window because there are many devices.
     void manyDevicesAreRenumberedAtOnce()
     {
-        QString content = R"([{"group": "service", "key": "devices_count", "value": 150})"_s;
-        for (int i = 0; i < 150; ++i) {
+        QString content = R"([{"group": "service", "key": "devices_count", "value": 100})"_s;
+        for (int i = 0; i < 100; ++i) {
             for (const QString& key : {"device_id"_s, "device_name"_s, "x"_s, "y"_s, "z"_s}) {
                 content += R"(,
                     {"group": "device%1/device", "key": "%2", "value": %1})"_s.arg(i)
@@ -364,12 +364,14 @@ private Q_SLOTS:
         }
         QVERIFY(!writeFile(m_list, content + "]"_s).isEmpty());
         SettingsDocument document;
-        document.open(m_list);
-        QElapsedTimer time;
+        QElapsedTimer time; // in times that it takes to open the list: whatever the machine is
         time.start();
+        document.open(m_list);
+        const double opening = double(time.restart());
         document.removeDevice(0);
-        QVERIFY2(time.elapsed() < 4000, qPrintable(QString::number(time.elapsed())));
-        QCOMPARE(document.list().devices().size(), 149);
+        const double times = double(time.elapsed()) / qMax(1., opening);
+        QVERIFY2(times < 10, qPrintable(QString::number(times)));
+        QCOMPARE(document.list().devices().size(), 99);
     }
 
     // The lines of both texts, each in its order, and no more of them than need be.
