@@ -100,8 +100,9 @@ class ServiceState : public QObject
     Q_PROPERTY(bool sumRecorded READ isSumRecorded NOTIFY sumRecordedChanged)
 
     /// What was told as paid before the service was lost and is not in the sum that came back; 0
-    /// for nothing, and where the price was paid before. It stays until the sum is back, or
-    /// settleLoss(). lostSumRecorded: whether the service had confirmed it as stored.
+    /// for nothing, and where the price was paid before and the service had not said that it had
+    /// stored less. It stays until the sum is back, or settleLoss(). lostSumRecorded: whether the
+    /// service had confirmed it as stored.
     Q_PROPERTY(double lostSum READ lostSum NOTIFY lostSumChanged)
     Q_PROPERTY(bool lostSumRecorded READ isLostSumRecorded NOTIFY lostSumRecordedChanged)
 
