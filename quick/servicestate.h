@@ -222,6 +222,7 @@ Q_SIGNALS:
     /// What became of a note or coin, of each and at once, also when two are alike.
     /// @param outcome a NoteOutcome
     /// @param value 0 when it is not known
+    /// @param currency its code; empty when it is not known
     /// @param device its display name
     /// @param text in words for the customer
     void noteEvent(int outcome, double value, const QString& currency, const QString& device,
