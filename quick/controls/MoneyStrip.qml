@@ -32,7 +32,7 @@ Rectangle {
     readonly property string changeText: service.change <= 0 ? ""
         : qsTr("You have paid %1 too much.").arg(strip.money(service.change)) + " "
           + (({"none": qsTr("This kiosk gives no change. Please call the staff."),
-               "paid": qsTr("Your change is paid out. Please take it."),
+               "paid": qsTr("You get your change back. If it does not come, please call the staff."),
                "credited": qsTr("It stays on your account.")})[away && service.changeMode !== "none" ? "" : service.changeMode]
              || qsTr("Please ask the staff for your change."))
 
