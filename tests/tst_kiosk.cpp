@@ -448,7 +448,7 @@ private Q_SLOTS:
         startService("samples"_s, "jam"_s, money);
         step(5);
         QTRY_COMPARE_WITH_TIMEOUT(kiosk.text("openNoteDetail"_s),
-                                  "T · No. 0001-0001 + T · No. 0001-0002, Help: 8 800"_s, longest);
+                                  "T · No. 0001-0002, Help: 8 800 + T · No. 0001-0001"_s, longest);
         kiosk.openService();
         kiosk.press("settleKey"_s);
         kiosk.press("noKey"_s);

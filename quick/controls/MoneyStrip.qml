@@ -44,6 +44,9 @@ Rectangle {
     readonly property string figure: money(service.price > 0 && !service.paid ? service.left
                                                                                           : service.sessionSum)
 
+    /// Where it is cut off below this height, the largest sum is whole.
+    readonly property real bareHeight: sums.height + 2 * content.y
+
     implicitWidth: label.implicitWidth + natural.width + 4 * content.x
     implicitHeight: content.implicitHeight + 2 * content.y
     radius: KioskTheme.radius
@@ -75,6 +78,7 @@ Rectangle {
         spacing: KioskTheme.gap / 2
 
         Item {
+            id: sums
             readonly property bool low: words.width + natural.width + 2 * KioskTheme.gap < width
             width: parent.width
             height: rest.y + rest.contentHeight

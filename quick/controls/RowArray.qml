@@ -7,7 +7,7 @@ import QtQuick 2.15
 QtObject {
     id: array
 
-    property QtObject model
+    property var model
     property int version: 0
 
     readonly property var rows: version >= 0 && model ? Array.from({length: model.count}, (_, row) => model.get(row)) : []
