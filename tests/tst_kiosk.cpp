@@ -401,7 +401,7 @@ private Q_SLOTS:
     {
         addRows(R"(
             none     | This kiosk gives no change. | You have paid 3,500 RUB too much. This kiosk gives no change. Please call the staff.
-            paid     | Change is paid out.         | You have paid 3,500 RUB too much. Your change is paid out. Please take it.
+            paid     | Change is paid out.         | You have paid 3,500 RUB too much. You get your change back. If it does not come, please call the staff.
             credited | What you overpay stays on your account. | You have paid 3,500 RUB too much. It stays on your account.)"_s);
     }
 
@@ -448,7 +448,7 @@ private Q_SLOTS:
         startService("samples"_s, "jam"_s, money);
         step(5);
         QTRY_COMPARE_WITH_TIMEOUT(kiosk.text("openNoteDetail"_s),
-                                  "T · No. 0001-0001 + T · No. 0001-0002, Help: 8 800"_s, longest);
+                                  "T · No. 0001-0002, Help: 8 800 + T · No. 0001-0001"_s, longest);
         kiosk.openService();
         kiosk.press("settleKey"_s);
         kiosk.press("noKey"_s);
