@@ -43,6 +43,13 @@ KioskPage {
         }
     }
 
+    // Once for all that changes at a time. What Qt.callLater() has to call may be gone by then.
+    Timer {
+        id: placing
+        interval: 0
+        onTriggered: page.place()
+    }
+
     // Each under the shortest column.
     function place() {
         if (!visible) {
@@ -62,10 +69,10 @@ KioskPage {
         contentHeight = Math.max(...ends);
     }
 
-    onVisibleChanged: Qt.callLater(place)
-    onContentYChanged: Qt.callLater(place)
-    onHeightChanged: Qt.callLater(place)
-    onStepChanged: Qt.callLater(place)
+    onVisibleChanged: placing.start()
+    onContentYChanged: placing.start()
+    onHeightChanged: placing.start()
+    onStepChanged: placing.start()
     Accessible.role: Accessible.List
     Accessible.name: heading.text
 
@@ -74,13 +81,13 @@ KioskPage {
         width: page.width
         text: qsTr("Devices: %1, with faults: %2").arg(page.count).arg(page.faulty)
         font.bold: true
-        onHeightChanged: Qt.callLater(page.place)
+        onHeightChanged: placing.start()
         Accessible.ignored: true
     }
     Repeater {
         id: cells
         model: page.service ? page.service.devices : null
-        onCountChanged: Qt.callLater(page.place)
+        onCountChanged: placing.start()
         Item {
             id: cell
 
@@ -92,9 +99,9 @@ KioskPage {
 
             width: page.step - page.gap
             height: card.item ? card.height : 60 * KioskTheme.density
-            onHeightChanged: Qt.callLater(page.place)
-            onIndexChanged: Qt.callLater(page.place)
-            onIsBrokenChanged: Qt.callLater(page.place)
+            onHeightChanged: placing.start()
+            onIndexChanged: placing.start()
+            onIsBrokenChanged: placing.start()
 
             Loader {
                 id: card
