@@ -235,7 +235,7 @@ void ServiceState::show()
 ServiceState::Shown ServiceState::shownNow(const QMap<int, QString>& names) const
 {
     Shown shown;
-    const double sum = double(m_sums.sum());
+    const auto sum = double(m_sums.sum());
     shown.sessionSum = sum;
     shown.paid = isComplete();
     shown.left = qMax(m_price - sum, 0.0);

@@ -205,12 +205,12 @@ void NoteWatch::rest(const PublishedDevice& device, Track& track)
     const bool isUnsure = track.isAway || isLostSight(piece.outcome);
     const Reading now(device);
     Outcome outcome = None;
-    if (piece.value > 0 && now.sum - track.start.sum >= piece.value)
+    const bool isCounted = piece.value > 0 && now.sum - track.start.sum >= piece.value;
+    const bool isBack = now.returned > track.start.returned;
+    if (isCounted || (!isBack && !isUnsure && track.phase == In))
         outcome = Taken;
-    else if (now.returned > track.start.returned)
+    else if (isBack)
         outcome = Returned;
-    else if (!isUnsure && track.phase == In)
-        outcome = Taken;
     else if (now.rejected > track.start.rejected)
         outcome = Rejected;
 

@@ -43,7 +43,7 @@ KioskPage {
         }
     }
 
-    // Once for all that changes at a time. What Qt.callLater() has to call may be gone by then.
+    // Once for all that changes at a time.
     Timer {
         id: placing
         interval: 0
@@ -69,10 +69,11 @@ KioskPage {
         contentHeight = Math.max(...ends);
     }
 
-    onVisibleChanged: placing.start()
-    onContentYChanged: placing.start()
-    onHeightChanged: placing.start()
-    onStepChanged: placing.start()
+    // What a page that goes away still tells must not call anything of it.
+    property bool isThere: true
+    Component.onDestruction: isThere = false
+    readonly property var shape: [visible, contentY, height, step, heading.height, cells.count]
+    onShapeChanged: if (isThere) placing.start()
     Accessible.role: Accessible.List
     Accessible.name: heading.text
 
@@ -81,13 +82,11 @@ KioskPage {
         width: page.width
         text: qsTr("Devices: %1, with faults: %2").arg(page.count).arg(page.faulty)
         font.bold: true
-        onHeightChanged: placing.start()
         Accessible.ignored: true
     }
     Repeater {
         id: cells
         model: page.service ? page.service.devices : null
-        onCountChanged: placing.start()
         Item {
             id: cell
 
@@ -99,9 +98,8 @@ KioskPage {
 
             width: page.step - page.gap
             height: card.item ? card.height : 60 * KioskTheme.density
-            onHeightChanged: placing.start()
-            onIndexChanged: placing.start()
-            onIsBrokenChanged: placing.start()
+            readonly property var shape: [height, index, isBroken]
+            onShapeChanged: if (page.isThere) placing.start()
 
             Loader {
                 id: card
