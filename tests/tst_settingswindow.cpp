@@ -167,7 +167,7 @@ private Q_SLOTS:
         SettingsDocument document;
         document.open(m_list);
         QVector<QByteArray> texts{document.text()};
-        for (int i = 0; i < 80; ++i) {
+        for (int i = 0; i < 50; ++i) {
             const QVector<SettingsList::Used>& all = document.list().used();
             const SettingsList::Used used = all.at(int(random.bounded(int(all.size()))));
             const QList<int> devices = document.list().devices().keys();
@@ -194,7 +194,7 @@ private Q_SLOTS:
             if (document.text() != texts.constLast())
                 texts += document.text();
         }
-        QVERIFY(texts.size() > 40);
+        QVERIFY(texts.size() > 25);
         for (auto text = texts.rbegin(); text != texts.rend(); ++text) {
             QCOMPARE(document.text(), *text);
             QCOMPARE(document.findings().size(), checkSettings(document.file()).size());
