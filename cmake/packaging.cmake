@@ -112,7 +112,6 @@ set(CPACK_DEBIAN_QUICK_DESCRIPTION "QML module for screens of a kiosk's cash dev
 
 set(CPACK_DEBIAN_CONTROLS_PACKAGE_NAME ${quick_package}-controls)
 set(CPACK_DEBIAN_CONTROLS_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_CONTROLS_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_CONTROLS_PACKAGE_DEPENDS "${quick_package} (>= ${PROJECT_VERSION}), ${controls_need}")
 set(CPACK_DEBIAN_CONTROLS_DESCRIPTION "controls for screens of a kiosk's cash devices (Qt ${VELMOLIB_QT_MAJOR})
  What to do, what is paid and what became of a note for the customer;
