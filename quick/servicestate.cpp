@@ -8,9 +8,6 @@
 #include "text/diagnosis.h"
 #include "text/fault.h"
 
-#include <QCoreApplication>
-#include <QEvent>
-
 #include <algorithm>
 #include <cmath>
 
@@ -25,6 +22,7 @@ ServiceState::ServiceState(QObject* parent)
     , m_openNotes({"noteId", "outcome", "value", "amountText", "deviceName", "deviceId", "threadId",
                    "time", "timeText", "incident", "text"})
     , m_worstFaults({"deviceName", "deviceId", "threadId", "reason", "text", "severity"})
+    , m_language([this] { show(); })
 {
     // A view must not think that it owns what a property returns.
     for (RowModel* const model : {static_cast<RowModel*>(&m_devices), &m_openNotes, &m_worstFaults})
@@ -39,7 +37,6 @@ ServiceState::ServiceState(QObject* parent)
     m_showTimer.setSingleShot(true);
     m_showTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_showTimer, &QTimer::timeout, this, &ServiceState::show);
-    QCoreApplication::instance()->installEventFilter(this);
     show();
 }
 
@@ -175,13 +172,6 @@ void ServiceState::settleLoss()
     show();
 }
 
-bool ServiceState::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange && watched == QCoreApplication::instance())
-        show();
-    return QObject::eventFilter(watched, event);
-}
-
 // At most once in a frame's time.
 void ServiceState::showSoon()
 {
@@ -198,9 +188,10 @@ void ServiceState::show()
 {
     m_showTimer.stop();
     const QMap<int, QString> names = deviceNames(m_state, givenNames());
-    const Shown shown = shownNow(names);
+    const std::vector<NoteWatch::Note> open = m_notes.open();
+    const Shown shown = shownNow(names, open);
     m_devices.show(m_state, names, isHeard());
-    showNotes(names);
+    showNotes(names, open);
 
     const Shown before = std::exchange(m_shown, shown);
     const auto tell = [&](auto field, void (ServiceState::*changed)()) {
@@ -232,7 +223,8 @@ void ServiceState::show()
     tell(&Shown::fault, &ServiceState::faultChanged);
 }
 
-ServiceState::Shown ServiceState::shownNow(const QMap<int, QString>& names) const
+ServiceState::Shown ServiceState::shownNow(const QMap<int, QString>& names,
+                                           const std::vector<NoteWatch::Note>& open) const
 {
     Shown shown;
     const auto sum = double(m_sums.sum());
@@ -246,7 +238,6 @@ ServiceState::Shown ServiceState::shownNow(const QMap<int, QString>& names) cons
     shown.sumRecorded = m_sums.isRecorded();
     shown.lostSum = double(m_sums.lost());
     shown.lostSumRecorded = m_sums.isLostRecorded();
-    const std::vector<NoteWatch::Note> open = m_notes.open();
     shown.hasStuckMoney = m_sums.lost() > 0
         || std::any_of(open.begin(), open.end(),
                        [](const auto& note) { return note.outcome != NoteWatch::Checked; });
@@ -275,10 +266,10 @@ ServiceState::Shown ServiceState::shownNow(const QMap<int, QString>& names) cons
     return shown;
 }
 
-void ServiceState::showNotes(const QMap<int, QString>& names)
+void ServiceState::showNotes(const QMap<int, QString>& names,
+                             const std::vector<NoteWatch::Note>& open)
 {
     const MoneyFormat money = format();
-    const std::vector<NoteWatch::Note> open = m_notes.open();
     QVector<RowModel::Row> rows;
     for (const NoteWatch::Note& note : open) {
         const MoneyFormat own = money.of(note.currency);

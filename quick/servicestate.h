@@ -4,6 +4,7 @@
 #pragma once
 
 #include "devicerows.h"
+#include "languagewatch.h"
 #include "rowmodel.h"
 #include "service/notewatch.h"
 #include "service/serviceanswer.h"
@@ -216,8 +217,6 @@ public:
     /// The staff says that the lost sum is settled.
     Q_INVOKABLE void settleLoss();
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 Q_SIGNALS:
     /// What became of a note or coin, of each and at once, also when two are alike.
     /// @param outcome a NoteOutcome
@@ -296,8 +295,8 @@ private:
     void lose();
     void show();
     void showSoon();
-    void showNotes(const QMap<int, QString>& names);
-    Shown shownNow(const QMap<int, QString>& names) const;
+    void showNotes(const QMap<int, QString>& names, const std::vector<NoteWatch::Note>& open);
+    Shown shownNow(const QMap<int, QString>& names, const std::vector<NoteWatch::Note>& open) const;
     bool isHeard() const { return m_available && !m_isStale; }
     bool isComplete() const { return m_price > 0 && double(m_sums.sum()) >= m_price; }
     QMap<int, QString> givenNames() const;
@@ -323,4 +322,5 @@ private:
     QTimer m_staleTimer;
     QTimer m_showTimer;
     QElapsedTimer m_sinceShown;
+    LanguageWatch m_language;
 };
