@@ -40,11 +40,17 @@ endif()
 if(VELMOLIB_BUILD_FLEET)
     list(APPEND pairs fleet:velmo-fleet)
 endif()
+if(VELMOLIB_BUILD_SETTINGS_WINDOW)
+    list(APPEND pairs settings:velmo-settings)
+endif()
 set(quick_package qml-module-velmolib)
 set(controls_need "qml-module-qtquick2, qml-module-qtquick-layouts, qml-module-qtquick-shapes, \
 qml-module-qtquick-templates2, qml-module-qtquick-window2, fonts-dejavu-core | fonts-noto-core")
 if(VELMOLIB_QT_MAJOR EQUAL 6)
-    set(quick_package qml6-module-velmolib)
+    if(VELMOLIB_BUILD_SETTINGS_WINDOW)
+    list(APPEND pairs settings:velmo-settings)
+endif()
+set(quick_package qml6-module-velmolib)
     set(controls_need "qml6-module-qtquick, qml6-module-qtquick-layouts, qml6-module-qtquick-shapes, \
 qml6-module-qtquick-templates, qml6-module-qtquick-window, fonts-dejavu-core | fonts-noto-core")
 endif()
@@ -106,7 +112,6 @@ set(CPACK_DEBIAN_QUICK_DESCRIPTION "QML module for screens of a kiosk's cash dev
 
 set(CPACK_DEBIAN_CONTROLS_PACKAGE_NAME ${quick_package}-controls)
 set(CPACK_DEBIAN_CONTROLS_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_CONTROLS_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_CONTROLS_PACKAGE_DEPENDS "${quick_package} (>= ${PROJECT_VERSION}), ${controls_need}")
 set(CPACK_DEBIAN_CONTROLS_DESCRIPTION "controls for screens of a kiosk's cash devices (Qt ${VELMOLIB_QT_MAJOR})
  What to do, what is paid and what became of a note for the customer;
@@ -134,5 +139,15 @@ set(CPACK_DEBIAN_FLEET_DESCRIPTION "summaries of what a fleet of kiosks publishe
  whether it takes money, what is wrong with it and whether it is silent.
  Keeps a history of it in SQLite or PostgreSQL, and shows all in a page
  and as metrics for Prometheus.")
+
+set(CPACK_DEBIAN_SETTINGS_PACKAGE_NAME velmo-settings)
+set(CPACK_DEBIAN_SETTINGS_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_SETTINGS_PACKAGE_DEPENDS
+    "${library_package} (= ${PROJECT_VERSION}), velmo (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_SETTINGS_PACKAGE_RECOMMENDS qttranslations5-l10n) # the words of Qt's own dialogs
+set(CPACK_DEBIAN_SETTINGS_DESCRIPTION "window for the settings of a kiosk's cash devices
+ Shows a settings list as forms, says beside each field what is wrong with
+ it, adds, removes and reorders devices, and shows the lines that change
+ before it writes them.")
 
 include(CPack)

@@ -10,7 +10,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
 
-require_packages "${build_packages[@]}" "${qt6_packages[@]}" "${install_packages[@]}" debhelper devscripts dpkg-dev file help2man lintian systemd
+require_packages "${build_packages[@]}" "${qt6_packages[@]}" "${install_packages[@]}" debhelper desktop-file-utils devscripts dpkg-dev file help2man lintian systemd
 umask 022
 export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
 

@@ -17,7 +17,7 @@ fail()
 
 lintian --fail-on error --suppress-tags bad-distribution-in-changes-file "$2"/*.deb
 for package in libvelmolib5 libvelmolib-dev libvelmolib-qt6-5 libvelmolib-qt6-dev velmo velmo-fleet \
-        qml-module-velmolib qml6-module-velmolib; do
+        velmo-settings qml-module-velmolib qml6-module-velmolib; do
     deb=$(ls "$2/${package}_"*.deb)
     dpkg-deb --field "$deb" Package Version Depends
     dpkg-deb --fsys-tarfile "$deb" | tar -t | grep -v '/$' >> "$root/files"
@@ -43,6 +43,7 @@ done
 help=$(LD_LIBRARY_PATH=$(echo "$root"/usr/lib/*-linux-gnu) LC_ALL=C.UTF-8 \
     "$root"/usr/bin/velmo-fleet --lang ru --help)
 [[ $help == *терминал* ]] || fail "velmo-fleet does not find its texts"
+desktop-file-validate "$root"/usr/share/applications/velmo-settings.desktop
 units=$root/usr/lib/systemd/system
 manual=$(sed -n 's/^Documentation=man:\(.*\)(1)$/\1/p' "$units"/velmo-fleet.service)
 zgrep -q partition "$root/usr/share/man/man1/$manual.1.gz"
