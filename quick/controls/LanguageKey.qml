@@ -14,8 +14,10 @@ Row {
     /// The code of the language that is spoken.
     property string current: ""
 
+    /// A key was pressed: the program is to speak the language of this code.
     signal chosen(string code)
 
+    // Those that have a key.
     readonly property var others: languages.filter(language => language.code !== current)
 
     spacing: KioskTheme.gap / 2
