@@ -940,10 +940,6 @@
         <translation>Das Gerät ist ausgefallen, während Ihre Münze zu %1 darin war. Bitte rufen Sie das Personal.</translation>
     </message>
     <message>
-        <source>no translations for language &quot;%1&quot;</source>
-        <translation>keine Übersetzungen für die Sprache &quot;%1&quot;</translation>
-    </message>
-    <message>
         <source>The broker refuses a subscription.</source>
         <translation>Der Broker lehnt ein Abonnement ab.</translation>
     </message>
@@ -1857,6 +1853,10 @@
     <message>
         <source>It is not known what became of a customer&apos;s money: %1.</source>
         <translation>Es ist nicht bekannt, was aus dem Geld eines Kunden wurde: %1.</translation>
+    </message>
+    <message>
+        <source>no translations for language &quot;%1&quot;; there are: %2</source>
+        <translation>keine Übersetzungen für die Sprache &quot;%1&quot;; es gibt: %2</translation>
     </message>
 </context>
 </TS>
