@@ -267,7 +267,7 @@
     </message>
     <message>
         <source>Paid. Thank you!</source>
-        <translation>Bezahlt. Vielen Dank!</translation>
+        <translation>Bezahlt. Danke!</translation>
     </message>
     <message>
         <source>This takes longer than usual.</source>

@@ -252,7 +252,7 @@
     </message>
     <message>
         <source>How long an answer of the device may take, in the protocol&apos;s own unit.</source>
-        <translation>Wie lange eine Antwort des Geräts dauern darf, in der Einheit des Übertragungsprotokolls.</translation>
+        <translation>Wie lange eine Antwort des Geräts dauern darf, in der Einheit des Protokolls.</translation>
     </message>
     <message>
         <source>Polling interval</source>
@@ -260,7 +260,7 @@
     </message>
     <message>
         <source>How often the device is asked for its state, in the protocol&apos;s own unit.</source>
-        <translation>Wie oft der Zustand des Geräts abgefragt wird, in der Einheit des Übertragungsprotokolls.</translation>
+        <translation>Wie oft der Zustand des Geräts abgefragt wird, in der Einheit des Protokolls.</translation>
     </message>
     <message>
         <source>Bill table interval</source>
@@ -268,7 +268,7 @@
     </message>
     <message>
         <source>Pace of reading the device&apos;s table of notes, in the protocol&apos;s own unit.</source>
-        <translation>In welchen Abständen die Scheintabelle des Geräts gelesen wird, in der Einheit des Übertragungsprotokolls.</translation>
+        <translation>In welchen Abständen die Scheintabelle des Geräts gelesen wird, in der Einheit des Protokolls.</translation>
     </message>
     <message>
         <source>Reset interval</source>
@@ -276,7 +276,7 @@
     </message>
     <message>
         <source>Pace of resetting the device, in the protocol&apos;s own unit.</source>
-        <translation>In welchen Abständen das Gerät zurückgesetzt wird, in der Einheit des Übertragungsprotokolls.</translation>
+        <translation>In welchen Abständen das Gerät zurückgesetzt wird, in der Einheit des Protokolls.</translation>
     </message>
     <message>
         <source>Rest interval</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Rest between two messages to the device, in the protocol&apos;s own unit.</source>
-        <translation>Pause zwischen zwei Nachrichten an das Gerät, in der Einheit des Übertragungsprotokolls.</translation>
+        <translation>Pause zwischen zwei Nachrichten an das Gerät, in der Einheit des Protokolls.</translation>
     </message>
     <message>
         <source>Model</source>
@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>How long an acknowledgement may take, in the protocol&apos;s own unit.</source>
-        <translation>Wie lange eine Bestätigung dauern darf, in der Einheit des Übertragungsprotokolls.</translation>
+        <translation>Wie lange eine Bestätigung dauern darf, in der Einheit des Protokolls.</translation>
     </message>
     <message>
         <source>Packet timeout</source>
@@ -324,7 +324,7 @@
     </message>
     <message>
         <source>How long a packet may take, in the protocol&apos;s own unit.</source>
-        <translation>Wie lange ein Paket dauern darf, in der Einheit des Übertragungsprotokolls.</translation>
+        <translation>Wie lange ein Paket dauern darf, in der Einheit des Protokolls.</translation>
     </message>
     <message>
         <source>Negative acknowledgements</source>
