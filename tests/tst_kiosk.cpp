@@ -654,8 +654,8 @@ private Q_SLOTS:
             for (QString text : kiosk.allTexts()) {
                 for (const QVariant& language : Language::all())
                     text.remove(language.toMap()["name"_s].toString());
-                for (const char* name : {"RUB", "PIN", "CCNet", "CCNET-0418",
-                                         "note stuck before the stacker"})
+                for (const char* name :
+                     {"RUB", "PIN", "CCNet", "CCNET-0418", "note stuck before the stacker"})
                     text.remove(QLatin1String(name));
                 QVERIFY2(!text.contains(latin), qPrintable(text));
             }

@@ -84,14 +84,16 @@ private Q_SLOTS:
     void textsFitTheirPlaces()
     {
         QFETCH(QString, fileName);
-        const QString language = fileName.section(QLatin1Char('/'), -1).section(QLatin1Char('_'), 1).chopped(3);
+        const QString language =
+            fileName.section(QLatin1Char('/'), -1).section(QLatin1Char('_'), 1).chopped(3);
         const QList<Message> messages = readMessages(fileName);
         QVERIFY(!messages.isEmpty());
         int forms = 0;
         QStringList faults;
         for (const Message& message : messages) {
             const auto fault = [&](const char* what) {
-                faults += "%1: \"%2\": %3"_s.arg(QLatin1String(what), message.source, message.translations.join(" | "_s));
+                faults += "%1: \"%2\": %3"_s.arg(QLatin1String(what), message.source,
+                                                 message.translations.join(" | "_s));
             };
             if (!message.type.isEmpty())
                 fault("not finished");

@@ -17,10 +17,10 @@
 
 namespace {
 
-const QString sourceLanguage = QStringLiteral("en");
+constexpr QLatin1String sourceLanguage("en");
 
-// Where the translations are: beside the program, and those of an installed velmolib where the system
-// keeps shared data.
+// Where the translations are: beside the program, and those of an installed velmolib where the
+// system keeps shared data.
 QStringList translationFolders()
 {
     return QStringList{QCoreApplication::applicationDirPath() + QStringLiteral("/../share/")
@@ -60,7 +60,7 @@ void Language::setCurrent(const QString& language)
 
 QStringList Language::codes()
 {
-    QStringList codes{sourceLanguage};
+    QStringList codes{QString(sourceLanguage)};
     const QStringList folders = translationFolders();
     for (const QString& folder : folders) {
         const QStringList files = QDir(folder).entryList({QStringLiteral("kiosk_*.qm")});

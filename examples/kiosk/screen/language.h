@@ -23,7 +23,8 @@ class Language : public QObject
     /// The one that a customer finds.
     Q_PROPERTY(QString first MEMBER m_first CONSTANT)
 
-    /// All that there are, as LanguageKey takes them: a list of {code, name}, the name in the language itself.
+    /// All that there are, as LanguageKey takes them: a list of {code, name}, the name in the
+    /// language itself.
     Q_PROPERTY(QVariantList all READ all CONSTANT)
 
 public:
@@ -32,7 +33,8 @@ public:
     QString current() const { return m_current; }
     void setCurrent(const QString& language);
 
-    /// English, which the screen's sources are in, and those that the screen's texts are translated into.
+    /// English, which the screen's sources are in, and those that the screen's texts are translated
+    /// into.
     static QStringList codes();
     static QVariantList all();
 
