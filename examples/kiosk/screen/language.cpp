@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr QLatin1String sourceLanguage("en");
+constexpr char sourceLanguage[] = "en";
 
 // Where the translations are: beside the program, and those of an installed velmolib where the
 // system keeps shared data.
@@ -32,7 +32,7 @@ QStringList translationFolders()
 // In the language itself, as on a key.
 QString languageName(const QString& code)
 {
-    if (code == sourceLanguage)
+    if (code == QLatin1String(sourceLanguage))
         return QStringLiteral("English"); // of no country
     const QLocale locale(code);
     QString name = locale.nativeLanguageName();
@@ -60,7 +60,7 @@ void Language::setCurrent(const QString& language)
 
 QStringList Language::codes()
 {
-    QStringList codes{QString(sourceLanguage)};
+    QStringList codes{QLatin1String(sourceLanguage)};
     const QStringList folders = translationFolders();
     for (const QString& folder : folders) {
         const QStringList files = QDir(folder).entryList({QStringLiteral("kiosk_*.qm")});
@@ -105,7 +105,7 @@ void Language::load()
     const QStringList folders = translationFolders();
     QStringList components{QStringLiteral("velmolib"), QStringLiteral("diagnosis"),
                            QStringLiteral("controls")};
-    if (m_current != sourceLanguage)
+    if (m_current != QLatin1String(sourceLanguage))
         components += QStringLiteral("kiosk");
     for (const QString& component : std::as_const(components)) {
         const QString name = component + QLatin1Char('_') + m_current;
