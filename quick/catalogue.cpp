@@ -8,6 +8,12 @@
 
 Catalogue::Catalogue(QObject* parent)
     : RowModel({"modelId", "modelName", "kind", "className", "type", "canDispense"}, parent)
+    , m_language([this] { list(); })
+{
+    list();
+}
+
+void Catalogue::list()
 {
     QVector<Row> rows;
     const QList<SupportedDevice> devices = Acceptors::supportedDevices();

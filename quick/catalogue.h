@@ -3,11 +3,12 @@
 
 #pragma once
 
+#include "languagewatch.h"
 #include "rowmodel.h"
 
 /// The catalogue of device models, in its order. Roles: modelId (the number by which settings and
-/// states name it), modelName (that of its protocol), kind (for people, in the language of the
-/// moment when it was made), className, type (Acceptors::AcceptorType) and canDispense.
+/// states name it), modelName (that of its protocol), kind (for people, in the language that is
+/// shown), className, type (Acceptors::AcceptorType) and canDispense.
 class Catalogue : public RowModel
 {
     Q_OBJECT
@@ -18,4 +19,9 @@ public:
 
     /// What people call a device of the model, for example "Bill validator (CCNet)".
     Q_INVOKABLE QString deviceName(int model) const;
+
+private:
+    void list();
+
+    LanguageWatch m_language;
 };

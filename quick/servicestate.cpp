@@ -4,7 +4,6 @@
 #include "servicestate.h"
 
 #include "service/customeranswer.h"
-#include "text/conditions.h"
 #include "text/devicename.h"
 #include "text/diagnosis.h"
 #include "text/fault.h"
@@ -12,64 +11,34 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
-QVariantMap lamp(const char* name, const QString& label, bool isLit, bool isAlarm)
-{
-    return {{QStringLiteral("name"), QLatin1String(name)},
-            {QStringLiteral("label"), label},
-            {QStringLiteral("lit"), isLit},
-            {QStringLiteral("alarm"), isAlarm}};
-}
-
-// Only what takes notes has a stacker, and only what takes money can be accepting.
-QVariantList lampsOf(const PublishedDevice& device, bool isAccepting)
-{
-    const Money money = moneyOf(device.deviceId());
-    QVariantList lamps;
-    if (money != Money::None)
-        lamps += lamp("accepting", Diagnosis::tr("Accepting"), isAccepting, false);
-    for (const Condition::Kind kind : Condition::lampOrder) {
-        const bool isOfStacker =
-            kind == Condition::StackerMissing || kind == Condition::StackerFull;
-        if (isOfStacker && money != Money::Note)
-            continue;
-        const Condition& condition = Condition::table[kind];
-        const bool isAlarm = kind != Condition::StackerMissing; // lit while it is there
-        lamps += lamp(condition.lamp, Diagnosis::tr(condition.lampLabel),
-                      condition.holds(device) == isAlarm, isAlarm);
-    }
-    return lamps;
-}
-
-QVector<RowModel::Row> registryRows(const QVariantMap& registry)
-{
-    QVector<RowModel::Row> rows;
-    for (auto entry = registry.begin(); entry != registry.end(); ++entry) {
-        // "<bill type>_<channel>_<denomination>_<currency>"; the row itself has no channel.
-        const int channel = entry.key().section(QLatin1Char('_'), 1, 1).toInt();
-        const QVariantMap row = entry.value().toMap();
-        const auto number = [&row](const char* key) {
-            return row.value(QLatin1String(key)).toInt();
-        };
-        rows += RowModel::Row{entry.key(),
-                              {channel, number("bill_type") == 1, number("denomination"),
-                               row.value(QStringLiteral("currency")).toString(), number("count"),
-                               number("rejected")}};
-    }
-    return rows;
-}
+constexpr int frame = 16; // milliseconds
 
 } // namespace
 
 ServiceState::ServiceState(QObject* parent)
     : QObject(parent)
-    , m_devices({"deviceId", "threadId", "modelName", "kind", "name", "idText", "enabled", "status",
-                 "statusText", "description", "wrong", "accepting", "lamps", "notesInserted",
-                 "notesRejected", "notesReturned", "registry"})
+    , m_openNotes({"noteId", "outcome", "value", "amountText", "deviceName", "deviceId", "threadId",
+                   "time", "timeText", "incident", "text"})
+    , m_worstFaults({"deviceName", "deviceId", "threadId", "reason", "text", "severity"})
 {
     // A view must not think that it owns what a property returns.
-    QQmlEngine::setObjectOwnership(&m_devices, QQmlEngine::CppOwnership);
+    for (RowModel* const model : {static_cast<RowModel*>(&m_devices), &m_openNotes, &m_worstFaults})
+        QQmlEngine::setObjectOwnership(model, QQmlEngine::CppOwnership);
+    m_staleTimer.setSingleShot(true);
+    connect(&m_staleTimer, &QTimer::timeout, this, [this] {
+        m_isStale = true;
+        lose();
+        show();
+        Q_EMIT staleChanged();
+    });
+    m_showTimer.setSingleShot(true);
+    m_showTimer.setTimerType(Qt::PreciseTimer);
+    connect(&m_showTimer, &QTimer::timeout, this, &ServiceState::show);
     QCoreApplication::instance()->installEventFilter(this);
     show();
 }
@@ -78,18 +47,22 @@ void ServiceState::take(const QString& text, const QDateTime& timestamp)
 {
     const bool isNewText = text != m_text;
     const bool isNewTime = timestamp != m_timestamp;
-    if (!isNewText && !isNewTime)
-        return;
+    const bool wasStale = std::exchange(m_isStale, false);
+    if (m_staleAfter > 0)
+        m_staleTimer.start();
     m_text = text;
     m_timestamp = timestamp;
-    if (isNewText)
+    if (isNewText || wasStale)
         read();
     m_state.service.setDt(timestamp);
-    show();
+    if (isNewText || isNewTime || wasStale)
+        showSoon();
     if (isNewText)
         Q_EMIT textChanged();
     if (isNewTime)
         Q_EMIT timestampChanged();
+    if (wasStale)
+        Q_EMIT staleChanged();
 }
 
 void ServiceState::read()
@@ -97,14 +70,35 @@ void ServiceState::read()
     m_fault.clear();
     m_state = PublishedState();
     if (m_text.isEmpty())
-        return;
+        return lose();
     try {
         m_state = readServiceState(m_text);
-        m_sessionSum = double(m_state.sessionSum());
-        m_lastNote.take(m_state);
     } catch (const Fault& fault) {
         m_fault = fault.message;
+        return lose();
     }
+    makePlain(m_state);
+    m_money = m_state.money;
+    const std::vector<NoteWatch::Note> events = m_notes.take(
+        m_state, m_timestamp.isValid() ? m_timestamp : QDateTime::currentDateTimeUtc());
+    const std::vector<NoteWatch::Note> open = m_notes.open();
+    m_sums.take(m_state, events, std::any_of(open.begin(), open.end(), [](const auto& note) {
+                    return note.outcome == NoteWatch::Checked;
+                }));
+    if (!m_available)
+        lose(); // a state that came late
+    const QMap<int, QString> names = givenNames();
+    for (const NoteWatch::Note& note : events) {
+        Q_EMIT noteEvent(note.outcome, double(note.value), note.currency,
+                         names.value(note.device, deviceName(note.device)),
+                         NoteWatch::text(note, format()));
+    }
+}
+
+void ServiceState::lose()
+{
+    m_notes.lose();
+    m_sums.lose(isComplete());
 }
 
 void ServiceState::setAvailable(bool available)
@@ -112,8 +106,43 @@ void ServiceState::setAvailable(bool available)
     if (available == m_available)
         return;
     m_available = available;
+    if (!available)
+        lose();
     show();
     Q_EMIT availableChanged();
+}
+
+void ServiceState::setStaleAfter(int seconds)
+{
+    if (seconds == m_staleAfter)
+        return;
+    m_staleAfter = seconds;
+    m_staleTimer.stop();
+    if (seconds > 0)
+        m_staleTimer.start(std::chrono::seconds(seconds));
+    if (std::exchange(m_isStale, false)) {
+        show();
+        Q_EMIT staleChanged();
+    }
+    Q_EMIT staleAfterChanged();
+}
+
+void ServiceState::setLocale(const QString& locale)
+{
+    if (locale == m_locale)
+        return;
+    m_locale = locale;
+    show();
+    Q_EMIT localeChanged();
+}
+
+void ServiceState::setPrice(double price)
+{
+    if (price == m_price)
+        return;
+    m_price = price;
+    show();
+    Q_EMIT priceChanged();
 }
 
 void ServiceState::setNames(const QVariantMap& names)
@@ -125,6 +154,25 @@ void ServiceState::setNames(const QVariantMap& names)
     Q_EMIT namesChanged();
 }
 
+QString ServiceState::moneyText(double value) const
+{
+    return std::abs(value) < 9e15 ? format().text(qint64(std::round(value))) : QString();
+}
+
+void ServiceState::settle(double noteId)
+{
+    const QString incident = m_notes.settle(quint64(noteId));
+    show();
+    if (!incident.isEmpty())
+        Q_EMIT settleWanted(incident);
+}
+
+void ServiceState::settleLoss()
+{
+    m_sums.settle();
+    show();
+}
+
 bool ServiceState::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange && watched == QCoreApplication::instance())
@@ -132,35 +180,25 @@ bool ServiceState::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
+// At most once in a frame's time.
+void ServiceState::showSoon()
+{
+    const bool isSoon = m_sinceShown.isValid() && !m_sinceShown.hasExpired(frame - 1);
+    if (!isSoon)
+        show();
+    else if (!m_showTimer.isActive())
+        m_showTimer.start(frame - int(m_sinceShown.elapsed()));
+    if (!isSoon)
+        m_sinceShown.start();
+}
+
 void ServiceState::show()
 {
-    const CustomerAnswer customer(m_state);
-    QMap<int, QString> given;
-    for (auto name = m_names.begin(); name != m_names.end(); ++name)
-        given.insert(name.key().toInt(), name.value().toString());
-    const QMap<int, QString> names = deviceNames(m_state, given);
-    Shown shown;
-    shown.sessionSum = m_sessionSum;
-    shown.lastNoteText = m_lastNote.text();
-    shown.lastNoteOutcome = NoteOutcome(m_lastNote.outcome());
-    shown.report = m_state.service.systemStatusDescr(names);
-    shown.fault = m_fault;
-    if (!m_available) {
-        shown.paymentText = shown.customerText = outOfServiceText();
-        shown.reasons = QStringList{Diagnosis::tr("The service does not answer.")};
-    } else {
-        shown.paymentText = m_state.service.paymentStateDescr();
-        shown.customerText = customer.text;
-        shown.acceptingAllowed = m_state.service.isAcceptingAllowed();
-        shown.reasons = m_fault.isEmpty()
-            ? whyNotAccepting(m_state)
-            : QStringList{Diagnosis::tr("The service's state cannot be read: %1.").arg(m_fault)};
-        shown.noteAccepted = customer.note;
-        shown.coinAccepted = customer.coin;
-        shown.cardAccepted = customer.card;
-        shown.inService = customer.inService;
-    }
-    showDevices(names);
+    m_showTimer.stop();
+    const QMap<int, QString> names = deviceNames(m_state, givenNames());
+    const Shown shown = shownNow(names);
+    m_devices.show(m_state, names, isHeard());
+    showNotes(names);
 
     const Shown before = std::exchange(m_shown, shown);
     const auto tell = [&](auto field, void (ServiceState::*changed)()) {
@@ -176,46 +214,93 @@ void ServiceState::show()
     tell(&Shown::cardAccepted, &ServiceState::cardAcceptedChanged);
     tell(&Shown::inService, &ServiceState::inServiceChanged);
     tell(&Shown::sessionSum, &ServiceState::sessionSumChanged);
+    tell(&Shown::paid, &ServiceState::paidChanged);
+    tell(&Shown::left, &ServiceState::leftChanged);
+    tell(&Shown::change, &ServiceState::changeChanged);
+    tell(&Shown::changeMode, &ServiceState::changeModeChanged);
+    tell(&Shown::currency, &ServiceState::currencyChanged);
+    tell(&Shown::digits, &ServiceState::digitsChanged);
+    tell(&Shown::sumRecorded, &ServiceState::sumRecordedChanged);
+    tell(&Shown::lostSum, &ServiceState::lostSumChanged);
+    tell(&Shown::lostSumRecorded, &ServiceState::lostSumRecordedChanged);
+    tell(&Shown::hasStuckMoney, &ServiceState::hasStuckMoneyChanged);
     tell(&Shown::lastNoteText, &ServiceState::lastNoteTextChanged);
     tell(&Shown::lastNoteOutcome, &ServiceState::lastNoteOutcomeChanged);
     tell(&Shown::report, &ServiceState::reportChanged);
     tell(&Shown::fault, &ServiceState::faultChanged);
 }
 
-void ServiceState::showDevices(const QMap<int, QString>& names)
+ServiceState::Shown ServiceState::shownNow(const QMap<int, QString>& names) const
 {
-    QVector<RowModel::Row> rows;
-    QHash<QString, int> seen;
-    QHash<QString, RowModel*> gone = m_registries;
-    for (const PublishedDevice& device : m_state.devices) {
-        const bool isAccepting = m_available && takesMoney(device);
-        const int model = device.deviceId();
-        QString key = QStringLiteral("%1/%2").arg(model).arg(device.threadId());
-        key += QStringLiteral("/%1").arg(seen[key]++); // the same device may be told of twice
-        gone.remove(key);
-        rows += RowModel::Row{
-            key,
-            {model, device.threadId(), modelName(model), kindName(model), names.value(model),
-             device.idString(), device.enabled(), device.state(),
-             AcceptorState::stateDescr(device.state()), device.stateText(), deviceFaults(device),
-             isAccepting, lampsOf(device, isAccepting), device.insertedInFull,
-             device.rejectedInFull, device.returnedInFull, registryOf(key, device)}};
+    Shown shown;
+    const double sum = double(m_sums.sum());
+    shown.sessionSum = sum;
+    shown.paid = isComplete();
+    shown.left = qMax(m_price - sum, 0.0);
+    shown.change = m_price > 0 ? qMax(sum - m_price, 0.0) : 0;
+    shown.changeMode = m_money.change;
+    shown.currency = m_money.currency;
+    shown.digits = m_money.digits;
+    shown.sumRecorded = m_sums.isRecorded();
+    shown.lostSum = double(m_sums.lost());
+    shown.lostSumRecorded = m_sums.isLostRecorded();
+    const std::vector<NoteWatch::Note> open = m_notes.open();
+    shown.hasStuckMoney = m_sums.lost() > 0
+        || std::any_of(open.begin(), open.end(),
+                       [](const auto& note) { return note.outcome != NoteWatch::Checked; });
+    shown.lastNoteText = NoteWatch::text(m_notes.last(), format());
+    shown.lastNoteOutcome = NoteOutcome(m_notes.last().outcome);
+    shown.report = m_state.service.systemStatusDescr(names);
+    shown.fault = m_fault;
+    if (!isHeard()) {
+        shown.paymentText = shown.customerText = outOfServiceText();
+        shown.reasons = QStringList{
+            m_available ? Diagnosis::tr("The service has told nothing for %1 s.").arg(m_staleAfter)
+                        : Diagnosis::tr("The service does not answer.")};
+        return shown;
     }
-    m_devices.setRows(rows);
-    for (auto registry = gone.begin(); registry != gone.end(); ++registry) {
-        m_registries.remove(registry.key());
-        registry.value()->deleteLater(); // a view may be at it
-    }
+    const CustomerAnswer customer(m_state);
+    shown.paymentText = m_state.service.paymentStateDescr();
+    shown.customerText = customer.text;
+    shown.acceptingAllowed = m_state.service.isAcceptingAllowed();
+    shown.reasons = m_fault.isEmpty()
+        ? whyNotAccepting(m_state)
+        : QStringList{Diagnosis::tr("The service's state cannot be read: %1.").arg(m_fault)};
+    shown.noteAccepted = customer.note;
+    shown.coinAccepted = customer.coin;
+    shown.cardAccepted = customer.card;
+    shown.inService = customer.inService;
+    return shown;
 }
 
-QVariant ServiceState::registryOf(const QString& key, const AcceptorStateItem& device)
+void ServiceState::showNotes(const QMap<int, QString>& names)
 {
-    RowModel*& registry = m_registries[key];
-    if (!registry) {
-        registry = new RowModel(
-            {"channel", "isCoin", "denomination", "currency", "stock", "rejects"}, this);
-        QQmlEngine::setObjectOwnership(registry, QQmlEngine::CppOwnership);
+    const MoneyFormat money = format();
+    const std::vector<NoteWatch::Note> open = m_notes.open();
+    QVector<RowModel::Row> rows;
+    for (const NoteWatch::Note& note : open) {
+        const MoneyFormat own = money.of(note.currency);
+        rows += RowModel::Row{QString::number(note.id),
+                              {double(note.id), note.outcome, double(note.value),
+                               note.value > 0 ? own.text(note.value) : QString(),
+                               names.value(note.device, deviceName(note.device)), note.device,
+                               note.thread, note.time,
+                               money.locale.toString(note.time.toLocalTime(), QLocale::ShortFormat),
+                               note.incident, NoteWatch::text(note, money)}};
     }
-    registry->setRows(registryRows(device.dispRegistry()));
-    return QVariant::fromValue(registry);
+    m_openNotes.setRows(rows);
+    m_worstFaults.setRows(faultRows(m_state, names, open, money));
+}
+
+QMap<int, QString> ServiceState::givenNames() const
+{
+    QMap<int, QString> given;
+    for (auto name = m_names.begin(); name != m_names.end(); ++name)
+        given.insert(name.key().toInt(), plainText(name.value().toString()));
+    return given;
+}
+
+MoneyFormat ServiceState::format() const
+{
+    return {m_money.currency, m_money.digits, QLocale(m_locale)};
 }

@@ -3,13 +3,17 @@
 
 #pragma once
 
+#include "devicerows.h"
 #include "rowmodel.h"
-#include "service/lastnote.h"
+#include "service/notewatch.h"
 #include "service/serviceanswer.h"
+#include "service/sumwatch.h"
 
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <QtQml>
 
 /// What the acceptor service publishes, for payment and service screens. The program hands it the
@@ -31,6 +35,18 @@ class ServiceState : public QObject
     /// False while the program cannot reach the service. Nothing is accepted then, and the texts
     /// say so; the devices and sums stay as they were told last.
     Q_PROPERTY(bool available READ isAvailable WRITE setAvailable NOTIFY availableChanged)
+
+    /// After so many seconds without a state stale is true; 0, initially, for never. A state that
+    /// says the same again is one.
+    Q_PROPERTY(int staleAfter READ staleAfter WRITE setStaleAfter NOTIFY staleAfterChanged)
+
+    /// Whether the service has told nothing for too long. As with one that is not available,
+    /// nothing is accepted then.
+    Q_PROPERTY(bool stale READ isStale NOTIFY staleChanged)
+
+    /// The locale that money and times are written in, for example "ru_RU"; initially the
+    /// application's.
+    Q_PROPERTY(QString locale READ locale WRITE setLocale NOTIFY localeChanged)
 
     /// Display names by device identifier, for example {"1": "Note validator"}. A device without
     /// one is called after its model.
@@ -62,6 +78,44 @@ class ServiceState : public QObject
     /// What all devices took in the current session, in the unit of the service.
     Q_PROPERTY(double sessionSum READ sessionSum NOTIFY sessionSumChanged)
 
+    /// What is to be paid; 0, initially, for any sum.
+    Q_PROPERTY(double price READ price WRITE setPrice NOTIFY priceChanged)
+
+    /// Whether the price is paid, what is left of it, and what is paid above it; without a price
+    /// false and 0.
+    Q_PROPERTY(bool paid READ isPaid NOTIFY paidChanged)
+    Q_PROPERTY(double left READ left NOTIFY leftChanged)
+    Q_PROPERTY(double change READ change NOTIFY changeChanged)
+
+    /// What becomes of that: "none" where the kiosk gives no change, "paid" where it is paid out,
+    /// "credited" where it stays on the customer's account; empty when the service does not say.
+    Q_PROPERTY(QString changeMode READ changeMode NOTIFY changeModeChanged)
+
+    /// The currency's code, and how many digits of an amount stand after the point, as the service
+    /// publishes them; empty and 0 where it does not.
+    Q_PROPERTY(QString currency READ currency NOTIFY currencyChanged)
+    Q_PROPERTY(int digits READ digits NOTIFY digitsChanged)
+
+    /// Whether the service confirmed that the whole sum is stored and outlives it.
+    Q_PROPERTY(bool sumRecorded READ isSumRecorded NOTIFY sumRecordedChanged)
+
+    /// What was told as paid before the service was lost and is not in the sum that came back; 0
+    /// for nothing, and where the price was paid before. It stays until the sum is back, or
+    /// settleLoss(). lostSumRecorded: whether the service had confirmed it as stored.
+    Q_PROPERTY(double lostSum READ lostSum NOTIFY lostSumChanged)
+    Q_PROPERTY(bool lostSumRecorded READ isLostSumRecorded NOTIFY lostSumRecordedChanged)
+
+    /// Notes and coins whose end is not told, oldest first: in a device's hand, stuck in it, or
+    /// lost sight of. Roles: noteId, outcome, value (0 when not known), amountText (empty then),
+    /// deviceName, deviceId, threadId, time, timeText, incident (the number that the service's log
+    /// has for it, where the service publishes one) and text. A stuck one stays, over sessions too,
+    /// until the service says that it is settled, or without the service's list until the device
+    /// tells its end, or settle().
+    Q_PROPERTY(RowModel* openNotes READ openNotes CONSTANT)
+
+    /// Whether one of them is stuck or lost, or lostSum is not 0.
+    Q_PROPERTY(bool hasStuckMoney READ hasStuckMoney NOTIFY hasStuckMoneyChanged)
+
     /// What became of the note or coin that was inserted last, in words for the customer: empty
     /// when there is nothing to tell. The service may publish which filter refuses it.
     Q_PROPERTY(QString lastNoteText READ lastNoteText NOTIFY lastNoteTextChanged)
@@ -75,21 +129,30 @@ class ServiceState : public QObject
 
     /// The devices in published order. Roles: deviceId, threadId, modelName, kind, name, idText,
     /// enabled, status (the state's name), statusText, description, wrong (a list of sentences),
-    /// accepting (takes money now), lamps (those that apply to it: a list of {"name", "label",
-    /// "lit", "alarm"}), notesInserted, notesRejected, notesReturned, and registry: a model of the
+    /// accepting (takes money now), lamps (those that apply to it: a model with the roles name,
+    /// label, lit and alarm), notesInserted, notesRejected, notesReturned, registry: a model of the
     /// cassettes and hoppers with the roles channel, isCoin, denomination, currency, stock and
-    /// rejects.
+    /// rejects, and severity: that of the worst of worstFaults that its machine and state have; -1
+    /// for one that works.
     Q_PROPERTY(RowModel* devices READ devices CONSTANT)
+
+    /// What is wrong with all devices, worst first. Roles: deviceName, deviceId, threadId, reason
+    /// ("money" of a note or coin that is stuck or lost, "error", "state", "offline", "halted",
+    /// "stacker_missing", "stacker_full", "disabled"; in this order), text (a sentence) and
+    /// severity (3 for money, 2 for what stops a device, 1 for its stacker, 0 for one that is
+    /// disabled).
+    Q_PROPERTY(RowModel* worstFaults READ worstFaults CONSTANT)
 
 public:
     enum NoteOutcome : qint32 {
-        NoNote = LastNote::None,
-        NoteChecked = LastNote::Checked,
-        NoteTaken = LastNote::Taken,
-        NoteRefused = LastNote::Refused,
-        NoteRejected = LastNote::Rejected,
-        NoteReturned = LastNote::Returned,
-        NoteStuck = LastNote::Stuck
+        NoNote = NoteWatch::None,
+        NoteChecked = NoteWatch::Checked,
+        NoteTaken = NoteWatch::Taken,
+        NoteRefused = NoteWatch::Refused,
+        NoteRejected = NoteWatch::Rejected,
+        NoteReturned = NoteWatch::Returned,
+        NoteStuck = NoteWatch::Stuck,
+        NoteLost = NoteWatch::Lost ///< service or device went away with it and do not say its end
     };
     Q_ENUM(NoteOutcome)
 
@@ -103,6 +166,13 @@ public:
     void setAvailable(bool available);
     QVariantMap names() const { return m_names; }
     void setNames(const QVariantMap& names);
+    int staleAfter() const { return m_staleAfter; }
+    void setStaleAfter(int seconds);
+    bool isStale() const { return m_isStale; }
+    QString locale() const { return m_locale; }
+    void setLocale(const QString& locale);
+    double price() const { return m_price; }
+    void setPrice(double price);
 
     QString paymentText() const { return m_shown.paymentText; }
     QString customerText() const { return m_shown.customerText; }
@@ -113,18 +183,66 @@ public:
     bool isCardAccepted() const { return m_shown.cardAccepted; }
     bool isInService() const { return m_shown.inService; }
     double sessionSum() const { return m_shown.sessionSum; }
+    bool isPaid() const { return m_shown.paid; }
+    double left() const { return m_shown.left; }
+    double change() const { return m_shown.change; }
+    QString changeMode() const { return m_shown.changeMode; }
+    QString currency() const { return m_shown.currency; }
+    int digits() const { return m_shown.digits; }
+    bool isSumRecorded() const { return m_shown.sumRecorded; }
+    double lostSum() const { return m_shown.lostSum; }
+    bool isLostSumRecorded() const { return m_shown.lostSumRecorded; }
+    bool hasStuckMoney() const { return m_shown.hasStuckMoney; }
     QString lastNoteText() const { return m_shown.lastNoteText; }
     NoteOutcome lastNoteOutcome() const { return m_shown.lastNoteOutcome; }
     QString report() const { return m_shown.report; }
     QString fault() const { return m_shown.fault; }
     RowModel* devices() { return &m_devices; }
+    RowModel* openNotes() { return &m_openNotes; }
+    RowModel* worstFaults() { return &m_worstFaults; }
 
     /// Takes the text and its time at once.
     Q_INVOKABLE void take(const QString& text, const QDateTime& timestamp);
 
+    /// An amount as people read it, with the currency where that is known.
+    /// @param value in the unit of the service
+    Q_INVOKABLE QString moneyText(double value) const;
+
+    /// The staff says that an open note is settled. Of one that the service has an incident for
+    /// settleWanted() tells, and it stays as long as the service says that it is open.
+    Q_INVOKABLE void settle(double noteId);
+
+    /// The staff says that the lost sum is settled.
+    Q_INVOKABLE void settleLoss();
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
+    /// What became of a note or coin, of each and at once, also when two are alike.
+    /// @param outcome a NoteOutcome
+    /// @param value 0 when it is not known
+    /// @param device its display name
+    /// @param text in words for the customer
+    void noteEvent(int outcome, double value, const QString& currency, const QString& device,
+                   const QString& text);
+
+    /// The service is to be told that an incident of its is settled.
+    void settleWanted(const QString& incident);
+
+    void staleAfterChanged();
+    void staleChanged();
+    void localeChanged();
+    void priceChanged();
+    void paidChanged();
+    void leftChanged();
+    void changeChanged();
+    void changeModeChanged();
+    void currencyChanged();
+    void digitsChanged();
+    void sumRecordedChanged();
+    void lostSumChanged();
+    void lostSumRecordedChanged();
+    void hasStuckMoneyChanged();
     void textChanged();
     void timestampChanged();
     void availableChanged();
@@ -156,6 +274,16 @@ private:
         bool cardAccepted = false;
         bool inService = false;
         double sessionSum = 0;
+        bool paid = false;
+        double left = 0;
+        double change = 0;
+        QString changeMode;
+        QString currency;
+        int digits = 0;
+        bool sumRecorded = false;
+        double lostSum = 0;
+        bool lostSumRecorded = false;
+        bool hasStuckMoney = false;
         QString lastNoteText;
         NoteOutcome lastNoteOutcome = NoNote;
         QString report;
@@ -163,19 +291,34 @@ private:
     };
 
     void read();
+    void lose();
     void show();
-    void showDevices(const QMap<int, QString>& names);
-    QVariant registryOf(const QString& key, const AcceptorStateItem& device);
+    void showSoon();
+    void showNotes(const QMap<int, QString>& names);
+    Shown shownNow(const QMap<int, QString>& names) const;
+    bool isHeard() const { return m_available && !m_isStale; }
+    bool isComplete() const { return m_price > 0 && double(m_sums.sum()) >= m_price; }
+    QMap<int, QString> givenNames() const;
+    MoneyFormat format() const;
 
     QString m_text;
     QDateTime m_timestamp;
     bool m_available = true;
+    int m_staleAfter = 0;
+    bool m_isStale = false;
+    QString m_locale = QLocale().name();
+    double m_price = 0;
     QVariantMap m_names;
     PublishedState m_state;
+    PublishedMoney m_money; // as it was told last
     QString m_fault;
-    double m_sessionSum = 0; // as it was told last
-    LastNote m_lastNote;
+    NoteWatch m_notes;
+    SumWatch m_sums;
     Shown m_shown;
-    RowModel m_devices;
-    QHash<QString, RowModel*> m_registries; // by the key of the device's row; children
+    DeviceRows m_devices;
+    RowModel m_openNotes;
+    RowModel m_worstFaults;
+    QTimer m_staleTimer;
+    QTimer m_showTimer;
+    QElapsedTimer m_sinceShown;
 };

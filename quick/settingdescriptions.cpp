@@ -17,9 +17,10 @@ QString kindName(SettingDescription::Kind kind)
 } // namespace
 
 SettingDescriptions::SettingDescriptions(QObject* parent)
-    : RowModel(
-        {"group", "key", "label", "help", "kind", "minimum", "maximum", "choices", "defaultValue"},
-        parent)
+    : RowModel({"group", "key", "path", "label", "help", "kind", "minimum", "maximum", "choices",
+                "defaultValue", "value", "isDefault", "valid"},
+               parent)
+    , m_language([this] { list(); })
 {
     list();
 }
@@ -29,16 +30,30 @@ void SettingDescriptions::list()
     QVector<Row> rows;
     const QList<SettingDescription> settings = AcceptorSettings::settingDescriptions();
     for (const SettingDescription& setting : settings) {
-        const QString group = setting.forDevice(m_device).group();
-        const bool isOfDevice = group != setting.group();
+        const SettingDescription own = setting.forDevice(m_device);
+        const bool isOfDevice = own.group() != setting.group();
         if (isOfDevice != (m_device >= 0) || !setting.appliesTo(m_model, m_interfaceType))
             continue;
-        rows +=
-            Row{setting.path(),
-                {group, setting.key(), setting.label(), setting.help(), kindName(setting.kind()),
-                 setting.minimum(), setting.maximum(), setting.choices(), setting.defaultValue()}};
+        const QVariant defaultValue = own.defaultValue();
+        const QString value = m_values.value(own.path(), defaultValue).toString();
+        const bool isDefault = !m_values.contains(own.path()) || value == defaultValue;
+        rows += Row{setting.path(),
+                    {own.group(), own.key(), own.path(), own.label(), own.help(),
+                     kindName(own.kind()), own.minimum(), own.maximum(), own.choices(),
+                     defaultValue, value, isDefault, own.accepts(value)}};
     }
     setRows(rows);
+}
+
+void SettingDescriptions::setValue(const QString& group, const QString& key, const QString& text)
+{
+    const SettingDescription setting = AcceptorSettings::settingDescription(group, key);
+    QVariantMap values = m_values;
+    values.insert(setting.path(), text);
+    if (!setting.isValid() || values == m_values)
+        return;
+    setValues(values);
+    Q_EMIT valueEdited(setting.group(), setting.key(), text);
 }
 
 bool SettingDescriptions::accepts(const QString& group, const QString& key,

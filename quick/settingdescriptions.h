@@ -3,12 +3,16 @@
 
 #pragma once
 
+#include "languagewatch.h"
 #include "rowmodel.h"
 
 /// The settings of the service, or with a device number those of that device, for configuration
-/// screens. Roles: group and key (as the settings list has them), label and help (for people), kind
-/// ("number", "switch", "text", "choice", "attemptsLimits" or "routeMap"), minimum and maximum (of
-/// a number), choices (of a choice) and defaultValue (a text; undefined without one).
+/// screens. Roles: group, key and path (as the settings list has them; path is both with a slash
+/// between them), label and help (for people, in the language that is shown), kind ("number",
+/// "switch", "text", "choice", "attemptsLimits" or "routeMap"), minimum and maximum (of a number),
+/// choices (of a choice), defaultValue (a text; undefined without one), value (the text given, else
+/// the default, else empty), isDefault (none was given, or the same text as the default) and valid
+/// (whether the service can work with the value).
 class SettingDescriptions : public RowModel
 {
     Q_OBJECT
@@ -25,6 +29,10 @@ class SettingDescriptions : public RowModel
     Q_PROPERTY(
         QString interfaceType READ interfaceType WRITE setInterfaceType NOTIFY interfaceTypeChanged)
 
+    /// The texts given, by path, for example {"device2/ccnet/response_time": "20"}. Those of
+    /// settings that are not listed stay as they are.
+    Q_PROPERTY(QVariantMap values READ values WRITE setValues NOTIFY valuesChanged)
+
 public:
     explicit SettingDescriptions(QObject* parent = nullptr);
 
@@ -38,6 +46,16 @@ public:
         set(m_interfaceType, type, &SettingDescriptions::interfaceTypeChanged);
     }
 
+    QVariantMap values() const { return m_values; }
+    void setValues(const QVariantMap& values)
+    {
+        set(m_values, values, &SettingDescriptions::valuesChanged);
+    }
+
+    /// Gives the setting this text, as an editor of it does. A setting that there is none of, and a
+    /// text that it was given already, change nothing.
+    Q_INVOKABLE void setValue(const QString& group, const QString& key, const QString& text);
+
     /// Whether the service can work with the value; false for a setting that there is none of.
     Q_INVOKABLE bool accepts(const QString& group, const QString& key, const QString& value) const;
 
@@ -49,6 +67,10 @@ Q_SIGNALS:
     void deviceChanged();
     void modelChanged();
     void interfaceTypeChanged();
+    void valuesChanged();
+
+    /// setValue() changed the text, after which values has it.
+    void valueEdited(const QString& group, const QString& key, const QString& text);
 
 private:
     template <typename Value>
@@ -66,4 +88,6 @@ private:
     int m_device = -1;
     int m_model = 0;
     QString m_interfaceType;
+    QVariantMap m_values;
+    LanguageWatch m_language;
 };

@@ -31,7 +31,7 @@ DEFAULT = ("src/filters/*.cpp", "src/acceptorstate.cpp", "src/acceptorsettings.c
            "history/*.cpp")
 
 # The files whose rules say what becomes of money.
-MONEY = re.compile(r"src/filters/|.*/(acceptorstate|explanation|filtermemory|logplayer|lastnote|customeranswer)\.cpp")
+MONEY = re.compile(r"src/filters/|.*/(acceptorstate|explanation|filtermemory|logplayer|notewatch|customeranswer)\.cpp")
 
 # The tests that look at a file, the first row that its path begins with.
 TESTS = [

@@ -40,9 +40,9 @@ build_packages=(cmake g++ ninja-build qtbase5-dev libqt5serialport5-dev libqt5sq
     qml-module-qtquick-window2 qml-module-qttest)
 qt6_packages=(qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libqt6sql6-psql qt6-serialport-dev qt6-l10n-tools qt6-tools-dev
     qt6-tools-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qml6-module-qtqml
-    qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-controls
+    qml6-module-qtqml-models qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-controls
     qml6-module-qtquick-layouts qml6-module-qtquick-shapes qml6-module-qtquick-templates qml6-module-qtquick-window
     qml6-module-qttest)
 install_packages=(make pkg-config qt5-qmake qmake6)
-package_packages=(debhelper devscripts doxygen dpkg-dev file graphviz help2man lintian systemd)
+package_packages=(debhelper desktop-file-utils devscripts doxygen dpkg-dev file graphviz help2man lintian systemd)
 test_packages=(postgresql)

@@ -4,15 +4,15 @@
 
 # Installs what is missing and shows what scripts/test.sh does not: lint, all tests under the address and
 # undefined-behaviour sanitizers, those of the library and the tool under the thread sanitizer, the pages of
-# logs and of a fleet in a browser, a fleet of many kiosks at a broker, its rights there and its alert rules,
-# the money of thousands of simulated kiosks, ABI, documentation, packages that are the same to the byte
-# wherever they are built, and a few seconds of each fuzzer.
+# logs and of a fleet in a browser, the window of settings by keys alone, a fleet of many kiosks at a broker,
+# its rights there and its alert rules, the money of thousands of simulated kiosks, ABI, documentation,
+# packages that are the same to the byte wherever they are built, and a few seconds of each fuzzer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
 
 require_packages "${build_packages[@]}" "${install_packages[@]}" "${test_packages[@]}" clang libclang-rt-14-dev \
-    chromium chromium-driver openssl
+    chromium chromium-driver openssl xvfb xauth xdotool
 scripts/lint.sh
 for preset in asan tsan; do
     cmake --preset "$preset"
@@ -20,6 +20,7 @@ for preset in asan tsan; do
     ctest --preset "$preset"
 done
 tests/check_page.py build/asan/bin/velmo samples
+tests/check_settings_window.sh build/asan/bin samples
 cmake --preset release
 cmake --build --preset release --target velmo velmo-fleet velmolib_translations
 tests/check_fleet.py build/release/bin

@@ -42,6 +42,7 @@ done
 help=$(LD_LIBRARY_PATH=$(echo "$root"/usr/lib/*-linux-gnu) LC_ALL=C.UTF-8 \
     "$root"/usr/bin/velmo-fleet --lang ru --help)
 [[ $help == *терминал* ]] || fail "velmo-fleet does not find its texts"
+desktop-file-validate "$root"/usr/share/applications/velmo-settings.desktop
 units=$root/lib/systemd/system
 manual=$(sed -n 's/^Documentation=man:\(.*\)(1)$/\1/p' "$units"/velmo-fleet.service)
 zgrep -q partition "$root/usr/share/man/man1/$manual.1.gz"

@@ -750,6 +750,7 @@ private Q_SLOTS:
             {"device_states":[{"device_id":1,"x":1}]}   | "device_states": element 1: unknown key "x"
             {"device_states":[],"state":"idling"}       | fields of one device beside "device_states"
             {"notes_inserted":1}                        | unknown key "notes_inserted"
+            {"state":"jammed","incident":1}             | the number of an incident: expected a text
             {"state":"idling"                           | not JSON: unterminated)"_s);
     }
 

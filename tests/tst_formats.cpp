@@ -215,6 +215,26 @@ const QMap<QString, std::function<QVariant(const QVariant& example)>> checks{
          return QVariantMap{{"device_states"_s, QVariantList()},
                             {"refusals"_s, readServiceState(text(v)).refusals}};
      }},
+    {"money"_s,
+     [](auto& v) {
+         const PublishedState state = readServiceState(text(v));
+         const PublishedMoney& money = state.money;
+         const Incident incident = state.incidents.value_or(std::vector<Incident>()).at(0);
+         const QVariantMap row{{"number"_s, incident.number},
+                               {"device_id"_s, incident.device},
+                               {"thread_id"_s, incident.thread},
+                               {"denomination"_s, incident.denomination},
+                               {"currency"_s, incident.currency},
+                               {"time"_s, incident.time.toString(Qt::ISODateWithMs)},
+                               {"settled"_s, false}};
+         return QVariantMap{{"device_states"_s, QVariantList()},
+                            {"money"_s,
+                             QVariantMap{{"currency"_s, money.currency},
+                                         {"digits"_s, money.digits},
+                                         {"recorded"_s, money.recorded},
+                                         {"change"_s, money.change}}},
+                            {"incidents"_s, QVariantList{row}}};
+     }},
     {"field description"_s, written<FieldDescription>},
     {"filters file"_s, writtenFilters},
     {"explained log"_s,

@@ -305,6 +305,45 @@ private Q_SLOTS:
         QCOMPARE(contentOf(m_list) == sampleText, added.isEmpty() && removed.isEmpty());
     }
 
+    // A device that gets the index of another: which index each then has.
+    void movingDevicesChangesTheirIndexesOnly_data()
+    {
+        addRows(R"(
+            0 1 2 3 4 | 0 | 4 | 4 0 1 2 3
+            0 1 2 3 4 | 3 | 1 | 0 2 3 1 4
+            0 1 2 3 4 | 2 | 2 | 0 1 2 3 4
+            0 2 7     | 7 | 0 | 2 7 0)"_s);
+    }
+
+    void movingDevicesChangesTheirIndexesOnly()
+    {
+        const auto [devices, from, to, expected] = cells<4>();
+        const QStringList before = devices.split(QLatin1Char(' '));
+        const QStringList after = expected.split(QLatin1Char(' '));
+        const auto listOf = [](const QStringList& indexes) {
+            QByteArray text =
+                R"([{"group":"service","key":"devices_count","value":8},{"group":"other","key":"device0"})";
+            for (int i = 0; i < indexes.size(); ++i) {
+                text += R"(,
+ {"key":"port_logging" , "group":"device%1/debug", "value":0}, {"group":"device%1","key":"x"},
+ {"group": "device%1/hw_interface", "value":"tty%2", "key":"portname"})"_s
+                            .arg(indexes.at(i), QString::number(i))
+                            .toUtf8();
+            }
+            return text + "]";
+        };
+        SettingsEdit edit(arrayFile(listOf(before)));
+        edit.moveDevice(from.toInt(), to.toInt());
+        QCOMPARE(edit.file().text(), listOf(after));
+        // What was wrong with a device is still known where it is now.
+        QCOMPARE(edit.newFindings().size(), 0);
+        edit.moveDevice(to.toInt(), from.toInt());
+        QCOMPARE(edit.file().text(), listOf(before));
+        QVERIFY_EXCEPTION_THROWN(edit.moveDevice(from.toInt(), 5), Fault);
+        QVERIFY_EXCEPTION_THROWN(edit.moveDevice(9, to.toInt()), Fault);
+        QCOMPARE(edit.file().text(), listOf(before));
+    }
+
     // A value in the list as JSON, what it is set to, the value then.
     void wholeNumbersAreExact_data()
     {

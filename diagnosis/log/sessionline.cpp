@@ -241,6 +241,8 @@ enum Key : size_t {
     Session,
     Time,
     Kiosk,
+    Incident,
+    Settled,
     Inserted,
     Rejected,
     Returned,
@@ -252,10 +254,12 @@ const auto& keys()
     static const QString session = QStringLiteral("session");
     static const QString time = QStringLiteral("time");
     static const QString kiosk = QStringLiteral("kiosk");
+    static const QString incident = QStringLiteral("incident");
+    static const QString settled = QStringLiteral("settled");
     static const KeyOrder order(
         joined(keysOf(fields()),
-               std::array{&AcceptorState::DEVICE_STATES, &session, &time, &kiosk,
-                          &StatItem::NOTES_INSERTED, &StatItem::NOTES_REJECTED,
+               std::array{&AcceptorState::DEVICE_STATES, &session, &time, &kiosk, &incident,
+                          &settled, &StatItem::NOTES_INSERTED, &StatItem::NOTES_REJECTED,
                           &StatItem::NOTES_RETURNED}));
     return order;
 }
@@ -333,6 +337,13 @@ QString readKiosk(const QVariant& value)
     return value.toString();
 }
 
+// Numbers of incidents are for those who search the log.
+void checkIncident(const QVariant& value)
+{
+    if (value.userType() != QMetaType::QString)
+        throw Fault{Diagnosis::tr("the number of an incident: expected a text")};
+}
+
 } // namespace
 
 void DeviceReport::applyTo(DeviceState& state) const
@@ -362,7 +373,7 @@ SessionLine::SessionLine(const QString& text)
             m_isPublished = true;
             return readPublished(json, m_reports);
         }
-        if (index > Kiosk) {
+        if (index > Settled) {
             stray = stray.isNull() ? key.toString() : stray;
             return json.skipValue();
         }
@@ -373,6 +384,8 @@ SessionLine::SessionLine(const QString& text)
             m_time = readTime(value);
         else if (index == Kiosk)
             m_kiosk = readKiosk(value);
+        else if (index == Incident || index == Settled)
+            checkIncident(value);
         else if (value.userType() != QMetaType::QString
                  || value.toString() != QLatin1String("start"))
             throw Fault{Diagnosis::tr(R"("session": expected "start")")};

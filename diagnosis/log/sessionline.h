@@ -32,7 +32,7 @@ struct DeviceReport
 
 /// One line of a session log: what a device reported, under the keys of the device state map, or
 /// the published states of all devices. "session": "start" begins a payment session before they
-/// are taken; "time" says when, and "kiosk" where.
+/// are taken; "time" says when, and "kiosk" where. "incident" and "settled" are numbers for people.
 class SessionLine
 {
 public:

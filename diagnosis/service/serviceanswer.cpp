@@ -84,7 +84,118 @@ const auto& deviceTable()
     return table;
 }
 
+QString currencyOf(const QVariant& published)
+{
+    const QString code = published.toString();
+    const bool isCode = published.userType() == QMetaType::QString && code.size() == 3
+        && std::all_of(code.begin(), code.end(), [](QChar c) { return c >= u'A' && c <= u'Z'; });
+    return isCode ? code : QString();
+}
+
+void readMoney(PublishedState& state, const QVariant& published)
+{
+    constexpr int mostDigits = 4;
+    const QVariantMap map = published.toMap();
+    const qint64 digits = wholeNumber(map.value(QStringLiteral("digits"))).value_or(0);
+    const QString change = map.value(QStringLiteral("change")).toString();
+    const QStringList changes{QStringLiteral("none"), QStringLiteral("paid"),
+                              QStringLiteral("credited")};
+    state.money = {currencyOf(map.value(QStringLiteral("currency"))),
+                   digits >= 0 && digits <= mostDigits ? int(digits) : 0,
+                   wholeNumber(map.value(QStringLiteral("recorded"))).value_or(0),
+                   changes.contains(change) ? change : QString()};
+}
+
+void readIncidents(PublishedState& state, const QVariant& published)
+{
+    using namespace deviceStateDescConst;
+    constexpr size_t most = 100;
+    constexpr qint64 nobody = std::numeric_limits<qint64>::max();
+    state.incidents.reset();
+    if (published.userType() != QMetaType::QVariantList)
+        return;
+    std::vector<Incident> incidents;
+    const QVariantList list = published.toList();
+    for (const QVariant& element : list) {
+        const QVariantMap map = element.toMap();
+        const auto text = [&map](const char* key) {
+            const QVariant value = map.value(QLatin1String(key));
+            return value.userType() == QMetaType::QString ? plainText(value.toString()) : QString();
+        };
+        const qint64 device = wholeNumber(map.value(DEVICE_ID)).value_or(nobody);
+        const qint64 thread = wholeNumber(map.value(THREAD_ID)).value_or(nobody);
+        const bool isOpen = map.value(QStringLiteral("settled")) != QVariant(true);
+        if (text("number").isEmpty() || int(device) != device || int(thread) != thread || !isOpen
+            || incidents.size() == most)
+            continue;
+        const qint64 value = wholeNumber(map.value(QStringLiteral("denomination"))).value_or(0);
+        incidents.push_back({text("number"), int(device), int(thread), qMax(value, qint64(0)),
+                             currencyOf(map.value(QStringLiteral("currency"))),
+                             QDateTime::fromString(text("time"), Qt::ISODateWithMs)});
+    }
+    state.incidents = incidents;
+}
+
+// What may be published beside the devices.
+struct FurtherMember
+{
+    const char* key;
+    void (*read)(PublishedState& state, const QVariant& published);
+};
+
+constexpr FurtherMember furtherMembers[] = {
+    {"refusals",
+     [](PublishedState& state, const QVariant& list) { state.refusals = list.toList(); }},
+    {"money", readMoney},
+    {"incidents", readIncidents},
+};
+
 } // namespace
+
+QString plainText(const QString& text)
+{
+    constexpr int longest = 200;
+    const auto isPlain = [](QChar c) {
+        return c == u'\n'
+            || (c.category() != QChar::Other_Control && c.category() != QChar::Other_Format);
+    };
+    if (text.size() <= longest && std::all_of(text.begin(), text.end(), isPlain))
+        return text; // shared
+    QString plain;
+    for (const QChar c : text) {
+        if (plain.size() == longest)
+            return plain + QChar(0x2026);
+        if (isPlain(c))
+            plain += c;
+        else if (c.category() == QChar::Other_Control)
+            plain += QChar(u' ');
+    }
+    return plain;
+}
+
+void makePlain(PublishedState& state)
+{
+    QList<AcceptorStateItem> entries;
+    for (PublishedDevice& device : state.devices) {
+        device.setState(plainText(device.state()));
+        device.setStateText(plainText(device.stateText()));
+        device.setErrorText(plainText(device.errorText()));
+        device.setIdString(plainText(device.idString()));
+        entries += device;
+    }
+    state.service.setDeviceStates(entries);
+}
+
+std::optional<qint64> wholeNumber(const QVariant& published)
+{
+    constexpr double beyond = 9007199254740992.0;
+    if (published.userType() != QMetaType::LongLong && published.userType() != QMetaType::Double)
+        return {};
+    const double number = published.toDouble();
+    if (std::abs(number) >= beyond || number != std::trunc(number))
+        return {};
+    return qint64(number);
+}
 
 qint64 PublishedState::sessionSum() const
 {
@@ -162,11 +273,14 @@ PublishedState readServiceState(const QString& json)
         }
         if (key == QLatin1String("time"))
             return reader.readValue(time);
-        if (key != QLatin1String("refusals"))
+        const auto* const more =
+            std::find_if(std::begin(furtherMembers), std::end(furtherMembers),
+                         [&](const FurtherMember& m) { return key == QLatin1String(m.key); });
+        if (more == std::end(furtherMembers))
             return reader.skipValue();
-        QVariant refusals;
-        const bool isSound = reader.readValue(refusals);
-        state.refusals = refusals.toList();
+        QVariant value;
+        const bool isSound = reader.readValue(value);
+        more->read(state, value);
         return isSound;
     });
     if (!isObject || !isWhole || !reader.isAtEnd())

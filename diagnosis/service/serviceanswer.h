@@ -7,15 +7,37 @@
 #include "text/publisheddevice.h"
 #include "json/jsontext.h"
 
+#include <QDateTime>
 #include <QHash>
 #include <QMap>
 #include <QStringList>
 #include <QVariant>
 
+#include <optional>
 #include <vector>
 
 // What a published service state means, for people and for programs. Texts are in the language that
 // is shown.
+
+/// What a service publishes about its money. What is not as it must be counts as not published.
+struct PublishedMoney
+{
+    QString currency = {}; ///< a code of ISO 4217; empty when not known
+    int digits = 0; ///< of an amount, stand after the point
+    qint64 recorded = 0; ///< so much of the session's sum outlives the service, as far as is known
+    QString change = {}; ///< "none", "paid" or "credited"; empty when not known
+};
+
+/// A piece of money whose end is open, as the service sees it.
+struct Incident
+{
+    QString number; ///< that the service's log has
+    int device;
+    int thread;
+    qint64 denomination; ///< 0 when not known
+    QString currency; ///< empty when not known
+    QDateTime time; ///< invalid when not known
+};
 
 /// A published service state.
 struct PublishedState
@@ -27,9 +49,25 @@ struct PublishedState
     /// {"device_id": ..., "thread_id": ..., "name": ..., "params": {...}}.
     QVariantList refusals;
 
+    PublishedMoney money;
+
+    /// Those that are not settled; nothing where the service does not publish such a list.
+    std::optional<std::vector<Incident>> incidents;
+
     /// Taken by all devices in the current session.
     qint64 sessionSum() const;
 };
+
+/// A text from outside as a screen can show it: control characters become spaces, marks that turn
+/// the direction of writing are left out, and what is longer than anybody reads is cut.
+QString plainText(const QString& text);
+
+/// Makes the texts of a state that plainText().
+void makePlain(PublishedState& state);
+
+/// A whole number as it was published; nothing for anything else, or what a screen has no exact
+/// number for.
+std::optional<qint64> wholeNumber(const QVariant& published);
 
 /// A counter as it was published; of what is beyond 64 bits the nearest number within.
 qint64 counterOf(const QVariant& published);

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <tuple>
 
 namespace {
 
@@ -306,6 +307,23 @@ private:
     QHash<QString, int> m_addresses; // the device that has it
 };
 
+// Level, path and text without devices; the devices, of which either may be the one that it is
+// told of.
+using Sameness =
+    std::tuple<SettingsFinding::Level, QString, QString, std::optional<int>, std::optional<int>>;
+
+// A finding by what tells it from others when the devices are numbered as they are now.
+Sameness sameness(const SettingsFinding& finding, const DeviceNumbering& numbering)
+{
+    const auto numbered = [&numbering](const std::optional<int>& device) {
+        return device ? std::optional<int>(numbering.now(*device)) : std::nullopt;
+    };
+    const QString path = finding.device ? finding.path.section(QLatin1Char('/'), 1) : finding.path;
+    const auto device = numbered(finding.device);
+    const auto other = numbered(finding.otherDevice);
+    return {finding.level, path, finding.fault, std::min(device, other), std::max(device, other)};
+}
+
 } // namespace
 
 QString SettingsFinding::levelKey() const
@@ -324,4 +342,18 @@ QString SettingsFinding::line(const ArrayFile& file) const
 QList<SettingsFinding> checkSettings(const ArrayFile& file)
 {
     return Check(file).findings();
+}
+
+QList<SettingsFinding> newFindings(const ArrayFile& before, const ArrayFile& after,
+                                   const DeviceNumbering& numbering)
+{
+    QList<Sameness> known;
+    for (const SettingsFinding& finding : checkSettings(before))
+        known += sameness(finding, numbering);
+    QList<SettingsFinding> added;
+    for (const SettingsFinding& finding : checkSettings(after)) {
+        if (!known.removeOne(sameness(finding, {})))
+            added += finding;
+    }
+    return added;
 }

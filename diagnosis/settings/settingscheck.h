@@ -4,6 +4,7 @@
 #pragma once
 
 #include "settings/arrayfile.h"
+#include "settings/devicenumbering.h"
 
 #include <QList>
 
@@ -34,3 +35,8 @@ struct SettingsFinding
 /// What the service would ignore, take otherwise than it is written or not find in a settings list,
 /// in the order of the list.
 QList<SettingsFinding> checkSettings(const ArrayFile& file);
+
+/// What is found in a list that was not found in the one before.
+/// @param numbering what became of the devices of the one before
+QList<SettingsFinding> newFindings(const ArrayFile& before, const ArrayFile& after,
+                                   const DeviceNumbering& numbering);

@@ -343,57 +343,58 @@ ServiceSetting SettingsEdit::settingOfDevice(int device, const QString& key) con
                 + nearestKnown(key, known)};
 }
 
+void SettingsEdit::requireListed(const SettingsList& list, int device) const
+{
+    if (!list.devices().contains(device))
+        throw Fault{Diagnosis::tr("%1: there is no %2").arg(m_file.name(), deviceGroup(device))};
+}
+
+void SettingsEdit::renumber(const SettingsList& list, const DeviceNumbering& numbering)
+{
+    m_numbering.then(numbering);
+    for (int i = 0; i < list.elements().size(); ++i) {
+        const SettingsList::Element& element = list.elements().at(i);
+        if (!element.device || numbering.now(*element.device) == *element.device)
+            continue;
+        const auto nameSize = element.group.section(QLatin1Char('/'), 0, 0).size();
+        const QString group = deviceGroup(numbering.now(*element.device));
+        m_file.setMember(i, QStringLiteral("group"), group + element.group.mid(nameSize));
+    }
+    for (auto device = list.devices().keyBegin(); device != list.devices().keyEnd(); ++device) {
+        if (const int now = numbering.now(*device); now != *device)
+            m_remarks += Diagnosis::tr("%1 becomes %2").arg(deviceGroup(*device), deviceGroup(now));
+    }
+}
+
 void SettingsEdit::removeDevice(int device)
 {
     const SettingsList now = list();
-    if (!now.devices().contains(device))
-        throw Fault{Diagnosis::tr("%1: there is no %2").arg(m_file.name(), deviceGroup(device))};
+    requireListed(now, device);
+    DeviceNumbering numbering;
     if (device >= 0)
-        m_removedDevice = device;
-    const auto isBehind = [device](int other) { return device >= 0 && other > device; };
+        numbering.remove(device);
+    renumber(now, numbering);
     QVector<int> removed;
     for (int i = 0; i < now.elements().size(); ++i) {
-        const SettingsList::Element& element = now.elements().at(i);
-        if (element.device == device) {
+        if (now.elements().at(i).device == device)
             removed += i;
-        } else if (element.device && isBehind(*element.device)) {
-            const auto slash = element.group.indexOf(QLatin1Char('/'));
-            const QString rest = slash < 0 ? QString() : element.group.mid(slash);
-            m_file.setMember(i, QStringLiteral("group"), deviceGroup(*element.device - 1) + rest);
-        }
     }
     remove(now, removed);
-    for (auto other = now.devices().keyBegin(); other != now.devices().keyEnd(); ++other) {
-        if (isBehind(*other))
-            m_remarks +=
-                Diagnosis::tr("%1 becomes %2").arg(deviceGroup(*other), deviceGroup(*other - 1));
-    }
     if (now.deviceCount() > device && device >= 0) {
         setValue(ServiceSetting::find(S::SERVICE_SECTION, S::DEVICE_COUNT),
                  QString::number(now.deviceCount() - 1));
     }
 }
 
-// A finding by what tells it from others when the devices are numbered as they are now.
-SettingsEdit::Sameness SettingsEdit::sameness(const SettingsFinding& finding, int removedDevice)
+void SettingsEdit::moveDevice(int device, int to)
 {
-    const auto numbered = [removedDevice](const std::optional<int>& device) {
-        return device && *device > removedDevice ? *device - 1 : device;
-    };
-    const QString path = finding.device ? finding.path.section(QLatin1Char('/'), 1) : finding.path;
-    return {finding.level, numbered(finding.device), path, finding.fault,
-            numbered(finding.otherDevice)};
-}
-
-QList<SettingsFinding> SettingsEdit::newFindings() const
-{
-    QList<Sameness> known;
-    for (const SettingsFinding& finding : checkSettings(m_original))
-        known += sameness(finding, m_removedDevice);
-    QList<SettingsFinding> added;
-    for (const SettingsFinding& finding : checkSettings(m_file)) {
-        if (!known.removeOne(sameness(finding, noDevice)))
-            added += finding;
-    }
-    return added;
+    const SettingsList now = list();
+    requireListed(now, device);
+    requireListed(now, to);
+    const QList<int> devices = now.devices().keys();
+    const auto target = devices.indexOf(to);
+    DeviceNumbering numbering;
+    for (auto i = devices.indexOf(device); i != target; i += i < target ? 1 : -1)
+        numbering.swap(devices.at(i), devices.at(i < target ? i + 1 : i - 1));
+    renumber(now, numbering);
 }

@@ -4,15 +4,14 @@
 #pragma once
 
 #include "settings/arrayfile.h"
+#include "settings/devicenumbering.h"
 #include "settings/settingscheck.h"
 #include "settings/settingslist.h"
 
 #include <QMap>
 #include <QStringList>
 
-#include <limits>
 #include <optional>
-#include <tuple>
 
 /// A setting and the value that it is to have.
 struct Assignment
@@ -59,6 +58,10 @@ public:
     /// Removes a device, gives those behind it the index before theirs and lowers the device count.
     void removeDevice(int device);
 
+    /// Gives a device the index of another. That one and those between them get the index of their
+    /// neighbour; every element stays where it stands.
+    void moveDevice(int device, int to);
+
     const ArrayFile& file() const { return m_file; }
 
     QList<Change> changes() const;
@@ -67,7 +70,10 @@ public:
     QStringList remarks() const { return m_remarks; }
 
     /// What check finds in the list that it did not find before.
-    QList<SettingsFinding> newFindings() const;
+    QList<SettingsFinding> newFindings() const
+    {
+        return ::newFindings(m_original, m_file, m_numbering);
+    }
 
 private:
     /// The value that an added setting begins with, and the setting that it is taken over from.
@@ -76,12 +82,6 @@ private:
         QString value;
         QString from;
     };
-
-    /// Level, device, path and text without devices, the other device.
-    using Sameness = std::tuple<SettingsFinding::Level, std::optional<int>, QString, QString,
-                                std::optional<int>>;
-
-    static constexpr int noDevice = std::numeric_limits<int>::max();
 
     SettingsList list() const { return SettingsList(m_file); }
 
@@ -94,9 +94,10 @@ private:
     void setUp(int device, const SettingsList& before);
     Start startOf(const ServiceSetting& setting, const SettingsList& before);
     void makeDevice(int device, int model, const QList<Assignment>& assignments);
-    static Sameness sameness(const SettingsFinding& finding, int removedDevice);
+    void renumber(const SettingsList& list, const DeviceNumbering& numbering);
     ServiceSetting settingOfDevice(int device, const QString& key) const;
     void requireDevice(int device) const;
+    void requireListed(const SettingsList& list, int device) const;
     Change& record(const QString& path, const QVariant& before, const QVariant& after,
                    const QString& from = {});
 
@@ -105,5 +106,5 @@ private:
     QMap<QString, int> m_changeOfPath; // indexes into m_changes
     QList<Change> m_changes;
     QStringList m_remarks;
-    int m_removedDevice = noDevice; // those behind it have the index before theirs
+    DeviceNumbering m_numbering; // of the original's devices
 };

@@ -24,36 +24,9 @@ T.Button {
     Accessible.name: text
     Accessible.onPressAction: clicked()
 
-    readonly property color front: down || checked ? KioskTheme.onAccent : KioskTheme.accent
-
-    contentItem: Item {
-        implicitWidth: row.implicitWidth
-        implicitHeight: row.implicitHeight
-        opacity: key.enabled ? 1 : 0.4
-
-        Row {
-            id: row
-            anchors.centerIn: parent
-            spacing: KioskTheme.gap / 2
-
-            KioskIcon {
-                anchors.verticalCenter: parent.verticalCenter
-                visible: key.sign !== ""
-                kind: key.sign
-                color: key.front
-            }
-            KioskText {
-                text: key.text
-                font.pixelSize: key.font.pixelSize
-                color: key.front
-                Accessible.ignored: true
-            }
-        }
+    contentItem: KeyFace {
+        control: key
+        sign: key.sign
     }
-    background: Rectangle {
-        radius: KioskTheme.radius
-        color: key.down || key.checked ? KioskTheme.accent : KioskTheme.panel
-        border.color: key.activeFocus ? KioskTheme.ink : KioskTheme.accent
-        border.width: (key.activeFocus ? 3 : 1) * KioskTheme.border
-    }
+    background: KeyGround { control: key }
 }

@@ -15,6 +15,7 @@ QtObject {
     /// How large what fills the window is, beside its size on a screen of 211 x 158 mm; the window sets it.
     property real scale: 1
 
+    /// Whether the smaller texts are larger, at the cost of how much of them is seen at once.
     property bool largeText: false
     property bool highContrast: false
 
@@ -28,12 +29,14 @@ QtObject {
 
     // Capital letters are 0.73 of the size of a font.
     readonly property real capital: density / 0.73
+    // What stands beside large texts grows with them, but less.
+    readonly property real grown: Math.max(1, Math.sqrt(scale))
     readonly property int small: Math.round(4.9 * capital * (largeText ? 1.3 : 1))
-    readonly property int medium: Math.round(6 * capital * (largeText ? 1.3 : 1))
-    readonly property int large: Math.round(Math.max(8, 9 * scale) * capital * (largeText ? 1.2 : 1))
-    readonly property int huge: Math.round(Math.max(11, 14 * scale) * capital * (largeText ? 1.2 : 1))
+    readonly property int medium: Math.round(4.9 * Math.max(1, Math.pow(scale, 0.75)) * capital * (largeText ? 1.3 : 1))
+    readonly property int large: Math.round(Math.max(8, 9 * scale) * capital)
+    readonly property int huge: Math.round(Math.max(11, 14 * scale) * capital)
     readonly property int touch: Math.round(15 * density)
-    readonly property int gap: Math.round(4 * density)
+    readonly property int gap: Math.round(4 * grown * density)
     readonly property int radius: highContrast ? 0 : Math.round(2 * density)
     readonly property int border: Math.max(1, Math.round((highContrast ? 0.8 : 0.3) * density))
 
@@ -43,7 +46,8 @@ QtObject {
     readonly property color ink: highContrast ? "#ffffff" : "#16212b"
     readonly property color quiet: highContrast ? "#ffffff" : "#3c4a57"
     readonly property color accent: highContrast ? "#ffff00" : "#0b4a8f"
-    readonly property color onAccent: highContrast ? "#000000" : "#ffffff"
+    /// Of a text on the accent.
+    readonly property color accentInk: highContrast ? "#000000" : "#ffffff"
     readonly property color good: highContrast ? "#ffffff" : "#0f5a2c"
     readonly property color goodGround: highContrast ? "#000000" : "#e3f3e8"
     readonly property color bad: highContrast ? "#ffff00" : "#8c1616"

@@ -25,6 +25,12 @@ TestCase {
             onInServiceChanged: test.changes++
             onSessionSumChanged: test.changes++
             onLastNoteTextChanged: test.changes++
+            onPaidChanged: test.changes++
+            onLeftChanged: test.changes++
+            onChangeChanged: test.changes++
+            onSumRecordedChanged: test.changes++
+            onLostSumChanged: test.changes++
+            onHasStuckMoneyChanged: test.changes++
             onReportChanged: test.changes++
             onFaultChanged: test.changes++
         }
@@ -38,6 +44,16 @@ TestCase {
         return JSON.stringify(Object.assign({device_states: devices}, more));
     }
 
+    function publish(state, devices, more) {
+        state.text = text(devices, more);
+        update(state);
+    }
+
+    // The properties follow within a frame's time; with this at once.
+    function update(state) {
+        state.settle(0);
+    }
+
     function make(devices, more) {
         return createTemporaryObject(stateComponent, test, {text: text(devices, more)});
     }
@@ -46,8 +62,9 @@ TestCase {
         const state = make([device(1, 1), device(100, 2)]);
         changes = 0;
         state.text = text([device(1, 1), device(100, 2)]) + " ";
+        update(state);
         compare(changes, 0);
-        state.text = text([device(1, 1), device(100, 2, {session_sum: 10})]);
+        publish(state, [device(1, 1), device(100, 2, {session_sum: 10})]);
         compare(changes, 1);
         compare(state.sessionSum, 10);
     }
@@ -128,12 +145,12 @@ TestCase {
         const state = make([device(row.model, 1, {session_sum: 40}), device(1, 9)]);
         for (const [name, note, filter] of row.steps) {
             const refusals = filter ? [Object.assign({device_id: row.model, thread_id: 1}, filter)] : [];
-            state.text = text([device(row.model, 1, {state: name, current_note: note, session_sum: 40}),
+            publish(state, [device(row.model, 1, {state: name, current_note: note, session_sum: 40}),
                                device(1, 9)], {refusals: refusals});
         }
         compare(state.lastNoteText, row.text);
         compare(state.lastNoteOutcome, row.outcome);
-        state.text = text([device(row.model, 1, {session_sum: 0}), device(1, 9)]); // another session
+        publish(state, [device(row.model, 1, {session_sum: 0}), device(1, 9)]); // another session
         compare(state.lastNoteText, "");
     }
 
@@ -153,6 +170,7 @@ TestCase {
         state.available = true;
         compare(state.paymentText, "Input money or coin");
         state.text = "{";
+        update(state);
         compare([state.paymentText, state.devices.count, state.sessionSum].join(), "Wait...,0,1510");
         compare(state.fault, "expected a JSON object");
         compare(state.reasons, ["The service's state cannot be read: expected a JSON object."]);
@@ -183,7 +201,7 @@ TestCase {
     function test_rowsChangeOneByOne(row) {
         const state = make([device(1, 1), device(2, 1), device(100, 2)]);
         spyOn(state.devices);
-        state.text = text(row.after);
+        publish(state, row.after);
         compare(rows, row.rows);
     }
 
@@ -193,9 +211,9 @@ TestCase {
         const registries = [state.devices.get(0).registry, state.devices.get(1).registry];
         compare(registries.map(registry => registry.count), [1, 0]);
         spyOn(state.devices);
-        state.text = text([device(1, 1, full), device(1, 1, {halt: true})]);
+        publish(state, [device(1, 1, full), device(1, 1, {halt: true})]);
         compare(rows, ["change 1"]);
-        state.text = text([device(1, 1, full)]);
+        publish(state, [device(1, 1, full)]);
         compare(rows, ["change 1", "remove 1-1", "count"]);
         wait(0); // what is gone may be deleted
         compare(state.devices.get(0).registry, registries[0]);
@@ -219,11 +237,110 @@ TestCase {
 
     function test_lampsAreThoseOfTheKind() {
         const lamps = make([device(1, 1), device(100, 1), device(200, 1), device(51, 1)]).devices;
-        const names = row => lamps.get(row).lamps.map(lamp => lamp.name).join(" ");
+        const names = row => Array.from({length: lamps.get(row).lamps.count},
+                                        (_, at) => lamps.get(row).lamps.get(at).name).join(" ");
         compare(names(0), "accepting stacker stackerFull error halted offline");
         compare(names(1), "accepting error halted offline");
         compare(names(2), names(1));
         compare(names(3), "error halted offline");
+    }
+
+    function test_paidLeftAndChange_data() {
+        return [
+            {tag: "nothing", price: 2510, sum: 0, expected: "false,2510,0,none,false"},
+            {tag: "part", price: 2510, sum: 1510, recorded: 1510, expected: "false,1000,0,none,true"},
+            {tag: "exact", price: 2510, sum: 2510, recorded: 2509, expected: "true,0,0,none,false"},
+            {tag: "above", price: 2510, sum: 6010, recorded: 7000, expected: "true,0,3500,none,true"},
+            {tag: "any sum", price: 0, sum: 6010, expected: "false,0,0,none,false"}
+        ];
+    }
+
+    function test_paidLeftAndChange(row) {
+        const state = make([device(1, 1, {session_sum: row.sum})], {money: {change: "none", recorded: row.recorded}});
+        state.price = row.price;
+        const {paid, left, change, changeMode, sumRecorded} = state;
+        compare([paid, left, change, changeMode, sumRecorded].join(), row.expected);
+        state.available = false; // what was confirmed stays so
+        compare(state.sumRecorded, sumRecorded);
+    }
+
+    function test_textsFromOutsideAreTamed() {
+        const hostile = "<img src=x>\u202e\u0007\u200f" + "A".repeat(1e6);
+        const broken = device(1, 1, {state: hostile, id_string: hostile, state_text: hostile, error_critical: true,
+                                     error_text: hostile, dispenser_registry: [{channel: 1, currency: hostile, count: 1}]});
+        const state = make([broken], {incidents: [{number: hostile, device_id: 1, thread_id: 1}]});
+        state.names = {"1": hostile};
+        const shown = state.devices.get(0);
+        const texts = [shown.idText, shown.status, shown.statusText, shown.description, shown.name, shown.wrong.join(),
+                       shown.registry.get(0).currency, state.reasons.join(), state.report,
+                       state.openNotes.get(0).incident, state.worstFaults.get(1).text];
+        for (const text of texts) {
+            verify(text.length < 1500, text.length);
+            verify(!/[\u202e\u0007\u200f]/.test(text), JSON.stringify(text));
+        }
+        verify(shown.idText.startsWith("<img src=x> AAA"), shown.idText);
+    }
+
+    function test_staleServiceInvitesNobody() {
+        const [all, empty] = [10, 0].map(sum => [device(1, 1, {session_sum: sum}), device(100, 2)]);
+        const state = make(all);
+        state.staleAfter = 2;
+        wait(1100);
+        state.take(state.text, state.timestamp); // the same again
+        wait(1100);
+        compare([state.stale, state.customerText].join(), "false,Input money or coin");
+        tryCompare(state, "stale", true);
+        compare([state.customerText, state.paymentText, state.acceptingAllowed, state.noteAccepted, state.coinAccepted,
+                 state.inService, state.sessionSum, state.devices.count].join(),
+                "Out of service,Out of service,false,false,false,false,10,2");
+        compare(state.reasons, ["The service has told nothing for 2 s."]);
+        compare(state.devices.get(0).accepting, false);
+        state.take(state.text, state.timestamp);
+        tryCompare(state, "customerText", "Input money or coin");
+        publish(state, empty); // it is heard again: that is another session
+        compare([state.stale, state.lostSum].join(), "false,0");
+        publish(state, all);
+        tryCompare(state, "stale", true);
+        publish(state, empty);
+        compare(state.lostSum, 10);
+        tryCompare(state, "stale", true);
+        state.staleAfter = 0;
+        compare([state.stale, state.customerText].join(), "false,Input money or coin");
+    }
+
+    function test_everyStateIsFollowedButNotShown() {
+        const state = make([device(1, 1)]);
+        let [shown, events] = [0, 0];
+        state.sessionSumChanged.connect(() => shown++);
+        state.noteEvent.connect(() => events++);
+        const start = Date.now();
+        for (let i = 1; i <= 300; ++i) {
+            state.text = text([device(1, 1, {state: "accepting", current_note: 100})]);
+            state.text = text([device(1, 1, {state: "stacked", session_sum: i * 100})]);
+        }
+        verify(shown <= (Date.now() - start) / 15 + 1, shown);
+        tryCompare(state, "sessionSum", 30000);
+        compare(events, 600);
+    }
+
+    function test_worstFaultIsFirst() {
+        const stuck = {number: "1", device_id: 7, thread_id: 4, denomination: 100};
+        const state = make([device(1, 1, {enabled: false}), device(2, 3, {stacker_full: true}), device(100, 2, {online: false}),
+                            device(7, 4, {error_critical: true}), device(200, 5, {state: "busy"})], {incidents: [stuck]});
+        const faults = Array.from({length: state.worstFaults.count}, (_, row) => state.worstFaults.get(row));
+        compare(faults.map(fault => [fault.reason, fault.severity, fault.deviceId, fault.threadId].join(" ")),
+                ["money 3 7 4", "error 2 7 4", "offline 2 100 2", "stacker_full 1 2 3", "disabled 0 1 1"]);
+        compare(faults[2].deviceName + ": " + faults[2].text, "Coin acceptor (CCTalk): The device is offline.");
+    }
+
+    function test_lampsKeepTheirRows() {
+        const state = make([device(1, 1)]);
+        const lamps = state.devices.get(0).lamps;
+        spyOn(lamps);
+        publish(state, [device(1, 1, {state: "accepting"})]);
+        compare(rows, ["change 0"]);
+        compare(state.devices.get(0).lamps, lamps);
+        compare([lamps.get(0).name, lamps.get(0).lit].join(), "accepting,false");
     }
 
     function test_registryIsAModelOfItsOwn() {
@@ -234,43 +351,9 @@ TestCase {
         compare([cassette.channel, cassette.isCoin, cassette.denomination, cassette.currency, cassette.stock,
                  cassette.rejects].join(), "1,false,100,RUB,24,2");
         spyOn(registry);
-        state.text = text([device(7, 1, {dispenser_registry: [Object.assign(row, {count: 23})]})]);
+        publish(state, [device(7, 1, {dispenser_registry: [Object.assign(row, {count: 23})]})]);
         compare(rows, ["change 0"]);
         compare(state.devices.get(0).registry, registry);
         compare(registry.get(0).stock, 23);
-    }
-
-    Catalogue {
-        id: catalogue
-    }
-
-    SettingDescriptions {
-        id: settings
-    }
-
-    function test_configurationScreensAskTheModule() {
-        compare(catalogue.count, 13);
-        compare(catalogue.deviceName(7), "Note recycler (JCM iPRO ID003)");
-        compare(catalogue.get(0).modelName, "Ardac Elite ID 003");
-        compare(catalogue.get(99), {});
-        const services = settings.count;
-        verify(services > 0);
-        settings.device = 2;
-        settings.model = 1;
-        const groups = [];
-        for (let row = 0; row < settings.count; ++row)
-            groups.push(settings.get(row).group);
-        verify(groups.every(group => group.startsWith("device2/")), groups);
-        verify(groups.includes("device2/ccnet"));
-        const keys = () => Array.from({length: settings.count}, (_, row) => settings.get(row).key);
-        settings.interfaceType = "tcp";
-        verify(keys().includes("tcp_host") && !keys().includes("portname"), keys());
-        settings.interfaceType = "rs232";
-        verify(keys().includes("portname") && !keys().includes("tcp_host"), keys());
-        settings.model = 200;
-        verify(settings.count > 0 && settings.count !== groups.length);
-        compare(settings.accepts("device2/ccnet", "response_time", "x"), false);
-        compare(settings.accepts("device2/ccnet", "response_time", "20"), true);
-        compare(settings.readAs("device2/ccnet", "response_time", "x"), "0");
     }
 }

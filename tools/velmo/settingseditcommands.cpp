@@ -4,61 +4,18 @@
 #include "commands.h"
 #include "input.h"
 #include "settings/settingsedit.h"
+#include "terminal/editlock.h"
 #include "text/textoutput.h"
 
 #include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryFile>
-#include <QThread>
 
-#include <cerrno>
 #include <optional>
-#include <sys/file.h>
-#include <sys/stat.h>
 
 namespace {
 
 const QString standardStream = QStringLiteral("-");
-
-// Keeps others of this tool from editing a list until it is written.
-class EditLock
-{
-public:
-    explicit EditLock(const QString& fileName)
-        : m_file(fileName)
-    {
-        constexpr int mostTries = 1000;
-        for (int i = 0; i < mostTries; ++i) {
-            if (!QFileInfo(fileName).isFile() && QFileInfo::exists(fileName)) {
-                throw Fault{Velmo::tr("%1: is no regular file to change; --output says where the "
-                                      "changed list goes")
-                                .arg(fileName)};
-            }
-            if (!m_file.open(QIODevice::ReadOnly))
-                throw Fault{QStringLiteral("%1: %2").arg(fileName, m_file.errorString())};
-            const bool isLocked = flock(m_file.handle(), LOCK_EX | LOCK_NB) == 0;
-            // Where there are no locks, changes are noticed later.
-            if (isLocked ? isStillThere() : errno != EWOULDBLOCK)
-                return;
-            m_file.close();
-            QThread::msleep(10);
-        }
-        throw Fault{Velmo::tr("%1: another program is changing it").arg(fileName)};
-    }
-
-private:
-    // Whoever had the lock before may have replaced the file.
-    bool isStillThere() const
-    {
-        struct stat locked = {};
-        struct stat named = {};
-        return fstat(m_file.handle(), &locked) == 0
-            && stat(QFile::encodeName(m_file.fileName()).constData(), &named) == 0
-            && locked.st_dev == named.st_dev && locked.st_ino == named.st_ino;
-    }
-
-    QFile m_file;
-};
 
 // As diff -u shows it.
 QByteArray difference(const QString& name, const QByteArray& before, const QByteArray& after)

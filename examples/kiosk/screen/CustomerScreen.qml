@@ -2,210 +2,59 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
-import Kiosk 1.0
 import Velmolib 5.0
+import Velmolib.Controls 5.0
 
-// What the customer sees: what to do, what is accepted now, the sum, and what became of the last note.
-Item {
+// What the customer sees: what to do, the sums, and what became of the money. The language keys of a
+// tall kiosk are at the bottom, where everybody reaches them.
+FocusScope {
     id: screen
 
-    /// What the service tells.
     property ServiceState service
+    property string contact // whom to call; empty for nobody
+    property alias language: keys.current
 
-    /// What is to be paid; 0 when any sum may be.
-    property real price: 0
+    readonly property bool tall: height > width
 
-    /// Somebody held the corner that opens the service screen.
-    signal serviceWanted
+    signal languageChosen(string code)
 
-    readonly property bool paid: price > 0 && service.sessionSum >= price
-    readonly property bool noteInside: service.lastNoteOutcome === ServiceState.NoteChecked
-                                       || service.lastNoteOutcome === ServiceState.NoteStuck
-    readonly property bool takesMoney: service.inService && !paid
-    readonly property var language: Qt.locale(Language.current)
+    onVisibleChanged: if (visible) forceActiveFocus()
 
-    function money(sum) {
-        return Number(sum).toLocaleString(language, "f", 0);
-    }
-
-    // The message about a note goes away with the time, so that the next customer does not read it.
-    Connections {
-        target: screen.service
-        function onLastNoteOutcomeChanged() {
-            freshness.restart();
-        }
-        function onSessionSumChanged() {
-            freshness.restart();
-        }
-    }
-    Timer {
-        id: freshness
-        interval: 15000
-    }
-
-    MouseArea {
-        width: 2 * Theme.touch
-        height: 2 * Theme.touch
-        pressAndHoldInterval: 3000
-        onPressAndHold: screen.serviceWanted()
-    }
-
-    onVisibleChanged: {
-        if (visible)
-            languageKey.forceActiveFocus();
-    }
-    Component.onCompleted: languageKey.forceActiveFocus()
-
-    Key {
-        id: languageKey
-        objectName: "languageKey"
-        anchors.top: parent.top
-        anchors.right: parent.right
-        anchors.margins: Theme.gap
-        text: Language.current === "ru" ? "English" : "Русский"
-        onClicked: Language.current = Language.current === "ru" ? "en" : "ru"
-    }
-
-    ColumnLayout {
+    KioskPage { // moves only where large texts leave no room
         anchors.fill: parent
-        anchors.margins: 2 * Theme.gap
-        anchors.topMargin: languageKey.height + 2 * Theme.gap
-        spacing: screen.height > screen.width ? 3 * Theme.gap : Theme.gap
+        anchors.margins: KioskTheme.gap
+        anchors.bottomMargin: screen.height - strip.y + KioskTheme.gap
+        contentHeight: banner.y + banner.height
 
-        Item {
-            Layout.fillHeight: true
+        PaymentPrompt {
+            id: prompt
+            tall: screen.tall
+            width: screen.tall ? parent.width : keys.x - 2 * KioskTheme.gap
+            height: Math.max(bareHeight, strip.y - 2 * KioskTheme.gap - (banner.height > 0 ? banner.height + KioskTheme.gap : 0))
+            service: screen.service
+            contact: screen.contact
         }
-        FittedText {
-            objectName: "headline"
-            Layout.fillWidth: true
-            Layout.preferredHeight: 2.4 * Theme.huge
-            text: screen.paid ? qsTr("Paid. Thank you!") : screen.service.customerText
-            font.pixelSize: Theme.huge
-            font.bold: true
-            minimumPixelSize: Theme.medium
-            color: Theme.ink
+        NoteBanner {
+            id: banner
+            y: prompt.height + (height > 0 ? KioskTheme.gap : 0)
+            width: parent.width
+            service: screen.service
+            contact: screen.contact
         }
-
-        Item {
-            Layout.fillWidth: true
-            Layout.preferredHeight: 150 * Theme.unit
-
-            Row {
-                objectName: "pictures"
-                anchors.centerIn: parent
-                spacing: 3 * Theme.gap
-                visible: screen.takesMoney
-
-                MoneyPicture {
-                    objectName: "notePicture"
-                    kind: "note"
-                    word: qsTr("Notes")
-                    visible: screen.service.noteAccepted
-                }
-                MoneyPicture {
-                    objectName: "coinPicture"
-                    kind: "coin"
-                    word: qsTr("Coins")
-                    visible: screen.service.coinAccepted
-                }
-                MoneyPicture {
-                    objectName: "cardPicture"
-                    kind: "card"
-                    word: qsTr("Card")
-                    visible: screen.service.cardAccepted
-                }
-            }
-            FittedText {
-                objectName: "outOfService"
-                anchors.fill: parent
-                visible: !screen.service.inService && !screen.paid
-                text: screen.service.sessionSum > 0
-                      ? qsTr("What you have paid is recorded. Please call the staff.")
-                      : screen.noteInside ? qsTr("Please call the staff.")
-                                          : qsTr("Please use another kiosk.")
-                font.pixelSize: Theme.large
-                color: Theme.quiet
-            }
-        }
-
-        Rectangle {
-            Layout.fillWidth: true
-            Layout.preferredHeight: sums.implicitHeight + 2 * Theme.gap
-            radius: Theme.gap
-            color: Theme.panel
-
-            ColumnLayout {
-                id: sums
-                anchors.left: parent.left
-                anchors.right: parent.right
-                anchors.verticalCenter: parent.verticalCenter
-                anchors.margins: 2 * Theme.gap
-                spacing: Theme.gap / 2
-
-                Text {
-                    objectName: "sum"
-                    Layout.alignment: Qt.AlignHCenter
-                    text: screen.price > 0 ? qsTr("Paid: %1 of %2").arg(screen.money(screen.service.sessionSum))
-                                                                  .arg(screen.money(screen.price))
-                                           : qsTr("Paid: %1").arg(screen.money(screen.service.sessionSum))
-                    font.pixelSize: Theme.large
-                    font.bold: true
-                    color: Theme.ink
-                }
-                Rectangle {
-                    Layout.fillWidth: true
-                    Layout.preferredHeight: 20 * Theme.unit
-                    visible: screen.price > 0
-                    radius: height / 2
-                    color: Theme.ground
-                    border.color: Theme.edge
-
-                    Rectangle {
-                        height: parent.height
-                        width: parent.width * Math.min(1, screen.service.sessionSum / Math.max(1, screen.price))
-                        radius: height / 2
-                        color: Theme.good
-                        Behavior on width {
-                            NumberAnimation { duration: Theme.duration }
-                        }
-                    }
-                }
-                Text {
-                    objectName: "rest"
-                    Layout.alignment: Qt.AlignHCenter
-                    visible: screen.price > 0 && !screen.paid
-                    text: qsTr("Left to pay: %1").arg(screen.money(screen.price - screen.service.sessionSum))
-                    font.pixelSize: Theme.medium
-                    color: Theme.quiet
-                }
-            }
-        }
-
-        Rectangle {
-            readonly property bool good: screen.service.lastNoteOutcome === ServiceState.NoteTaken
-                                         || screen.service.lastNoteOutcome === ServiceState.NoteChecked
-            Layout.fillWidth: true
-            Layout.preferredHeight: 130 * Theme.unit
-            radius: Theme.gap
-            color: good ? Theme.goodGround : Theme.badGround
-            opacity: noteText.text !== "" && freshness.running && screen.service.available ? 1 : 0
-            Behavior on opacity {
-                NumberAnimation { duration: Theme.duration }
-            }
-
-            FittedText {
-                id: noteText
-                objectName: "lastNote"
-                anchors.fill: parent
-                anchors.margins: Theme.gap
-                text: screen.service.lastNoteText
-                font.pixelSize: Theme.large
-                color: parent.good ? Theme.good : Theme.bad
-            }
-        }
-        Item {
-            Layout.fillHeight: true
-        }
+    }
+    MoneyStrip {
+        id: strip
+        x: KioskTheme.gap
+        y: (screen.tall ? keys.y : screen.height) - height - KioskTheme.gap
+        width: screen.width - 2 * x
+        service: screen.service
+        contact: screen.contact
+    }
+    LanguageKey {
+        id: keys
+        x: screen.width - width - KioskTheme.gap
+        y: screen.tall ? screen.height - height - KioskTheme.gap : KioskTheme.gap
+        languages: [{code: "en", name: "English"}, {code: "ru", name: "Русский"}]
+        onChosen: code => screen.languageChosen(code)
     }
 }

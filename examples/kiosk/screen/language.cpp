@@ -4,14 +4,19 @@
 #include "language.h"
 
 #include <QCoreApplication>
+#include <QFont>
+#include <QFontMetrics>
 #include <QStandardPaths>
-#include <QStringList>
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
+
+const QStringList Language::LANGUAGES{QStringLiteral("en"), QStringLiteral("ru")};
 
 Language::Language(const QString& language, QObject* parent)
     : QObject(parent)
+    , m_first(language)
     , m_current(language)
 {
     load();
@@ -26,8 +31,22 @@ void Language::setCurrent(const QString& language)
     Q_EMIT currentChanged();
 }
 
-// The translations of the library, of its module and of the screen itself: from beside the program,
-// and those of an installed velmolib from where the system keeps shared data.
+void Language::checkFonts()
+{
+    const QFontMetrics metrics{QFont()};
+    const std::pair<const char*, QChar> letters[] = {{"Latin", u'A'}, {"Cyrillic", u'\u0416'}};
+    for (const auto& [alphabet, letter] : letters) {
+        if (!metrics.inFont(letter)) {
+            fprintf(
+                stderr,
+                "kioskscreen: no font has %s letters; install one, fonts-dejavu-core for example\n",
+                alphabet);
+        }
+    }
+}
+
+// The translations of the library, of its modules and of the screen itself: from beside the
+// program, and those of an installed velmolib from where the system keeps shared data.
 void Language::load()
 {
     m_translators.clear();
@@ -36,7 +55,8 @@ void Language::load()
                     + QStringLiteral(TRANSLATIONS)}
         + QStandardPaths::locateAll(QStandardPaths::GenericDataLocation,
                                     QStringLiteral(TRANSLATIONS), QStandardPaths::LocateDirectory);
-    QStringList components{QStringLiteral("velmolib"), QStringLiteral("diagnosis")};
+    QStringList components{QStringLiteral("velmolib"), QStringLiteral("diagnosis"),
+                           QStringLiteral("controls")};
     if (m_current != QLatin1String("en")) // which the screen's sources are in
         components += QStringLiteral("kiosk");
     for (const QString& component : std::as_const(components)) {

@@ -15,6 +15,7 @@
 #include <QWindow>
 
 #include <cstdio>
+#include <tuple>
 
 namespace {
 
@@ -51,12 +52,52 @@ int main(int argc, char* argv[])
     const QCommandLineOption price(QStringLiteral("price"),
                                    QStringLiteral("What the customer has to pay; 0 for any sum."),
                                    QStringLiteral("SUM"), QStringLiteral("0"));
+    const QCommandLineOption contact(QStringLiteral("contact"),
+                                     QStringLiteral("Whom to call when money is stuck."),
+                                     QStringLiteral("TEXT"));
+    const QCommandLineOption idle(
+        QStringLiteral("idle"),
+        QStringLiteral("After how long without use the first language is back and the service "
+                       "screen closed; 0 for never."),
+        QStringLiteral("SECONDS"), QStringLiteral("60"));
+    const QCommandLineOption pin(
+        QStringLiteral("pin-file"),
+        QStringLiteral(
+            "The PIN of the service screen, 4 to 12 digits; without it that does not open."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption density(
+        QStringLiteral("density"),
+        QStringLiteral(
+            "Pixels in a millimetre of the screen, where it does not tell the right ones itself."),
+        QStringLiteral("NUMBER"));
+    const QCommandLineOption large(QStringLiteral("large-text"), QStringLiteral("Larger texts."));
+    const QCommandLineOption contrast(QStringLiteral("high-contrast"),
+                                      QStringLiteral("Light on black."));
     const QCommandLineOption still(QStringLiteral("no-motion"),
                                    QStringLiteral("Show changes without motion."));
     const QCommandLineOption full(QStringLiteral("fullscreen"),
                                   QStringLiteral("Fill the whole screen."));
-    parser.addOptions({names, lang, price, still, full});
+    parser.addOptions(
+        {names, lang, price, contact, idle, pin, density, large, contrast, still, full});
     parser.process(app);
+    const std::tuple<const QCommandLineOption&, double, double> numbers[]{
+        {price, 0, 1e15}, {idle, 0, 1e6}, {density, 0.5, 100}};
+    for (const auto& [option, least, most] : numbers) {
+        bool isNumber = false;
+        const double number = parser.value(option).toDouble(&isNumber);
+        if (parser.isSet(option) && !(isNumber && number >= least && number <= most)) {
+            fprintf(stderr, "kioskscreen: --%s %s: expected a number from %g to %g\n",
+                    qPrintable(option.names().constFirst()), qPrintable(parser.value(option)),
+                    least, most);
+            return 2;
+        }
+    }
+    if (!Language::LANGUAGES.contains(parser.value(lang))) {
+        fprintf(stderr, "kioskscreen: --lang %s: expected %s\n", qPrintable(parser.value(lang)),
+                qPrintable(Language::LANGUAGES.join(QStringLiteral(" or "))));
+        return 2;
+    }
+    Language::checkFonts();
 
     QQmlApplicationEngine engine;
     Language language(parser.value(lang));
@@ -66,11 +107,19 @@ int main(int argc, char* argv[])
     qmlRegisterSingletonInstance("Kiosk", 1, 0, "ServiceLink", &link);
     // In the build folder the module stands beside the programs.
     engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../qml"));
+    QVariantMap theme{{QStringLiteral("largeText"), parser.isSet(large)},
+                      {QStringLiteral("highContrast"), parser.isSet(contrast)},
+                      {QStringLiteral("motion"), !parser.isSet(still)}};
+    if (parser.isSet(density))
+        theme.insert(QStringLiteral("density"), parser.value(density).toDouble());
     QVariantMap properties{
         {QStringLiteral("names"),
          parser.isSet(names) ? readNames(parser.value(names)) : QVariantMap()},
         {QStringLiteral("price"), parser.value(price).toDouble()},
-        {QStringLiteral("motion"), !parser.isSet(still)},
+        {QStringLiteral("contact"), parser.value(contact)},
+        {QStringLiteral("idleSeconds"), parser.value(idle).toDouble()},
+        {QStringLiteral("pinFile"), parser.value(pin)},
+        {QStringLiteral("theme"), theme},
     };
     if (parser.isSet(full)) {
         // Many a kiosk has no window manager, which would make the window as large as the screen.

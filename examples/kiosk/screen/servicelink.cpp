@@ -10,6 +10,18 @@
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 
+namespace {
+
+QDBusPendingCall callService(const QString& method, const QVariantList& arguments = {})
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(acceptorBus::SERVICE, acceptorBus::PATH,
+                                                       acceptorBus::INTERFACE, method);
+    call.setArguments(arguments);
+    return QDBusConnection::sessionBus().asyncCall(call);
+}
+
+} // namespace
+
 ServiceLink::ServiceLink(QObject* parent)
     : QObject(parent)
 {
@@ -34,11 +46,8 @@ void ServiceLink::follow()
 
 void ServiceLink::askForState()
 {
-    const QDBusMessage question =
-        QDBusMessage::createMethodCall(acceptorBus::SERVICE, acceptorBus::PATH,
-                                       acceptorBus::INTERFACE, QStringLiteral("currentState"));
     auto* const call =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
+        new QDBusPendingCallWatcher(callService(QStringLiteral("currentState")), this);
     m_awaited = call;
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
         call->deleteLater();
@@ -50,6 +59,18 @@ void ServiceLink::askForState()
             loseService();
         else
             takeState(reply.argumentAt<0>(), reply.argumentAt<1>());
+    });
+}
+
+void ServiceLink::settle(const QString& incident)
+{
+    auto* const call =
+        new QDBusPendingCallWatcher(callService(QStringLiteral("settle"), {incident}), this);
+    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, incident] {
+        call->deleteLater();
+        const QDBusPendingReply<bool> reply = *call;
+        m_refused = reply.isError() || !reply.value() ? incident : QString();
+        Q_EMIT refusedChanged();
     });
 }
 

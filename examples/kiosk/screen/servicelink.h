@@ -16,18 +16,27 @@ class ServiceLink : public QObject
     Q_OBJECT
     Q_PROPERTY(bool available READ isAvailable NOTIFY availableChanged)
 
+    /// The incident that the service would not take as settled; empty when it took the last one.
+    Q_PROPERTY(QString refused READ refused NOTIFY refusedChanged)
+
 public:
     explicit ServiceLink(QObject* parent = nullptr);
 
     /// Whether the service is on the bus and has told its state.
     bool isAvailable() const { return m_available; }
 
+    QString refused() const { return m_refused; }
+
     /// Begins to follow the service; stateReceived() tells of its state from then on.
     Q_INVOKABLE void follow();
+
+    /// Tells the service that somebody found out where the piece of money of an incident is.
+    Q_INVOKABLE void settle(const QString& incident);
 
 Q_SIGNALS:
     void stateReceived(const QString& text, const QDateTime& timestamp);
     void availableChanged();
+    void refusedChanged();
 
 private Q_SLOTS:
     void takeState(const QString& text, const QString& timestamp);
@@ -38,5 +47,6 @@ private:
     void setAvailable(bool available);
 
     bool m_available = false;
+    QString m_refused;
     const QDBusPendingCallWatcher* m_awaited = nullptr; // the answer that is not outdated
 };

@@ -9,6 +9,7 @@
 #include <QDBusError>
 #include <QFile>
 #include <QJsonDocument>
+#include <QRegularExpression>
 #include <QTimer>
 
 #include <cstdio>
@@ -32,6 +33,16 @@ QJsonArray readFilters(const QString& fileName)
     return document.array();
 }
 
+void setMoney(AcceptorService& service, const QString& money)
+{
+    static const QRegularExpression form(QStringLiteral("^([A-Z]{3}):([0-4])$"));
+    const QRegularExpressionMatch match = form.match(money);
+    if (!match.hasMatch())
+        throw fault(QStringLiteral("--money %1: expected a currency's code and 0 to 4, as in RUB:2")
+                        .arg(money));
+    service.setMoney(match.captured(1), match.captured(2).toInt());
+}
+
 int run(QCoreApplication& app)
 {
     QCommandLineParser parser;
@@ -52,7 +63,15 @@ int run(QCoreApplication& app)
         QStringLiteral("LOG.jsonl"));
     const QCommandLineOption looping(QStringLiteral("loop"),
                                      QStringLiteral("Begin again when all sessions are over."));
-    parser.addOptions({filters, interval, recording, looping});
+    const QCommandLineOption money(
+        QStringLiteral("money"),
+        QStringLiteral(
+            "In which currency sums are, and how many digits of them stand after the point."),
+        QStringLiteral("RUB:0"));
+    const QCommandLineOption change(
+        QStringLiteral("change"), QStringLiteral("What becomes of change: none, paid or credited."),
+        QStringLiteral("none"));
+    parser.addOptions({filters, interval, recording, looping, money, change});
     parser.process(app);
 
     bool isNumber = false;
@@ -63,6 +82,16 @@ int run(QCoreApplication& app)
     AcceptorService service(parser.positionalArguments(),
                             parser.isSet(filters) ? readFilters(parser.value(filters))
                                                   : QJsonArray());
+    if (parser.isSet(money))
+        setMoney(service, parser.value(money));
+    if (parser.isSet(change)) {
+        const QStringList known{QStringLiteral("none"), QStringLiteral("paid"),
+                                QStringLiteral("credited")};
+        if (!known.contains(parser.value(change)))
+            throw fault(QStringLiteral("--change %1: expected %2")
+                            .arg(parser.value(change), known.join(QStringLiteral(", "))));
+        service.setChange(parser.value(change));
+    }
     if (parser.isSet(recording))
         service.record(parser.value(recording));
     service.setLooping(parser.isSet(looping));

@@ -11,6 +11,7 @@
 #include <QJsonObject>
 
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -81,7 +82,31 @@ bool SimulatedDevice::step()
         m_worker.setDispenserRegistryList(registry.items());
     if (m_worker.checkState())
         m_worker.saveState();
+    followPiece();
     return true;
+}
+
+// A piece that got stuck may be freed and go on.
+void SimulatedDevice::followPiece()
+{
+    const DeviceState& state = *m_worker.getState();
+    const bool isNew = std::exchange(m_followed, state.state) != state.state;
+    m_pieceEnd = Piece::None;
+    if (isNew && state.state == STATE_ACCEPTING && state.currentNote > 0) {
+        m_piece = state.currentNote;
+        m_stuck = 0;
+    } else if (state.state == STATE_STACKED || state.state == STATE_RETURNED
+               || state.state == STATE_REJECTED) {
+        m_pieceEnd = m_stuck > 0 ? Piece::Ended : Piece::None;
+        m_piece = m_stuck = 0;
+    } else if (m_piece > 0
+               && (state.errCritical || state.state == STATE_JAMMED
+                   || state.state == STATE_ERROR)) {
+        m_pieceEnd = Piece::Stuck;
+        m_stuck = std::exchange(m_piece, 0);
+    } else if (state.state == STATE_IDLING || state.state == STATE_BUSY) {
+        m_piece = 0;
+    }
 }
 
 QVariantMap SimulatedDevice::lastReport()
@@ -89,6 +114,8 @@ QVariantMap SimulatedDevice::lastReport()
     QVariantMap report = m_session.at(m_nextLine - 1);
     report.insert(deviceStateDescConst::DEVICE_ID, m_worker.getState()->deviceId);
     report.insert(deviceStateDescConst::THREAD_ID, m_worker.getState()->threadId);
+    if (m_pieceEnd == Piece::Stuck) // so that the line alone tells of what
+        report.insert(deviceStateDescConst::CURRENT_NOTE, m_stuck);
     return report;
 }
 

@@ -25,7 +25,15 @@ public:
     /// Reports the next line; false when there is none left.
     bool step();
 
-    /// What it reported last, with its numbers of device and thread: a line of a session log.
+    /// What became of the piece in hand with the last line; Stuck once for each piece.
+    enum class Piece { None, Stuck, Ended };
+    Piece pieceEnd() const { return m_pieceEnd; }
+
+    /// How much it took in the session.
+    int sessionSum() { return m_worker.getState()->sessionSum; }
+
+    /// What it reported last, with its numbers of device and thread: a line of a session log. Where
+    /// a piece got stuck, with its value.
     QVariantMap lastReport();
 
     /// Begins its session file again.
@@ -44,6 +52,7 @@ public:
 private:
     void readSession(const QString& fileName);
     void countNote(const DeviceState& sent);
+    void followPiece();
 
     QVector<QVariantMap> m_session;
     int m_nextLine = 0;
@@ -53,4 +62,8 @@ private:
     bool m_isKnown = false;
     StatItem m_counters;
     State m_counted = STATE_BUSY;
+    State m_followed = STATE_BUSY;
+    int m_piece = 0; // the value of what is in hand
+    int m_stuck = 0; // and of what it failed with since
+    Piece m_pieceEnd = Piece::None;
 };

@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+import QtQuick 2.15
+import Velmolib 5.0
+
+/// How many devices there are, and a card for each, in columns, the broken ones first. What the service
+/// publishes as "content" stands on them; while it is silent they are dimmed. A card is made when it comes
+/// into sight.
+KioskPage {
+    id: page
+
+    property ServiceState service
+
+    /// How many devices something is wrong with.
+    property int faulty: 0
+
+    readonly property int count: cells.count
+
+    readonly property int columns: Math.max(1, Math.floor(width / (120 * KioskTheme.density)))
+    readonly property real gap: KioskTheme.gap / 2
+    readonly property real step: (width - gap) / columns
+
+    property var contents: []
+
+    // Read a few times in a second, however fast states follow each other.
+    Timer {
+        id: reading
+        interval: 100
+        running: page.visible
+        onTriggered: {
+            try {
+                page.contents = Array.from(JSON.parse(page.service.text).content || []);
+            } catch (error) {
+                page.contents = [];
+            }
+        }
+    }
+    Connections {
+        target: page.visible ? page.service : null
+        function onTextChanged() {
+            reading.start();
+        }
+    }
+
+    // Each under the shortest column.
+    function place() {
+        if (!visible) {
+            return;
+        }
+        const all = Array.from({length: cells.count}, (_, row) => cells.itemAt(row)).filter(cell => cell);
+        const broken = all.filter(cell => cell.isBroken);
+        const ends = new Array(columns).fill(heading.height + gap);
+        for (const cell of broken.concat(all.filter(cell => !cell.isBroken))) {
+            const column = ends.indexOf(Math.min(...ends));
+            cell.x = column * step;
+            cell.y = ends[column];
+            cell.active = cell.active || cell.y < contentY + height;
+            ends[column] += cell.height + gap;
+        }
+        faulty = broken.length;
+        contentHeight = Math.max(...ends);
+    }
+
+    onVisibleChanged: Qt.callLater(place)
+    onContentYChanged: Qt.callLater(place)
+    onHeightChanged: Qt.callLater(place)
+    onStepChanged: Qt.callLater(place)
+    Accessible.role: Accessible.List
+    Accessible.name: heading.text
+
+    KioskText {
+        id: heading
+        width: page.width
+        text: qsTr("Devices: %1, with faults: %2").arg(page.count).arg(page.faulty)
+        font.bold: true
+        onHeightChanged: Qt.callLater(page.place)
+        Accessible.ignored: true
+    }
+    Repeater {
+        id: cells
+        model: page.service ? page.service.devices : null
+        onCountChanged: Qt.callLater(page.place)
+        Item {
+            id: cell
+
+            required property int index
+            required property var model
+            readonly property bool isBroken: model.severity > 0
+            property alias active: card.active
+            property alias item: card.item
+
+            width: page.step - page.gap
+            height: card.item ? card.height : 60 * KioskTheme.density
+            onHeightChanged: Qt.callLater(page.place)
+            onIndexChanged: Qt.callLater(page.place)
+            onIsBrokenChanged: Qt.callLater(page.place)
+
+            Loader {
+                id: card
+                width: cell.width
+                active: false
+                sourceComponent: DeviceCard {
+                    service: page.service
+                    entry: cell.model
+                    dimmed: !page.service.available || page.service.stale
+                    content: page.contents.find(device => device && device.device_id === cell.model.deviceId
+                                                && device.thread_id === cell.model.threadId) || null
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 velmolib maintainers
+// SPDX-License-Identifier: MIT
+
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import Velmolib 5.0
+
+/// For the staff: each piece of money whose end nobody told, and what was lost of the sum, with a key that
+/// settles it once it was asked for a second time. It is 0 high when nothing is open.
+Column {
+    id: list
+
+    property ServiceState service
+
+    /// The number of an incident that the service would not take as settled; empty for none.
+    property string refused: ""
+
+    /// How many pieces are shown at most, the oldest ones; the others are counted.
+    property int limit: 4
+
+    spacing: KioskTheme.gap / 2
+
+    component Line: RowLayout {
+        id: line
+
+        property string title
+        property string text
+        property bool asked: false
+
+        signal settled
+
+        width: list.width
+        spacing: KioskTheme.gap / 2
+        onVisibleChanged: asked = false
+
+        Notice {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            kind: "bad"
+            text: line.title
+            detail: line.text
+        }
+        KioskKey {
+            objectName: "settleKey"
+            visible: !line.asked
+            text: qsTr("Settled")
+            onClicked: {
+                line.asked = true;
+                no.forceActiveFocus();
+            }
+        }
+        KioskKey {
+            objectName: "reallyKey"
+            visible: line.asked
+            text: qsTr("Really settled")
+            onClicked: {
+                line.asked = false;
+                line.settled();
+            }
+        }
+        KioskKey {
+            id: no
+            objectName: "noKey"
+            visible: line.asked
+            text: qsTr("No")
+            onClicked: line.asked = false
+        }
+    }
+
+    Repeater {
+        id: open
+        model: list.service ? list.service.openNotes : null
+        Loader {
+            id: note
+            required property int index
+            required property var model
+            active: index < list.limit && model.outcome !== ServiceState.NoteChecked
+            visible: active
+            sourceComponent: Line {
+                readonly property var model: note.model
+                objectName: "openMoney"
+                title: [model.deviceName, model.amountText, model.timeText,
+                        model.incident === "" ? "" : qsTr("No.\u00a0%1").arg(model.incident)]
+                       .filter(part => part !== "").join(" · ")
+                text: (model.outcome === ServiceState.NoteStuck ? qsTr("It is stuck in the device.")
+                                                                : qsTr("Nobody says what became of it."))
+                      + (model.incident !== "" && model.incident === list.refused
+                         ? " " + qsTr("The service did not take it as settled.") : "")
+                onSettled: list.service.settle(model.noteId)
+            }
+        }
+    }
+    KioskText {
+        objectName: "moreMoney"
+        width: list.width
+        visible: open.count > list.limit
+        text: qsTr("and %n more", "", open.count - list.limit)
+        font.bold: true
+        color: KioskTheme.bad
+    }
+    Line {
+        objectName: "openLoss"
+        visible: list.service !== null && list.service.lostSum > 0
+        title: visible ? list.service.moneyText(list.service.lostSum) : ""
+        text: qsTr("The customer had paid so much before the service was lost, and it is missing in the sum.")
+        onSettled: list.service.settleLoss()
+    }
+}
