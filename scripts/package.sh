@@ -16,6 +16,7 @@ mkdir -p build/package/source
 tar -c --exclude=./build --exclude=./.git . | tar -x -C build/package/source
 profiles=
 [ "${1:-}" != --qt5-only ] || profiles=pkg.velmolib.qt5only
-(cd build/package/source && dpkg-buildpackage --build=binary --no-sign --build-profiles="$profiles")
+(cd build/package/source \
+    && DEB_BUILD_OPTIONS=terse dpkg-buildpackage --build=binary --no-sign --build-profiles="$profiles")
 [ $# -gt 0 ] || tests/check_packages.sh . build/package
 ls -l build/package/*.deb
