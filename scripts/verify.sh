@@ -34,8 +34,10 @@ scripts/docs.sh
 scripts/package.sh
 again=$(mktemp -d)
 trap 'rm -rf "$again"' EXIT
-tar -c --exclude=./build --exclude=./.git . | tar -x -C "$again"
-(umask 077 && TZ=Asia/Tokyo "$again"/scripts/package.sh --qt5-only) # Qt 6 is built the same way
+changed=$(git stash create) # nothing when all is committed
+scripts/release.sh "${changed:-HEAD}"
+(umask 077 && tar -x -C "$again" --strip-components 1 -f build/source/velmolib-*.tar.xz \
+    && TZ=Asia/Tokyo "$again"/scripts/package.sh --qt5-only) # Qt 6 is built the same way
 for deb in "$again"/build/package/*.deb; do
     cmp "$deb" "build/package/${deb##*/}"
 done

@@ -104,8 +104,7 @@ def check_upgrade(debs):
     last = Debs(BASELINE)
     with root_with(last, ["velmolib-screen"]) as root:
         root.write("/tmp/states", STATES)
-        before = root.run("sh", "-c", "velmolib-screen < /tmp/states")
-        hold("Input money" in before, "the program says", before)
+        hold("Input money\n" in root.run("sh", "-c", "velmolib-screen < /tmp/states"), "the program does not run")
         ours, _ = debs.needed(["libvelmolib5"])
         for name in ours:
             shutil.copy(debs.paths[name], f"{root.path}/tmp")
@@ -115,8 +114,7 @@ def check_upgrade(debs):
         hold("ii velmolib-screen 1\n" in status.replace("  ", " "), "the upgrade removed the program:", said)
         version = field(debs.stanzas["libvelmolib5"], "Version")
         hold(f"libvelmolib5 {version}\n" in status, "the library was not upgraded:", said)
-        after = root.run("sh", "-c", "velmolib-screen < /tmp/states")
-        hold(before == after, "the program says", after)
+        hold("Input money\n" in root.run("sh", "-c", "velmolib-screen < /tmp/states"), "the program runs no more")
 
 
 def check_service(debs):
