@@ -22,12 +22,12 @@ name=velmolib-$version
 rm -rf build/source
 mkdir -p build/source
 git archive --prefix="$name/" "$commit" | xz -9 > "build/source/$name.tar.xz"
+git archive --prefix="$name/" "$commit" . ':(exclude)debian' | xz -9 > "build/source/velmolib_$version.orig.tar.xz"
 (
     cd build/source
-    cp "$name.tar.xz" "velmolib_$version.orig.tar.xz"
     tar -xf "$name.tar.xz"
     dpkg-source --build "$name"
-    lintian --info --pedantic --display-info --fail-on error,warning ./*.dsc
+    lintian --info --pedantic --display-info --fail-on error,warning,info,pedantic ./*.dsc
     sha256sum "$name.tar.xz"
 )
 [ -n "$alone" ] || exit 0
