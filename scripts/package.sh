@@ -14,6 +14,7 @@ require_packages "${build_packages[@]}" "${qt6_packages[@]}" "${install_packages
 rm -rf build/package
 mkdir -p build/package/source
 tar -c --exclude=./build --exclude=./.git . | tar -x -C build/package/source
+unset CMAKE_CXX_COMPILER_LAUNCHER # a cache writes other paths into what debuggers read
 profiles=
 [ "${1:-}" != --qt5-only ] || profiles=pkg.velmolib.qt5only
 (cd build/package/source \
