@@ -325,7 +325,7 @@ private Q_SLOTS:
                 R"([{"group":"service","key":"devices_count","value":8},{"group":"other","key":"device0"})";
             for (int i = 0; i < indexes.size(); ++i) {
                 text += R"(,
- {"key":"port_logging" , "group":"device%1/debug", "value":0}, {"group":"device%1","key":"x"},
+ {"key":"port_logging" , "group":"device%1/debug", "value":%2}, {"group":"device%1","key":"x"},
  {"group": "device%1/hw_interface", "value":"tty%2", "key":"portname"})"_s
                             .arg(indexes.at(i), QString::number(i))
                             .toUtf8();

@@ -163,7 +163,7 @@ private Q_SLOTS:
         SettingsDocument document;
         document.open(m_list);
         QVector<QByteArray> texts{document.text()};
-        for (int i = 0; i < 200; ++i) {
+        for (int i = 0; i < 80; ++i) {
             const QVector<SettingsList::Used>& all = document.list().used();
             const SettingsList::Used used = all.at(int(random.bounded(int(all.size()))));
             const QList<int> devices = document.list().devices().keys();
@@ -190,7 +190,7 @@ private Q_SLOTS:
             if (document.text() != texts.constLast())
                 texts += document.text();
         }
-        QVERIFY(texts.size() > 100);
+        QVERIFY(texts.size() > 40);
         for (auto text = texts.rbegin(); text != texts.rend(); ++text) {
             QCOMPARE(document.text(), *text);
             QCOMPARE(document.findings().size(), checkSettings(document.file()).size());
@@ -418,23 +418,22 @@ private Q_SLOTS:
         QCOMPARE(m_window->document().text(), contentOf(m_list));
         QCOMPARE(limits->rowCount(), 2);
 
-        // Of a map only the byte that is changed.
+        // A cell that is still open when the window is left counts as well; of a map only the byte
+        // that is changed.
         auto* const routes = control<QTableWidget>("dispenser/route_map"_s);
         routes->setFocus();
         routes->setCurrentCell(3, 3);
-        QTest::keyClicks(routes, "1"_s);
-        enter();
+        QTest::keyClicks(routes, "7"_s);
+        QVERIFY(!m_window->isWindowModified());
+        bool isAsked = false;
+        inDialog([&isAsked](QWidget& dialog) {
+            isAsked = true;
+            press(dialog, "Cancel"_s);
+        });
+        m_window->close();
+        QVERIFY(isAsked);
         QByteArray expected = contentOf(m_list);
         expected.replace(R"(\"denomination\":10,\"route\":2)",
-                         R"(\"denomination\":10,\"route\":1)");
-        QCOMPARE(m_window->document().text(), expected);
-
-        // A cell that is still open when the window is left counts as well.
-        QTest::keyClicks(routes, "7"_s);
-        QCOMPARE(m_window->document().text(), expected);
-        inDialog([](QWidget& dialog) { press(dialog, "Cancel"_s); });
-        m_window->close();
-        expected.replace(R"(\"denomination\":10,\"route\":1)",
                          R"(\"denomination\":10,\"route\":7)");
         QCOMPARE(m_window->document().text(), expected);
     }

@@ -863,11 +863,11 @@
     </message>
     <message>
         <source>Your note of %1 was returned. Please take it.</source>
-        <translation>Ваша купюра %1 возвращена. Заберите её.</translation>
+        <translation>Ваша купюра %1 возвращена. Заберите&#xa0;её.</translation>
     </message>
     <message>
         <source>Your coin of %1 was returned. Please take it.</source>
-        <translation>Ваша монета %1 возвращена. Заберите её.</translation>
+        <translation>Ваша монета %1 возвращена. Заберите&#xa0;её.</translation>
     </message>
     <message>
         <source>Notes are not accepted at the moment. It comes back to you.</source>
@@ -939,11 +939,11 @@
     </message>
     <message>
         <source>The service does not answer.</source>
-        <translation>Сервис не отвечает.</translation>
+        <translation>Служба не отвечает.</translation>
     </message>
     <message>
         <source>The service&apos;s state cannot be read: %1.</source>
-        <translation>Состояние сервиса прочесть нельзя: %1.</translation>
+        <translation>Состояние службы прочесть нельзя: %1.</translation>
     </message>
     <message>
         <source>The device failed with your note of %1 in it. Please call the staff.</source>
@@ -1821,6 +1821,46 @@
     <message>
         <source>The kiosk has been silent for more than a day.</source>
         <translation>Терминал молчит больше суток.</translation>
+    </message>
+    <message>
+        <source>the number of an incident: expected a text</source>
+        <translation>номер инцидента: ожидается текст</translation>
+    </message>
+    <message>
+        <source>It is not known what became of your note of %1. Please call the staff.</source>
+        <translation>Неизвестно, что стало с вашей купюрой %1. Позовите сотрудника.</translation>
+    </message>
+    <message>
+        <source>It is not known what became of your coin of %1. Please call the staff.</source>
+        <translation>Неизвестно, что стало с вашей монетой %1. Позовите сотрудника.</translation>
+    </message>
+    <message>
+        <source>The device failed with your note in it. Please call the staff.</source>
+        <translation>Устройство отказало, ваша купюра осталась в нём. Позовите сотрудника.</translation>
+    </message>
+    <message>
+        <source>The device failed with your coin in it. Please call the staff.</source>
+        <translation>Устройство отказало, ваша монета осталась в нём. Позовите сотрудника.</translation>
+    </message>
+    <message>
+        <source>The PIN given has to have %1 to %2 digits.</source>
+        <translation>Заданный ПИН-код должен состоять из %1–%2 цифр.</translation>
+    </message>
+    <message>
+        <source>No PIN is given.</source>
+        <translation>ПИН-код не задан.</translation>
+    </message>
+    <message>
+        <source>%1: is not a file</source>
+        <translation>%1: это не файл</translation>
+    </message>
+    <message>
+        <source>%1: line 1: expected a PIN of %2 to %3 digits</source>
+        <translation>%1: строка 1: ожидается ПИН-код из %2–%3 цифр</translation>
+    </message>
+    <message>
+        <source>The service has told nothing for %1 s.</source>
+        <translation>Служба ничего не сообщает уже %1 с.</translation>
     </message>
 </context>
 </TS>

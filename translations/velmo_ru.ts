@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Answers questions about the cash devices of a kiosk.</source>
-        <translation>Отвечает на вопросы о денежных устройствах киоска.</translation>
+        <translation>Отвечает на вопросы о денежных устройствах терминала.</translation>
     </message>
     <message>
         <source>no command given; velmo --help lists them</source>
@@ -1673,6 +1673,316 @@
     <message>
         <source>another worker has the same --name, &quot;%1&quot;</source>
         <translation>у другого обработчика такое же --name, «%1»</translation>
+    </message>
+    <message>
+        <source>Lines that change</source>
+        <translation>Строки, которые изменятся</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Строка %1</translation>
+    </message>
+    <message>
+        <source> (no line feed at the end)</source>
+        <translation> (без перевода строки в конце)</translation>
+    </message>
+    <message>
+        <source>Save changes</source>
+        <translation>Сохранение изменений</translation>
+    </message>
+    <message>
+        <source>This changes in %1:</source>
+        <translation>В %1 изменится:</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Сохранить</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Отмена</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>What is found in the list</source>
+        <translation>Что найдено в списке</translation>
+    </message>
+    <message>
+        <source>Filters that follow from the settings</source>
+        <translation>Фильтры, следующие из настроек</translation>
+    </message>
+    <message>
+        <source>Fi&amp;lters that follow</source>
+        <translation>Ф&amp;ильтры из настроек</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ndings</source>
+        <translation>&amp;Замечания</translation>
+    </message>
+    <message>
+        <source>%1 in line %2</source>
+        <translation>%1, строка %2</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong.</source>
+        <translation>Замечаний нет.</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ndings (%1)</source>
+        <translation>&amp;Замечания (%1)</translation>
+    </message>
+    <message>
+        <source>The language of the window, as &quot;ru&quot;, in place of the system&apos;s.</source>
+        <translation>Язык окна, например &quot;ru&quot;, вместо системного.</translation>
+    </message>
+    <message>
+        <source>Shows a settings list as forms, checks it and changes it.</source>
+        <translation>Показывает список настроек в виде форм, проверяет и изменяет его.</translation>
+    </message>
+    <message>
+        <source>The settings list.</source>
+        <translation>Список настроек.</translation>
+    </message>
+    <message>
+        <source>Add a device</source>
+        <translation>Добавление устройства</translation>
+    </message>
+    <message>
+        <source>&amp;Model:</source>
+        <translation>&amp;Модель:</translation>
+    </message>
+    <message>
+        <source>It begins with the built-in defaults of its model.</source>
+        <translation>Устройство начинает со встроенных значений своей модели.</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Добавить</translation>
+    </message>
+    <message>
+        <source>Search settings</source>
+        <translation>Поиск настроек</translation>
+    </message>
+    <message>
+        <source>Service and devices</source>
+        <translation>Служба и устройства</translation>
+    </message>
+    <message>
+        <source>Settings that match</source>
+        <translation>Найденные настройки</translation>
+    </message>
+    <message>
+        <source>No setting matches.</source>
+        <translation>Ничего не найдено.</translation>
+    </message>
+    <message>
+        <source>Default and removal</source>
+        <translation>Встроенное значение и удаление</translation>
+    </message>
+    <message>
+        <source>%1 or more.</source>
+        <translation>Не меньше %1.</translation>
+    </message>
+    <message>
+        <source>%1 to %2.</source>
+        <translation>От %1 до %2.</translation>
+    </message>
+    <message>
+        <source>not in the list: the default</source>
+        <translation>нет в списке: встроенное</translation>
+    </message>
+    <message>
+        <source>not in the list</source>
+        <translation>нет в списке</translation>
+    </message>
+    <message>
+        <source>not used by this device</source>
+        <translation>этим устройством не используется</translation>
+    </message>
+    <message>
+        <source>the default</source>
+        <translation>встроенное</translation>
+    </message>
+    <message>
+        <source>default: %1</source>
+        <translation>встроенное: %1</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>включено</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>выключено</translation>
+    </message>
+    <message>
+        <source>default: no rows</source>
+        <translation>встроенное: пусто</translation>
+    </message>
+    <message>
+        <source>%1: not written because of these errors:</source>
+        <translation>%1: не записано из-за этих ошибок:</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Служба</translation>
+    </message>
+    <message>
+        <source>Acceptance of money</source>
+        <translation>Приём денег</translation>
+    </message>
+    <message>
+        <source>Dispenser</source>
+        <translation>Выдача денег</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Подключение</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Протокол</translation>
+    </message>
+    <message>
+        <source>Device %1: %2</source>
+        <translation>Устройство %1: %2</translation>
+    </message>
+    <message>
+        <source>Settings of cash devices</source>
+        <translation>Настройки денежных устройств</translation>
+    </message>
+    <message>
+        <source>No settings list is open.
+Ctrl+O opens one.</source>
+        <translation>Список настроек не открыт.
+Открыть: Ctrl+O.</translation>
+    </message>
+    <message>
+        <source>Open a settings list</source>
+        <translation>Открыть список настроек</translation>
+    </message>
+    <message>
+        <source>Settings lists (*.json);;All files (*)</source>
+        <translation>Списки настроек (*.json);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Nothing has changed.</source>
+        <translation>Изменений нет.</translation>
+    </message>
+    <message>
+        <source>Save the settings list as</source>
+        <translation>Сохранить список настроек как</translation>
+    </message>
+    <message>
+        <source>Saved %1.</source>
+        <translation>Сохранено: %1.</translation>
+    </message>
+    <message>
+        <source>Reloading drops the changes that were made here.</source>
+        <translation>Если перечитать файл, сделанные здесь изменения пропадут.</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Перечитать</translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation>Сохранить &amp;как...</translation>
+    </message>
+    <message>
+        <source>%1: has changes that are not saved.</source>
+        <translation>%1: есть несохранённые изменения.</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Сохранить...</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Не сохранять</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;ОК</translation>
+    </message>
+    <message>
+        <source>Add row</source>
+        <translation>Добавить строку</translation>
+    </message>
+    <message>
+        <source>Remove row</source>
+        <translation>Удалить строку</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(пусто)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Открыть...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>В&amp;ыход</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Правка</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Вернуть</translation>
+    </message>
+    <message>
+        <source>Set the &amp;default</source>
+        <translation>Встроенное &amp;значение</translation>
+    </message>
+    <message>
+        <source>&amp;Take out of the list</source>
+        <translation>У&amp;брать из списка</translation>
+    </message>
+    <message>
+        <source>&amp;Find a setting</source>
+        <translation>&amp;Найти настройку</translation>
+    </message>
+    <message>
+        <source>&amp;Next finding</source>
+        <translation>&amp;Следующее замечание</translation>
+    </message>
+    <message>
+        <source>&amp;Devices</source>
+        <translation>&amp;Устройства</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Добавить...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+    <message>
+        <source>Move &amp;up</source>
+        <translation>В&amp;ыше</translation>
+    </message>
+    <message>
+        <source>Move do&amp;wn</source>
+        <translation>&amp;Ниже</translation>
     </message>
 </context>
 </TS>

@@ -24,7 +24,7 @@
     </message>
     <message>
         <source>Max attempts filter|Antiphishing filter. If BNV rejects note given number of times, the serviceshall reject this note &apos;till the end of the session even if BNV shall recognize it.</source>
-        <translation>Фильтр числа попыток|Защита от «рыбалки». Если купюроприёмник отклонил купюру указанное число раз, сервис отклоняет её до конца сеанса, даже если купюроприёмник её распознает.</translation>
+        <translation>Фильтр числа попыток|Защита от «рыбалки». Если купюроприёмник отклонил купюру указанное число раз, служба отклоняет её до конца сеанса, даже если купюроприёмник её распознает.</translation>
     </message>
 </context>
 <context>
@@ -188,7 +188,7 @@
     </message>
     <message>
         <source>The maximum sum, in the unit that the service uses.</source>
-        <translation>Наибольшая сумма в единицах сервиса.</translation>
+        <translation>Наибольшая сумма в единицах службы.</translation>
     </message>
     <message>
         <source>Statistics reset mode</source>
@@ -196,7 +196,7 @@
     </message>
     <message>
         <source>How the service resets its statistics, as the service&apos;s own number.</source>
-        <translation>Как сервис сбрасывает статистику: номер режима сервиса.</translation>
+        <translation>Как служба сбрасывает статистику: номер режима службы.</translation>
     </message>
     <message>
         <source>Anti-fishing limits</source>
@@ -220,7 +220,7 @@
     </message>
     <message>
         <source>How many devices the service drives: those with an index below it.</source>
-        <translation>Сколькими устройствами управляет сервис: их индексы меньше этого числа.</translation>
+        <translation>Сколькими устройствами управляет служба: их индексы меньше этого числа.</translation>
     </message>
     <message>
         <source>Idle reset timeout</source>
@@ -228,7 +228,7 @@
     </message>
     <message>
         <source>Idle time after which the service resets, in the service&apos;s own unit.</source>
-        <translation>Время простоя, после которого сервис выполняет сброс, в единицах сервиса.</translation>
+        <translation>Время простоя, после которого служба выполняет сброс, в единицах службы.</translation>
     </message>
     <message>
         <source>Route map</source>
@@ -236,7 +236,7 @@
     </message>
     <message>
         <source>Where the service sends notes and coins of each kind.</source>
-        <translation>Куда сервис направляет купюры и монеты каждого вида.</translation>
+        <translation>Куда служба направляет купюры и монеты каждого вида.</translation>
     </message>
     <message>
         <source>Port log of the device</source>

@@ -88,7 +88,7 @@ Rectangle {
             objectName: "lastKnown"
             width: column.width
             visible: card.dimmed
-            text: qsTr("As it was told last; there is no news.")
+            text: qsTr("As last reported; there is no news since.")
             color: card.ink
         }
         Notice {

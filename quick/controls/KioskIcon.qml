@@ -32,10 +32,10 @@ Item {
     implicitHeight: KioskTheme.small
 
     // Drawn without a graphics card, a shape that is scrolled out of its list is not cut off but seen beside
-    // it; a picture of the shape is.
+    // it; a picture of the shape is, but stays as it is when the shape changes unseen.
     Item {
         anchors.fill: parent
-        layer.enabled: GraphicsInfo.api === GraphicsInfo.Software
+        layer.enabled: GraphicsInfo.api === GraphicsInfo.Software && icon.visible
 
         Shape {
             width: 24

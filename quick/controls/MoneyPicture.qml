@@ -16,6 +16,7 @@ Column {
 
     property real unit: 1
     property int wordSize: KioskTheme.medium
+    readonly property alias wordWidth: label.implicitWidth
 
     readonly property color front: kind === "note" ? KioskTheme.good : kind === "coin" ? KioskTheme.warn : KioskTheme.accent
     readonly property color ground: kind === "note" ? KioskTheme.goodGround : kind === "coin" ? KioskTheme.warnGround
@@ -95,6 +96,7 @@ Column {
         }
     }
     KioskText {
+        id: label
         anchors.horizontalCenter: parent.horizontalCenter
         text: picture.word
         font.pixelSize: picture.wordSize

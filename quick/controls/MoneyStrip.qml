@@ -24,7 +24,7 @@ Rectangle {
     // What becomes of a sum above the price, as long as it may still be avoided.
     readonly property string ruleText: service.paid || service.price <= 0 ? ""
         : ({"none": qsTr("This kiosk gives no change."), "paid": qsTr("Change is paid out."),
-            "credited": qsTr("What you pay too much stays on your account.")})[service.changeMode] || ""
+            "credited": qsTr("What you overpay stays on your account.")})[service.changeMode] || ""
 
     readonly property string changeText: service.change <= 0 ? ""
         : qsTr("You have paid %1 too much.").arg(strip.money(service.change)) + " "
@@ -34,7 +34,7 @@ Rectangle {
              || qsTr("Please ask the staff for your change."))
 
     readonly property string lostText: service.lostSum <= 0 ? ""
-        : qsTr("Before a fault you had paid %1 more. It is missing in the sum now.").arg(strip.money(service.lostSum))
+        : qsTr("Before a fault you had paid %1 more. It is missing from the sum now.").arg(strip.money(service.lostSum))
           + " " + (service.lostSumRecorded ? qsTr("It is recorded. Please call the staff.")
                                            : qsTr("Please call the staff."))
 

@@ -83,7 +83,7 @@ Column {
                         model.incident === "" ? "" : qsTr("No.\u00a0%1").arg(model.incident)]
                        .filter(part => part !== "").join(" · ")
                 text: (model.outcome === ServiceState.NoteStuck ? qsTr("It is stuck in the device.")
-                                                                : qsTr("Nobody says what became of it."))
+                                                                : qsTr("It is not known what became of it."))
                       + (model.incident !== "" && model.incident === list.refused
                          ? " " + qsTr("The service did not take it as settled.") : "")
                 onSettled: list.service.settle(model.noteId)
@@ -102,7 +102,7 @@ Column {
         objectName: "openLoss"
         visible: list.service !== null && list.service.lostSum > 0
         title: visible ? list.service.moneyText(list.service.lostSum) : ""
-        text: qsTr("The customer had paid so much before the service was lost, and it is missing in the sum.")
+        text: qsTr("The customer had paid this much before the service was lost; it is missing from the sum.")
         onSettled: list.service.settleLoss()
     }
 }

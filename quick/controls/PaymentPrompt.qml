@@ -5,7 +5,7 @@ import QtQuick 2.15
 import Velmolib 5.0
 
 /// What the customer is to do now: a sign with a sentence, and pictures of what is accepted or, when nothing
-/// is, where to turn. Where it is lower than its implicitHeight there are no pictures.
+/// is, where to turn. Where it is lower than its implicitHeight the pictures are smaller, or there are none.
 Item {
     id: prompt
 
@@ -33,6 +33,8 @@ Item {
                                  || service.sessionSum > 0 && !service.sumRecorded
 
     readonly property string advice: {
+        if (mode === "paid")
+            return service.hasStuckMoney ? qsTr("Please call the staff before you leave.") : "";
         if (mode !== "out" && mode !== "late")
             return "";
         return [mode === "late" ? qsTr("Please call the staff before you leave. Insert no more money.")
@@ -46,7 +48,11 @@ Item {
 
     readonly property real between: KioskTheme.gap * (tall ? 2 : 0.5)
     readonly property int wordSize: KioskTheme.medium * (tall ? 1.3 : 1)
-    readonly property bool pictured: mode === "invite" && height >= implicitHeight
+    readonly property real wordRoom: Math.ceil(1.25 * wordSize) + KioskTheme.gap / 2
+    readonly property real pictureRoom: height - wordRoom - (low ? 0 : sentence + between)
+    readonly property real fullUnit: tall ? Math.min(KioskTheme.large / 40, (0.8 * width - 4 * KioskTheme.gap) / 480)
+                                          : Math.min(KioskTheme.large / 60, (width - sign.width - 5 * KioskTheme.gap) / 480)
+    readonly property bool pictured: mode === "invite" && pictureRoom >= 48 * fullUnit
     // The pictures stand beside the sentence where that leaves it one line.
     readonly property bool low: mode === "invite" && !tall && sign.width + headline.implicitWidth + pictures.natural
                                                               + 2 * KioskTheme.gap <= width
@@ -57,8 +63,7 @@ Item {
     readonly property real start: Math.max(0, (height - used) / 2)
 
     implicitWidth: sign.width + KioskTheme.gap + headline.implicitWidth
-    implicitHeight: mode !== "invite" ? bareHeight : low ? Math.max(sentence, pictures.height)
-                                                         : sentence + between + pictures.height
+    implicitHeight: mode === "invite" ? sentence + between + 96 * fullUnit + wordRoom : bareHeight
     Accessible.role: Accessible.AlertMessage
     Accessible.name: [headline.text, advice].join("\n").trim()
 
@@ -81,6 +86,7 @@ Item {
 
         KioskIcon {
             anchors.fill: parent
+            visible: !ring.visible
             kind: ({"invite": "insert", "late": "warn", "paid": "good", "out": "bad"})[prompt.mode] || ""
             color: ({"late": KioskTheme.warn, "paid": KioskTheme.good, "out": KioskTheme.bad})[prompt.mode]
                    || KioskTheme.accent
@@ -119,7 +125,7 @@ Item {
         objectName: "headline"
         x: prompt.tall ? 0 : sign.width + KioskTheme.gap
         y: prompt.tall ? sign.y + sign.height + KioskTheme.gap : prompt.start + (prompt.line - height) / 2
-        width: prompt.width - x - (prompt.low ? pictures.natural + KioskTheme.gap : 0)
+        width: prompt.width - x
         horizontalAlignment: prompt.tall ? Text.AlignHCenter : Text.AlignLeft
         text: prompt.mode === "paid" ? qsTr("Paid. Thank you!")
             : prompt.mode === "late" ? qsTr("This takes longer than usual.") : prompt.service.customerText
@@ -130,11 +136,10 @@ Item {
     Flow {
         id: pictures
         objectName: "pictures"
-        readonly property real unit: prompt.tall ? Math.min(KioskTheme.large / 40, (0.8 * prompt.width - 2 * spacing) / 480)
-                                                 : KioskTheme.large / 60
+        readonly property real unit: Math.min(prompt.fullUnit, Math.max(prompt.fullUnit / 2, prompt.pictureRoom / 96))
         // In one line.
         readonly property real natural: Math.ceil([notePicture, coinPicture, cardPicture].reduce(
-            (sum, picture) => picture.shown ? sum + picture.implicitWidth + spacing : sum, -spacing))
+            (sum, picture) => picture.shown ? sum + Math.max(160 * prompt.fullUnit, picture.wordWidth) + spacing : sum, -spacing))
         x: prompt.tall ? (prompt.width - natural) / 2 : prompt.low ? Math.min(prompt.width - natural, headline.x + headline.implicitWidth + 2 * KioskTheme.gap)
                                                                   : headline.x
         y: prompt.start + (prompt.low ? (prompt.line - height) / 2 : prompt.line + prompt.between)

@@ -117,7 +117,7 @@ TestCase {
             {tag: "currency comes later", steps: [{price: 251000}, [[1, "idling"]], rubles, [[1, "idling"]]],
              says: ["2,510.00 RUB"], not: ["251,000"]},
             {tag: "stuck beside paid", steps: jam.concat([{price: 500}], [[[1, "jammed", 1000], [100, "idling", 0, 500]]]),
-             says: ["Paid. Thank you!", "failed with your note of 1,000"], not: ["Left to pay"]},
+             says: ["Paid. Thank you!", "before you leave", "failed with your note of 1,000"], not: ["Left to pay"]},
             {tag: "stuck stays when another is taken", fresh: 0,
              steps: [[[1, "idling"], [100, "idling"]], [[1, "accepting", 1000], [100, "idling"]],
                      [[1, "jammed", 1000], [100, "idling"]], [[1, "jammed", 1000], [100, "accepting", 10]],

@@ -72,6 +72,15 @@ Item {
     }
 
     Component {
+        id: iconComponent
+        KioskIcon {
+            width: 60
+            height: 60
+            kind: "good"
+        }
+    }
+
+    Component {
         id: listComponent
         Rectangle {
             width: 200
@@ -359,6 +368,18 @@ Item {
         }
 
         // Qt 5 has no picture to look at without a screen.
+        function test_iconThatChangedUnseenIsTheNewOne() {
+            const icons = [createTemporaryObject(iconComponent, root), createTemporaryObject(iconComponent, root)];
+            icons[1].kind = "bad";
+            waitForRendering(icons[0]);
+            icons[0].visible = false;
+            icons[0].kind = "bad";
+            wait(100);
+            icons[0].visible = true;
+            waitForRendering(icons[0]);
+            verify(grabImage(icons[0]).equals(grabImage(icons[1])));
+        }
+
         function test_iconsAreCutOffWithTheirList() {
             const list = createTemporaryObject(listComponent, root);
             waitForRendering(list);

@@ -107,7 +107,7 @@ void SettingField::makeLayout()
     layout->addWidget(m_help, 3, 1, 1, 3);
     for (QLabel* const label : {m_label, m_mark})
         label->setContentsMargins(0, 4, 0, 0); // beside the first line of the value
-    m_mark->setMinimumWidth(fontMetrics().averageCharWidth() * 20);
+    m_mark->setMinimumWidth(fontMetrics().averageCharWidth() * 17);
 }
 
 QString SettingField::helpText() const
@@ -132,7 +132,7 @@ QString SettingField::markText() const
                           : Velmo::tr("not in the list");
     if (!m_used.isForDevice)
         return Velmo::tr("not used by this device");
-    if (hasDefault && m_used.value == m_setting.defaultValue())
+    if (hasDefault && m_isSound && m_used.value == m_setting.defaultValue())
         return Velmo::tr("the default");
     if (m_setting.kind() == SettingDescription::Switch)
         return Velmo::tr("default: %1")
@@ -159,6 +159,7 @@ void SettingField::showValue(const SettingsList::Used& used, const QString& text
                              const QList<SettingsFinding>& findings)
 {
     m_used = used;
+    m_isSound = m_setting.accepts(text);
     if (!m_isEdited)
         m_editor->showText(text);
     m_mark->setText(markText());

@@ -59,5 +59,6 @@ private:
     QToolButton* const m_menu;
     QLabel* const m_help;
     QLabel* const m_finding;
+    bool m_isSound = true; // the text is read as what it says
     bool m_isEdited = false; // by a person who is not done yet
 };

@@ -35,7 +35,7 @@ const struct
     {S::HARDWARE_SECTION, QT_TRANSLATE_NOOP("Velmo", "Connection")},
     {S::DEBUG_SECTION, QT_TRANSLATE_NOOP("Velmo", "Log")},
 };
-constexpr int widestLabel = 240;
+constexpr int widestLabel = 170;
 constexpr int sectionOfProtocol = int(std::size(sections));
 
 int sectionIndex(const ServiceSetting& setting)
@@ -84,9 +84,12 @@ QString SettingsPage::title(const SettingsDocument& document, std::optional<int>
     const SettingsList& list = document.list();
     const ServiceSetting name =
         ServiceSetting::find(deviceGroup(*device, S::DEVICE_SECTION), S::DEVICE_NAME);
+    const QString given = list.used(name).value.toString().simplified();
+    const int model = list.model(*device);
+    const bool isUnknown = modelName(model).isEmpty() && given.isEmpty();
     return Velmo::tr("Device %1: %2")
         .arg(QString::number(*device),
-             deviceName(list.model(*device), list.used(name).value.toString().simplified()));
+             isUnknown ? Velmo::tr("unknown model") : deviceName(model, given));
 }
 
 void SettingsPage::showDevice(std::optional<int> device)

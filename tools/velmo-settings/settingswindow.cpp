@@ -17,9 +17,11 @@
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -38,6 +40,7 @@ SettingsWindow::SettingsWindow()
     , m_findings(new FindingsPanel(m_document, this))
     , m_views(new QStackedWidget(this))
 {
+    resize(QSize(1100, 800).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     makeActions();
     makeLayout();
     connect(m_pages, &PageList::pageChosen, this, &SettingsWindow::showPage);
@@ -63,7 +66,6 @@ SettingsWindow::SettingsWindow()
     connect(&m_document, &SettingsDocument::changed, this, &SettingsWindow::follow);
     connect(qApp, &QApplication::focusChanged, this, &SettingsWindow::followFocus);
     setWindowTitle(Velmo::tr("Settings of cash devices"));
-    resize(1100, 800);
     follow();
 }
 
@@ -80,13 +82,13 @@ void SettingsWindow::makeLayout()
     auto* const left = new QWidget(this);
     auto* const column = new QVBoxLayout(left);
     column->addWidget(m_pages);
-    auto* const buttons = new QHBoxLayout;
+    auto* const buttons = new QGridLayout;
     column->addLayout(buttons);
     for (QAction* const action : {m_add, m_remove, m_up, m_down}) {
         auto* const button = new QToolButton(left);
         button->setDefaultAction(action);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        buttons->addWidget(button);
+        buttons->addWidget(button, buttons->count() / 2, buttons->count() % 2);
         m_page->setPredecessor(button);
     }
     auto* const right = new QSplitter(Qt::Vertical, this);
@@ -99,7 +101,7 @@ void SettingsWindow::makeLayout()
     both->addWidget(left);
     both->addWidget(right);
     both->setStretchFactor(1, 1);
-    both->setSizes({330, 770});
+    both->setSizes({width() * 3 / 10, width() * 7 / 10});
     both->setChildrenCollapsible(false);
     auto* const nothing =
         new QLabel(Velmo::tr("No settings list is open.\nCtrl+O opens one."), this);
