@@ -57,33 +57,46 @@ QVector<RowModel::Row> registryRows(const QVariantMap& registry)
     return rows;
 }
 
-// Worst first; severity is what colour and icon go by.
+// Severity is what colour and icon go by.
 struct RankedFault
 {
     const char* reason;
     int severity;
 };
 
+// Worst first, and last what has no other row.
 constexpr RankedFault faults[] = {
-    {"money", 3},  {"error", 2},           {"state", 2},        {"offline", 2},
-    {"halted", 2}, {"stacker_missing", 1}, {"stacker_full", 1}, {"disabled", 0},
+    {"money", 3},           {"error", 2},        {"state", 2},    {"offline", 2}, {"halted", 2},
+    {"stacker_missing", 1}, {"stacker_full", 1}, {"disabled", 0}, {"", 0},
 };
 
-QVector<int> rankAndSeverity(const QString& reason)
+const RankedFault* rankOf(const QString& reason)
 {
-    const auto* const found =
-        std::find_if(std::begin(faults), std::end(faults), [&](const RankedFault& fault) {
-            return reason == QLatin1String(fault.reason);
-        });
-    return {int(found - std::begin(faults)), found == std::end(faults) ? 0 : found->severity};
+    return std::find_if(std::begin(faults), std::end(faults) - 1, [&](const RankedFault& fault) {
+        return reason == QLatin1String(fault.reason);
+    });
 }
 
 int severityOf(const PublishedDevice& device)
 {
     int severity = -1;
     for (const DeviceFault& fault : whyNotWorking(device))
-        severity = std::max(severity, rankAndSeverity(QLatin1String(fault.reason)).last());
+        severity = std::max(severity, rankOf(QLatin1String(fault.reason))->severity);
     return severity;
+}
+
+// In words for the staff.
+QString openText(const NoteWatch::Note& note, const MoneyFormat& format)
+{
+    const bool isStuck = note.outcome == NoteWatch::Stuck;
+    if (note.value == 0) {
+        return isStuck ? Diagnosis::tr("Money of a customer is stuck.")
+                       : Diagnosis::tr("It is not known what became of a customer's money.");
+    }
+    const QString text = isStuck
+        ? Diagnosis::tr("Money of a customer is stuck: %1.")
+        : Diagnosis::tr("It is not known what became of a customer's money: %1.");
+    return text.arg(format.of(note.currency).text(note.value));
 }
 
 } // namespace
@@ -146,12 +159,12 @@ QVector<RowModel::Row> faultRows(const PublishedState& state, const QMap<int, QS
                          const QString& text) {
         rows += RowModel::Row{key,
                               {names.value(device, deviceName(device)), device, thread, reason,
-                               text, rankAndSeverity(reason).last()}};
+                               text, rankOf(reason)->severity}};
     };
     for (const NoteWatch::Note& note : open) {
         if (note.outcome != NoteWatch::Checked)
             add(QString::number(note.id), note.device, note.thread, QStringLiteral("money"),
-                NoteWatch::text(note, format));
+                openText(note, format));
     }
     int place = 0;
     for (const PublishedDevice& device : state.devices) {
@@ -162,8 +175,7 @@ QVector<RowModel::Row> faultRows(const PublishedState& state, const QMap<int, QS
     }
     constexpr int reason = 3; // of the roles
     std::stable_sort(rows.begin(), rows.end(), [](const RowModel::Row& a, const RowModel::Row& b) {
-        return rankAndSeverity(a.values.at(reason).toString()).first()
-            < rankAndSeverity(b.values.at(reason).toString()).first();
+        return rankOf(a.values.at(reason).toString()) < rankOf(b.values.at(reason).toString());
     });
     return rows;
 }

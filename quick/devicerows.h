@@ -19,6 +19,7 @@ class DeviceRows : public RowModel
 public:
     explicit DeviceRows(QObject* parent = nullptr);
 
+    /// @param state what the service told last
     /// @param names display names by device identifier
     /// @param isHeard false while the service cannot be reached: nothing is accepted then
     void show(const PublishedState& state, const QMap<int, QString>& names, bool isHeard);

@@ -8,9 +8,6 @@
 #include "text/diagnosis.h"
 #include "text/fault.h"
 
-#include <QCoreApplication>
-#include <QEvent>
-
 #include <algorithm>
 #include <cmath>
 
@@ -25,6 +22,7 @@ ServiceState::ServiceState(QObject* parent)
     , m_openNotes({"noteId", "outcome", "value", "amountText", "deviceName", "deviceId", "threadId",
                    "time", "timeText", "incident", "text"})
     , m_worstFaults({"deviceName", "deviceId", "threadId", "reason", "text", "severity"})
+    , m_language([this] { show(); })
 {
     // A view must not think that it owns what a property returns.
     for (RowModel* const model : {static_cast<RowModel*>(&m_devices), &m_openNotes, &m_worstFaults})
@@ -39,7 +37,6 @@ ServiceState::ServiceState(QObject* parent)
     m_showTimer.setSingleShot(true);
     m_showTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_showTimer, &QTimer::timeout, this, &ServiceState::show);
-    QCoreApplication::instance()->installEventFilter(this);
     show();
 }
 
@@ -78,13 +75,15 @@ void ServiceState::read()
         return lose();
     }
     makePlain(m_state);
+    const bool wasComplete = isComplete();
     m_money = m_state.money;
     const std::vector<NoteWatch::Note> events = m_notes.take(
         m_state, m_timestamp.isValid() ? m_timestamp : QDateTime::currentDateTimeUtc());
     const std::vector<NoteWatch::Note> open = m_notes.open();
-    m_sums.take(m_state, events, std::any_of(open.begin(), open.end(), [](const auto& note) {
-                    return note.outcome == NoteWatch::Checked;
-                }));
+    const bool isBusy = std::any_of(open.begin(), open.end(), [](const auto& note) {
+        return note.outcome == NoteWatch::Checked;
+    });
+    m_sums.take(m_state, events, isBusy, wasComplete);
     if (!m_available)
         lose(); // a state that came late
     const QMap<int, QString> names = givenNames();
@@ -173,13 +172,6 @@ void ServiceState::settleLoss()
     show();
 }
 
-bool ServiceState::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange && watched == QCoreApplication::instance())
-        show();
-    return QObject::eventFilter(watched, event);
-}
-
 // At most once in a frame's time.
 void ServiceState::showSoon()
 {
@@ -196,9 +188,10 @@ void ServiceState::show()
 {
     m_showTimer.stop();
     const QMap<int, QString> names = deviceNames(m_state, givenNames());
-    const Shown shown = shownNow(names);
+    const std::vector<NoteWatch::Note> open = m_notes.open();
+    const Shown shown = shownNow(names, open);
     m_devices.show(m_state, names, isHeard());
-    showNotes(names);
+    showNotes(names, open);
 
     const Shown before = std::exchange(m_shown, shown);
     const auto tell = [&](auto field, void (ServiceState::*changed)()) {
@@ -230,10 +223,11 @@ void ServiceState::show()
     tell(&Shown::fault, &ServiceState::faultChanged);
 }
 
-ServiceState::Shown ServiceState::shownNow(const QMap<int, QString>& names) const
+ServiceState::Shown ServiceState::shownNow(const QMap<int, QString>& names,
+                                           const std::vector<NoteWatch::Note>& open) const
 {
     Shown shown;
-    const double sum = double(m_sums.sum());
+    const auto sum = double(m_sums.sum());
     shown.sessionSum = sum;
     shown.paid = isComplete();
     shown.left = qMax(m_price - sum, 0.0);
@@ -244,7 +238,6 @@ ServiceState::Shown ServiceState::shownNow(const QMap<int, QString>& names) cons
     shown.sumRecorded = m_sums.isRecorded();
     shown.lostSum = double(m_sums.lost());
     shown.lostSumRecorded = m_sums.isLostRecorded();
-    const std::vector<NoteWatch::Note> open = m_notes.open();
     shown.hasStuckMoney = m_sums.lost() > 0
         || std::any_of(open.begin(), open.end(),
                        [](const auto& note) { return note.outcome != NoteWatch::Checked; });
@@ -273,10 +266,10 @@ ServiceState::Shown ServiceState::shownNow(const QMap<int, QString>& names) cons
     return shown;
 }
 
-void ServiceState::showNotes(const QMap<int, QString>& names)
+void ServiceState::showNotes(const QMap<int, QString>& names,
+                             const std::vector<NoteWatch::Note>& open)
 {
     const MoneyFormat money = format();
-    const std::vector<NoteWatch::Note> open = m_notes.open();
     QVector<RowModel::Row> rows;
     for (const NoteWatch::Note& note : open) {
         const MoneyFormat own = money.of(note.currency);

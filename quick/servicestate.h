@@ -4,6 +4,7 @@
 #pragma once
 
 #include "devicerows.h"
+#include "languagewatch.h"
 #include "rowmodel.h"
 #include "service/notewatch.h"
 #include "service/serviceanswer.h"
@@ -100,8 +101,9 @@ class ServiceState : public QObject
     Q_PROPERTY(bool sumRecorded READ isSumRecorded NOTIFY sumRecordedChanged)
 
     /// What was told as paid before the service was lost and is not in the sum that came back; 0
-    /// for nothing, and where the price was paid before. It stays until the sum is back, or
-    /// settleLoss(). lostSumRecorded: whether the service had confirmed it as stored.
+    /// for nothing, and where the price was paid before and the service had not said that it had
+    /// stored less. It stays until the sum is back, or settleLoss(). lostSumRecorded: whether the
+    /// service had confirmed it as stored.
     Q_PROPERTY(double lostSum READ lostSum NOTIFY lostSumChanged)
     Q_PROPERTY(bool lostSumRecorded READ isLostSumRecorded NOTIFY lostSumRecordedChanged)
 
@@ -215,12 +217,11 @@ public:
     /// The staff says that the lost sum is settled.
     Q_INVOKABLE void settleLoss();
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 Q_SIGNALS:
     /// What became of a note or coin, of each and at once, also when two are alike.
     /// @param outcome a NoteOutcome
     /// @param value 0 when it is not known
+    /// @param currency its code; empty when it is not known
     /// @param device its display name
     /// @param text in words for the customer
     void noteEvent(int outcome, double value, const QString& currency, const QString& device,
@@ -294,8 +295,8 @@ private:
     void lose();
     void show();
     void showSoon();
-    void showNotes(const QMap<int, QString>& names);
-    Shown shownNow(const QMap<int, QString>& names) const;
+    void showNotes(const QMap<int, QString>& names, const std::vector<NoteWatch::Note>& open);
+    Shown shownNow(const QMap<int, QString>& names, const std::vector<NoteWatch::Note>& open) const;
     bool isHeard() const { return m_available && !m_isStale; }
     bool isComplete() const { return m_price > 0 && double(m_sums.sum()) >= m_price; }
     QMap<int, QString> givenNames() const;
@@ -321,4 +322,5 @@ private:
     QTimer m_staleTimer;
     QTimer m_showTimer;
     QElapsedTimer m_sinceShown;
+    LanguageWatch m_language;
 };

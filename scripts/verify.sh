@@ -20,9 +20,9 @@ for preset in asan tsan; do
     ctest --preset "$preset"
 done
 tests/check_page.py build/asan/bin/velmo samples
-tests/check_settings_window.sh build/asan/bin samples
 cmake --preset release
-cmake --build --preset release --target velmo velmo-fleet velmolib_translations
+cmake --build --preset release --target velmo velmo-fleet velmo-settings velmolib_translations
+tests/check_settings_window.sh build/release/bin samples
 tests/check_fleet.py build/release/bin
 tests/check_fleet_broker.py build/release/bin
 tests/check_fleet_page.py build/release/bin

@@ -231,7 +231,7 @@ const QMap<QString, std::function<QVariant(const QVariant& example)>> checks{
                             {"money"_s,
                              QVariantMap{{"currency"_s, money.currency},
                                          {"digits"_s, money.digits},
-                                         {"recorded"_s, money.recorded},
+                                         {"recorded"_s, money.recorded.value_or(0)},
                                          {"change"_s, money.change}}},
                             {"incidents"_s, QVariantList{row}}};
      }},

@@ -361,6 +361,22 @@ private Q_SLOTS:
         QCOMPARE(kiosk.warnings(), QStringList());
     }
 
+    // The screen starts within a payment, which then ends.
+    void sumOfASessionThatEndsIsNotMissing()
+    {
+        write(
+            "session.jsonl"_s,
+            R"({"session":"start","device_id":1,"thread_id":1,"online":true,"enabled":true,"state":"idling","session_sum":100}
+{"session":"start","session_sum":0})");
+        startService(m_folder.path(), "session"_s);
+        step(1);
+        Kiosk kiosk(m_language, {{"price"_s, 2510}});
+        QTRY_COMPARE_WITH_TIMEOUT(kiosk.text("sum"_s), "Paid: 100 of 2,510"_s, longest);
+        step(1);
+        QTRY_COMPARE_WITH_TIMEOUT(kiosk.text("sum"_s), "Paid: 0 of 2,510"_s, longest);
+        QCOMPARE(kiosk.text("lostSum"_s), QString());
+    }
+
     void stoppedServiceInvitesNobody()
     {
         startService("samples"_s, "plain-payment"_s);
@@ -385,7 +401,7 @@ private Q_SLOTS:
     {
         addRows(R"(
             none     | This kiosk gives no change. | You have paid 3,500 RUB too much. This kiosk gives no change. Please call the staff.
-            paid     | Change is paid out.         | You have paid 3,500 RUB too much. Your change is paid out. Please take it.
+            paid     | Change is paid out.         | You have paid 3,500 RUB too much. You get your change back. If it does not come, please call the staff.
             credited | What you overpay stays on your account. | You have paid 3,500 RUB too much. It stays on your account.)"_s);
     }
 
@@ -397,13 +413,22 @@ private Q_SLOTS:
             R"({"session":"start","device_id":1,"thread_id":1,"online":true,"enabled":true,"state":"idling"}
 {"state":"accepting","current_note":6010}
 {"state":"stacked","session_sum":6010})");
-        startService(m_folder.path(), "overpaid"_s, {"--money"_s, "RUB:0"_s, "--change"_s, mode});
+        startService(m_folder.path(), "overpaid"_s, {"--money"_s, "RUB:0"_s, "--change"_s, mode},
+                     false);
         Kiosk kiosk(m_language, {{"price"_s, 2510}});
         step(1);
         QTRY_COMPARE_WITH_TIMEOUT(kiosk.text("changeRule"_s), before, longest);
         step(2);
         QTRY_COMPARE_WITH_TIMEOUT(kiosk.text("headline"_s), "Paid. Thank you!"_s, longest);
         QCOMPARE(kiosk.text("change"_s), after);
+        m_service.kill(); // it promises nothing any more
+        QTRY_VERIFY_WITH_TIMEOUT(
+            kiosk.text("outOfService"_s).startsWith("Please call the staff before you leave."_s),
+            longest);
+        QCOMPARE(kiosk.text("change"_s),
+                 "You have paid 3,500 RUB too much. "_s
+                     + (mode == "none"_s ? "This kiosk gives no change. Please call the staff."_s
+                                         : "Please ask the staff for your change."_s));
     }
 
     // A piece that is stuck has the same number for the customer, the staff, and in the log, over a
@@ -423,7 +448,7 @@ private Q_SLOTS:
         startService("samples"_s, "jam"_s, money);
         step(5);
         QTRY_COMPARE_WITH_TIMEOUT(kiosk.text("openNoteDetail"_s),
-                                  "T · No. 0001-0001 + T · No. 0001-0002, Help: 8 800"_s, longest);
+                                  "T · No. 0001-0002, Help: 8 800 + T · No. 0001-0001"_s, longest);
         kiosk.openService();
         kiosk.press("settleKey"_s);
         kiosk.press("noKey"_s);
@@ -727,7 +752,8 @@ private Q_SLOTS:
     void wrongArgumentsAreNamed_data()
     {
         addRows(R"(
-            --price x      | kioskscreen: --price x: expected a number from 0 to 1e+15
+            --price x      | kioskscreen: --price x: expected a whole number from 0 to 1e+15
+            --price 2510.4 | kioskscreen: --price 2510.4: expected a whole number from 0 to 1e+15
             --idle -1      | kioskscreen: --idle -1: expected a number from 0 to 1e+06
             --density 0    | kioskscreen: --density 0: expected a number from 0.5 to 100
             --lang de      | kioskscreen: --lang de: expected en or ru)"_s);

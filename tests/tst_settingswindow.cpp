@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -21,12 +22,15 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRandomGenerator>
+#include <QScreen>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QTimer>
 
 #include <csignal>
 #include <functional>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -163,7 +167,7 @@ private Q_SLOTS:
         SettingsDocument document;
         document.open(m_list);
         QVector<QByteArray> texts{document.text()};
-        for (int i = 0; i < 80; ++i) {
+        for (int i = 0; i < 50; ++i) {
             const QVector<SettingsList::Used>& all = document.list().used();
             const SettingsList::Used used = all.at(int(random.bounded(int(all.size()))));
             const QList<int> devices = document.list().devices().keys();
@@ -190,7 +194,7 @@ private Q_SLOTS:
             if (document.text() != texts.constLast())
                 texts += document.text();
         }
-        QVERIFY(texts.size() > 40);
+        QVERIFY(texts.size() > 25);
         for (auto text = texts.rbegin(); text != texts.rend(); ++text) {
             QCOMPARE(document.text(), *text);
             QCOMPARE(document.findings().size(), checkSettings(document.file()).size());
@@ -316,6 +320,60 @@ private Q_SLOTS:
         QVERIFY(!document.isModified());
     }
 
+    // What cannot be opened again is not written under another name, and what is no file is not
+    // waited for.
+    void opensAndWritesFilesOfSettingsOnly()
+    {
+        const QString content = R"([{"group": "acceptor_common", "key": "maxSumm", "value": 1}])"_s;
+        QVERIFY(!writeFile(m_list, content).isEmpty());
+        SettingsDocument document;
+        document.open(m_list);
+        document.unset("acceptor_common/maxSumm"_s);
+        const QString other = m_folder.filePath("emptied.json"_s);
+        QVERIFY_EXCEPTION_THROWN(document.saveAs(other), Fault);
+        QVERIFY(!QFile::exists(other));
+        QCOMPARE(document.fileName(), m_list);
+        const QString pipe = m_folder.filePath("pipe"_s);
+        QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+        QVERIFY_EXCEPTION_THROWN(document.open(pipe), Fault);
+    }
+
+    void addedLinesEndLikeTheOthers()
+    {
+        const QString content = QString::fromUtf8(contentOf(m_list)).replace("\n"_s, "\r\n"_s);
+        QVERIFY(!writeFile(m_list, content).isEmpty());
+        SettingsDocument document;
+        document.open(m_list);
+        document.addDevice("1"_s);
+        document.unset("acceptor_common/acceptAll"_s); // the first
+        document.set("acceptor_common/acceptAll"_s, "1"_s);
+        QVERIFY(document.text().count('\n') > content.count(QLatin1Char('\n')));
+        QCOMPARE(document.text().count("\r\n"), document.text().count('\n'));
+    }
+
+    // Nobody waits for the window because there are many devices.
+    void manyDevicesAreRenumberedAtOnce()
+    {
+        QString content = R"([{"group": "service", "key": "devices_count", "value": 100})"_s;
+        for (int i = 0; i < 100; ++i) {
+            for (const QString& key : {"device_id"_s, "device_name"_s, "x"_s, "y"_s, "z"_s}) {
+                content += R"(,
+                    {"group": "device%1/device", "key": "%2", "value": %1})"_s.arg(i)
+                               .arg(key);
+            }
+        }
+        QVERIFY(!writeFile(m_list, content + "]"_s).isEmpty());
+        SettingsDocument document;
+        QElapsedTimer time; // in times that it takes to open the list: whatever the machine is
+        time.start();
+        document.open(m_list);
+        const double opening = double(time.restart());
+        document.removeDevice(0);
+        const double times = double(time.elapsed()) / qMax(1., opening);
+        QVERIFY2(times < 10, qPrintable(QString::number(times)));
+        QCOMPARE(document.list().devices().size(), 99);
+    }
+
     // The lines of both texts, each in its order, and no more of them than need be.
     void diffHasBothTexts()
     {
@@ -438,6 +496,47 @@ private Q_SLOTS:
         QCOMPARE(m_window->document().text(), expected);
     }
 
+    // What no choice stands for is shown as it is, and looking at it changes nothing.
+    void cellsOfUnknownKindsStay_data()
+    {
+        addRows(R"(
+            "bill_type\":7        | 7
+            "bill_type\":\"abc\" | abc
+            "type\":1             |)"_s);
+    }
+
+    void cellsOfUnknownKindsStay()
+    {
+        const auto [kind, shown] = cells<2>();
+        const QString content = QString::fromUtf8(contentOf(m_list));
+        const QString changed = QString(content).replace(R"("bill_type\":1)"_s, kind);
+        QVERIFY(changed != content && !writeFile(m_list, changed).isEmpty());
+        m_window->open(m_list);
+        auto* const routes = control<QTableWidget>("dispenser/route_map"_s);
+        auto* const styled = qobject_cast<QStyledItemDelegate*>(routes->itemDelegateForColumn(2));
+        QCOMPARE(styled->displayText(routes->item(3, 2)->text(), {}), shown);
+        routes->setFocus();
+        routes->setCurrentCell(3, 2);
+        routes->editItem(routes->item(3, 2));
+        QVERIFY(qobject_cast<QComboBox*>(QApplication::focusWidget()));
+        key(Qt::Key_Tab);
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void longTextsStayWhole()
+    {
+        const QString name = QString(40000, QLatin1Char('x')) + "end"_s;
+        const QString content = QString::fromUtf8(contentOf(m_list));
+        QVERIFY(!writeFile(m_list, QString(content).replace("Bill validator"_s, name)).isEmpty());
+        m_window->open(m_list);
+        choosePage(1);
+        auto* const line = control<QLineEdit>("device0/device/device_name"_s);
+        line->setFocus();
+        QTest::keyClick(line, Qt::Key_Home);
+        QTest::keyClick(line, Qt::Key_Delete);
+        QVERIFY(m_window->document().text().contains("xend"));
+    }
+
     void searchGoesToTheSetting_data()
     {
         addRows(R"(
@@ -487,6 +586,24 @@ private Q_SLOTS:
         QVERIFY(control<QLineEdit>("device4/hw_interface/portname"_s)->hasFocus());
     }
 
+    // The one behind it has its place, and its values, also in the field where one types.
+    void removalWhileTypingShowsTheNextDevice()
+    {
+        choosePage(2);
+        const QString path = "device1/device/device_name"_s;
+        control<QLineEdit>(path)->setFocus();
+        QTest::keyClicks(control<QLineEdit>(path), "typed"_s);
+        action("Remove"_s)->trigger();
+        QCOMPARE(control<QLineEdit>(path)->text(), "Coin acceptor"_s);
+    }
+
+    // Names are no markup that has pictures fetched.
+    void toolTipsShowNamesAsTheyAre()
+    {
+        m_window->document().set("device0/device/device_name"_s, "<img src='x'>"_s);
+        QVERIFY(!pages()->item(1)->toolTip().contains("<img"_s));
+    }
+
     // What a model has no use for goes with it, and its field with that.
     void formsFollowTheModel()
     {
@@ -516,6 +633,7 @@ private Q_SLOTS:
             return dialog.findChild<QPlainTextEdit*>()->toPlainText();
         };
         inDialog([&](QWidget& dialog) {
+            QVERIFY(dialog.width() <= dialog.screen()->availableSize().width());
             QCOMPARE(shown(dialog).count(R"("port_logging", "value": 0})"_s), 1);
             QCOMPARE(shown(dialog).count(R"("port_logging", "value": 1})"_s), 1);
             press(dialog, "Cancel"_s);
@@ -530,6 +648,27 @@ private Q_SLOTS:
         QVERIFY(!m_window->isWindowModified());
     }
 
+    void otherFileIsShownAsItWillChange()
+    {
+        const QString other = m_folder.filePath("other.json"_s);
+        QVERIFY(!writeFile(other, "precious\n"_s).isEmpty());
+        inDialog([&other](QWidget& dialog) {
+            inDialog([](QWidget& overwrite) {
+                inDialog([](QWidget& diff) {
+                    const auto* const view = diff.findChild<QPlainTextEdit*>();
+                    QVERIFY2(view, "nothing is shown");
+                    QVERIFY(view->toPlainText().contains("precious"_s));
+                    press(diff, "Cancel"_s);
+                });
+                press(overwrite, "Yes"_s);
+            });
+            dialog.findChild<QLineEdit*>()->setText(other);
+            QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+        });
+        key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(contentOf(other), QByteArray("precious\n"));
+    }
+
     void fileThatChangedIsReloadedWhenAsked()
     {
         control<QLineEdit>("acceptor_common/maxSumm"_s)->setFocus();
@@ -541,6 +680,7 @@ private Q_SLOTS:
                 const auto* const box = qobject_cast<QMessageBox*>(&dialog);
                 QVERIFY2(box, "the lines are shown in vain");
                 QVERIFY(box->text().contains("changed meanwhile"_s));
+                QVERIFY(!box->defaultButton()->text().contains("Reload"_s)); // loses changes
                 press(dialog, button);
             });
             key(Qt::Key_S, Qt::ControlModifier);

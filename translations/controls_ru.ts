@@ -135,8 +135,8 @@
         <translation>Сдача не&#xa0;выдаётся. Позовите&#xa0;сотрудника.</translation>
     </message>
     <message>
-        <source>Your change is paid out. Please take it.</source>
-        <translation>Сдача выдаётся. Заберите&#xa0;её.</translation>
+        <source>You get your change back. If it does not come, please call the staff.</source>
+        <translation>Вам будет выдана сдача. Если&#xa0;её&#xa0;нет, позовите&#xa0;сотрудника.</translation>
     </message>
     <message>
         <source>It stays on your account.</source>

@@ -1862,5 +1862,37 @@
         <source>The service has told nothing for %1 s.</source>
         <translation>Служба ничего не сообщает уже %1 с.</translation>
     </message>
+    <message>
+        <source>Checking your note...</source>
+        <translation>Проверяется ваша купюра...</translation>
+    </message>
+    <message>
+        <source>Checking your coin...</source>
+        <translation>Проверяется ваша монета...</translation>
+    </message>
+    <message>
+        <source>It is not known what became of your note. Please call the staff.</source>
+        <translation>Неизвестно, что стало с вашей купюрой. Позовите сотрудника.</translation>
+    </message>
+    <message>
+        <source>It is not known what became of your coin. Please call the staff.</source>
+        <translation>Неизвестно, что стало с вашей монетой. Позовите сотрудника.</translation>
+    </message>
+    <message>
+        <source>Money of a customer is stuck.</source>
+        <translation>Застряли деньги клиента.</translation>
+    </message>
+    <message>
+        <source>It is not known what became of a customer&apos;s money.</source>
+        <translation>Неизвестно, что стало с деньгами клиента.</translation>
+    </message>
+    <message>
+        <source>Money of a customer is stuck: %1.</source>
+        <translation>Застряли деньги клиента: %1.</translation>
+    </message>
+    <message>
+        <source>It is not known what became of a customer&apos;s money: %1.</source>
+        <translation>Неизвестно, что стало с деньгами клиента: %1.</translation>
+    </message>
 </context>
 </TS>

@@ -1984,5 +1984,9 @@ Ctrl+O opens one.</source>
         <source>Move do&amp;wn</source>
         <translation>&amp;Ниже</translation>
     </message>
+    <message>
+        <source>%1: is no regular file</source>
+        <translation>%1: это не обычный файл</translation>
+    </message>
 </context>
 </TS>

@@ -4,6 +4,7 @@
 #include "service/notewatch.h"
 
 #include "devicestatesconst.h"
+#include "text/devicename.h"
 
 #include <QSet>
 
@@ -73,6 +74,8 @@ std::vector<NoteWatch::Note> NoteWatch::take(const PublishedState& state, const 
     ++m_turn;
     QMap<std::pair<int, int>, int> twins;
     for (const PublishedDevice& device : state.devices) {
+        if (moneyOf(device.deviceId()) == Money::Card)
+            continue; // it has no piece of money in its hand
         const std::pair<int, int> key(device.deviceId(), device.threadId());
         Track& track = m_tracks[Key(key.first, key.second, twins[key]++)];
         track.turn = m_turn;
@@ -95,7 +98,7 @@ std::vector<NoteWatch::Note> NoteWatch::take(const PublishedState& state, const 
 void NoteWatch::follow(const PublishedDevice& device, Track& track, const QVariantList& refusals)
 {
     const QString name = device.state();
-    const qint32 note = device.currentNote;
+    const qint64 note = device.currentNote;
     const bool isNew = track.state != name || (name == DS_ACCEPTING && track.note != note);
     // Otherwise it has come to know what the piece in its hand is worth.
     const bool isAnother = track.state != name || track.isAway || !find(track.hand);
@@ -202,11 +205,11 @@ void NoteWatch::rest(const PublishedDevice& device, Track& track)
     const bool isUnsure = track.isAway || isLostSight(piece.outcome);
     const Reading now(device);
     Outcome outcome = None;
-    if (piece.value > 0 && now.sum - track.start.sum >= piece.value)
+    const bool isCounted = piece.value > 0 && now.sum - track.start.sum >= piece.value;
+    const bool isBack = now.returned > track.start.returned;
+    if (isCounted || (!isBack && !isUnsure && track.phase == In))
         outcome = Taken;
-    else if (!isUnsure && track.phase == In)
-        outcome = Taken;
-    else if (now.returned > track.start.returned)
+    else if (isBack)
         outcome = Returned;
     else if (now.rejected > track.start.rejected)
         outcome = Rejected;
@@ -247,7 +250,7 @@ void NoteWatch::tell(Note& piece, Outcome outcome)
 {
     if (!piece.incident.isEmpty() && outcome != Stuck)
         return; // the service says when it is settled
-    const bool isSaid = piece.value > 0 || outcome == Stuck || outcome == Rejected;
+    const bool isSaid = piece.value > 0 || isLostSight(outcome) || outcome == Rejected;
     if (!isSaid && piece.isOpen())
         forget(piece);
     if (!isSaid)
@@ -303,8 +306,8 @@ NoteWatch::Note* NoteWatch::pieceOf(const Incident& incident)
         return piece.incident.isEmpty() && piece.device == incident.device
             && piece.thread == incident.thread && piece.isOpen()
             && isLostSight(piece.outcome) == isFailed
-            && (piece.value == incident.denomination || piece.value == 0
-                || incident.denomination == 0);
+            && (piece.value == incident.denomination
+                || (isFailed && (piece.value == 0 || incident.denomination == 0)));
     };
     for (const bool isFailed : {true, false}) {
         const auto found = std::find_if(m_pieces.begin(), m_pieces.end(), [&](const Note& piece) {
@@ -318,8 +321,12 @@ NoteWatch::Note* NoteWatch::pieceOf(const Incident& incident)
 
 void NoteWatch::lose()
 {
-    for (Track& track : m_tracks)
-        track.isAway = find(track.hand) != nullptr;
+    for (Track& track : m_tracks) {
+        Note* const piece = find(track.hand);
+        track.isAway = piece != nullptr;
+        if (piece && piece->outcome == None)
+            piece->outcome = Checked; // it is inside, whatever it is worth
+    }
 }
 
 QString NoteWatch::settle(quint64 id)

@@ -90,7 +90,7 @@ private:
     struct Track
     {
         QString state = {};
-        qint32 note = 0;
+        qint64 note = 0;
         Reading start = Reading(); // when the piece came, or the device failed with it
         quint64 hand = 0; // the piece that it has; 0 without one
         Phase phase = Entering; // where that is

@@ -45,11 +45,28 @@ constexpr Words outcomes[] = {
                        "It is not known what became of your coin of %1. Please call the staff.")},
 };
 
-constexpr Words stuckOfUnknownValue{
-    QT_TRANSLATE_NOOP("Diagnosis",
-                      "The device failed with your note in it. Please call the staff."),
-    QT_TRANSLATE_NOOP("Diagnosis",
-                      "The device failed with your coin in it. Please call the staff.")};
+// Of a piece of which nobody knows what it is worth.
+Words wordsWithoutValue(NoteWatch::Outcome outcome)
+{
+    switch (outcome) {
+    case NoteWatch::Checked:
+        return {QT_TRANSLATE_NOOP("Diagnosis", "Checking your note..."),
+                QT_TRANSLATE_NOOP("Diagnosis", "Checking your coin...")};
+    case NoteWatch::Stuck:
+        return {QT_TRANSLATE_NOOP("Diagnosis",
+                                  "The device failed with your note in it. Please call the staff."),
+                QT_TRANSLATE_NOOP(
+                    "Diagnosis", "The device failed with your coin in it. Please call the staff.")};
+    case NoteWatch::Lost:
+        return {
+            QT_TRANSLATE_NOOP("Diagnosis",
+                              "It is not known what became of your note. Please call the staff."),
+            QT_TRANSLATE_NOOP("Diagnosis",
+                              "It is not known what became of your coin. Please call the staff.")};
+    default:
+        return outcomes[outcome];
+    }
+}
 
 } // namespace
 
@@ -64,11 +81,9 @@ QString NoteWatch::text(const Note& note, const MoneyFormat& format)
     const std::optional<qint64> limit = wholeNumber(params.value(parameter));
     if (!parameter.isEmpty() && !limit)
         filter = &filterWords({}); // nothing can be said of the limit
-    Words words = outcomes[note.outcome];
+    Words words = note.value == 0 ? wordsWithoutValue(note.outcome) : outcomes[note.outcome];
     if (note.outcome == Refused)
         words = {filter->noteRefused, filter->coinRefused};
-    else if (note.outcome == Stuck && note.value == 0)
-        words = stuckOfUnknownValue;
     QString text = words.of(note.device);
     text.replace(QLatin1String("%1"), own.text(note.value));
     return text.replace(QLatin1String("%2"), own.text(limit.value_or(0)));

@@ -56,6 +56,17 @@ PublishedField detail(const QString& key)
             }};
 }
 
+template <auto Member>
+PublishedField amount(const QString& key)
+{
+    return {&key, [](JsonReader& json, PublishedDevice& device, const PublishedDevice&) {
+                QVariant value;
+                const bool isSound = json.readValue(value);
+                device.*Member = wholeNumber(value).value_or(0);
+                return isSound;
+            }};
+}
+
 template <auto SetCounter, auto InFull>
 PublishedField counter(const QString& key)
 {
@@ -74,8 +85,8 @@ const auto& deviceTable()
     using namespace deviceStateDescConst;
     using D = PublishedDevice;
     static const DeviceTable<JsonReader, PublishedDevice> table({
-        detail<&D::currentNote>(CURRENT_NOTE),
-        detail<&D::sessionSum>(SESSION_SUM),
+        amount<&D::currentNote>(CURRENT_NOTE),
+        amount<&D::sessionSum>(SESSION_SUM),
         detail<&D::isOnline>(ONLINE),
         counter<&D::setNotesInserted, &D::insertedInFull>(StatItem::NOTES_INSERTED),
         counter<&D::setNotesRejected, &D::rejectedInFull>(StatItem::NOTES_REJECTED),
@@ -102,7 +113,7 @@ void readMoney(PublishedState& state, const QVariant& published)
                               QStringLiteral("credited")};
     state.money = {currencyOf(map.value(QStringLiteral("currency"))),
                    digits >= 0 && digits <= mostDigits ? int(digits) : 0,
-                   wholeNumber(map.value(QStringLiteral("recorded"))).value_or(0),
+                   wholeNumber(map.value(QStringLiteral("recorded"))),
                    changes.contains(change) ? change : QString()};
 }
 

@@ -24,7 +24,7 @@ struct PublishedMoney
 {
     QString currency = {}; ///< a code of ISO 4217; empty when not known
     int digits = 0; ///< of an amount, stand after the point
-    qint64 recorded = 0; ///< so much of the session's sum outlives the service, as far as is known
+    std::optional<qint64> recorded = {}; ///< so much of the session's sum outlives the service
     QString change = {}; ///< "none", "paid" or "credited"; empty when not known
 };
 

@@ -6,16 +6,26 @@
 #include "text/devicename.h"
 
 void SumWatch::take(const PublishedState& state, const std::vector<NoteWatch::Note>& notes,
-                    bool isBusy)
+                    bool isBusy, bool wasComplete)
 {
-    const qint64 cardSumBefore = m_cardSum;
+    QSet<std::pair<int, int>> known;
+    QSet<std::pair<int, int>> paid;
+    qint64 cardSum = 0;
+    for (const PublishedDevice& device : state.devices) {
+        const std::pair<int, int> key(device.deviceId(), device.threadId());
+        known.insert(key);
+        if (device.sessionSum != 0)
+            paid.insert(key);
+        if (moneyOf(device.deviceId()) == Money::Card)
+            cardSum += device.sessionSum;
+    }
+    if (!known.contains(std::exchange(m_devices, paid)))
+        lose(wasComplete); // a device took its part of the sum away
+
     m_sum = state.sessionSum();
-    m_cardSum = 0;
-    for (const PublishedDevice& device : state.devices)
-        m_cardSum += moneyOf(device.deviceId()) == Money::Card ? device.sessionSum : 0;
     m_recorded = state.money.recorded;
 
-    m_whole += qMax(m_cardSum - cardSumBefore, qint64(0));
+    m_whole += qMax(cardSum - std::exchange(m_cardSum, cardSum), qint64(0));
     for (const NoteWatch::Note& note : notes)
         m_whole += note.outcome == NoteWatch::Taken ? note.value : 0;
     if (m_isAway && m_before > m_sum) {
@@ -25,7 +35,7 @@ void SumWatch::take(const PublishedState& state, const std::vector<NoteWatch::No
     }
     m_isAway = false;
     // A piece may be in the sum before the device says that it is taken.
-    if (m_sum >= m_whole && !isBusy)
+    if (m_sum == m_whole && !isBusy)
         m_lost = 0;
 }
 
@@ -34,8 +44,8 @@ void SumWatch::lose(bool isComplete)
     if (m_isAway)
         return;
     m_isAway = true;
-    m_before = isComplete ? 0 : m_sum;
     m_isBeforeRecorded = isRecorded();
+    m_before = isComplete && (m_isBeforeRecorded || !m_recorded) ? 0 : m_sum;
 }
 
 void SumWatch::settle()

@@ -152,7 +152,19 @@ QByteArray ArrayFile::textOf(int index) const
 
 void ArrayFile::setMember(int index, const QString& key, const JsonText& value)
 {
-    replace(m_spans.at(index), withMember(textOf(index), {key, value}));
+    setMembers({{index, {key, value}}});
+}
+
+void ArrayFile::setMembers(const QMap<int, Member>& members)
+{
+    QByteArray text;
+    int end = 0; // of what is in the text already
+    for (auto member = members.begin(); member != members.end(); ++member) {
+        const Span span = m_spans.at(member.key());
+        text += m_text.mid(end, span.begin - end) + withMember(textOf(member.key()), *member);
+        end = span.end;
+    }
+    setText(text + m_text.mid(end));
 }
 
 QByteArray ArrayFile::gapBefore(int index) const
@@ -186,7 +198,9 @@ void ArrayFile::insert(int index, const QVector<Member>& element)
     }
     // One line further, without the blank lines that may stand before the neighbour.
     const QByteArray gap = gapBefore(neighbour);
-    const QByteArray newGap = gap.mid(std::max(gap.lastIndexOf('\n'), decltype(gap.size())(0)));
+    const int feed = int(gap.lastIndexOf('\n'));
+    const bool hasReturn = feed > 0 && gap.at(feed - 1) == '\r';
+    const QByteArray newGap = gap.mid(std::max(hasReturn ? feed - 1 : feed, 0));
     const int end = m_spans.at(neighbour).end;
     const int begin = m_spans.at(neighbour).begin;
     if (index > 0)

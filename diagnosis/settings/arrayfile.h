@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <QJsonArray>
+#include <QMap>
 #include <QString>
 #include <QVariant>
 #include <QVector>
@@ -54,6 +55,9 @@ public:
 
     /// Sets a member of an element that is an object.
     void setMember(int index, const QString& key, const JsonText& value);
+
+    /// The same for many elements, by their index, at once.
+    void setMembers(const QMap<int, Member>& members);
 
     /// Inserts an object so that it becomes the element at @p index, written like the one before
     /// it.

@@ -352,14 +352,16 @@ void SettingsEdit::requireListed(const SettingsList& list, int device) const
 void SettingsEdit::renumber(const SettingsList& list, const DeviceNumbering& numbering)
 {
     m_numbering.then(numbering);
+    QMap<int, ArrayFile::Member> groups;
     for (int i = 0; i < list.elements().size(); ++i) {
         const SettingsList::Element& element = list.elements().at(i);
         if (!element.device || numbering.now(*element.device) == *element.device)
             continue;
         const auto nameSize = element.group.section(QLatin1Char('/'), 0, 0).size();
         const QString group = deviceGroup(numbering.now(*element.device));
-        m_file.setMember(i, QStringLiteral("group"), group + element.group.mid(nameSize));
+        groups.insert(i, {QStringLiteral("group"), group + element.group.mid(nameSize)});
     }
+    m_file.setMembers(groups);
     for (auto device = list.devices().keyBegin(); device != list.devices().keyEnd(); ++device) {
         if (const int now = numbering.now(*device); now != *device)
             m_remarks += Diagnosis::tr("%1 becomes %2").arg(deviceGroup(*device), deviceGroup(now));

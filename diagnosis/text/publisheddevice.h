@@ -13,8 +13,8 @@ struct PublishedDevice : AcceptorStateItem
     bool online() const { return isOnline; }
 
     bool isOnline = true; ///< false when it says of itself that it is not connected
-    qint32 sessionSum = 0; ///< taken in the current session
-    qint32 currentNote = 0; ///< face value of the note or coin in hand
+    qint64 sessionSum = 0; ///< taken in the current session
+    qint64 currentNote = 0; ///< face value of the note or coin in hand
     qint64 insertedInFull = 0; ///< the counters, of which the entry keeps 32 bits
     qint64 rejectedInFull = 0;
     qint64 returnedInFull = 0;

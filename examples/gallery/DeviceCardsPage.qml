@@ -5,7 +5,7 @@ import QtQuick 2.15
 import Velmolib 5.0
 import Velmolib.Controls 5.0
 
-Column {
+Rectangle {
     id: page
 
     property ServiceState service
@@ -13,7 +13,7 @@ Column {
 
     readonly property bool whole: true
 
-    spacing: KioskTheme.gap / 2
+    color: KioskTheme.ground
 
     StateAge {
         id: age
@@ -21,8 +21,8 @@ Column {
         service: page.service
     }
     DeviceCards {
-        width: page.width
-        height: page.height - age.height - page.spacing
+        anchors.fill: parent
+        anchors.topMargin: age.height + KioskTheme.gap / 2
         service: page.service
     }
 }

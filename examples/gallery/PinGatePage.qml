@@ -5,22 +5,28 @@ import QtQuick 2.15
 import Velmolib 5.0
 import Velmolib.Controls 5.0
 
-PinGate {
+Rectangle {
     id: page
 
     property ServiceState service
     property var sample
     readonly property bool whole: true
 
-    lock: PinLock {
-        file: page.sample.pin ? "" : "/etc/kiosk/pin"
-        pin: page.sample.pin || ""
+    color: KioskTheme.ground
+
+    PinGate {
+        id: gate
+        anchors.fill: parent
+        lock: PinLock {
+            file: page.sample.pin ? "" : "/etc/kiosk/pin"
+            pin: page.sample.pin || ""
+        }
     }
     Component.onCompleted: {
         for (const tried of sample.typed || []) {
-            submit();
+            gate.submit();
             for (const digit of tried) {
-                type(digit);
+                gate.type(digit);
             }
         }
     }

@@ -26,9 +26,7 @@ Column {
 
     // What the lines say; a binding follows whatever it is made of, the language too.
     readonly property var lines: isLedger ? Array.from(typeof places === "object" && places || []).map(placeLine)
-                               : Array.from({length: registry && changes >= 0 ? registry.count : 0},
-                                            (_, row) => registryLine(registry.get(row)))
-    property int changes: 0 // of the registry
+                               : listed.rows.map(registryLine)
     readonly property var head: ({"place": qsTr("Place"), "value": qsTr("Value"), "pieces": qsTr("Pieces"),
                                   "rejected": isLedger ? "" : qsTr("Rejected")})
 
@@ -91,17 +89,9 @@ Column {
             kept.remove(lines.length, kept.count - lines.length);
         }
     }
-    Connections {
-        target: table.registry
-        function onDataChanged() {
-            table.changes++;
-        }
-        function onRowsMoved() {
-            table.changes++;
-        }
-        function onRowsInserted() {
-            table.changes++;
-        }
+    RowArray {
+        id: listed
+        model: table.registry
     }
 
     visible: count > 0

@@ -43,6 +43,13 @@ KioskPage {
         }
     }
 
+    // Once for all that changes at a time.
+    Timer {
+        id: placing
+        interval: 0
+        onTriggered: page.place()
+    }
+
     // Each under the shortest column.
     function place() {
         if (!visible) {
@@ -62,10 +69,11 @@ KioskPage {
         contentHeight = Math.max(...ends);
     }
 
-    onVisibleChanged: Qt.callLater(place)
-    onContentYChanged: Qt.callLater(place)
-    onHeightChanged: Qt.callLater(place)
-    onStepChanged: Qt.callLater(place)
+    // What a page that goes away still tells must not call anything of it.
+    property bool isThere: true
+    Component.onDestruction: isThere = false
+    readonly property var shape: [visible, contentY, height, step, heading.height, cells.count]
+    onShapeChanged: if (isThere) placing.start()
     Accessible.role: Accessible.List
     Accessible.name: heading.text
 
@@ -74,13 +82,11 @@ KioskPage {
         width: page.width
         text: qsTr("Devices: %1, with faults: %2").arg(page.count).arg(page.faulty)
         font.bold: true
-        onHeightChanged: Qt.callLater(page.place)
         Accessible.ignored: true
     }
     Repeater {
         id: cells
         model: page.service ? page.service.devices : null
-        onCountChanged: Qt.callLater(page.place)
         Item {
             id: cell
 
@@ -92,9 +98,8 @@ KioskPage {
 
             width: page.step - page.gap
             height: card.item ? card.height : 60 * KioskTheme.density
-            onHeightChanged: Qt.callLater(page.place)
-            onIndexChanged: Qt.callLater(page.place)
-            onIsBrokenChanged: Qt.callLater(page.place)
+            readonly property var shape: [height, index, isBroken]
+            onShapeChanged: if (page.isThere) placing.start()
 
             Loader {
                 id: card

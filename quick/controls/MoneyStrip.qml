@@ -26,11 +26,14 @@ Rectangle {
         : ({"none": qsTr("This kiosk gives no change."), "paid": qsTr("Change is paid out."),
             "credited": qsTr("What you overpay stays on your account.")})[service.changeMode] || ""
 
+    // What a service that is lost would do with it, nobody can promise.
+    readonly property bool away: !service.available || service.stale
+
     readonly property string changeText: service.change <= 0 ? ""
         : qsTr("You have paid %1 too much.").arg(strip.money(service.change)) + " "
           + (({"none": qsTr("This kiosk gives no change. Please call the staff."),
-               "paid": qsTr("Your change is paid out. Please take it."),
-               "credited": qsTr("It stays on your account.")})[service.changeMode]
+               "paid": qsTr("You get your change back. If it does not come, please call the staff."),
+               "credited": qsTr("It stays on your account.")})[away && service.changeMode !== "none" ? "" : service.changeMode]
              || qsTr("Please ask the staff for your change."))
 
     readonly property string lostText: service.lostSum <= 0 ? ""
@@ -40,6 +43,9 @@ Rectangle {
 
     readonly property string figure: money(service.price > 0 && !service.paid ? service.left
                                                                                           : service.sessionSum)
+
+    /// Where it is cut off below this height, the largest sum is whole.
+    readonly property real bareHeight: sums.height + 2 * content.y
 
     implicitWidth: label.implicitWidth + natural.width + 4 * content.x
     implicitHeight: content.implicitHeight + 2 * content.y
@@ -72,6 +78,7 @@ Rectangle {
         spacing: KioskTheme.gap / 2
 
         Item {
+            id: sums
             readonly property bool low: words.width + natural.width + 2 * KioskTheme.gap < width
             width: parent.width
             height: rest.y + rest.contentHeight

@@ -18,7 +18,16 @@ Column {
     /// How many pieces are shown at most, the oldest ones; the others are counted.
     property int limit: 4
 
+    // What is only being checked is no matter for the staff.
+    readonly property var listed: open.rows.filter(note => note.outcome !== ServiceState.NoteChecked)
+                                           .map(note => note.noteId)
+
     spacing: KioskTheme.gap / 2
+
+    RowArray {
+        id: open
+        model: list.service ? list.service.openNotes : null
+    }
 
     component Line: RowLayout {
         id: line
@@ -68,13 +77,11 @@ Column {
     }
 
     Repeater {
-        id: open
-        model: list.service ? list.service.openNotes : null
+        model: open.model
         Loader {
             id: note
-            required property int index
             required property var model
-            active: index < list.limit && model.outcome !== ServiceState.NoteChecked
+            active: list.listed.slice(0, list.limit).includes(model.noteId)
             visible: active
             sourceComponent: Line {
                 readonly property var model: note.model
@@ -93,8 +100,8 @@ Column {
     KioskText {
         objectName: "moreMoney"
         width: list.width
-        visible: open.count > list.limit
-        text: qsTr("and %n more", "", open.count - list.limit)
+        visible: list.listed.length > list.limit
+        text: qsTr("and %n more", "", list.listed.length - list.limit)
         font.bold: true
         color: KioskTheme.bad
     }

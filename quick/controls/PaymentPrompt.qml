@@ -32,9 +32,12 @@ Item {
     readonly property bool owes: service.hasStuckMoney || service.openNotes.count > 0
                                  || service.sessionSum > 0 && !service.sumRecorded
 
+    // Whether nobody can say any more that what is paid was heard of.
+    readonly property bool unheard: owes && (!service.available || service.stale)
+
     readonly property string advice: {
         if (mode === "paid")
-            return service.hasStuckMoney ? qsTr("Please call the staff before you leave.") : "";
+            return service.hasStuckMoney || unheard ? qsTr("Please call the staff before you leave.") : "";
         if (mode !== "out" && mode !== "late")
             return "";
         return [mode === "late" ? qsTr("Please call the staff before you leave. Insert no more money.")

@@ -51,7 +51,7 @@ TestCase {
             const [id, name, value, ...words] = part.split(" ");
             if (name === undefined)
                 continue;
-            const before = devices[id];
+            const before = devices[id] || {};
             const has = word => words.includes(word);
             const after = {device_id: Number(id), thread_id: id === "1" ? 1 : 2, enabled: true, state: name,
                            current_note: Number(value || 0), session_sum: before.session_sum || 0,
@@ -103,6 +103,9 @@ TestCase {
             {tag: "drawn back", steps: ["1 accepting 500", "1 idling"], events: "checked 500"},
             {tag: "drawn back, as the counters say", steps: ["1 accepting 500", "1 idling 0 notes_returned=1"],
              events: "checked 500, returned 500"},
+            {tag: "returned, as the counters say", steps: ["1 accepting 500", "1 stacking 500", "1 idling 0 notes_returned=1"],
+             events: "checked 500, returned 500"},
+            {tag: "a card is no note", steps: ["200 accepting 500", "200 accepted 500", "200 error 500", "200 rejected"], events: ""},
             {tag: "jam of a note that nobody read", steps: ["1 accepting 0", "1 jammed"], events: "stuck 0", open: "stuck 0"},
             {tag: "jam at once", steps: ["1 jammed 1000"], events: "stuck 1000", open: "stuck 1000"},
             {tag: "jam with the note from before", steps: ["1 accepting 500", "1 stacked 500", "1 idling 500", "1 jammed 500"],
@@ -133,7 +136,9 @@ TestCase {
              events: "checked 1000, taken 1000"},
             {tag: "another one after a loss", steps: ["1 accepting 1000", "lost", "1 accepting 100"], open: "lost 1000, checked 100",
              events: "checked 1000, lost 1000, checked 100"},
-            {tag: "nobody knows what it was", steps: ["1 accepting 0", "lost", "1 idling", "back"], events: ""},
+            {tag: "nobody knows what it was", steps: ["1 accepting 0", "lost", "1 idling", "back"], events: "lost 0", open: "lost 0"},
+            {tag: "known after a loss", steps: ["1 accepting 0", "lost", "back", "1 accepting 500", "1 stacked 500"],
+             events: "checked 500, taken 500"},
             {tag: "offline, but goes on", steps: ["1 accepting 1000 offline", "1 stacking 1000", "1 stacked"],
              events: "checked 1000, lost 1000, checked 1000, taken 1000"},
             {tag: "gone after it was returned", steps: ["1 accepting 1000", "1 returned 1000", "1 idling 0 gone", "1 idling"],
@@ -249,6 +254,14 @@ TestCase {
         compare(open(state).split(", ").sort(), ["stuck 1000", "stuck 1000 0418-1", "stuck 1000 2", "stuck 5 3"]);
     }
 
+    function test_incidentOfUnknownValueIsNotWhatIsInHand() {
+        const state = make();
+        step(state, "");
+        more = {incidents: [incident({denomination: null})]};
+        step(state, "1 accepting 1000");
+        compare(open(state).split(", ").sort().join(), "checked 1000,stuck 0 0418-1");
+    }
+
     function test_noteThatIsLostWithTheSumIsTold() {
         const state = make();
         for (const text of ["1 idling 0 session_sum=10", "1 accepting 1000", "lost", "1 idling 0 session_sum=0", "back"])
@@ -338,6 +351,18 @@ TestCase {
         compare(state.openNotes.get(0).amountText, state.moneyText(row.value));
     }
 
+    function test_sumsAreWhole_data() {
+        return [[2147483648, 2147483648], [-2147483649, -2147483649], [9007199254740991, 9007199254740991],
+                [9007199254740992, 0], [10.5, 0], ["1510", 0], [true, 0]
+               ].map(([value, sum]) => ({tag: JSON.stringify(value), value: value, sum: sum}));
+    }
+
+    function test_sumsAreWhole(row) {
+        const state = make();
+        state.text = JSON.stringify({device_states: [{device_id: 1, thread_id: 1, session_sum: row.value}]});
+        compare(state.sessionSum, row.sum);
+    }
+
     function test_sumThatFellAfterALossIsTold_data() {
         const paid = "1 idling 0 session_sum=1510", empty = "1 idling 0 session_sum=0";
         return [
@@ -346,14 +371,24 @@ TestCase {
             {tag: "recorded", recorded: 1510, steps: [paid, "lost", empty, "back"], lost: 1510, isRecorded: true},
             {tag: "recorded in part", recorded: 1500, steps: [paid, "lost", empty, "back"], lost: 1510},
             {tag: "payment complete", price: 1510, steps: [paid, "lost", empty, "back"], lost: 0},
+            {tag: "payment complete and recorded", price: 1510, recorded: 1510, steps: [paid, "lost", empty, "back"], lost: 0},
+            {tag: "payment complete, not recorded", price: 1510, recorded: 1500, steps: [paid, "lost", empty, "back"], lost: 1510},
             {tag: "payment not complete", price: 1511, steps: [paid, "lost", empty, "back"], lost: 1510},
             {tag: "lost in part", steps: [paid, "lost", "1 idling 0 session_sum=1000", "back"], lost: 510},
             {tag: "cannot be read", steps: [paid, "unreadable", empty], lost: 1510},
             {tag: "a state that comes late", steps: [paid, "lost", paid, empty, "back"], lost: 1510},
+            {tag: "device gone", steps: [paid, "1 idling 0 gone"], lost: 1510},
+            {tag: "device gone with a part", steps: [paid + "; 100 idling 0 session_sum=10", "100 idling 0 gone"], lost: 10},
+            {tag: "device gone, session over", steps: [paid, empty, "1 idling 0 gone"], lost: 0},
+            {tag: "device gone after the payment", price: 1510, steps: [paid, "1 idling 0 gone"], lost: 0},
+            {tag: "device comes back with it", steps: [paid, "1 idling 0 gone", paid], lost: 0},
+            {tag: "device has another number", steps: [paid, "1 idling 0 gone; 7 idling 0 session_sum=1510"], lost: 0},
             {tag: "sum comes back", steps: [paid, "lost", empty, "back", paid], lost: 0},
             {tag: "other money", lost: 1510,
              steps: [paid, "lost", empty, "back", "1 accepting 2000", "1 accepted 2000 session_sum=2000", "1 stacked",
                      "1 idling 0 session_sum=2000", "1 idling 0 session_sum=0"]},
+            {tag: "other money without a word", lost: 1510,
+             steps: [paid, "lost", empty, "back", "1 idling 0 session_sum=1000", "1 idling 0 session_sum=2000"]},
             {tag: "sum comes back beside other money", lost: 0,
              steps: [paid, "lost", empty, "back", "1 accepting 100", "1 stacked 100 session_sum=100", "1 idling 0 session_sum=1610"]},
             {tag: "twice", lost: 1610,

@@ -5,6 +5,7 @@ import QtQuick 2.15
 import QtTest 1.15
 import Velmolib 5.0
 import Velmolib.Controls 5.0
+import "../../examples/kiosk/screen"
 
 TestCase {
     id: test
@@ -59,7 +60,7 @@ TestCase {
     }
 
     // A step that is a list is the devices, as [model, state, note in hand, sum]; another one sets properties of the
-    // ServiceState, or with money, incidents or refusals what is published beside the devices from then on.
+    // ServiceState, waits, or with money, incidents or refusals is what is published beside the devices from then on.
     function take(service, steps) {
         let more = {};
         for (const step of steps) {
@@ -69,6 +70,8 @@ TestCase {
                 service.take(JSON.stringify(Object.assign({device_states: devices}, more)), new Date());
             } else if (step.money || step.incidents || step.refusals) {
                 more = Object.assign({}, more, step);
+            } else if (step.wait) {
+                test.wait(step.wait);
             } else {
                 Object.assign(service, step);
             }
@@ -111,6 +114,7 @@ TestCase {
         const lost = [{available: false}, {available: true}];
         const number = {incidents: [{number: "0418-0001", device_id: 1, thread_id: 1, denomination: 1000,
                                      time: "2026-11-26T13:05:00Z", settled: false}]};
+        const two = [[[1, "idling"], [100, "idling"]]];
         return [
             {tag: "left", steps: [{price: 251000}, rubles, [[1, "idling", 0, 100000]]],
              says: ["Left to pay", "1,510.00 RUB", "Paid: 1,000.00 RUB of 2,510.00 RUB"], not: ["change"]},
@@ -145,9 +149,33 @@ TestCase {
             {tag: "no change, after", steps: [{price: 2510}, {money: {change: "none"}}, [[1, "idling", 0, 6010]]],
              says: ["Paid. Thank you!", "3,500 too much.", "gives no change"], not: ["Left"]},
             {tag: "change paid out", steps: [{price: 2510}, {money: {change: "paid"}}, [[1, "idling", 0, 6010]]],
-             says: ["3,500 too much.", "Your change is paid out."], not: ["no change"]},
+             says: ["3,500 too much.", "You get your change back. If it does not come"], not: ["no change"]},
             {tag: "change credited", steps: [{price: 2510}, {money: {change: "credited"}}, [[1, "idling", 0, 6010]]],
              says: ["3,500 too much.", "stays on your account"], not: ["no change"]},
+            {tag: "change of a service that is lost", steps: [{price: 2510}, {money: {change: "paid"}}, [[1, "idling", 0, 6010]], {available: false}],
+             says: ["Paid. Thank you!", "ask the staff for your change", "before you leave"], not: ["You get"]},
+            {tag: "credit of a service that is lost", steps: [{price: 2510}, rublesAnd({change: "credited", recorded: 6010}), [[1, "idling", 0, 6010]],
+                                                              {available: false}],
+             says: ["ask the staff for your change"], not: ["stays on", "before you leave"]},
+            {tag: "the newest of many", steps: [{incidents: [1, 2, 3].map(n => ({number: "A" + n, device_id: 1, thread_id: 1, denomination: n,
+                                                                                 time: "2020-01-01T00:00:00Z"}))}, ...jam],
+             says: ["note of 1,000", "A2", "A3", "and 1 more"], not: ["A1"]},
+            {tag: "the newest on top", steps: [...two, {incidents: [["A1", 500], ["A2", 1000]].map(([number, note], minute) =>
+                 ({number: number, device_id: 1, thread_id: 1, denomination: note, time: `2020-01-01T00:0${minute}:00Z`}))},
+                 [[1, "jammed"], [100, "accepting", 10]]],
+             says: ["No. A2\nThe device failed with your note of 500", "Checking a coin of 10"], not: ["more", "A1\nThe"]},
+            {tag: "what is checked is not counted", steps: [[[1, "idling"], [100, "idling"], [2, "idling"], [3, "idling"]],
+                 [[1, "accepting", 500], [100, "accepting", 10], [2, "accepting", 100], [3, "jammed", 50]]],
+             says: ["your note of 50 ", "a note of 500", "a coin of 10", "a note of 100"], not: ["more"]},
+            {tag: "it came back, and a coin is taken", steps: [...two, [[1, "accepting", 500], [100, "idling"]],
+                 [[1, "returned"], [100, "accepting", 10]], [[1, "idling"], [100, "accepted", 10, 10]], [[1, "idling"], [100, "idling", 0, 10]]],
+             says: ["note of 500 was returned.", "coin of 10 was accepted"], not: []},
+            {tag: "it came back and goes in again", steps: [...two, [[1, "accepting", 500], [100, "idling"]],
+                 [[1, "returned"], [100, "idling"]], [[1, "accepting", 500], [100, "idling"]]],
+             says: ["Checking"], not: ["returned"]},
+            {tag: "it came back to the customer before", steps: [[[1, "idling"], [100, "idling", 0, 10]],
+                 [[1, "accepting", 500], [100, "idling", 0, 10]], [[1, "returned"], [100, "accepting", 5, 10]], {wait: 60}, [[1, "idling"], [100, "accepting", 5]]],
+             says: ["Checking"], not: ["returned"]},
             {tag: "change not known", steps: [{price: 2510}, [[1, "idling", 0, 6010]]],
              says: ["3,500 too much.", "ask the staff"], not: ["no change", "account"]},
             {tag: "notes only", steps: [[[1, "idling"], [100, "error"]]], says: ["Notes"], not: ["Coins", "Card"]},
@@ -224,6 +252,46 @@ TestCase {
         verify(key.activeFocus);
         mouseClick(key);
         compare(chosen.signalArguments[1][0], "en");
+    }
+
+    Component {
+        id: customerComponent
+        CustomerScreen {
+            width: 800
+            height: 600
+            contact: "8 800 200-00-00"
+            language: "en"
+            service: ServiceState {
+                locale: "en_US"
+            }
+        }
+    }
+
+    // On a small screen with large text, when the sums have much to say too.
+    function test_stuckNoteIsInSight_data() {
+        const stuck = {incidents: [[1000, 3], [500, 7]].map(([note, minute]) => ({number: "A" + minute, device_id: 1, thread_id: 1,
+            denomination: note, time: `2026-11-26T13:0${minute}:00Z`}))};
+        return [
+            {tag: "too much", steps: [{money: {change: "none"}}, stuck, [[1, "jammed", 0, 3000], [100, "idling"]]]},
+            {tag: "a lost sum", steps: [[[1, "idling", 0, 1500]], {available: false}, {available: true}, stuck,
+                                        [[1, "jammed"], [100, "idling"]]]},
+            {tag: "out of service", steps: [[[1, "idling", 0, 1500]], {available: false}, {available: true}, stuck, [[1, "jammed"]]]}
+        ];
+    }
+
+    function test_stuckNoteIsInSight(row) {
+        const before = {density: KioskTheme.density, scale: KioskTheme.scale, largeText: KioskTheme.largeText};
+        Object.assign(KioskTheme, {density: 3.8, largeText: true, scale: 1});
+        const screen = createTemporaryObject(customerComponent, test);
+        take(screen.service, [{price: 2510}, ...row.steps]);
+        wait(60);
+        const note = findChild(screen, "openNote");
+        const rest = findChild(screen, "rest");
+        const top = item => item.mapToItem(screen, 0, 0).y;
+        verify(note.detail.includes("A7"), note.detail);
+        verify(top(note) >= 0 && top(note) + note.height <= top(rest), `${top(note)} + ${note.height}, ${top(rest)}`);
+        verify(top(rest) + rest.contentHeight <= screen.height, top(rest) + " + " + rest.contentHeight);
+        Object.assign(KioskTheme, before);
     }
 
     function test_everythingFits_data() {

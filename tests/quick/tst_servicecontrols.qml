@@ -370,7 +370,7 @@ Item {
         // Qt 5 has no picture to look at without a screen.
         function test_iconThatChangedUnseenIsTheNewOne() {
             const icons = [createTemporaryObject(iconComponent, root), createTemporaryObject(iconComponent, root)];
-            icons[1].kind = "bad";
+            Object.assign(icons[1], {kind: "bad", x: 100});
             waitForRendering(icons[0]);
             icons[0].visible = false;
             icons[0].kind = "bad";

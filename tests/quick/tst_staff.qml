@@ -82,6 +82,18 @@ TestCase {
         tryCompare(page.money, "height", 0);
     }
 
+    function test_onlyWhatIsListedIsCounted() {
+        const page = createTemporaryObject(world, test);
+        const all = state => [1, 2, 3, 4, 5, 6].map(thread => device({thread_id: thread}))
+            .map((one, row) => Object.assign(one, row < 5 ? {state: "accepting", current_note: 500} : state));
+        publish(page.state, {device_states: all({}).map(one => device({thread_id: one.thread_id}))});
+        publish(page.state, {device_states: all({state: "accepting", current_note: 500})});
+        publish(page.state, {device_states: all({state: "jammed", error_critical: true})});
+        const lines = Array.from(page.money.children).filter(child => child.item && child.visible);
+        compare(lines.length, 1, "behind those that are checked");
+        verify(!findChild(page.money, "moreMoney").visible);
+    }
+
     function test_lostSumIsSettled() {
         const page = createTemporaryObject(world, test);
         publish(page.state, {device_states: [device({session_sum: 700})]});

@@ -69,6 +69,16 @@ void loadLanguage(const QString& language)
     loadTranslations(translationsFolder(), {QStringLiteral("velmo")}, language);
 }
 
+QString loadAskedLanguage(const Option& option)
+{
+    QCommandLineParser early;
+    early.addOption(option.forParser());
+    early.parse(QCoreApplication::arguments());
+    const QString language = GivenOptions(early).value(option);
+    loadLanguage(language);
+    return language;
+}
+
 QStringList translationLanguages()
 {
     const QStringList files =

@@ -119,5 +119,10 @@ constexpr Option tlsKey{"tls-key", nullptr, Value("PEM", Kind::File),
 /// are no texts in.
 void loadLanguage(const QString& language);
 
+/// Shows them in the language that the program's arguments ask for, before further options are made
+/// in it. Throws as loadLanguage().
+/// @return that language; empty for the system's
+QString loadAskedLanguage(const Option& option);
+
 /// The languages that there are translations for.
 QStringList translationLanguages();

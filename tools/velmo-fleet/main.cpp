@@ -105,10 +105,7 @@ WorkerOptions workerOptions(const GivenOptions& given)
 
 void run()
 {
-    QCommandLineParser early; // the options are made in the language that is shown
-    early.addOption(options::language.forParser());
-    early.parse(QCoreApplication::arguments());
-    loadLanguage(GivenOptions(early).value(options::language));
+    loadAskedLanguage(options::language);
     QCommandLineParser parser;
     parser.setApplicationDescription(
         Velmo::tr("Makes summaries of what kiosks publish at an MQTT broker."));

@@ -9,9 +9,11 @@
 
 #include <QDialogButtonBox>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -193,5 +195,5 @@ DiffDialog::DiffDialog(const QString& fileName, const QByteArray& before, const 
     save->setFocus();
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    resize(820, 460);
+    resize(QSize(820, 460).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
 }

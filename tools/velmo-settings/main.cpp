@@ -26,12 +26,8 @@ class CommandLine
 {
 public:
     CommandLine()
+        : m_language(loadAskedLanguage(languageOption))
     {
-        QCommandLineParser early; // the options are made in the language that is shown
-        early.addOption(languageOption.forParser());
-        early.parse(QCoreApplication::arguments());
-        m_language = GivenOptions(early).value(languageOption);
-        loadLanguage(m_language);
         m_parser.setApplicationDescription(
             Velmo::tr("Shows a settings list as forms, checks it and changes it."));
         m_parser.addHelpOption();
@@ -58,8 +54,8 @@ public:
     }
 
 private:
+    const QString m_language;
     QCommandLineParser m_parser;
-    QString m_language;
 };
 
 // The words of Qt's own dialogs, where they are installed.

@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -117,7 +118,7 @@ void PageList::refresh()
         const auto worst = worstOf(m_document, device);
         const QString title = SettingsPage::title(m_document, device);
         item->setText(title);
-        item->setToolTip(title);
+        item->setToolTip(Qt::convertFromPlainText(title));
         item->setIcon(findingIcon(worst));
         item->setData(deviceRole, toVariant(device));
         item->setData(Qt::AccessibleTextRole,

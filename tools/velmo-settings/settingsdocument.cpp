@@ -21,6 +21,9 @@ Q_LOGGING_CATEGORY(category, "velmo.settings")
 
 TextInput openInput(const QString& fileName)
 {
+    // A pipe would keep the window waiting.
+    if (QFileInfo::exists(fileName) && !QFileInfo(fileName).isFile())
+        throw Fault{Velmo::tr("%1: is no regular file").arg(fileName)};
     auto file = std::make_unique<QFile>(fileName);
     if (!file->open(QIODevice::ReadOnly))
         throw Fault{QStringLiteral("%1: %2").arg(fileName, file->errorString())};
@@ -192,6 +195,11 @@ void SettingsDocument::requireUnchanged() const
         throw ChangedOnDisk{{Velmo::tr("%1: was changed meanwhile; not written").arg(m_fileName)}};
 }
 
+QByteArray SettingsDocument::textOf(const QString& fileName)
+{
+    return QFileInfo::exists(fileName) ? openInput(fileName).readAll() : QByteArray();
+}
+
 void SettingsDocument::requireSound() const
 {
     const QList<SettingsFinding> findings = newFindings();
@@ -223,10 +231,11 @@ void SettingsDocument::saveAs(const QString& fileName)
     if (QFileInfo::exists(fileName) && QFileInfo(fileName) == QFileInfo(m_fileName))
         return save();
     requireSound();
+    ArrayFile saved = listOf(text(), fileName); // which does not take a list without settings
     OutputFile output(fileName, {});
     writeText(output.device(), text());
     output.commit();
     m_fileName = fileName;
-    begin(listOf(text(), fileName));
+    begin(std::move(saved));
     Q_EMIT changed();
 }

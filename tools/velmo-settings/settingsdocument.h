@@ -35,7 +35,6 @@ public:
     /// Everything below needs an open list.
     const ArrayFile& file() const { return m_steps[m_now].edit->file(); }
     QByteArray text() const { return file().text(); }
-    QByteArray savedText() const { return m_saved->text(); } ///< as the file had it
     const SettingsList& list() const { return *m_list; }
     const QList<SettingsFinding>& findings() const { return m_findings; }
 
@@ -72,6 +71,10 @@ public:
 
     /// Throws ChangedOnDisk, or Fault where the file cannot be read.
     void requireUnchanged() const;
+
+    /// What a file has that would be overwritten; nothing of one that is not there. Throws Fault
+    /// where it cannot be read.
+    static QByteArray textOf(const QString& fileName);
 
     /// Writes the file whole or leaves it as it is. Throws as requireUnchanged(), and Fault when it
     /// cannot be written or the list would have new errors.

@@ -202,13 +202,14 @@ bool SettingsWindow::write(const QString& fileName)
         m_document.requireSound();
         if (fileName == m_document.fileName())
             m_document.requireUnchanged();
-        if (m_document.isModified()) {
+        const QByteArray before = SettingsDocument::textOf(fileName);
+        if (before != m_document.text()) {
             QStringList warnings;
             for (const SettingsFinding& finding : m_document.newFindings()) {
                 warnings += QStringLiteral("%1: %2: %3")
                                 .arg(findingWord(finding.level), finding.path, finding.text);
             }
-            DiffDialog dialog(fileName, m_document.savedText(), m_document.text(), warnings, this);
+            DiffDialog dialog(fileName, before, m_document.text(), warnings, this);
             if (dialog.exec() != QDialog::Accepted)
                 return false;
         }
@@ -226,10 +227,10 @@ bool SettingsWindow::write(const QString& fileName)
 
 bool SettingsWindow::resolveChange(const QString& message)
 {
-    enum Answer { Reload, SaveAs };
+    enum Answer { SaveAs, Reload }; // the first is what Return gives: it loses nothing
     const int answer = ask(message + QLatin1Char('\n')
                                + Velmo::tr("Reloading drops the changes that were made here."),
-                           {Velmo::tr("&Reload"), Velmo::tr("Save &as..."), Velmo::tr("&Cancel")});
+                           {Velmo::tr("Save &as..."), Velmo::tr("&Reload"), Velmo::tr("&Cancel")});
     if (answer == Reload)
         attempt([this] { open(m_document.fileName()); });
     return answer == SaveAs && saveAs();
@@ -280,6 +281,7 @@ void SettingsWindow::addDevice()
 void SettingsWindow::removeDevice()
 {
     const std::optional<int> device = m_page->device();
+    m_page->endEditing();
     if (device)
         attempt([&] { m_document.removeDevice(*device); });
 }

@@ -18,6 +18,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <limits>
 #include <optional>
 
 namespace {
@@ -51,7 +52,7 @@ public:
 
     QString displayText(const QVariant& value, const QLocale& /*locale*/) const override
     {
-        return m_choices.value(value.toInt(), value.toString());
+        return m_choices.value(indexOf(value), value.toString());
     }
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
@@ -64,16 +65,26 @@ public:
 
     void setEditorData(QWidget* editor, const QModelIndex& index) const override
     {
-        qobject_cast<QComboBox*>(editor)->setCurrentIndex(index.data(Qt::EditRole).toInt());
+        qobject_cast<QComboBox*>(editor)->setCurrentIndex(indexOf(index.data(Qt::EditRole)));
     }
 
     void setModelData(QWidget* editor, QAbstractItemModel* model,
                       const QModelIndex& index) const override
     {
-        model->setData(index, QString::number(qobject_cast<QComboBox*>(editor)->currentIndex()));
+        const int chosen = qobject_cast<QComboBox*>(editor)->currentIndex();
+        if (chosen >= 0)
+            model->setData(index, QString::number(chosen));
     }
 
 private:
+    // Less than 0 for what is none of the choices, or nothing at all.
+    int indexOf(const QVariant& value) const
+    {
+        bool isNumber = false;
+        const int index = value.toString().toInt(&isNumber);
+        return isNumber && index < m_choices.size() ? index : -1;
+    }
+
     const QStringList m_choices;
 };
 
@@ -118,6 +129,7 @@ TableEditor::TableEditor(SettingDescription::Kind kind, QWidget* parent)
     m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked
                              | QAbstractItemView::EditKeyPressed
                              | QAbstractItemView::AnyKeyPressed);
+    m_line->setMaxLength(std::numeric_limits<int>::max());
     m_line->hide();
 
     auto* const buttons = new QHBoxLayout;

@@ -13,6 +13,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <limits>
+
 namespace {
 
 class LineEditor : public ValueEditor
@@ -22,6 +24,7 @@ public:
         : ValueEditor(parent)
         , m_line(new QLineEdit(parent))
     {
+        m_line->setMaxLength(std::numeric_limits<int>::max()); // a longer text would be cut
         connect(m_line, &QLineEdit::textEdited, this, &ValueEditor::edited);
         watch(m_line);
         if (setting.kind() == SettingDescription::Number)

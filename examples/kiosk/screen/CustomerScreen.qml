@@ -21,16 +21,18 @@ FocusScope {
     onVisibleChanged: if (visible) forceActiveFocus()
 
     KioskPage { // moves only where large texts leave no room
+        id: page
         anchors.fill: parent
         anchors.margins: KioskTheme.gap
-        anchors.bottomMargin: screen.height - strip.y + KioskTheme.gap
-        contentHeight: banner.y + banner.height
+        anchors.bottomMargin: KioskTheme.gap + (screen.tall ? screen.height - keys.y : 0)
+        contentHeight: strip.place + strip.height
 
         PaymentPrompt {
             id: prompt
             tall: screen.tall
             width: screen.tall ? parent.width : keys.x - 2 * KioskTheme.gap
-            height: Math.max(bareHeight, strip.y - 2 * KioskTheme.gap - (banner.height > 0 ? banner.height + KioskTheme.gap : 0))
+            height: Math.max(bareHeight, page.height - strip.height - KioskTheme.gap
+                                         - (banner.height > 0 ? banner.height + KioskTheme.gap : 0))
             service: screen.service
             contact: screen.contact
         }
@@ -41,14 +43,20 @@ FocusScope {
             service: screen.service
             contact: screen.contact
         }
+        MoneyStrip { // what is left to pay is always seen, what it says below that gives way to what is stuck
+            id: strip
+            readonly property real place: banner.y + banner.height + KioskTheme.gap
+            y: Math.min(place, page.contentY + page.height - bareHeight)
+            width: parent.width
+            service: screen.service
+            contact: screen.contact
+        }
     }
-    MoneyStrip {
-        id: strip
-        x: KioskTheme.gap
-        y: (screen.tall ? keys.y : screen.height) - height - KioskTheme.gap
-        width: screen.width - 2 * x
-        service: screen.service
-        contact: screen.contact
+    Connections {
+        target: screen.service
+        function onNoteEvent() {
+            page.contentY = 0;
+        }
     }
     LanguageKey {
         id: keys

@@ -14,6 +14,7 @@
 #include <QtQml>
 #include <QWindow>
 
+#include <cmath>
 #include <cstdio>
 #include <tuple>
 
@@ -85,10 +86,11 @@ int main(int argc, char* argv[])
     for (const auto& [option, least, most] : numbers) {
         bool isNumber = false;
         const double number = parser.value(option).toDouble(&isNumber);
-        if (parser.isSet(option) && !(isNumber && number >= least && number <= most)) {
-            fprintf(stderr, "kioskscreen: --%s %s: expected a number from %g to %g\n",
+        const bool isWhole = &option != &price || number == std::trunc(number);
+        if (parser.isSet(option) && !(isNumber && isWhole && number >= least && number <= most)) {
+            fprintf(stderr, "kioskscreen: --%s %s: expected a %snumber from %g to %g\n",
                     qPrintable(option.names().constFirst()), qPrintable(parser.value(option)),
-                    least, most);
+                    &option == &price ? "whole " : "", least, most);
             return 2;
         }
     }

@@ -77,8 +77,9 @@ void ServiceLink::settle(const QString& incident)
 void ServiceLink::takeState(const QString& text, const QString& timestamp)
 {
     m_awaited = nullptr;
+    setAvailable(
+        true); // first: a state of a service that is lost counts as one from before the loss
     Q_EMIT stateReceived(text, QDateTime::fromString(timestamp, Qt::ISODateWithMs).toLocalTime());
-    setAvailable(true);
 }
 
 void ServiceLink::loseService()

@@ -87,8 +87,8 @@ void AcceptorService::keep(SimulatedDevice& device)
     report.insert(timeKey, now());
     if (device.pieceEnd() == SimulatedDevice::Piece::Stuck)
         report.insert(QStringLiteral("incident"), m_incidents.open(report));
-    if (write(report))
-        m_recorded[&device] = device.sessionSum();
+    // What was written before may be of another session.
+    m_recorded[&device] = write(report) ? device.sessionSum() : 0;
     if (device.pieceEnd() == SimulatedDevice::Piece::Ended)
         settle(m_incidents.openOf(report));
 }
@@ -143,7 +143,8 @@ void AcceptorService::publish()
     QVariantMap published = AcceptorState::stateMap(devices);
     published.insert(QStringLiteral("refusals"), refusals);
     published.insert(QStringLiteral("content"), m_content.toList());
-    published.insert(QStringLiteral("incidents"), incidents());
+    if (m_record.isOpen()) // which has their numbers
+        published.insert(QStringLiteral("incidents"), incidents());
     published.insert(QStringLiteral("money"), money());
     const QJsonDocument document(QJsonObject::fromVariantMap(published));
     const QString state = QString::fromUtf8(document.toJson(QJsonDocument::Compact));
