@@ -11,7 +11,6 @@
 #include "text/filterwords.h"
 
 #include <algorithm>
-#include <climits>
 #include <memory>
 
 namespace {
@@ -93,36 +92,18 @@ FilterSet impliedFilters(const ArrayFile& file)
     const auto common = [&valueOf](const QString& key) {
         return valueOf(AcceptorSettings::ACCEPTOR_COMMON_SECTION, key);
     };
-    const auto add = [&implied, &file, &list](const char* name, const QVariantMap& params) {
-        const QJsonObject description{{nameKey, QLatin1String(name)},
-                                      {paramsKey, QJsonObject::fromVariantMap(params)}};
-        try {
-            implied.append(checkedFilter(description));
-        } catch (const Fault& fault) {
-            // Of what settings say, only these limits can be too much for a filter.
-            const ServiceSetting limits = ServiceSetting::find(
-                AcceptorSettings::ACCEPTOR_COMMON_SECTION, AcceptorSettings::ATTEMPTS_FILTER);
-            const int element = list.used(limits).element;
-            throw Fault{QStringLiteral("%1: %2").arg(
-                element < 0 ? file.name() : file.place(element), fault.message)};
-        }
-    };
-    const bool acceptAll = common(AcceptorSettings::ACCEPT_ALL) == QLatin1String("1");
-    add(filters::ACCEPT_FILTER, {{QStringLiteral("acceptAll"), acceptAll}});
-    const QByteArray limits = common(AcceptorSettings::ATTEMPTS_FILTER).toUtf8();
-    for (const QJsonValue limitMap : QJsonDocument::fromJson(limits).array()) {
-        AcceptorAttemptFilterItem limit;
-        limit.loadFromMap(limitMap.toObject().toVariantMap());
-        add(filters::ATTEMPTS_FILTER,
-            {{QStringLiteral("denom"), limit.denom()},
-             {QStringLiteral("attempts"), limit.attempts()}});
+    QList<AcceptorAttemptFilterItem> limits;
+    const QByteArray limitMaps = common(AcceptorSettings::ATTEMPTS_FILTER).toUtf8();
+    for (const QJsonValue limitMap : QJsonDocument::fromJson(limitMaps).array()) {
+        limits.append(AcceptorAttemptFilterItem());
+        limits.last().loadFromMap(limitMap.toObject().toVariantMap());
     }
-    const qint64 maxSumm = common(AcceptorSettings::MAX_SUMM).toLongLong();
-    if (maxSumm > 0) {
-        // The sums of a session have 32 bits: none exceeds this.
-        add(filters::SESSION_SUM_FILTER,
-            {{QStringLiteral("sessionSum"), qMin<qint64>(maxSumm, INT_MAX)}});
-    }
+    const QList<AbstractFilter*> filters =
+        FilterFactory::createFilters(common(AcceptorSettings::ACCEPT_ALL) == QLatin1String("1"),
+                                     limits, common(AcceptorSettings::MAX_SUMM).toLongLong());
+    for (const AbstractFilter* const filter : filters)
+        implied.append({filterName(*filter), filterParams(*filter).toVariantMap()});
+    qDeleteAll(filters);
     for (auto device = list.devices().keyBegin(); device != list.devices().keyEnd(); ++device) {
         const QString group = deviceGroup(*device, AcceptorSettings::DEVICE_SECTION);
         const QString model = valueOf(group, AcceptorSettings::DEVICE_ID);

@@ -19,8 +19,8 @@ ListKind kindOf(const ArrayFile& file);
 /// file of neither kind, its reader says.
 void requireKind(const ArrayFile& file, ListKind wanted);
 
-/// Takes the filters of a filters file, or those that a settings list implies: accept all or
-/// nothing, the limits of the rejections, and the maximum sum when it is above 0; of a settings
-/// list the names of devices too. Throws Fault for a file of the other kind, an unknown filter or
-/// parameter and a value that a parameter cannot hold.
+/// Takes the filters of a filters file, or those that a settings list implies
+/// (FilterFactory::createFilters()), and of a settings list the names of devices too. Throws Fault
+/// for a file of the other kind and, in a filters file, an unknown filter or parameter and a value
+/// that a parameter cannot hold.
 FilterSet filterSetOf(const ArrayFile& file, ListKind kind);

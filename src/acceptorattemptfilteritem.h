@@ -7,13 +7,16 @@
 
 #include <QVariant>
 
-/// An anti-fishing limit: how many rejections of one denomination a session allows.
+/// An anti-fishing limit: after how many rejections notes of one denomination are refused, as
+/// AttemptsFilter does it. Any number is kept; a new limit has 0 in both.
 class VELMOLIB_EXPORT AcceptorAttemptFilterItem
 {
 public:
+    /// The number of rejections from which on the denomination is refused.
     int attempts() const;
     void setAttempts(int attempts);
 
+    /// The face value that is guarded, in the unit that the service uses.
     int denom() const;
     void setDenom(int denom);
 

@@ -23,8 +23,8 @@ class VELMOLIB_EXPORT TcpSettings : public AbstractSettings
 public:
     ~TcpSettings() override;
 
-    QString host;
-    qint32 port = 0;
+    QString host; ///< name or address
+    qint32 port = 0; ///< any number is kept
 };
 
 /// The settings of one device: how it is reached (serial port or TCP), what it is, and five
@@ -55,10 +55,11 @@ public:
     /// settings stay.
     void setAcceptorInfo(const AcceptorInfo& info);
 
-    /// "rs232" or "tcp"; any text is kept.
+    /// "tcp", with case, or a serial port: "rs232" or any other text, which is kept.
     QString interfaceType() const;
     void setInterfaceType(const QString& interfaceType);
 
+    /// What people call the device.
     QString name() const;
     void setName(const QString& name);
 
@@ -70,32 +71,40 @@ public:
     QString cardReaderQuorId() const;
     void setCardReaderQuorId(const QString& id);
 
+    /// Name or address of the device's host. The settings list has it where the interface is "tcp".
     QString tcpHost() const;
     void setTcpHost(const QString& host);
 
+    /// The number of the TCP port as text. The settings list has it where the interface is "tcp".
     QString tcpPort() const;
     void setTcpPort(const QString& port);
 
+    /// How long an answer of a validator, an acknowledgement of a card terminal may take.
     int response_time() const;
     void setResponse_time(int value);
     int timeOutAck() const; ///< the parameter of response_time()
     void setTimeoutAck(int value);
 
+    /// How often a validator is asked for its state; how long a packet of a card terminal may take.
     int polling_interval() const;
     void setPolling_interval(int value);
     int packetTimeout() const; ///< the parameter of polling_interval()
     void setPacketTimeout(int value);
 
+    /// Pace of reading a validator's table of notes; after how many negative acknowledgements a
+    /// packet of a card terminal is given up.
     int bill_table_interval() const;
     void setBill_table_interval(int value);
     int maxNakCount() const; ///< the parameter of bill_table_interval()
     void setMaxNakCount(int value);
 
+    /// Pace of resetting a validator; the largest packet of a card terminal, in bytes.
     int reset_interval() const;
     void setReset_interval(int value);
     int maxPackageSize() const; ///< the parameter of reset_interval()
     void setMaxPackageSize(int value);
 
+    /// Rest between two messages to a validator. Card terminals have no name for it.
     int rest_interval() const;
     void setRest_interval(int value);
 

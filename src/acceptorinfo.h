@@ -13,11 +13,11 @@
 /// number and flag.
 struct VELMOLIB_EXPORT AcceptorInfo
 {
-    QString text;
-    qint32 number = -1;
+    QString text; ///< the programs' own
+    qint32 number = -1; ///< the programs' own
     quint16 type = 0; ///< Acceptors::Supported
     QString description; ///< descriptive text, from which the device's name is cut
-    QString portName;
-    bool flag = false;
+    QString portName; ///< the serial port; it counts, not the one of portSettings
+    bool flag = false; ///< the programs' own
     QVariantMap portSettings; ///< texts under the keys of acceptorportsettingsconsts
 };

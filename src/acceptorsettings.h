@@ -103,6 +103,7 @@ public:
     /// drop them.
     static QMap<int, AcceptorDeviceSettings*> devices;
 
+    /// An object holds nothing: the configuration is there without it and outlives it.
     AcceptorSettings() = default;
     virtual ~AcceptorSettings();
 
@@ -115,14 +116,16 @@ public:
     static int deviceCount();
     static void setDeviceCount(int count);
 
-    /// The idle time after which the service resets; 3600000 until set.
+    /// The idle time after which the service resets, in the service's own unit; 3600000 until set.
     static qint64 resetIdleTimeout();
     static void setResetIdleTimeout(qint64 timeout);
 
+    /// How the service resets its statistics; CleanStatistics0 until set. The setter keeps any
+    /// number; one that is read and is no mode becomes CleanStatistics0.
     static ECleanStatistics cleanStatistics();
     static void setCleanStatistics(const ECleanStatistics& mode);
 
-    /// The maximum sum; 0 until set.
+    /// The maximum sum of a session, in the unit that the service uses; 0, until set, is no limit.
     static qint64 maxSumm();
     static void setMaxSumm(const qint64& sum);
 
@@ -130,11 +133,11 @@ public:
     static bool acceptAll();
     static void setAcceptAll(bool acceptAll);
 
-    /// Whether the devices' port traffic is logged.
+    /// Whether the devices' port traffic is logged; false until set.
     static bool portLogs();
     static void setPortLogs(bool portLogs);
 
-    /// The anti-fishing limits.
+    /// The anti-fishing limits, in the order in which they came; none until set.
     static QList<AcceptorAttemptFilterItem> attemptsFilter();
     static void setAttemptsFilter(const QList<AcceptorAttemptFilterItem>& limits);
 

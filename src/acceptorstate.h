@@ -24,16 +24,19 @@ public:
     /// it lacks reads as device -1, thread -1, stacker present, otherwise zero, false and empty.
     AcceptorStateItem(QVariantMap map);
 
+    /// The identifier of the device, by which AcceptorState tells what kind it is of.
     int deviceId() const;
     void setDeviceId(int id);
 
+    /// The service thread that drives the device.
     int threadId() const;
     void setThreadId(int id);
 
+    /// Whether the device is enabled for work.
     bool enabled() const;
     void setEnabled(bool enabled);
 
-    /// The state's name, one of deviceStatesConst.
+    /// The state's name, one of deviceStatesConst; any text is kept.
     QString state() const;
     void setState(const QString& state);
 
@@ -41,18 +44,23 @@ public:
     QString stateText() const;
     void setStateText(const QString& text);
 
+    /// Whether the stacker is in its place.
     bool stackerPresent() const;
     void setStackerPresent(bool present);
 
+    /// Whether the stacker is full.
     bool stackerFull() const;
     void setStackerFull(bool full);
 
+    /// Whether a critical error is active.
     bool errorCritical() const;
     void setErrorCritical(bool critical);
 
+    /// What the error is; the service report has it for a critical error only.
     QString errorText() const;
     void setErrorText(const QString& text);
 
+    /// Whether the device is halted.
     bool halt() const;
     void setHalt(bool halt);
 
@@ -60,12 +68,11 @@ public:
     QString idString() const;
     void setIdString(const QString& text);
 
+    /// One of the note counters of StatItem; of what a map holds, the low 32 bits.
     int notesInserted() const;
     void setNotesInserted(const int& count);
-
     int notesRejected() const;
     void setNotesRejected(const int& count);
-
     int notesReturned() const;
     void setNotesReturned(const int& count);
 

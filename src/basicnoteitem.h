@@ -25,16 +25,18 @@ public:
 
     virtual ~BasicNoteItem() = default;
 
+    /// The map form: a value under each key constant of the class and its bases.
     virtual QVariantMap toMap() const;
 
     /// Reads the record. @p error receives the bare text of the first missing key; it may be null.
     /// @return whether every key was there
     virtual bool fromMap(const QVariantMap& map, QString* error = nullptr);
 
+    /// Whether all fields are equal, or some differ.
     bool operator==(const BasicNoteItem& other) const;
     bool operator!=(const BasicNoteItem& other) const { return !(*this == other); }
 
-    QString currency;
+    QString currency; ///< code of the currency, for example "RUB"; any text is kept
     qint32 denomination = 0; ///< face value, in the unit that the service uses
     Acceptors::billTypes billType = Acceptors::Bill; ///< any number is kept as it is
 };

@@ -21,6 +21,7 @@ public:
     static const QString DEVICE_ID; ///< "device_id": int
     static const QString THREAD_ID; ///< "thread_id": int, sign-extended
 
+    /// The map form: a value under each key constant of the class and its bases.
     virtual QVariantMap toMap() const;
 
     /// Reads the device, then the thread. @p error receives the bare text of the first missing key;
@@ -28,10 +29,11 @@ public:
     /// @return whether both keys were there
     virtual bool fromMap(const QVariantMap& map, QString* error = nullptr);
 
+    /// Whether all fields are equal, or some differ.
     bool operator==(const DevAndThreadItem& other) const;
     bool operator!=(const DevAndThreadItem& other) const { return !(*this == other); }
 
-    qint32 deviceId = 0;
+    qint32 deviceId = 0; ///< identifier of the device
     qint16 threadId = -1; ///< takes the low 16 bits of what a map holds
 };
 

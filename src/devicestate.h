@@ -41,8 +41,8 @@ enum State : qint32 {
 class VELMOLIB_EXPORT DeviceState
 {
 public:
-    DeviceState() = default;
-    DeviceState(const DeviceState& other) = default;
+    DeviceState() = default; ///< busy, with a stacker that is present; otherwise zero and empty
+    DeviceState(const DeviceState& other) = default; ///< copies every field
     virtual ~DeviceState() = default;
 
     /// Copies every field, the registry rows included, unless the two are equal already.
@@ -82,27 +82,28 @@ public:
     /// Replaces the registry rows.
     void setDispenserRegistry(const QList<DispenserRegistryItem>& rows);
 
+    /// Whether all fields are equal, or some differ.
     bool operator==(const DeviceState& other) const;
     bool operator!=(const DeviceState& other) const { return !(*this == other); }
 
     bool enabled = false; ///< enabled for work
     State state = STATE_BUSY; ///< any number is kept as it is
-    bool stackerPresent = true;
-    bool stackerFull = false;
+    bool stackerPresent = true; ///< the stacker is in its place
+    bool stackerFull = false; ///< the stacker is full
     quint32 cash = 0; ///< amount reported for the device; not interpreted here
     bool errCritical = false; ///< a critical error is active
-    bool halt = false;
-    QString errorText;
+    bool halt = false; ///< the device is halted
+    QString errorText; ///< free text that describes the error
     QString stateText; ///< free text that describes the state
     quint32 threadId = 0; ///< service thread that drives the device
-    quint32 deviceId = 0;
+    quint32 deviceId = 0; ///< identifier of the device
     qint32 sessionSum = 0; ///< taken in the current session
     qint32 currentNote = 0; ///< face value of the note or coin being handled
     qint16 currentChannel = 0; ///< dispenser channel being handled
     quint32 dispensedSum = 0; ///< paid out in the current session
     QString idString; ///< identification text of the device
     bool online = false; ///< connected and answering
-    QList<DispenserRegistryItem> dispenserRegistry;
+    QList<DispenserRegistryItem> dispenserRegistry; ///< the rows of the device's channels
 };
 
 Q_DECLARE_METATYPE(DeviceState)

@@ -18,9 +18,10 @@ class VELMOLIB_EXPORT DeviceStateWorker : public QObject
     Q_OBJECT
 
 public:
+    /// Current and saved state are those of a new DeviceState, and none was sent.
     explicit DeviceStateWorker(QObject* parent = nullptr);
 
-    // Each sets one field of the current state and sends nothing.
+    /// Each sets one field of the current state and sends nothing.
     void setEnabled(const bool& enabled);
     void setState(const State& state);
     void setStackerPresent(const bool& present);
@@ -63,6 +64,7 @@ public:
     StatesList* getStatesList();
 
 Q_SIGNALS:
+    /// The state was sent. @p State is the current state itself: who keeps it keeps a copy.
     void deviceStateChanged(const DeviceState& State);
 
 private:

@@ -37,10 +37,12 @@ public:
     /// notes may differ.
     bool like(const DispenserRegistryItem& other) const;
 
+    /// Whether all fields are equal, or some differ.
     bool operator==(const DispenserRegistryItem& other) const;
     bool operator!=(const DispenserRegistryItem& other) const { return !(*this == other); }
 
-    // Each takes the low 16 bits of what a map holds.
+    /// Service thread, device, channel of the device, notes that were rejected. Each takes the low
+    /// 16 bits of what a map holds.
     quint16 threadId = 0;
     quint16 deviceId = 0;
     quint16 channel = 0;

@@ -12,9 +12,9 @@ class VELMOLIB_EXPORT DispenserRegistryModel
 public:
     static const QString DISPENSER_REGISTRY; ///< "dispenser_registry": the only key of its map
 
-    void clear();
-    QList<DispenserRegistryItem> items() const;
-    void assign(const QList<DispenserRegistryItem>& rows);
+    void clear(); ///< removes all rows
+    QList<DispenserRegistryItem> items() const; ///< a copy of the rows
+    void assign(const QList<DispenserRegistryItem>& rows); ///< replaces all rows
 
     /// Appends a row, whether or not an alike one is there. Always true.
     bool insert(const DispenserRegistryItem& row);

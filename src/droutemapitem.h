@@ -28,10 +28,11 @@ public:
     /// Reads the note's keys, then "route"; all are required.
     bool fromMap(const QVariantMap& map, QString* error = nullptr) override;
 
+    /// Whether all fields are equal, or some differ.
     bool operator==(const DRouteMapItem& other) const;
     bool operator!=(const DRouteMapItem& other) const { return !(*this == other); }
 
-    Route route = RouteDefault;
+    Route route = RouteDefault; ///< where the service sends the notes
 };
 
 /// The route map as the text in which the service settings keep it: a JSON array with one object,

@@ -18,16 +18,20 @@ public:
     static const QString F_TYPE; ///< "type"
     static const QString F_REGEXP; ///< "regexp"
 
-    FieldDescription() = default;
+    FieldDescription() = default; ///< four empty texts
+
+    /// Takes the four texts as they are.
     FieldDescription(const QString& fieldName, const QString& description, const QString& typeName,
                      const QString& pattern);
 
+    /// The four texts under the key constants.
     QVariantMap toMap() const;
 
     /// Reads all four texts or, when one is missing, none.
     /// @return whether all four were there
     bool fromMap(const QVariantMap& map);
 
+    /// Whether all fields are equal, or some differ.
     bool operator==(const FieldDescription& other) const;
     bool operator!=(const FieldDescription& other) const { return !(*this == other); }
 

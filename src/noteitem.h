@@ -14,8 +14,9 @@ public:
     QVariantMap toMap() const override;
     bool fromMap(const QVariantMap& map, QString* error = nullptr) override;
 
+    /// Whether all fields are equal, or some differ.
     bool operator==(const NoteItem& other) const;
     bool operator!=(const NoteItem& other) const { return !(*this == other); }
 
-    qint32 count = 0;
+    qint32 count = 0; ///< any number is kept as it is
 };

@@ -33,7 +33,7 @@ public:
         RouteMap ///< empty, or a JSON array of rows as DRouteMap reads them
     };
 
-    SettingDescription() = default;
+    SettingDescription() = default; ///< describes nothing
 
     /// What the service reads under a group and a key. Beside what
     /// AcceptorSettings::settingDescription() describes these are the settings that
@@ -75,6 +75,7 @@ public:
     /// them in a list counts. Most have a place of their own.
     QString place() const;
 
+    /// What the value is.
     Kind kind() const;
 
     /// The range of a Number, within which the service works; qlonglong, and invalid for any other

@@ -31,9 +31,11 @@ public:
     /// Whether both count for the same device and thread.
     bool eqDev(const StatItem& other) const;
 
+    /// Whether all fields are equal, or some differ.
     bool operator==(const StatItem& other) const;
     bool operator!=(const StatItem& other) const { return !(*this == other); }
 
+    /// How many notes or coins were inserted, rejected, returned.
     quint64 notesInserted = 0;
     quint64 notesRejected = 0;
     quint64 notesReturned = 0;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 velmolib maintainers
 // SPDX-License-Identifier: MIT
 
+#include "acceptorsettings.h"
 #include "filterchain.h"
 #include "filterfactory.h"
 #include "filtermanager.h"
@@ -175,6 +176,49 @@ private Q_SLOTS:
         QCOMPARE(FilterFactory::createFilter("acceptfilter"_s, {}), nullptr);
         QVERIFY(FilterFactory::getFieldsDesc("acceptfilter"_s).isEmpty());
         QVERIFY(FilterFactory::getFilterDesc(QString()).isEmpty());
+    }
+
+    // acceptAll, maxSumm and the text of the limits, then what the filters hold.
+    void configurationImpliesItsFilters_data()
+    {
+        addRows(R"(
+            1 |                    0 | []                                              | acceptAll 1
+            0 |                    1 | []                                              | acceptAll 0, sessionSum 1
+            1 |                   -1 | []                                              | acceptAll 1
+            1 | -9223372036854775808 | []                                              | acceptAll 1
+            1 |           2147483647 | []                                              | acceptAll 1, sessionSum 2147483647
+            1 |           5000000000 | []                                              | acceptAll 1, sessionSum 2147483647
+            1 |  9223372036854775807 | []                                              | acceptAll 1, sessionSum 2147483647
+            1 |                    9 | [{"denom":50,"attempts":3},{"denom":10,"attempts":"1"},{"denom":50,"attempts":2}] | acceptAll 1, denom 50 attempts 3, denom 10 attempts 1, denom 50 attempts 2, sessionSum 9
+            1 |                    0 | [{"denom":5,"attempts":127},{"denom":5,"attempts":200}]   | acceptAll 1, denom 5 attempts 127, denom 5 attempts 127
+            1 |                    0 | [{"denom":5,"attempts":-128},{"denom":5,"attempts":-200}] | acceptAll 1, denom 5 attempts -128, denom 5 attempts -128
+            1 |                    0 | [{"denom":2147483647,"attempts":2147483647}]    | acceptAll 1, denom 2147483647 attempts 127
+            1 |                    0 | [{"denom":-2147483648,"attempts":-2147483648}]  | acceptAll 1, denom -2147483648 attempts -128
+            1 |                    0 | [{"denom":"x","attempts":5000000000},{},7,{"denom":7}] | acceptAll 1, denom 0 attempts 0, denom 7 attempts 1
+            x |                    x | {"denom":5}                                     | acceptAll 0
+            1 |                    0 | [{"denom":5                                     | acceptAll 1)"_s);
+    }
+
+    void configurationImpliesItsFilters()
+    {
+        const auto [acceptAll, maxSumm, limits, expected] = cells<4>();
+        const LogCapture log;
+        AcceptorSettings settings;
+        settings.updateValue("acceptor_common"_s, {}, "acceptAll"_s, acceptAll);
+        settings.updateValue("acceptor_common"_s, {}, "maxSumm"_s, maxSumm);
+        settings.updateValue("acceptor_common"_s, {}, "attempts_filter_settings"_s, limits);
+        const QList<AbstractFilter*> implied = FilterFactory::createFilters();
+        QStringList held;
+        for (const AbstractFilter* const filter : implied) {
+            QStringList words;
+            for (const FieldDescription& field : filter->getFieldsDescription()) {
+                const int value = filter->property(field.name.toUtf8().constData()).toInt();
+                words += field.name + QLatin1Char(' ') + QString::number(value);
+            }
+            held += words.join(QLatin1Char(' '));
+        }
+        qDeleteAll(implied);
+        QCOMPARE(held.join(", "_s), expected);
     }
 
     void descriptionReadsAllOrNothing()

@@ -653,7 +653,8 @@ private Q_SLOTS:
             {"group":"acceptor_common","key":"attempts_filter_settings","value":"x"} | error: acceptor_common/attempts_filter_settings: "x" is no JSON array of limits
             {"group":"acceptor_common","key":"attempts_filter_settings","value":"[{\u0022denom\u0022:1}]"} | reads as "[{"attempts":"1","denom":"1"}]"
             {"group":"acceptor_common","key":"attempts_filter_settings","value":"[{\u0022denom\u0022:1,\u0022attempts\u0022:127}]"} |
-            {"group":"acceptor_common","key":"attempts_filter_settings","value":"[{\u0022denom\u0022:5,\u0022attempts\u0022:128}]"} | error: acceptor_common/attempts_filter_settings: the filter cannot hold 128 attempts ("denom" 5)
+            {"group":"acceptor_common","key":"attempts_filter_settings","value":"[{\u0022denom\u0022:5,\u0022attempts\u0022:128}]"} | error: acceptor_common/attempts_filter_settings: the filter cannot hold 128 attempts ("denom" 5): it takes 127
+            {"group":"acceptor_common","key":"maxSumm","value":5000000000}           | warning: acceptor_common/maxSumm: the filter cannot hold the sum 5000000000: it takes 2147483647
             {"group":"acceptor_common","key":"maxSumm","value":5,"value":3}          | error: acceptor_common/maxSumm: has "value" more than once
             {"group":"acceptor_common","key":"maxSumm","\u0076alue":5,"value":5}     | error: acceptor_common/maxSumm: has "value" more than once
             {"group":"dispenser","key":"route_map","value":"[{}]"}                   | "[{}]" is no JSON array of whole routes; 0 can be read
@@ -786,8 +787,16 @@ private Q_SLOTS:
         velmo({"settings"_s, "set"_s, m_list, "-f"_s,
                R"(acceptor_common/attempts_filter_settings=[{"denom":1,"attempts":200}])"_s});
         const VelmoRun tooMany = velmo(arguments, session);
-        QCOMPARE(tooMany.exitCode, 2);
-        QVERIFY(tooMany.err.startsWith("velmo: "_s + m_list + ":5: AttemptsFilter: parameter"_s));
+        QVERIFY(tooMany.err.startsWith("velmo: "_s + m_list + ":5: error: "_s));
+        // What the service would use instead is said where its filters are shown.
+        velmo({"settings"_s, "set"_s, m_list, "acceptor_common/maxSumm=5000000000"_s});
+        const VelmoRun shown = velmo({"settings"_s, "filters"_s, m_list, "--json"_s});
+        QCOMPARE(shown.exitCode, 0);
+        QCOMPARE(QJsonDocument::fromJson(shown.out.toUtf8())[1]["params"_s]["attempts"_s].toInt(),
+                 127);
+        QVERIFY2(shown.err.contains("200 attempts (\"denom\" 1): it takes 127"_s)
+                     && shown.err.contains("the sum 5000000000: it takes 2147483647"_s),
+                 qPrintable(shown.err));
     }
 
 private:

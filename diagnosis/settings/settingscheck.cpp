@@ -12,7 +12,6 @@
 #include "json/jsonreader.h"
 
 #include <algorithm>
-#include <memory>
 #include <tuple>
 
 namespace {
@@ -165,6 +164,8 @@ private:
         if (setting.accepts(text)) {
             if (setting.kind() == SettingDescription::AttemptsLimits)
                 checkLimits(index, element, level);
+            else if (setting.key() == S::MAX_SUMM)
+                checkSum(index, element);
             return;
         }
         QString fault = Diagnosis::tr("\"%1\" is %2").arg(shortened(text), faultOf(setting, text));
@@ -173,21 +174,45 @@ private:
         report(level, index, element.path(), fault);
     }
 
-    // The filter has fewer bits than the setting.
+    // The filters have fewer bits than the settings.
     void checkLimits(int index, const SettingsList::Element& element, Finding::Level level)
     {
         const QVariantList limits = JsonReader::readList(element.text());
         for (const QVariant& map : limits) {
             AcceptorAttemptFilterItem limit;
             limit.loadFromMap(map.toMap());
-            const std::unique_ptr<AbstractFilter> filter(FilterFactory::createFilter(
-                QLatin1String(filters::ATTEMPTS_FILTER), limit.toMap()));
-            if (filter->property("attempts").toInt() != limit.attempts()) {
+            const int held = heldByLast("attempts", {limit}, 0);
+            if (held != limit.attempts()) {
                 report(level, index, element.path(),
-                       Diagnosis::tr("the filter cannot hold %1 attempts (\"denom\" %2)")
-                           .arg(QString::number(limit.attempts()), QString::number(limit.denom())));
+                       Diagnosis::tr("the filter cannot hold %1 attempts (\"denom\" %2): it takes "
+                                     "%3")
+                           .arg(QString::number(limit.attempts()), QString::number(limit.denom()),
+                                QString::number(held)));
             }
         }
+    }
+
+    void checkSum(int index, const SettingsList::Element& element)
+    {
+        const qint64 sum = element.text().toLongLong();
+        if (sum <= 0)
+            return; // no filter
+        const int held = heldByLast("sessionSum", {}, sum);
+        if (held != sum) {
+            report(Finding::Warning, index, element.path(),
+                   Diagnosis::tr("the filter cannot hold the sum %1: it takes %2")
+                       .arg(QString::number(sum), QString::number(held)));
+        }
+    }
+
+    // A parameter of the last of the filters that these settings imply.
+    static int heldByLast(const char* param, const QList<AcceptorAttemptFilterItem>& limits,
+                          qint64 maxSumm)
+    {
+        const QList<AbstractFilter*> implied = FilterFactory::createFilters(true, limits, maxSumm);
+        const int held = implied.constLast()->property(param).toInt();
+        qDeleteAll(implied);
+        return held;
     }
 
     void checkCount()

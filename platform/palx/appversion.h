@@ -23,8 +23,8 @@ public:
     /// Whether there is a version number.
     bool isValid() const;
 
-    QString version() const;
-    QString buildTime() const;
+    QString version() const; ///< the version number
+    QString buildTime() const; ///< in ISO 8601 form; empty when it is not known
 
 private:
     QString m_version;

@@ -16,27 +16,32 @@ namespace palx {
 class Rs232PortSettings
 {
 public:
+    /// In bits per second.
     QSerialPort::BaudRate baudRate() const
     {
         return static_cast<QSerialPort::BaudRate>(m_baudRate);
     }
     void setBaudRate(QSerialPort::BaudRate baudRate) { m_baudRate = baudRate; }
 
+    /// Data bits of a character.
     QSerialPort::DataBits dataBits() const
     {
         return static_cast<QSerialPort::DataBits>(m_dataBits);
     }
     void setDataBits(QSerialPort::DataBits dataBits) { m_dataBits = dataBits; }
 
+    /// What the parity bit of a character is; without one by default.
     QSerialPort::Parity parity() const { return static_cast<QSerialPort::Parity>(m_parity); }
     void setParity(QSerialPort::Parity parity) { m_parity = parity; }
 
+    /// Stop bits of a character, as Qt's enumerators: OneAndHalfStop is the number 3.
     QSerialPort::StopBits stopBits() const
     {
         return static_cast<QSerialPort::StopBits>(m_stopBits);
     }
     void setStopBits(QSerialPort::StopBits stopBits) { m_stopBits = stopBits; }
 
+    /// How either side makes the other one wait.
     QSerialPort::FlowControl flowControl() const
     {
         return static_cast<QSerialPort::FlowControl>(m_flowControl);
@@ -60,8 +65,11 @@ public:
     RS232Settings(const QString& section);
     virtual ~RS232Settings();
 
+    /// The port, for example "ttyS0"; empty until set.
     virtual QString portName() const;
     virtual void setPortName(const QString& portName);
+
+    /// One of the five port parameters; that of a new Rs232PortSettings until set.
     virtual QSerialPort::BaudRate baudrate() const;
     virtual void setBaudrate(QSerialPort::BaudRate baudRate);
     virtual QSerialPort::FlowControl flowControl() const;
@@ -73,15 +81,16 @@ public:
     virtual QSerialPort::StopBits stopBits() const;
     virtual void setStopBits(QSerialPort::StopBits stopBits);
 
-    /// The five port parameters as one value.
+    /// The five port parameters as one value, without the other accessors being called.
     virtual Rs232PortSettings portSettings() const;
     virtual void setPortSettings(const Rs232PortSettings& settings);
 
+    /// The section that the settings belong to: the "group" of the list.
     virtual QString section() const;
     virtual void setSection(const QString& section);
 
     /// One map {"group", "key", "value"} for each setting: the section, the setting's name, its
-    /// text or number.
+    /// text or number, as the virtual accessors have it.
     virtual QList<QVariant> toList() const;
 
     /// Takes every element of this section with setValue().

@@ -17,6 +17,7 @@ public:
     /// @param settings maps {"group", "key", "value"}, in the order of the service
     ClientSettings(const QList<QVariant>& settings);
 
+    /// The maps, as they came.
     QList<QVariant> settings() const;
 
 private:

@@ -18,8 +18,8 @@ public:
     /// @param dt when the service published it
     ClientState(const QString& state, const QDateTime& dt);
 
-    QString state() const;
-    QDateTime dt() const;
+    QString state() const; ///< the service state as JSON text; not checked
+    QDateTime dt() const; ///< when the service published it
 
 private:
     QString m_state;

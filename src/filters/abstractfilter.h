@@ -59,7 +59,9 @@ protected:
     /// The event to be judged; null when there is no event source or no event in it.
     const DeviceState* newestEvent() const;
 
+    /// The event source, which the filter does not own; null means none.
     StatesList* events = nullptr;
 };
 
+/// What a chain takes.
 using PAbstractFilter = AbstractFilter*;

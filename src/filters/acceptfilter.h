@@ -6,11 +6,10 @@
 #include "abstractfilter.h"
 
 /// Switches acceptance on or off as a whole; it reads no events.
-///
-/// Properties: acceptAll, off by default.
 class VELMOLIB_EXPORT AcceptFilter : public AbstractFilter
 {
     Q_OBJECT
+    /// Whether notes and coins are accepted; false until set.
     Q_PROPERTY(bool acceptAll MEMBER m_acceptAll)
 
 public:

@@ -8,13 +8,13 @@
 /// Guards against fishing: once the device has rejected notes a number of times, a note of the
 /// denomination is refused until a note is stacked or the session ends. Rejections count whatever
 /// note they were of.
-///
-/// Properties: denom, the face value that is guarded (0); attempts, the number of rejections (0,
-/// which refuses the denomination from the second event on).
 class VELMOLIB_EXPORT AttemptsFilter : public AbstractFilter
 {
     Q_OBJECT
+    /// The face value that is guarded; 0 until set.
     Q_PROPERTY(int denom MEMBER m_denom)
+    /// The number of rejections. 0, until set, and less refuse the denomination from the second
+    /// event on.
     Q_PROPERTY(qint8 attempts MEMBER m_attempts)
 
 public:

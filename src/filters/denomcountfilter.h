@@ -6,13 +6,13 @@
 #include "abstractfilter.h"
 
 /// Caps how many notes or coins of one denomination a session may take.
-///
-/// Properties: denom, the face value that is capped (0); count, the number of accepted notes from
-/// which on it is refused (0).
 class VELMOLIB_EXPORT DenomCountFilter : public AbstractFilter
 {
     Q_OBJECT
+    /// The face value that is capped; 0 until set.
     Q_PROPERTY(int denom MEMBER m_denom)
+    /// The number of accepted notes from which on the denomination is refused. 0, until set, and
+    /// less refuse it from the second event on.
     Q_PROPERTY(qint16 count MEMBER m_count)
 
 public:

@@ -17,8 +17,8 @@
 class VELMOLIB_EXPORT FilterChain
 {
 public:
-    FilterChain();
-    ~FilterChain();
+    FilterChain(); ///< no filters, no event source
+    ~FilterChain(); ///< deletes the filters
 
     /// Sets the event source for filters that are added from now on; null means none.
     /// @return this chain, as the other calls do

@@ -4,10 +4,13 @@
 #include "filterfactory.h"
 
 #include "acceptfilter.h"
+#include "acceptorsettings.h"
 #include "attemptsfilter.h"
 #include "denomcountfilter.h"
 #include "sessionsumfilter.h"
 
+#include <algorithm>
+#include <limits>
 #include <memory>
 
 namespace filters {
@@ -38,6 +41,13 @@ const struct
     {QLatin1String(filters::DENOM_COUNT_FILTER), make<DenomCountFilter>},
 };
 
+template <typename Held>
+Held saturated(qint64 value)
+{
+    using Limits = std::numeric_limits<Held>;
+    return static_cast<Held>(std::clamp<qint64>(value, Limits::min(), Limits::max()));
+}
+
 } // namespace
 
 AbstractFilter* FilterFactory::createFilter(const QString& name, const QVariantMap& params)
@@ -47,6 +57,33 @@ AbstractFilter* FilterFactory::createFilter(const QString& name, const QVariantM
             return known.make()->setParams(params);
     }
     return nullptr;
+}
+
+QList<AbstractFilter*> FilterFactory::createFilters()
+{
+    return createFilters(AcceptorSettings::acceptAll(), AcceptorSettings::attemptsFilter(),
+                         AcceptorSettings::maxSumm());
+}
+
+QList<AbstractFilter*> FilterFactory::createFilters(bool acceptAll,
+                                                    const QList<AcceptorAttemptFilterItem>& limits,
+                                                    qint64 maxSumm)
+{
+    QList<AbstractFilter*> implied;
+    const auto add = [&implied](const char* name, const QVariantMap& params) {
+        implied.append(createFilter(QLatin1String(name), params));
+    };
+    add(filters::ACCEPT_FILTER, {{QStringLiteral("acceptAll"), acceptAll}});
+    for (const AcceptorAttemptFilterItem& limit : limits) {
+        add(filters::ATTEMPTS_FILTER,
+            {{QStringLiteral("denom"), limit.denom()},
+             {QStringLiteral("attempts"), int(saturated<qint8>(limit.attempts()))}});
+    }
+    if (maxSumm > 0) {
+        add(filters::SESSION_SUM_FILTER,
+            {{QStringLiteral("sessionSum"), saturated<qint32>(maxSumm)}});
+    }
+    return implied;
 }
 
 QStringList FilterFactory::getFilters()

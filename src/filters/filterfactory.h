@@ -4,6 +4,7 @@
 #pragma once
 
 #include "abstractfilter.h"
+#include "acceptorattemptfilteritem.h"
 #include "velmolib_global.h"
 
 #include <QList>
@@ -21,13 +22,25 @@ extern VELMOLIB_EXPORT const char* const SESSION_SUM_FILTER; ///< "SessionSumFil
 
 } // namespace filters
 
-/// Makes filters by name and tells which there are.
+/// Makes filters, by name or as a configuration implies them, and tells which there are.
 class VELMOLIB_EXPORT FilterFactory
 {
 public:
     /// A new filter with the given parameters (AbstractFilter::setParams), owned by the caller, or
     /// null for an unknown name.
     static AbstractFilter* createFilter(const QString& name, const QVariantMap& params);
+
+    /// New filters, owned by the caller, that the process's configuration (AcceptorSettings)
+    /// implies, in the order in which the service asks them. It is read without a lock, as with
+    /// the getters of AcceptorSettings.
+    static QList<AbstractFilter*> createFilters();
+
+    /// The same of a configuration that need not be the process's: the accept filter, an attempts
+    /// filter for each limit in the order of the limits, and the session sum filter when
+    /// @p maxSumm is above 0, since 0 means no limit. A number that is beyond what the filter
+    /// holds becomes the nearest that it does: 127 attempts, a sum of 2147483647.
+    static QList<AbstractFilter*>
+    createFilters(bool acceptAll, const QList<AcceptorAttemptFilterItem>& limits, qint64 maxSumm);
 
     /// The names of all filters, in a fixed order.
     static QStringList getFilters();

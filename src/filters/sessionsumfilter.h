@@ -7,14 +7,14 @@
 
 /// Caps the sum of a session: refuses a note that would take the session above the maximum. The
 /// sum of session and note wraps around at 32 bits.
-///
-/// Properties: sessionSum, the maximum, which itself may be reached (0).
 class VELMOLIB_EXPORT SessionSumFilter : public AbstractFilter
 {
     Q_OBJECT
+    /// The maximum, which itself may be reached; 0 until set.
     Q_PROPERTY(int sessionSum MEMBER m_sessionSum WRITE setSessionSum)
 
 public:
+    /// Sets the property sessionSum; any number is kept.
     void setSessionSum(int maximum);
 
     FilterResult validate() override;

@@ -18,17 +18,20 @@ namespace acceptorSettings {
 /// One setting: a value of any type under a group and a name.
 struct VELMOLIB_EXPORT SettingsItem
 {
-    SettingsItem() = default;
+    SettingsItem() = default; ///< an invalid value under empty names
+
+    /// Takes the three as they are.
     SettingsItem(QString groupName, QString settingName, QVariant settingValue);
 
     QString group; ///< plain ("ccnet") or of one device ("device2/ccnet")
-    QString name;
-    QVariant value;
+    QString name; ///< the setting within its group
+    QVariant value; ///< with the type that it came with
 };
 
 /// The acceptor service's settings as a client keeps them: a flat list with built-in defaults for
 /// what it does not hold.
 ///
+/// A function that takes a device works on the device's group, getDeviceGroupName().
 /// Entries keep their order. Two entries may have the same group and name; lookups find the first.
 /// Groups and names are compared with case. Every lookup walks the list; there is no lock, so that
 /// the calls on one manager come from one thread at a time.
@@ -124,6 +127,7 @@ public:
     QVariant getValue(int device, const QString& group, const QString& name,
                       bool* usedDefault = nullptr) const;
 
+    /// Whether there is an entry of that group and name; defaults do not count.
     bool isExists(const QString& group, const QString& name) const;
     bool isExists(int device, const QString& group, const QString& name) const;
 
@@ -134,6 +138,7 @@ public:
     /// Removes every entry; isLoaded() stays.
     void clear();
 
+    /// The number of entries, those of the same group and name included.
     int count() const;
 
     /// Whether load() was ever called.

@@ -334,6 +334,11 @@ int settingsFiltersCommand(const Arguments& arguments)
 {
     const ArrayFile file = readSettings(arguments.operands().constFirst());
     const FilterSet filters = filterSetOf(file, ListKind::Settings);
+    // The settings that imply filters stand in this group.
+    for (const SettingsFinding& finding : checkSettings(file)) {
+        if (finding.path.startsWith(S::ACCEPTOR_COMMON_SECTION + QLatin1Char('/')))
+            printError(finding.line(file));
+    }
     if (!arguments.isSet(options::json)) {
         const QStringList rules = filters.rules();
         print(rules.join(QLatin1Char('\n')) + QLatin1Char('\n'));
