@@ -25,7 +25,7 @@ done
 version=$(pkg-config --modversion "$root"/usr/lib/*/pkgconfig/velmolib.pc)
 [[ $(dpkg-parsechangelog -l "$1/debian/changelog" -S Version) == "$version"-* ]] \
     || fail "debian/changelog does not begin with $version"
-[ "$(grep -m 1 '^## ' "$1/CHANGELOG.md")" = "## $version" ] \
+[[ $(grep -m 1 '^## ' "$1/CHANGELOG.md") == "## $version,"* ]] \
     || fail "CHANGELOG.md does not begin with $version"
 shared=$(sort "$root/files" | uniq -d)
 [ -z "$shared" ] || fail "in two packages: $shared"
