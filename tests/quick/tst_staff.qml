@@ -46,7 +46,8 @@ TestCase {
 
     function publish(state, published) {
         state.take(JSON.stringify(published), new Date());
-        wait(20);
+        for (let turn = 0; turn < 3; ++turn)
+            wait(10); // until it is shown, however long a turn of the event loop takes
     }
 
     function device(more) {
