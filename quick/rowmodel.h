@@ -10,7 +10,7 @@
 
 /// A list for views: rows of values, a value for each role. When it is given other rows, it
 /// removes, inserts, moves and changes only those that differ, so that views animate and keep their
-/// place.
+/// place. It belongs to the object that has it.
 class RowModel : public QAbstractListModel
 {
     Q_OBJECT

@@ -57,54 +57,66 @@ class ServiceState : public QObject
     /// of service" while the service is not available.
     Q_PROPERTY(QString paymentText READ paymentText NOTIFY paymentTextChanged)
 
-    /// The same of those devices alone that work: it invites nobody to pay at one that does not.
-    /// "Pay by card" when only a terminal works, "Out of service" when nothing does.
+    /// What paymentText would be with those devices alone that work: it invites nobody to pay at
+    /// one that does not. "Pay by card" when only a terminal works, "Out of service" when nothing
+    /// does.
     Q_PROPERTY(QString customerText READ customerText NOTIFY customerTextChanged)
 
-    /// AcceptorState::isAcceptingAllowed(), and false while the service is not available.
+    /// AcceptorState::isAcceptingAllowed(); false while the service is not available.
     Q_PROPERTY(bool acceptingAllowed READ isAcceptingAllowed NOTIFY acceptingAllowedChanged)
 
-    /// Why it is not, a sentence for each reason; empty exactly when it is.
+    /// Why acceptingAllowed is false, a sentence for each reason; empty exactly when it is true.
     Q_PROPERTY(QStringList reasons READ reasons NOTIFY reasonsChanged)
 
-    /// Whether some device takes notes, coins or cards at this moment; none of them while one is
-    /// busy with money, since the customer is to wait then.
+    /// Whether some device takes notes at this moment. While one is busy with money none does,
+    /// since the customer is to wait then.
     Q_PROPERTY(bool noteAccepted READ isNoteAccepted NOTIFY noteAcceptedChanged)
+
+    /// The same of coins.
     Q_PROPERTY(bool coinAccepted READ isCoinAccepted NOTIFY coinAcceptedChanged)
+
+    /// The same of cards.
     Q_PROPERTY(bool cardAccepted READ isCardAccepted NOTIFY cardAcceptedChanged)
 
     /// Whether some device could take money: it is enabled and nothing is the matter with it.
     Q_PROPERTY(bool inService READ isInService NOTIFY inServiceChanged)
 
-    /// What all devices took in the current session, in the unit of the service.
+    /// What all devices took in the current session, in the unit of the service; moneyText() writes
+    /// it for people.
     Q_PROPERTY(double sessionSum READ sessionSum NOTIFY sessionSumChanged)
 
-    /// What is to be paid; 0, initially, for any sum.
+    /// What is to be paid, in the unit of the service; 0, initially, for any sum.
     Q_PROPERTY(double price READ price WRITE setPrice NOTIFY priceChanged)
 
-    /// Whether the price is paid, what is left of it, and what is paid above it; without a price
-    /// false and 0.
+    /// Whether the session's sum reaches the price; false without a price.
     Q_PROPERTY(bool paid READ isPaid NOTIFY paidChanged)
+
+    /// What is left to pay of the price; 0 without one.
     Q_PROPERTY(double left READ left NOTIFY leftChanged)
+
+    /// What is paid above the price; 0 without one.
     Q_PROPERTY(double change READ change NOTIFY changeChanged)
 
-    /// What becomes of that: "none" where the kiosk gives no change, "paid" where it is paid out,
+    /// What becomes of change: "none" where the kiosk gives no change, "paid" where it is paid out,
     /// "credited" where it stays on the customer's account; empty when the service does not say.
     Q_PROPERTY(QString changeMode READ changeMode NOTIFY changeModeChanged)
 
-    /// The currency's code, and how many digits of an amount stand after the point, as the service
-    /// publishes them; empty and 0 where it does not.
+    /// The currency's code, such as "RUB", as the service publishes it; empty where it does not.
     Q_PROPERTY(QString currency READ currency NOTIFY currencyChanged)
+
+    /// How many digits of an amount stand after the point, as the service publishes it: with 2, an
+    /// amount of 1000 is written "10.00". 0 where the service does not say.
     Q_PROPERTY(int digits READ digits NOTIFY digitsChanged)
 
-    /// Whether the service confirmed that the whole sum is stored and outlives it.
+    /// Whether the service confirmed that all of sessionSum is stored and outlives it.
     Q_PROPERTY(bool sumRecorded READ isSumRecorded NOTIFY sumRecordedChanged)
 
     /// What was told as paid before the service was lost and is not in the sum that came back; 0
     /// for nothing, and where the price was paid before and the service had not said that it had
-    /// stored less. It stays until the sum is back, or settleLoss(). lostSumRecorded: whether the
-    /// service had confirmed it as stored.
+    /// stored less. It stays until the sum is back, or settleLoss().
     Q_PROPERTY(double lostSum READ lostSum NOTIFY lostSumChanged)
+
+    /// Whether the service had confirmed that all of lostSum is stored.
     Q_PROPERTY(bool lostSumRecorded READ isLostSumRecorded NOTIFY lostSumRecordedChanged)
 
     /// Notes and coins whose end is not told, oldest first: in a device's hand, stuck in it, or
@@ -115,12 +127,14 @@ class ServiceState : public QObject
     /// tells its end, or settle().
     Q_PROPERTY(RowModel* openNotes READ openNotes CONSTANT)
 
-    /// Whether one of them is stuck or lost, or lostSum is not 0.
+    /// Whether one of openNotes is stuck or lost, or lostSum is not 0.
     Q_PROPERTY(bool hasStuckMoney READ hasStuckMoney NOTIFY hasStuckMoneyChanged)
 
     /// What became of the note or coin that was inserted last, in words for the customer: empty
     /// when there is nothing to tell. The service may publish which filter refuses it.
     Q_PROPERTY(QString lastNoteText READ lastNoteText NOTIFY lastNoteTextChanged)
+
+    /// The same as a value, for an icon or a colour.
     Q_PROPERTY(NoteOutcome lastNoteOutcome READ lastNoteOutcome NOTIFY lastNoteOutcomeChanged)
 
     /// AcceptorState::systemStatusDescr(): the report for engineers.
@@ -146,14 +160,15 @@ class ServiceState : public QObject
     Q_PROPERTY(RowModel* worstFaults READ worstFaults CONSTANT)
 
 public:
+    /// What became of a note or coin.
     enum NoteOutcome : qint32 {
-        NoNote = NoteWatch::None,
-        NoteChecked = NoteWatch::Checked,
-        NoteTaken = NoteWatch::Taken,
-        NoteRefused = NoteWatch::Refused,
-        NoteRejected = NoteWatch::Rejected,
-        NoteReturned = NoteWatch::Returned,
-        NoteStuck = NoteWatch::Stuck,
+        NoNote = NoteWatch::None, ///< there is nothing to tell
+        NoteChecked = NoteWatch::Checked, ///< a device has it in hand
+        NoteTaken = NoteWatch::Taken, ///< it is in the sum
+        NoteRefused = NoteWatch::Refused, ///< a filter of the service refuses it: it comes back
+        NoteRejected = NoteWatch::Rejected, ///< the device does not take it: it comes back
+        NoteReturned = NoteWatch::Returned, ///< the device gave it back
+        NoteStuck = NoteWatch::Stuck, ///< the device failed while it had it in hand
         NoteLost = NoteWatch::Lost ///< service or device went away with it and do not say its end
     };
     Q_ENUM(NoteOutcome)
@@ -203,15 +218,18 @@ public:
     RowModel* openNotes() { return &m_openNotes; }
     RowModel* worstFaults() { return &m_worstFaults; }
 
-    /// Takes the text and its time at once.
+    /// Takes what the bus delivered: text and timestamp at once. One that says the same counts too,
+    /// against stale.
     Q_INVOKABLE void take(const QString& text, const QDateTime& timestamp);
 
     /// An amount as people read it, with the currency where that is known.
     /// @param value in the unit of the service
     Q_INVOKABLE QString moneyText(double value) const;
 
-    /// The staff says that an open note is settled. Of one that the service has an incident for
-    /// settleWanted() tells, and it stays as long as the service says that it is open.
+    /// The staff says that a note is settled which is stuck or lost; of another one nothing
+    /// changes. Of one that the service has an incident for settleWanted() tells, and it stays as
+    /// long as the service says that it is open.
+    /// @param noteId that of its row in openNotes
     Q_INVOKABLE void settle(double noteId);
 
     /// The staff says that the lost sum is settled.
@@ -227,7 +245,7 @@ Q_SIGNALS:
     void noteEvent(int outcome, double value, const QString& currency, const QString& device,
                    const QString& text);
 
-    /// The service is to be told that an incident of its is settled.
+    /// The program is to tell the service that an incident of its is settled.
     void settleWanted(const QString& incident);
 
     void staleAfterChanged();

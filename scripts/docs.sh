@@ -2,21 +2,22 @@
 # SPDX-FileCopyrightText: 2026 velmolib maintainers
 # SPDX-License-Identifier: MIT
 
-# Installs what is missing and builds the reference of the public interface in build/docs. A public member
-# of an installed header that has no comment ends it with an error and its place.
+# Installs what is missing and builds the reference of the library and of the QML modules in build/docs. A
+# public member that has no comment ends it with an error that names it. Arguments are settings of Doxygen, such
+# as WARN_AS_ERROR=NO.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
 
 require_packages doxygen graphviz
-mkdir -p build/docs
-{
-    cat docs/Doxyfile
-    echo INPUT = docs src platform
-    echo WARN_IF_UNDOCUMENTED = YES
-    echo GENERATE_HTML = NO
-    echo GENERATE_XML = YES
-} | doxygen -
-doxygen docs/Doxyfile
+rm -rf build/docs
+mkdir -p build/docs/qml
+types=$(grep -lE '^ +QML_(ELEMENT|ANONYMOUS)$' quick/*.h)
+controls=$(sed -n '/^internal/d; s|.* \(.*\.qml\)$|quick/controls/\1|p' quick/controls/qmldir)
+for file in $types $controls; do
+    name=${file##*/}
+    awk -f docs/qml.awk "$file" > "build/docs/qml/${name%.*}.qml"
+done
+(cat docs/Doxyfile; printf '%s\n' "$@") | doxygen -
 
 echo "The start page is build/docs/html/index.html"

@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 
 # Installs what is missing, builds and shows every control of the QML module Velmolib.Controls in every state.
-# --screenshots FOLDER writes pictures of all of them instead, in both languages and the sizes of four screens,
+# --screenshots FOLDER writes pictures of all of them instead, in every language and the sizes of four screens,
 # and needs no screen itself; --only WORD takes those pages alone whose name has the word. PRESET is the preset to
 # build, dev-qt6 for one.
 set -euo pipefail

@@ -56,6 +56,9 @@ velmo=$prefix/bin/velmo
 
 "$velmo" report - --lang ru < states > shown
 grep -qx 'Внесите купюры' shown || fail "velmo shows: $(cat shown)"
+for folder in "$source_dir"/translations/*/; do
+    "$velmo" report - --lang "$(basename "$folder")" < states > /dev/null || fail "$folder is not installed"
+done
 "$velmo" --version | grep -q "^velmo $(pkg-config --modversion $package) (library built 2" \
     || fail "$("$velmo" --version)"
 bash -n "$prefix"/share/bash-completion/completions/velmo

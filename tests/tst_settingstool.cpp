@@ -654,6 +654,7 @@ private Q_SLOTS:
             {"group":"acceptor_common","key":"attempts_filter_settings","value":"[{\u0022denom\u0022:1}]"} | reads as "[{"attempts":"1","denom":"1"}]"
             {"group":"acceptor_common","key":"attempts_filter_settings","value":"[{\u0022denom\u0022:1,\u0022attempts\u0022:127}]"} |
             {"group":"acceptor_common","key":"attempts_filter_settings","value":"[{\u0022denom\u0022:5,\u0022attempts\u0022:128}]"} | error: acceptor_common/attempts_filter_settings: the filter cannot hold 128 attempts ("denom" 5): it takes 127
+            {"group":"acceptor_common","key":"attempts_filter_settings","value":"[{\u0022denom\u0022:5,\u0022attempts\u0022:128},{}]"} | the filter cannot hold 128 attempts
             {"group":"acceptor_common","key":"maxSumm","value":5000000000}           | warning: acceptor_common/maxSumm: the filter cannot hold the sum 5000000000: it takes 2147483647
             {"group":"acceptor_common","key":"maxSumm","value":5,"value":3}          | error: acceptor_common/maxSumm: has "value" more than once
             {"group":"acceptor_common","key":"maxSumm","\u0076alue":5,"value":5}     | error: acceptor_common/maxSumm: has "value" more than once
@@ -797,6 +798,11 @@ private Q_SLOTS:
         QVERIFY2(shown.err.contains("200 attempts (\"denom\" 1): it takes 127"_s)
                      && shown.err.contains("the sum 5000000000: it takes 2147483647"_s),
                  qPrintable(shown.err));
+        // One that is not above 0 refuses the note whatever happened before.
+        velmo({"settings"_s, "set"_s, m_list, "-f"_s,
+               R"(acceptor_common/attempts_filter_settings=[{"denom":1,"attempts":-3}])"_s});
+        QVERIFY(velmo({"settings"_s, "filters"_s, m_list})
+                    .out.contains("No attempts at all are allowed for 1.\n"_s));
     }
 
 private:

@@ -161,29 +161,29 @@ private:
             return report(level, index, element.path(),
                           Diagnosis::tr("has no text or number: reads as \"%1\"").arg(read));
         }
-        if (setting.accepts(text)) {
-            if (setting.kind() == SettingDescription::AttemptsLimits)
-                checkLimits(index, element, level);
-            else if (setting.key() == S::MAX_SUMM)
-                checkSum(index, element);
-            return;
+        if (!setting.accepts(text)) {
+            QString fault =
+                Diagnosis::tr("\"%1\" is %2").arg(shortened(text), faultOf(setting, text));
+            if (read != text)
+                fault += Diagnosis::tr(": reads as \"%1\"").arg(shortened(read));
+            report(level, index, element.path(), fault);
         }
-        QString fault = Diagnosis::tr("\"%1\" is %2").arg(shortened(text), faultOf(setting, text));
-        if (read != text)
-            fault += Diagnosis::tr(": reads as \"%1\"").arg(shortened(read));
-        report(level, index, element.path(), fault);
+        if (setting.kind() == SettingDescription::AttemptsLimits)
+            checkLimits(index, read, level);
+        else if (setting.key() == S::MAX_SUMM)
+            checkSum(index, read);
     }
 
     // The filters have fewer bits than the settings.
-    void checkLimits(int index, const SettingsList::Element& element, Finding::Level level)
+    void checkLimits(int index, const QString& read, Finding::Level level)
     {
-        const QVariantList limits = JsonReader::readList(element.text());
+        const QVariantList limits = JsonReader::readList(read);
         for (const QVariant& map : limits) {
             AcceptorAttemptFilterItem limit;
             limit.loadFromMap(map.toMap());
             const int held = heldByLast("attempts", {limit}, 0);
             if (held != limit.attempts()) {
-                report(level, index, element.path(),
+                report(level, index, m_list.elements().at(index).path(),
                        Diagnosis::tr("the filter cannot hold %1 attempts (\"denom\" %2): it takes "
                                      "%3")
                            .arg(QString::number(limit.attempts()), QString::number(limit.denom()),
@@ -192,14 +192,14 @@ private:
         }
     }
 
-    void checkSum(int index, const SettingsList::Element& element)
+    void checkSum(int index, const QString& read)
     {
-        const qint64 sum = element.text().toLongLong();
+        const qint64 sum = read.toLongLong();
         if (sum <= 0)
             return; // no filter
         const int held = heldByLast("sessionSum", {}, sum);
         if (held != sum) {
-            report(Finding::Warning, index, element.path(),
+            report(Finding::Warning, index, m_list.elements().at(index).path(),
                    Diagnosis::tr("the filter cannot hold the sum %1: it takes %2")
                        .arg(QString::number(sum), QString::number(held)));
         }

@@ -8,6 +8,7 @@
 #include <palx/appversionmanager.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QHash>
 #include <QLocale>
 #include <QTranslator>
@@ -32,6 +33,15 @@ QString Diagnosis::tr(const char* text, const char* disambiguation, int n)
     return translation;
 }
 
+QStringList translationLanguages(const QString& folder)
+{
+    const QStringList files = QDir(folder).entryList({QStringLiteral("velmolib_*.qm")});
+    QStringList languages;
+    for (const QString& file : files)
+        languages += file.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0);
+    return languages;
+}
+
 void loadTranslations(const QString& folder, const QStringList& own, const QString& language)
 {
     QStringList components = palx::AppVersionManager::localisations();
@@ -48,7 +58,9 @@ void loadTranslations(const QString& folder, const QStringList& own, const QStri
         if (isLoaded)
             anyLoaded = QCoreApplication::installTranslator(translator.release()) || anyLoaded;
     }
-    if (!anyLoaded && !language.isEmpty())
-        throw Fault{Diagnosis::tr("no translations for language \"%1\"").arg(language)};
+    if (!anyLoaded && !language.isEmpty()) {
+        throw Fault{Diagnosis::tr("no translations for language \"%1\"; there are: %2")
+                        .arg(language, translationLanguages(folder).join(QStringLiteral(", ")))};
+    }
     isLanguageKept = true;
 }

@@ -14,6 +14,9 @@ public:
     static QString tr(const char* text, const char* disambiguation = nullptr, int n = -1);
 };
 
+/// The languages that a folder has the library's translations into, by their codes.
+QStringList translationLanguages(const QString& folder);
+
 /// Installs the translations of a program: those of the library, of what is diagnosed, and its own.
 /// English is loaded too: it has the plurals, and mends what is misspelt in the library. Throws
 /// Fault for a language that is asked for and that there is nothing of. The language stays from

@@ -26,12 +26,21 @@ QString acceptRule(const AbstractFilter& filter)
         : Diagnosis::tr("Every note is refused.");
 }
 
+QString noAttempts(int note)
+{
+    return Diagnosis::tr("No attempts at all are allowed for %1.").arg(note);
+}
+
 QString attemptsRule(const AbstractFilter& filter)
 {
+    const int attempts = param(filter, "attempts");
+    const int note = param(filter, "denom");
+    if (attempts <= 0)
+        return noAttempts(note);
     return Diagnosis::tr("A note of %1 is refused once notes were rejected %n times, until a note "
                          "is stacked or the session ends.",
-                         nullptr, param(filter, "attempts"))
-        .arg(param(filter, "denom"));
+                         nullptr, attempts)
+        .arg(note);
 }
 
 QString countRule(const AbstractFilter& filter)
@@ -105,9 +114,9 @@ Finding findSwitch(const RefusedSession& /*session*/)
 
 Finding findAttempts(const RefusedSession& session)
 {
-    const QString note = QString::number(session.newest.currentNote);
     if (session.limit <= 0)
-        return {{}, Diagnosis::tr("No attempts at all are allowed for %1.").arg(note)};
+        return {{}, noAttempts(session.newest.currentNote)};
+    const QString note = QString::number(session.newest.currentNote);
     const QVector<qint64> found = enough(session);
     const int count = session.count.total;
     const qint64 since = session.count.since;

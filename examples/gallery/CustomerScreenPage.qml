@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick 2.15
+import Kiosk 1.0
 import Velmolib.Controls 5.0
 import "../kiosk/screen"
 
@@ -18,6 +19,7 @@ Rectangle {
         id: screen
         anchors.fill: parent
         contact: "8 800 200-00-00"
+        languages: Language.all
         language: service ? service.locale : ""
     }
 }

@@ -3,6 +3,7 @@
 
 import QtQuick 2.15
 import QtQuick.Window 2.15
+import Kiosk 1.0
 import Velmolib.Controls 5.0
 
 // A page for each control, with all its states below each other; with a folder it takes pictures of all pages
@@ -43,9 +44,8 @@ Window {
     title: "Velmolib.Controls"
     color: KioskTheme.ground
 
-    onLanguageChanged: gallery.speak(language)
+    onLanguageChanged: Language.current = language
     Component.onCompleted: {
-        gallery.speak(language);
         if (folder !== "")
             takePictures();
     }
@@ -65,7 +65,7 @@ Window {
         KioskTheme.motion = false;
         const list = [];
         for (const size of sizes)
-            for (const language of ["en", "ru"])
+            for (const {code: language} of Language.all)
                 for (const page of pages)
                     for (const mode of size === sizes[0] ? ["", "-large", "-contrast"] : [""])
                         list.push({size: size, language: language, page: page, mode: mode,
@@ -131,9 +131,10 @@ Window {
                 onClicked: window.page = text
             }
         }
-        KioskKey {
-            text: window.language === "en" ? "Русский" : "English"
-            onClicked: window.language = window.language === "en" ? "ru" : "en"
+        LanguageKey {
+            languages: Language.all
+            current: window.language
+            onChosen: code => window.language = code
         }
         KioskKey {
             text: "Large text"

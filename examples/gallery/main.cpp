@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "gallery.h"
+#include "screen/language.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -10,6 +11,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QQmlApplicationEngine>
+#include <QtQml>
 #include <QUrl>
 #include <QVariantMap>
 
@@ -72,7 +74,9 @@ int main(int argc, char* argv[])
 
     QQmlApplicationEngine engine;
     Gallery gallery;
-    QObject::connect(&gallery, &Gallery::spoken, &engine, &QQmlEngine::retranslate);
+    Language language(QStringLiteral("en"));
+    QObject::connect(&language, &Language::currentChanged, &engine, &QQmlEngine::retranslate);
+    qmlRegisterSingletonInstance("Kiosk", 1, 0, "Language", &language);
     QObject::connect(&engine, &QQmlEngine::exit, &app, &QCoreApplication::exit);
     engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../qml"));
     engine.setInitialProperties({

@@ -19,9 +19,13 @@ Column {
     /// The "places" of a device's published content; takes precedence over the registry unless null.
     property var places: null
 
+    /// The colour of texts and lines.
     property color ink: KioskTheme.ink
 
+    // Whether it shows places, not the registry.
     readonly property bool isLedger: places !== null && places !== undefined
+
+    /// How many lines there are besides the head; without any it is not visible.
     readonly property int count: kept.count
 
     // What the lines say; a binding follows whatever it is made of, the language too.
@@ -35,8 +39,10 @@ Column {
     readonly property real spare: (width - needs.reduce((sum, need) => sum + need)) / (isLedger ? 2 : 3)
     readonly property bool isNarrow: spare < KioskTheme.gap
 
+    /// What numbers are written by.
     readonly property var locale: service ? Qt.locale(service.locale) : Qt.locale()
 
+    /// A number as people read it; "?" for what is none.
     function numberText(value: real): string {
         return isFinite(value) ? value.toLocaleString(locale, "f", 0) : "?";
     }
@@ -74,6 +80,7 @@ Column {
         };
     }
 
+    // A row of the model has what it is to have.
     function registryLine(row) {
         return {
             "place": (row.isCoin ? qsTr("Hopper %1") : qsTr("Cassette %1")).arg(row.channel),

@@ -22,6 +22,7 @@ Rectangle {
     /// Whether what the card says may be over: the service is silent.
     property bool dimmed: false
 
+    // Whether the name tells the model.
     readonly property bool isNamed: entry.name.includes(entry.modelName)
     readonly property string statusLine: !entry.enabled ? qsTr("switched off")
         : entry.statusText + (entry.description === "" ? "" : ": " + entry.description)
@@ -33,6 +34,7 @@ Rectangle {
                                  : kind === "bad" ? KioskTheme.bad : ink
     readonly property color ink: dimmed ? KioskTheme.quiet : KioskTheme.ink
 
+    // A line for each kind of piece that the ledger says is stuck, or on its way.
     function pieceLines(isStuck: bool): string {
         const pieces = content && content.pieces ? Array.from(content.pieces) : [];
         return pieces.filter(piece => piece && piece.stuck === isStuck).map(piece => {

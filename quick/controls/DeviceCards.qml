@@ -10,17 +10,21 @@ import Velmolib 5.0
 KioskPage {
     id: page
 
+    /// Whose devices are shown; it has to be set.
     property ServiceState service
 
-    /// How many devices something is wrong with.
+    /// How many devices something is wrong with; it is set here.
     property int faulty: 0
 
+    /// How many devices there are.
     readonly property int count: cells.count
 
+    // Where the cards are.
     readonly property int columns: Math.max(1, Math.floor(width / (120 * KioskTheme.density)))
     readonly property real gap: KioskTheme.gap / 2
     readonly property real step: (width - gap) / columns
 
+    // The published content of the devices.
     property var contents: []
 
     // Read a few times in a second, however fast states follow each other.

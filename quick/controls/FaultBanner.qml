@@ -9,22 +9,28 @@ import Velmolib 5.0
 Notice {
     id: banner
 
+    /// Whose faults are shown; null is as silent as a service that is lost.
     property ServiceState service: null
 
-    /// The row of the worst fault; without roles while there is none.
+    /// The row of ServiceState.worstFaults that is shown; without roles while there is none. It is set here.
     property var worst: ({})
+
+    /// How many other faults there are; it is set here.
     property int others: 0
 
+    // Whether nobody says that anything works.
     readonly property bool isSilent: !service || !service.available || service.stale
                                      || service.devices.count === 0
     readonly property bool isFaulty: worst.text !== undefined
 
+    // Follows the model.
     function look() {
         const faults = service ? service.worstFaults : null;
         worst = faults && faults.count > 0 ? faults.get(0) : {};
         others = faults ? Math.max(0, faults.count - 1) : 0;
     }
 
+    // What there is to say in either case.
     readonly property string reasons: service ? Array.from(service.reasons).join("\n") : ""
     readonly property string fault: isFaulty ? worst.deviceName + ": " + worst.text : ""
 

@@ -12,8 +12,10 @@ Item {
     /// "lampOn" or "lampOff"; nothing is drawn for others.
     property string kind: ""
 
+    /// Of its lines.
     property color color: KioskTheme.ink
 
+    // What each kind is drawn by, in a square of 24.
     readonly property var paths: ({
         "good": "M 4 13 L 10 19 L 20 6",
         "bad": "M 5 5 L 19 19 M 19 5 L 5 19",

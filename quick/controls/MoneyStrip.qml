@@ -9,11 +9,13 @@ import Velmolib 5.0
 Rectangle {
     id: strip
 
+    /// Whose sums are shown; it has to be set.
     property ServiceState service
 
     /// Whom to call; empty when nobody can be called.
     property string contact: ""
 
+    // Whom to call, in words.
     readonly property string help: contact === "" ? "" : qsTr("Help: %1").arg(contact)
 
     // As text, again when the way it is written changes.
@@ -29,6 +31,7 @@ Rectangle {
     // What a service that is lost would do with it, nobody can promise.
     readonly property bool away: !service.available || service.stale
 
+    // What becomes of what is paid above the price.
     readonly property string changeText: service.change <= 0 ? ""
         : qsTr("You have paid %1 too much.").arg(strip.money(service.change)) + " "
           + (({"none": qsTr("This kiosk gives no change. Please call the staff."),
@@ -36,11 +39,13 @@ Rectangle {
                "credited": qsTr("It stays on your account.")})[away && service.changeMode !== "none" ? "" : service.changeMode]
              || qsTr("Please ask the staff for your change."))
 
+    // What is missing since the service was lost.
     readonly property string lostText: service.lostSum <= 0 ? ""
         : qsTr("Before a fault you had paid %1 more. It is missing from the sum now.").arg(strip.money(service.lostSum))
           + " " + (service.lostSumRecorded ? qsTr("It is recorded. Please call the staff.")
                                            : qsTr("Please call the staff."))
 
+    // The largest sum: what is left to pay, else what is paid.
     readonly property string figure: money(service.price > 0 && !service.paid ? service.left
                                                                                           : service.sessionSum)
 

@@ -10,6 +10,7 @@ import Velmolib 5.0
 Column {
     id: banner
 
+    /// Whose notes and coins are shown; it has to be set.
     property ServiceState service
 
     /// Whom to call; empty when nobody can be called.
@@ -24,6 +25,7 @@ Column {
     // Nobody checks anything then: what is in a device's hand stays there.
     readonly property bool away: !service.available || service.stale
 
+    // What is shown: what a device checks, and what is stuck or lost.
     readonly property var inHand: open.rows.filter(note => !away && note.outcome === ServiceState.NoteChecked)
     readonly property var stuck: open.rows.filter(note => !inHand.includes(note)).reverse() // the newest first
     property real sum: 0 // that of the session

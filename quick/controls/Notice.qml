@@ -10,16 +10,19 @@ Rectangle {
     /// "good", "warn", "bad" or "info": which colours it has, and the sign.
     property string kind: "info"
 
-    /// The KioskIcon before the text.
+    /// The KioskIcon before the text; initially the one of its kind.
     property string sign: kind === "bad" ? "warn" : kind
 
+    /// The sentence.
     property string text: ""
 
-    /// In lines below the text.
+    /// What there is to know beside it, in lines below it; empty for nothing.
     property string detail: ""
 
+    /// That of the letters of the sentence, in pixels.
     property int size: KioskTheme.medium
 
+    // Of frame, sign and sentence.
     readonly property color front: kind === "good" ? KioskTheme.good : kind === "warn" ? KioskTheme.warn
                                  : kind === "bad" ? KioskTheme.bad : KioskTheme.ink
 

@@ -10,6 +10,7 @@ import Velmolib 5.0
 Column {
     id: list
 
+    /// Whose money is shown and settled; it has to be set.
     property ServiceState service
 
     /// The number of an incident that the service would not take as settled; empty for none.

@@ -9,6 +9,7 @@ import Velmolib 5.0
 Item {
     id: prompt
 
+    /// Whose customer is spoken to; it has to be set.
     property ServiceState service
 
     /// Whom to call, such as "8 800 200-00-00, day and night"; empty when nobody can be called.
@@ -26,6 +27,7 @@ Item {
                                    : service.noteAccepted || service.coinAccepted || service.cardAccepted ? "invite"
                                    : limit.passed ? "late" : "wait"
 
+    // Whom to call, in words.
     readonly property string help: contact === "" ? "" : qsTr("Help: %1").arg(contact)
 
     // Money of the customer's may be inside.
@@ -35,6 +37,7 @@ Item {
     // Whether nobody can say any more that what is paid was heard of.
     readonly property bool unheard: owes && (!service.available || service.stale)
 
+    // What to do where nothing is accepted, in lines.
     readonly property string advice: {
         if (mode === "paid")
             return service.hasStuckMoney || unheard ? qsTr("Please call the staff before you leave.") : "";
@@ -49,6 +52,7 @@ Item {
     /// Below this height something is cut off.
     readonly property real bareHeight: sentence + (advice === "" ? 0 : between + adviceText.height)
 
+    // Where the sentence and the pictures are, and how large.
     readonly property real between: KioskTheme.gap * (tall ? 2 : 0.5)
     readonly property int wordSize: KioskTheme.medium * (tall ? 1.3 : 1)
     readonly property real wordRoom: Math.ceil(1.25 * wordSize) + KioskTheme.gap / 2

@@ -9,13 +9,16 @@ import Velmolib 5.0
 FocusScope {
     id: gate
 
+    /// What says whether it is the PIN; without one nothing opens.
     property PinLock lock: null
 
     /// The right PIN was given; once until the gate is used anew.
     signal opened
 
+    /// Who stood there goes away again: the program shows another page.
     signal cancelled
 
+    // Whether a PIN can be typed at all, and not at this moment; how many digits were.
     readonly property bool isReady: lock !== null && lock.ready
     readonly property bool isWaiting: isReady && lock.waitSeconds > 0
     readonly property int count: hidden.digits.length
@@ -27,6 +30,7 @@ FocusScope {
         property bool isOpen: false
     }
 
+    /// Forgets what was typed, as it does when it becomes visible.
     function restart() {
         hidden.digits = "";
         hidden.isWrong = false;
@@ -36,6 +40,7 @@ FocusScope {
         }
     }
 
+    /// Types a digit, as a key of the pad does; nothing during a wait.
     function type(digit: string) {
         if (isReady && !isWaiting && !hidden.isOpen && count < 12) {
             hidden.isWrong = false;
@@ -43,10 +48,12 @@ FocusScope {
         }
     }
 
+    /// Takes back the last digit.
     function erase() {
         hidden.digits = hidden.digits.slice(0, -1);
     }
 
+    /// Tries the PIN that was typed, and says opened() where it is the right one.
     function submit() {
         if (!isReady || isWaiting || hidden.isOpen || count === 0) {
             return;
@@ -59,6 +66,7 @@ FocusScope {
         }
     }
 
+    /// Forgets what was typed, and says cancelled().
     function cancel() {
         hidden.digits = "";
         cancelled();

@@ -10,16 +10,19 @@ import Velmolib 5.0
 Flickable {
     id: form
 
+    /// What is shown and changed; empty while it is null.
     property SettingDescriptions settings: null
 
     /// Whether labels stand beside the fields, for which a narrow form has no room.
     readonly property bool isWide: width > 150 * KioskTheme.density
 
+    /// Moves the form so that the item in it is seen.
     function reveal(item: Item) {
         const top = item.mapToItem(rows, 0, 0).y;
         contentY = Math.max(0, Math.min(contentY, top), Math.min(top, top + item.height - height));
     }
 
+    /// Moves the form by so many of its heights; up below 0.
     function turn(pages: real) {
         contentY = Math.max(0, Math.min(contentHeight - height, contentY + pages * height));
     }

@@ -8,14 +8,17 @@ import Velmolib 5.0
 KioskText {
     id: label
 
+    /// Whose state it is; it has to be set.
     property ServiceState service
 
-    /// In seconds; below 0 when nobody knows.
+    /// How old the state is, in seconds; below 0 when nobody knows. It is set here.
     property int age: -1
 
+    // Whether it may be over, and what it is written by.
     readonly property bool isSilent: !service.available || service.stale
     readonly property var speech: Qt.locale(service.locale)
 
+    // Once for each second.
     function look() {
         const published = service.timestamp.getTime();
         age = isNaN(published) ? -1 : Math.max(0, Math.round((Date.now() - published) / 1000));

@@ -30,15 +30,17 @@ public:
     /// null for an unknown name.
     static AbstractFilter* createFilter(const QString& name, const QVariantMap& params);
 
-    /// New filters, owned by the caller, that the process's configuration (AcceptorSettings)
-    /// implies, in the order in which the service asks them. It is read without a lock, as with
-    /// the getters of AcceptorSettings.
+    /// New filters that the process's configuration (AcceptorSettings) implies, in the order in
+    /// which the service asks them. They are the caller's, who gives them to a FilterChain or
+    /// deletes them, and belong to the calling thread. The configuration is read without a lock:
+    /// the caller sees to it that no other thread changes it meanwhile.
     static QList<AbstractFilter*> createFilters();
 
-    /// The same of a configuration that need not be the process's: the accept filter, an attempts
-    /// filter for each limit in the order of the limits, and the session sum filter when
-    /// @p maxSumm is above 0, since 0 means no limit. A number that is beyond what the filter
-    /// holds becomes the nearest that it does: 127 attempts, a sum of 2147483647.
+    /// The same of a configuration that need not be the process's, so that it may be called from
+    /// any thread: the accept filter, an attempts filter for each limit in the order of the limits,
+    /// and the session sum filter when @p maxSumm is above 0; otherwise there is no limit. Nothing
+    /// fails: a number that is beyond what the filter holds becomes the nearest that it does, -128
+    /// or 127 attempts, a sum of 2147483647.
     static QList<AbstractFilter*>
     createFilters(bool acceptAll, const QList<AcceptorAttemptFilterItem>& limits, qint64 maxSumm);
 

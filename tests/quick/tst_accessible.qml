@@ -53,7 +53,7 @@ TestCase {
     Component {
         id: language
         LanguageKey {
-            languages: [{code: "en", name: "English"}, {code: "ru", name: "По-русски"}]
+            languages: [{code: "en", name: "English"}, {code: "ru", name: "По-русски"}, {code: "de", name: "Deutsch"}]
             current: "en"
             onChosen: code => test.chosen = code
         }
@@ -81,7 +81,7 @@ TestCase {
             {make: gate, tag: "gate", says: ["StaticText: Digits entered: 0", "Button: 1", "Button: Delete", "Button: OK"]},
             {make: form, tag: "form", says: ["Form: Settings", "EditableText: Response time", "AlertMessage: Enter a whole number",
                                              "RadioButton: Interface: tcp"]},
-            {make: language, tag: "language", says: ["Button: По-русски"]}
+            {make: language, tag: "language", says: ["Button: По-русски", "Button: Deutsch"]}
         ];
     }
 

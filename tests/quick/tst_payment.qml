@@ -109,6 +109,9 @@ TestCase {
         return texts(screen).map(item => item.text.replace(/\u00a0/g, " ")).join("\n");
     }
 
+    readonly property var sizes: [[800, 600, 3.8], [1280, 1024, 3.8], [1080, 1920, 2.7], [3840, 2160, 6.4]]
+    readonly property var languages: ["en English", "de Deutsch", "ru Русский", "pt Português", "id Bahasa Indonesia", "uk Українська"]
+        .map(text => ({code: text.slice(0, 2), name: text.slice(3)}))
     readonly property var rubles: ({money: {currency: "RUB", digits: 2}})
 
     function rublesAnd(more) {
@@ -266,6 +269,7 @@ TestCase {
             width: 800
             height: 600
             contact: "8 800 200-00-00"
+            languages: test.languages.slice(0, 3)
             language: "en"
             service: ServiceState {
                 locale: "en_US"
@@ -300,8 +304,43 @@ TestCase {
         Object.assign(KioskTheme, before);
     }
 
+    function test_languageKeysHaveRoom_data() {
+        const rows = [];
+        for (const [width, height, density] of sizes) {
+            for (const largeText of [false, true])
+                for (const count of [2, 3, 6])
+                    rows.push({tag: [count, "at", width, largeText ? "large" : ""].join(" "), width: width, height: height,
+                               density: density, largeText: largeText, count: count});
+        }
+        return rows;
+    }
+
+    function test_languageKeysHaveRoom(row) {
+        const before = {density: KioskTheme.density, scale: KioskTheme.scale, largeText: KioskTheme.largeText};
+        Object.assign(KioskTheme, {density: row.density, largeText: row.largeText,
+                                   scale: Math.min(row.width, row.height) / row.density / 158});
+        const screen = createTemporaryObject(customerComponent, test, {width: row.width, height: row.height,
+                                             languages: test.languages.slice(0, row.count)});
+        take(screen.service, [rubles, {price: 2510}, [[1, "idling"], [100, "idling", 0, 500]]]);
+        wait(60);
+        const keys = visibleItems(screen, []).filter(item => item.objectName === "languageKey");
+        compare(keys.map(key => key.text), test.languages.slice(1, row.count).map(language => language.name));
+        const places = [...keys, ...texts(screen).filter(text => !keys.some(key => key.text === text.text))].map(item => {
+            const corner = item.mapToItem(screen, 0, 0);
+            return {name: item.text, isKey: keys.includes(item), x: corner.x, y: corner.y, right: corner.x + (item.contentWidth || item.width),
+                    bottom: corner.y + item.height};
+        });
+        for (const key of places.filter(place => place.isKey)) {
+            verify(key.right - key.x >= 15 * row.density - 0.5 && key.bottom - key.y >= 15 * row.density - 0.5, key.name);
+            verify(key.x >= 0 && key.y >= 0 && key.right <= row.width && key.bottom <= row.height, key.name);
+            for (const other of places)
+                verify(other === key || key.right <= other.x || other.right <= key.x || key.bottom <= other.y
+                       || other.bottom <= key.y, key.name + " over " + other.name);
+        }
+        Object.assign(KioskTheme, before);
+    }
+
     function test_everythingFits_data() {
-        const sizes = [[800, 600, 3.8], [1280, 1024, 3.8], [1080, 1920, 2.7], [3840, 2160, 6.4]];
         const rows = [];
         for (const [width, height, density] of sizes) {
             for (const largeText of [false, true])

@@ -6,8 +6,6 @@
 #include "text/diagnosis.h"
 #include "text/fault.h"
 
-#include <QDir>
-
 namespace {
 
 // The same place in the build folder and where the program is installed.
@@ -81,10 +79,5 @@ QString loadAskedLanguage(const Option& option)
 
 QStringList translationLanguages()
 {
-    const QStringList files =
-        QDir(translationsFolder()).entryList({QStringLiteral("velmolib_*.qm")});
-    QStringList languages;
-    for (const QString& file : files)
-        languages += file.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0);
-    return languages;
+    return translationLanguages(translationsFolder());
 }

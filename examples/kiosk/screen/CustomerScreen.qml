@@ -12,7 +12,8 @@ FocusScope {
 
     property ServiceState service
     property string contact // whom to call; empty for nobody
-    property alias language: keys.current
+    property alias languages: keys.languages // of which there are keys, and
+    property alias language: keys.current // which is spoken
 
     readonly property bool tall: height > width
 
@@ -31,8 +32,9 @@ FocusScope {
             id: prompt
             tall: screen.tall
             width: screen.tall ? parent.width : keys.x - 2 * KioskTheme.gap
-            height: Math.max(bareHeight, page.height - strip.height - KioskTheme.gap
-                                         - (banner.height > 0 ? banner.height + KioskTheme.gap : 0))
+            height: Math.max(bareHeight, screen.tall ? 0 : keys.height,
+                             page.height - strip.height - KioskTheme.gap
+                             - (banner.height > 0 ? banner.height + KioskTheme.gap : 0))
             service: screen.service
             contact: screen.contact
         }
@@ -62,7 +64,7 @@ FocusScope {
         id: keys
         x: screen.width - width - KioskTheme.gap
         y: screen.tall ? screen.height - height - KioskTheme.gap : KioskTheme.gap
-        languages: [{code: "en", name: "English"}, {code: "ru", name: "Русский"}]
+        columns: screen.tall ? Math.max(1, Math.floor((screen.width - 2 * KioskTheme.gap + spacing) / (keyWidth + spacing))) : 1
         onChosen: code => screen.languageChosen(code)
     }
 }

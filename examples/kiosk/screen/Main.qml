@@ -65,6 +65,7 @@ Window {
         visible: window.page === "customer"
         service: acceptor
         contact: window.contact
+        languages: Language.all
         language: Language.current
         onLanguageChosen: code => Language.current = code
     }

@@ -4,15 +4,42 @@
 #include "language.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFont>
 #include <QFontMetrics>
+#include <QLocale>
 #include <QStandardPaths>
+#include <QVariantMap>
 
 #include <algorithm>
 #include <cstdio>
 #include <utility>
 
-const QStringList Language::LANGUAGES{QStringLiteral("en"), QStringLiteral("ru")};
+namespace {
+
+constexpr char sourceLanguage[] = "en";
+
+// Where the translations are: beside the program, and those of an installed velmolib where the
+// system keeps shared data.
+QStringList translationFolders()
+{
+    return QStringList{QCoreApplication::applicationDirPath() + QStringLiteral("/../share/")
+                       + QStringLiteral(TRANSLATIONS)}
+    + QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, QStringLiteral(TRANSLATIONS),
+                                QStandardPaths::LocateDirectory);
+}
+
+// In the language itself, as on a key.
+QString languageName(const QString& code)
+{
+    if (code == QLatin1String(sourceLanguage))
+        return QStringLiteral("English"); // of no country
+    const QLocale locale(code);
+    QString name = locale.nativeLanguageName();
+    return name.replace(0, 1, locale.toUpper(name.left(1)));
+}
+
+} // namespace
 
 Language::Language(const QString& language, QObject* parent)
     : QObject(parent)
@@ -31,33 +58,54 @@ void Language::setCurrent(const QString& language)
     Q_EMIT currentChanged();
 }
 
+QStringList Language::codes()
+{
+    QStringList codes{QLatin1String(sourceLanguage)};
+    const QStringList folders = translationFolders();
+    for (const QString& folder : folders) {
+        const QStringList files = QDir(folder).entryList({QStringLiteral("kiosk_*.qm")});
+        for (const QString& file : files)
+            codes += file.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0);
+    }
+    codes.removeDuplicates();
+    codes.sort();
+    return codes;
+}
+
+QVariantList Language::all()
+{
+    QVariantList languages;
+    const QStringList all = codes();
+    for (const QString& code : all)
+        languages += QVariantMap{{QStringLiteral("code"), code},
+                                 {QStringLiteral("name"), languageName(code)}};
+    return languages;
+}
+
 void Language::checkFonts()
 {
     const QFontMetrics metrics{QFont()};
-    const std::pair<const char*, QChar> letters[] = {{"Latin", u'A'}, {"Cyrillic", u'\u0416'}};
-    for (const auto& [alphabet, letter] : letters) {
-        if (!metrics.inFont(letter)) {
-            fprintf(
-                stderr,
-                "kioskscreen: no font has %s letters; install one, fonts-dejavu-core for example\n",
-                alphabet);
+    const QStringList all = codes();
+    for (const QString& code : all) {
+        const QString name = languageName(code);
+        if (!std::all_of(name.begin(), name.end(),
+                         [&](QChar letter) { return metrics.inFont(letter); })) {
+            fprintf(stderr,
+                    "kioskscreen: no font has the letters of \"%s\"; install one, "
+                    "fonts-dejavu-core for example\n",
+                    qPrintable(code));
         }
     }
 }
 
-// The translations of the library, of its modules and of the screen itself: from beside the
-// program, and those of an installed velmolib from where the system keeps shared data.
+// The translations of the library, of its modules and of the screen itself.
 void Language::load()
 {
     m_translators.clear();
-    const QStringList folders =
-        QStringList{QCoreApplication::applicationDirPath() + QStringLiteral("/../share/")
-                    + QStringLiteral(TRANSLATIONS)}
-        + QStandardPaths::locateAll(QStandardPaths::GenericDataLocation,
-                                    QStringLiteral(TRANSLATIONS), QStandardPaths::LocateDirectory);
+    const QStringList folders = translationFolders();
     QStringList components{QStringLiteral("velmolib"), QStringLiteral("diagnosis"),
                            QStringLiteral("controls")};
-    if (m_current != QLatin1String("en")) // which the screen's sources are in
+    if (m_current != QLatin1String(sourceLanguage))
         components += QStringLiteral("kiosk");
     for (const QString& component : std::as_const(components)) {
         const QString name = component + QLatin1Char('_') + m_current;

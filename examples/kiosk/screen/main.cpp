@@ -48,7 +48,8 @@ int main(int argc, char* argv[])
                                    QStringLiteral("Display names by device identifier."),
                                    QStringLiteral("NAMES.json"));
     const QCommandLineOption lang(QStringLiteral("lang"),
-                                  QStringLiteral("Language to begin with: en or ru."),
+                                  QStringLiteral("Language to begin with: %1.")
+                                      .arg(Language::codes().join(QStringLiteral(", "))),
                                   QStringLiteral("LANG"), QStringLiteral("en"));
     const QCommandLineOption price(QStringLiteral("price"),
                                    QStringLiteral("What the customer has to pay; 0 for any sum."),
@@ -94,9 +95,10 @@ int main(int argc, char* argv[])
             return 2;
         }
     }
-    if (!Language::LANGUAGES.contains(parser.value(lang))) {
-        fprintf(stderr, "kioskscreen: --lang %s: expected %s\n", qPrintable(parser.value(lang)),
-                qPrintable(Language::LANGUAGES.join(QStringLiteral(" or "))));
+    if (!Language::codes().contains(parser.value(lang))) {
+        fprintf(stderr, "kioskscreen: --lang %s: expected one of %s\n",
+                qPrintable(parser.value(lang)),
+                qPrintable(Language::codes().join(QStringLiteral(", "))));
         return 2;
     }
     Language::checkFonts();

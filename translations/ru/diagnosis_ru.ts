@@ -954,10 +954,6 @@
         <translation>Устройство отказало, монета %1 осталась в нём. Позовите сотрудника.</translation>
     </message>
     <message>
-        <source>no translations for language &quot;%1&quot;</source>
-        <translation>нет переводов для языка «%1»</translation>
-    </message>
-    <message>
         <source>The broker refuses a subscription.</source>
         <translation>Брокер отказал в подписке.</translation>
     </message>
@@ -1893,6 +1889,10 @@
     <message>
         <source>It is not known what became of a customer&apos;s money: %1.</source>
         <translation>Неизвестно, что стало с деньгами клиента: %1.</translation>
+    </message>
+    <message>
+        <source>no translations for language &quot;%1&quot;; there are: %2</source>
+        <translation>нет переводов для языка «%1»; есть: %2</translation>
     </message>
 </context>
 </TS>
