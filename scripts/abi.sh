@@ -11,7 +11,7 @@ cd "$(dirname "$0")/.."
 
 require_packages "${build_packages[@]}" abigail-tools xz-utils
 cmake --preset release
-cmake --build --preset release --target velmolib velmolib_gzip_changelog
+cmake --build --preset release --target velmolib
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cmake --install build/release --prefix "$work/installed" --component development > /dev/null

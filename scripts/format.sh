@@ -10,4 +10,4 @@ cd "$(dirname "$0")/.."
 require_packages clang-format
 mode=-i
 [ "${1:-}" = --check ] && mode='--dry-run --Werror'
-git ls-files '*.cpp' '*.h' | xargs clang-format $mode
+find . -path ./build -prune -o \( -name '*.cpp' -o -name '*.h' \) -print0 | xargs -0 clang-format $mode

@@ -12,7 +12,7 @@ cd "$(dirname "$0")/.."
 
 require_packages "${build_packages[@]}" clang clang-tidy clazy reuse
 reuse lint
-git ls-files '*.qml' | xargs /usr/lib/qt5/bin/qmllint
+find . -path ./build -prune -o -name '*.qml' -print0 | xargs -0 /usr/lib/qt5/bin/qmllint
 cmake --preset tidy
 # The sources are read many at a time, so that Qt's headers are read once for them.
 checks=-bugprone-suspicious-include

@@ -44,4 +44,5 @@ qt6_packages=(qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libqt6sql6-psql 
     qml6-module-qtquick-layouts qml6-module-qtquick-shapes qml6-module-qtquick-templates qml6-module-qtquick-window
     qml6-module-qttest)
 install_packages=(make pkg-config qt5-qmake qmake6)
+package_packages=(debhelper desktop-file-utils devscripts doxygen dpkg-dev file graphviz help2man lintian systemd)
 test_packages=(postgresql)

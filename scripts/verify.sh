@@ -31,14 +31,13 @@ tests/check_cash.py build/release/bin/velmo --histories 10000 --jobs "$(nproc)"
 scripts/abi.sh
 scripts/docs.sh
 
-export SOURCE_DATE_EPOCH
-SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
 scripts/package.sh
 again=$(mktemp -d)
 trap 'rm -rf "$again"' EXIT
 changed=$(git stash create) # nothing when all is committed
-git archive "${changed:-HEAD}" | tar -x -C "$again"
-(umask 077 && TZ=Asia/Tokyo "$again"/scripts/package.sh package) # Qt 6 is built the same way
+scripts/release.sh "${changed:-HEAD}"
+(umask 077 && tar -x -C "$again" --strip-components 1 -f build/source/velmolib-*.tar.xz \
+    && TZ=Asia/Tokyo "$again"/scripts/package.sh --qt5-only) # Qt 6 is built the same way
 for deb in "$again"/build/package/*.deb; do
     cmp "$deb" "build/package/${deb##*/}"
 done

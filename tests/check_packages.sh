@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 
 # Checks the Debian packages of a folder: unpacks them into an empty root, those for Qt 5 and for Qt 6
-# side by side, and uses them from there.
+# side by side, and uses them from there. Then installs them in private roots.
 # Usage: check_packages.sh SOURCE_DIR FOLDER
 set -euo pipefail
 root=$(mktemp -d)
@@ -15,18 +15,17 @@ fail()
     exit 1
 }
 
-lintian --fail-on error --suppress-tags bad-distribution-in-changes-file "$2"/*.deb
-for package in libvelmolib5 libvelmolib-dev libvelmolib-qt6-5 libvelmolib-qt6-dev velmo velmo-fleet \
-        velmo-settings qml-module-velmolib qml6-module-velmolib; do
+lintian --info --pedantic --display-info --fail-on error,warning,info,pedantic "$2"/*.changes
+for package in $(sed -n 's/^Package: //p' "$1/debian/control"); do
     deb=$(ls "$2/${package}_"*.deb)
     dpkg-deb --field "$deb" Package Version Depends
     dpkg-deb --fsys-tarfile "$deb" | tar -t | grep -v '/$' >> "$root/files"
     dpkg-deb --extract "$deb" "$root"
 done
-version=$(dpkg-deb --field "$2"/libvelmolib5_*.deb Version)
-[ "$(dpkg-parsechangelog -l "$1/packaging/changelog" -S Version)" = "$version" ] \
-    || fail "packaging/changelog does not begin with $version"
-[ "$(grep -m 1 '^## ' "$1/CHANGELOG.md")" = "## $version" ] \
+version=$(pkg-config --modversion "$root"/usr/lib/*/pkgconfig/velmolib.pc)
+[[ $(dpkg-parsechangelog -l "$1/debian/changelog" -S Version) == "$version"-* ]] \
+    || fail "debian/changelog does not begin with $version"
+[[ $(grep -m 1 '^## ' "$1/CHANGELOG.md") == "## $version,"* ]] \
     || fail "CHANGELOG.md does not begin with $version"
 shared=$(sort "$root/files" | uniq -d)
 [ -z "$shared" ] || fail "in two packages: $shared"
@@ -44,7 +43,7 @@ help=$(LD_LIBRARY_PATH=$(echo "$root"/usr/lib/*-linux-gnu) LC_ALL=C.UTF-8 \
     "$root"/usr/bin/velmo-fleet --lang ru --help)
 [[ $help == *терминал* ]] || fail "velmo-fleet does not find its texts"
 desktop-file-validate "$root"/usr/share/applications/velmo-settings.desktop
-units=$root/usr/lib/systemd/system
+units=$root/lib/systemd/system
 manual=$(sed -n 's/^Documentation=man:\(.*\)(1)$/\1/p' "$units"/velmo-fleet.service)
 zgrep -q partition "$root/usr/share/man/man1/$manual.1.gz"
 # A worker, and one of a part, with a password that only root may read.
@@ -57,10 +56,7 @@ for unit in velmo-fleet.service velmo-fleet@2-4.service; do
         || fail "$unit: $faults"
     systemd-analyze security --offline=true --threshold=20 --root="$root" "$unit" > /dev/null
 done
-for script in postinst:restart prerm:stop postrm:purge; do
-    dpkg-deb --ctrl-tarfile "$2"/velmo-fleet_*.deb | tar -xO "./${script%:*}" | grep -q "${script#*:}" \
-        || fail "velmo-fleet has no ${script%:*}"
-done
 for qt_major in 5 6; do
     "$(dirname "$0")/installed.sh" "$1" "$root/usr" $qt_major
 done
+"$(dirname "$0")/check_installation.py" "$2"
