@@ -112,9 +112,15 @@ bool JsonReader::readPlain(QStringView& string)
 {
     if (current() != u'"')
         return false;
-    const auto isPlain = [](QChar c) { return c != u'"' && c != u'\\' && !c.isSurrogate(); };
+    // Most characters stand between the backslash and the surrogates: one comparison tells.
+    const auto isPlain = [](QChar c) {
+        return uint(c.unicode()) - 0x5d < 0xd800 - 0x5d
+            || (c != u'"' && c != u'\\' && !c.isSurrogate());
+    };
     const QChar* const begin = m_next + 1;
-    const QChar* const end = std::find_if_not(begin, m_end, isPlain);
+    const QChar* end = begin;
+    while (end != m_end && isPlain(*end))
+        ++end;
     if (end == m_end || *end != QChar(u'"') || *begin == QChar(QChar::ByteOrderMark))
         return false;
     string = {begin, end};

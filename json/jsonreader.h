@@ -18,29 +18,30 @@ class KeyOrder
 {
 public:
     explicit KeyOrder(const std::array<const QString*, Size>& keys)
-        : m_keys(keys)
     {
         for (std::size_t i = 0; i < Size; ++i)
             m_ascending[i] = i;
         std::sort(m_ascending.begin(), m_ascending.end(),
-                  [this](std::size_t a, std::size_t b) { return *m_keys[a] < *m_keys[b]; });
+                  [&keys](std::size_t a, std::size_t b) { return *keys[a] < *keys[b]; });
+        std::transform(m_ascending.begin(), m_ascending.end(), m_texts.begin(),
+                       [&keys](std::size_t i) { return QStringView(*keys[i]); });
     }
 
     /// The indexes of the keys in the order of their texts.
     const std::array<std::size_t, Size>& ascending() const { return m_ascending; }
 
     /// The key at a place in that order.
-    QStringView at(std::size_t place) const { return *m_keys[m_ascending[place]]; }
+    QStringView at(std::size_t place) const { return m_texts[place]; }
 
     /// The index of a key, Size without one. @p likely is the place in that order where it is
     /// looked for first, and afterwards where the next key will be.
     std::size_t find(QStringView key, std::size_t& likely) const
     {
         for (std::size_t tried = 0; tried < Size; ++tried) {
-            const std::size_t i = m_ascending[likely];
+            const std::size_t place = likely;
             likely = likely + 1 == Size ? 0 : likely + 1;
-            if (isEqual(*m_keys[i], key))
-                return i;
+            if (isEqual(m_texts[place], key))
+                return m_ascending[place];
         }
         return Size;
     }
@@ -53,8 +54,8 @@ private:
                 || std::memcmp(a.data(), b.data(), std::size_t(a.size()) * sizeof(QChar)) == 0);
     }
 
-    std::array<const QString*, Size> m_keys;
     std::array<std::size_t, Size> m_ascending;
+    std::array<QStringView, Size> m_texts; // of the constants, in that order
 };
 
 /// Reads JSON text without a document in between. It takes what Qt 5.15's parser takes, and means
@@ -138,6 +139,7 @@ public:
     bool readPlain(bool& value);
     bool readPlain(qint64& number);
     bool readPlain(QString& text);
+    bool readPlain(QStringView& text); // valid as long as the text that is read
 
 private:
     template <typename Read>
@@ -156,7 +158,7 @@ private:
 
     bool skip(ushort character)
     {
-        if (current() != character)
+        if (isAtEnd() || *m_next != QChar(character))
             return false;
         ++m_next;
         skipSpace();
@@ -165,10 +167,13 @@ private:
 
     void skipSpace()
     {
-        for (; current() <= u' '; ++m_next) {
-            if (current() != u' ' && current() != u'\t' && current() != u'\n' && current() != u'\r')
-                return;
-        }
+        while (!isAtEnd() && isSpace(*m_next))
+            ++m_next;
+    }
+
+    static bool isSpace(QChar c)
+    {
+        return c <= QChar(u' ') && (c == u' ' || c == u'\t' || c == u'\n' || c == u'\r');
     }
 
     // Whether a word may end before a place of the text.
@@ -196,7 +201,6 @@ private:
         return skip(u'"');
     }
 
-    bool readPlain(QStringView& string);
     bool readString(QStringView& string); // valid until the next one is read
     QVariant readWord(); // a number, true, false or null
 

@@ -33,6 +33,17 @@ auto fields(Record& record)
         [&](auto... field) { return std::tie(record.*decltype(field)::member...); });
 }
 
+bool stateFromName(QStringView name, State& state)
+{
+    for (int value = 0; value < stateCount; ++value) {
+        if (name == *stateNames[value]) {
+            state = static_cast<State>(value);
+            return true;
+        }
+    }
+    return false;
+}
+
 template <auto Member, auto... Entry>
 RecordField<DeviceState> tableRow(DeviceStateField<Member, Entry...> field)
 {
@@ -49,9 +60,13 @@ RecordField<DeviceState> tableRow(DeviceStateField<&DeviceState::state, Entry...
             },
             [](JsonWriter& json, const DeviceState& record) { json.write(record.stateAsString()); },
             [](JsonReader& json, DeviceState& record, bool& isRead) {
-                QString name = record.stateAsString(); // shared when it is the same
+                if (QStringView plain; json.readPlain(plain)) { // mostly, and without a copy
+                    isRead = stateFromName(plain, record.state);
+                    return true;
+                }
+                QString name;
                 const bool isSound = readJson(json, name);
-                isRead = DeviceState::stateFromString(name, record.state);
+                isRead = stateFromName(name, record.state);
                 return isSound;
             },
             [](DeviceState& record, DeviceState& from) { record.state = from.state; }};
@@ -70,7 +85,7 @@ RecordField<DeviceState> tableRow(DeviceStateField<&DeviceState::dispenserRegist
             [](JsonWriter& json, const DeviceState& record) {
                 writeJson(json, record.dispenserRegistry);
             },
-            nullptr,
+            [](JsonReader& json, DeviceState&, bool&) { return skipJsonRows(json); },
             nullptr,
             UnreadField,
             [](const DeviceState& record) { return !record.dispenserRegistry.isEmpty(); }};
@@ -124,13 +139,7 @@ QString DeviceState::stateAsString() const
 
 bool DeviceState::stateFromString(const QString& name, State& state)
 {
-    for (int value = 0; value < stateCount; ++value) {
-        if (name == *stateNames[value]) {
-            state = static_cast<State>(value);
-            return true;
-        }
-    }
-    return false;
+    return stateFromName(name, state);
 }
 
 QVariantMap DeviceState::toMap() const

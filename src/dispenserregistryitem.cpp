@@ -118,3 +118,11 @@ void writeJson(JsonWriter& json, const QList<DispenserRegistryItem>& rows)
         recordTable<fields>().write(json, row);
     json.endArray();
 }
+
+bool skipJsonRows(JsonReader& json)
+{
+    if (!json.isAtArray())
+        return json.skipValue();
+    const auto& table = recordTable<fields>();
+    return json.readArray([&] { return json.isAtObject() ? table.skip(json) : json.skipValue(); });
+}

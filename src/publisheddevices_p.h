@@ -9,6 +9,7 @@
 
 #include <QVarLengthArray>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <initializer_list>
@@ -23,15 +24,12 @@ public:
         m_isEmpty = false;
         if (i == DeviceId || i == ThreadId)
             return nullptr;
-        if (i == Channel)
-            return &m_channel;
-        // A constant and a text that is shared cost no memory in each row.
-        const QString kept = i == keys.size() ? key.toString() : *keys[i];
-        QVariant* const value =
-            &*m_values.insert(m_values.cend(), kept, i == Currency ? likelyCurrency : QVariant());
-        if (i < keys.size())
-            m_places[i] = value;
-        return value;
+        if (i == keys.size())
+            return &m_others[key.toString()];
+        m_isRead[i] = true;
+        if (i == Currency)
+            m_values[i] = likelyCurrency; // a text that is shared costs no memory in each row
+        return &m_values[i];
     }
 
     // Stores the row under its kind and channel.
@@ -40,17 +38,17 @@ public:
         if (m_isEmpty)
             return;
         QVarLengthArray<QChar, 64> key;
-        append(key, at(BillType));
+        append(key, m_values[BillType]);
         key.append(u'_');
-        append(key, m_channel);
+        append(key, m_values[Channel]);
         key.append(u'_');
-        append(key, at(Denomination));
+        append(key, m_values[Denomination]);
         key.append(u'_');
         append(key, currency());
-        registry.insert(registry.cend(), QString(key.constData(), key.size()), m_values);
+        registry.insert(registry.cend(), QString(key.constData(), key.size()), values());
     }
 
-    QVariant currency() const { return at(Currency); }
+    const QVariant& currency() const { return m_values[Currency]; }
 
     static const auto& order()
     {
@@ -60,12 +58,41 @@ public:
 
 private:
     using Row = DispenserRegistryItem;
-    enum Key : std::size_t { BillType, Channel, Currency, Denomination, DeviceId, ThreadId };
+    enum Key : std::size_t {
+        BillType,
+        Channel,
+        Currency,
+        Denomination,
+        DeviceId,
+        ThreadId,
+        Count,
+        Rejected
+    };
     static constexpr std::array keys{&Row::BILL_TYPE,    &Row::CHANNEL,   &Row::CURRENCY,
                                      &Row::DENOMINATION, &Row::DEVICE_ID, &Row::THREAD_ID,
                                      &Row::COUNT,        &Row::REJECTED};
 
-    QVariant at(Key key) const { return m_places[key] ? *m_places[key] : QVariant(); }
+    // A copy of a map is made faster than a map is filled, above all with Qt 6.
+    QVariantMap values() const
+    {
+        static const auto& blank = *new QVariantMap{{Row::BILL_TYPE, {}},
+                                                    {Row::COUNT, {}},
+                                                    {Row::CURRENCY, {}},
+                                                    {Row::DENOMINATION, {}},
+                                                    {Row::REJECTED, {}}};
+        constexpr std::array kept{BillType, Count, Currency, Denomination, Rejected};
+        const bool isUsual = m_others.isEmpty()
+            && std::all_of(kept.begin(), kept.end(), [this](Key key) { return m_isRead[key]; });
+        QVariantMap values = isUsual ? blank : m_others;
+        auto entry = values.begin();
+        for (const Key key : kept) {
+            if (isUsual)
+                *entry++ = m_values[key];
+            else if (m_isRead[key])
+                values.insert(*keys[key], m_values[key]);
+        }
+        return values;
+    }
 
     static void append(QVarLengthArray<QChar, 64>& key, const QVariant& part)
     {
@@ -80,9 +107,9 @@ private:
             key.append(QLatin1Char(*digit));
     }
 
-    QVariantMap m_values;
-    std::array<const QVariant*, keys.size()> m_places{}; // of those that are kept
-    QVariant m_channel;
+    std::array<QVariant, keys.size()> m_values;
+    std::array<bool, keys.size()> m_isRead{};
+    QVariantMap m_others; // under keys that are not known
     bool m_isEmpty = true;
 };
 

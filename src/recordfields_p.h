@@ -177,6 +177,12 @@ public:
         json.endObject();
     }
 
+    /// Passes over a record, whose keys need not be read.
+    bool skip(JsonReader& json) const
+    {
+        return json.readObject(m_order, [&](std::size_t, QStringView) { return json.skipValue(); });
+    }
+
     /// Reads JSON text as fromMap() reads the map that it stands for. A text that is no object has
     /// none, and nothing is read.
     bool parse(const QString& text, Record& record) const
@@ -185,7 +191,7 @@ public:
         Record read = record; // whose texts are kept where they are the same
         JsonReader json(text);
         const auto readMember = [&](std::size_t i, QStringView) {
-            if (i == Size || m_fields[i].reading == UnreadField)
+            if (i == Size)
                 return json.skipValue();
             return m_fields[i].read(json, read, isRead[i]);
         };
