@@ -9,14 +9,23 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
 
-require_packages doxygen graphviz
+require_packages doxygen doxyqml graphviz
 rm -rf build/docs
-mkdir -p build/docs/qml
+mkdir -p build/docs/{given,qml}
 types=$(grep -lE '^ +QML_(ELEMENT|ANONYMOUS)$' quick/*.h)
 controls=$(sed -n '/^internal/d; s|.* \(.*\.qml\)$|quick/controls/\1|p' quick/controls/qmldir)
-for file in $types $controls; do
+# Doxygen does not miss it where the type has no member.
+if grep -L '^/// ' $controls | sed 's/$/: error: no comment says what the type is/' | grep . >&2; then
+    exit 1
+fi
+for file in $types; do
     name=${file##*/}
-    awk -f docs/qml.awk "$file" > "build/docs/qml/${name%.*}.qml"
+    sed -Ef docs/quick.sed "$file" > "build/docs/qml/${name%.h}.qml"
+done
+for file in $controls; do
+    name=${file##*/}
+    sed -Ef docs/controls.sed "$file" > "build/docs/given/$name"
+    doxyqml "build/docs/given/$name" | sed -Ef docs/doxyqml.sed > "build/docs/qml/$name"
 done
 (cat docs/Doxyfile; printf '%s\n' "$@") | doxygen -
 
