@@ -9,9 +9,9 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/require.sh
 
-require_packages doxygen doxyqml graphviz
+require_packages doxygen graphviz
 rm -rf build/docs
-mkdir -p build/docs/{given,qml}
+mkdir -p build/docs/qml
 types=$(grep -lE '^ +QML_(ELEMENT|ANONYMOUS)$' quick/*.h)
 controls=$(sed -n '/^internal/d; s|.* \(.*\.qml\)$|quick/controls/\1|p' quick/controls/qmldir)
 # Doxygen does not miss it where the type has no member.
@@ -24,8 +24,8 @@ for file in $types; do
 done
 for file in $controls; do
     name=${file##*/}
-    sed -Ef docs/controls.sed "$file" > "build/docs/given/$name"
-    doxyqml "build/docs/given/$name" | sed -Ef docs/doxyqml.sed > "build/docs/qml/$name"
+    sed -E "s/^([A-Z]\.)?([A-Z]\w*) \{$/class ${name%.qml} : public \2 {public:/" "$file" \
+        | sed -Ef docs/controls.sed > "build/docs/qml/$name"
 done
 (cat docs/Doxyfile; printf '%s\n' "$@") | doxygen -
 
