@@ -131,7 +131,7 @@
     </message>
     <message>
         <source>%1 taken + note %2 &gt; limit %3. The next session clears this.</source>
-        <translation>angenommen %1 + Schein %2 &gt; Grenze %3. Die nächste Sitzung hebt das auf.</translation>
+        <translation>Angenommen: %1 + Schein %2 &gt; Grenze %3. Die nächste Sitzung hebt das auf.</translation>
     </message>
     <message>
         <source>Switches the taking of all notes and coins on or off.</source>
