@@ -77,8 +77,8 @@
     <message numerus="yes">
         <source>A note of %1 is refused once notes were rejected %n times, until a note is stacked or the session ends.</source>
         <translation>
-            <numerusform>Ein Schein zu %1 wird abgelehnt, sobald %n-mal Scheine abgewiesen wurden, bis ein Schein eingestapelt wird oder die Sitzung endet.</numerusform>
-            <numerusform>Ein Schein zu %1 wird abgelehnt, sobald %n-mal Scheine abgewiesen wurden, bis ein Schein eingestapelt wird oder die Sitzung endet.</numerusform>
+            <numerusform>Wurden %n-mal Scheine abgewiesen, wird ein Schein zu %1 abgelehnt, bis ein Schein eingestapelt wird oder die Sitzung endet.</numerusform>
+            <numerusform>Wurden %n-mal Scheine abgewiesen, wird ein Schein zu %1 abgelehnt, bis ein Schein eingestapelt wird oder die Sitzung endet.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -131,7 +131,7 @@
     </message>
     <message>
         <source>%1 taken + note %2 &gt; limit %3. The next session clears this.</source>
-        <translation>angenommen %1 + Schein %2 &gt; Grenze %3. Die nächste Sitzung hebt das auf.</translation>
+        <translation>Angenommen: %1 + Schein %2 &gt; Grenze %3. Die nächste Sitzung hebt das auf.</translation>
     </message>
     <message>
         <source>Switches the taking of all notes and coins on or off.</source>
@@ -199,11 +199,11 @@
     </message>
     <message>
         <source>Note dispenser</source>
-        <translation>Schein-Ausgabeeinheit</translation>
+        <translation>Scheinausgabe</translation>
     </message>
     <message>
         <source>Note recycler</source>
-        <translation>Schein-Recycler</translation>
+        <translation>Scheinrecycler</translation>
     </message>
     <message>
         <source>Coin hopper</source>
@@ -283,7 +283,7 @@
     </message>
     <message>
         <source>&quot;%1&quot;: expected GROUP/KEY</source>
-        <translation>&quot;%1&quot;: GRUPPE/SCHLÜSSEL erwartet</translation>
+        <translation>&quot;%1&quot;: GROUP/KEY erwartet</translation>
     </message>
     <message>
         <source>out of its range %1 to %2</source>
@@ -330,7 +330,7 @@
     </message>
     <message>
         <source>has no effect: not for a device of this model and interface</source>
-        <translation>hat keine Wirkung: nicht für ein Gerät mit diesem Modell und Anschluss</translation>
+        <translation>hat keine Wirkung: nicht für ein Gerät mit diesem Modell und diesem Anschluss</translation>
     </message>
     <message>
         <source>is read as %1</source>
@@ -753,7 +753,7 @@
     </message>
     <message>
         <source>jam, error or what else was the matter</source>
-        <translation>Stau, Fehler oder andere Störung</translation>
+        <translation>Verklemmung, Fehler oder andere Störung</translation>
     </message>
     <message>
         <source>disabled</source>
@@ -1036,11 +1036,11 @@
     </message>
     <message>
         <source>coin of unknown value</source>
-        <translation>Münze unbekannten Werts</translation>
+        <translation>Münze unbekannten Nennwerts</translation>
     </message>
     <message>
         <source>note of unknown value</source>
-        <translation>Schein unbekannten Werts</translation>
+        <translation>Schein unbekannten Nennwerts</translation>
     </message>
     <message>
         <source>It got stuck in the device (line %1).</source>
@@ -1087,15 +1087,11 @@
     </message>
     <message>
         <source>has &quot;%1&quot; more than once: which one counts is not certain</source>
-        <translation>hat &quot;%1&quot; mehr als einmal: welches gilt, ist nicht sicher</translation>
+        <translation>hat &quot;%1&quot; mehrfach: was davon gilt, ist nicht sicher</translation>
     </message>
     <message>
         <source>is ignored</source>
         <translation>wird nicht beachtet</translation>
-    </message>
-    <message>
-        <source>the filter cannot hold %1 attempts (&quot;denom&quot; %2)</source>
-        <translation>der Filter fasst keine %1 Versuche (&quot;denom&quot; %2)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no model of the catalogue</source>
@@ -1242,7 +1238,7 @@
     </message>
     <message>
         <source>Of money the log tells nothing.</source>
-        <translation>Von Geld sagt das Protokoll nichts.</translation>
+        <translation>Über Geld sagt das Protokoll nichts.</translation>
     </message>
     <message>
         <source>in all</source>
@@ -1425,8 +1421,8 @@
     <message numerus="yes">
         <source>%n pieces of unknown value were taken</source>
         <translation>
-            <numerusform>%n Stück unbekannten Werts wurde angenommen</numerusform>
-            <numerusform>%n Stück unbekannten Werts wurden angenommen</numerusform>
+            <numerusform>%n Stück unbekannten Nennwerts wurde angenommen</numerusform>
+            <numerusform>%n Stück unbekannten Nennwerts wurden angenommen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1607,7 +1603,7 @@
     </message>
     <message>
         <source>The session&apos;s sum rose by %1 for a %2 that was not taken. That it was stacked would clear this.</source>
-        <translation>Für %2 stieg die Sitzungssumme um %1, angenommen wurde das Geld aber nicht. Dass es eingestapelt wurde, würde das klären.</translation>
+        <translation>Die Sitzungssumme stieg um %1; nicht angenommen: %2. Dass das Geld eingestapelt wurde, würde das klären.</translation>
     </message>
     <message>
         <source>A %1 was taken, and the session&apos;s sum did not rise. That it rises before the next note, payout or session would clear this.</source>
@@ -1615,7 +1611,7 @@
     </message>
     <message>
         <source>The session&apos;s sum rose by %1 for a %2. That it rises by %3 in all would clear this.</source>
-        <translation>Für %2 stieg die Sitzungssumme um %1. Dass sie insgesamt um %3 steigt, würde das klären.</translation>
+        <translation>Die Sitzungssumme stieg um %1; angenommen: %2. Dass sie insgesamt um %3 steigt, würde das klären.</translation>
     </message>
     <message>
         <source>A payout began, and the log does not tell its end. &quot;dispensed&quot; before the next note, payout or session would clear this.</source>
@@ -1736,7 +1732,7 @@
     </message>
     <message>
         <source>is of version %1, which is later than this program&apos;s %2</source>
-        <translation>hat Version %1, die neuer ist als die dieses Programms, %2</translation>
+        <translation>hat Version %1, neuer als die dieses Programms (%2)</translation>
     </message>
     <message>
         <source>is the database of something else</source>
@@ -1857,6 +1853,14 @@
     <message>
         <source>no translations for language &quot;%1&quot;; there are: %2</source>
         <translation>keine Übersetzungen für die Sprache &quot;%1&quot;; es gibt: %2</translation>
+    </message>
+    <message>
+        <source>the filter cannot hold %1 attempts (&quot;denom&quot; %2): it takes %3</source>
+        <translation>der Filter fasst keine %1 Versuche (&quot;denom&quot; %2): es gelten %3</translation>
+    </message>
+    <message>
+        <source>the filter cannot hold the sum %1: it takes %2</source>
+        <translation>der Filter fasst die Summe %1 nicht: es gilt %2</translation>
     </message>
 </context>
 </TS>

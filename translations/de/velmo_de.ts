@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Commands (velmo help COMMAND tells more):</source>
-        <translation>Befehle (mehr mit velmo help BEFEHL):</translation>
+        <translation>Befehle (mehr mit velmo help COMMAND):</translation>
     </message>
     <message>
         <source>Usage:</source>
@@ -37,11 +37,11 @@
     </message>
     <message>
         <source>Why notes were refused: one answer for every note of a log.</source>
-        <translation>Warum Geldscheine abgelehnt wurden: eine Antwort zu jedem Geldschein eines Protokolls.</translation>
+        <translation>Warum Scheine abgelehnt wurden: eine Antwort zu jedem Schein eines Protokolls.</translation>
     </message>
     <message>
         <source>Tells for each note what became of it and why: every filter that objected, with the lines that counted and what clears them, or what was the matter with the device. A session log has one JSON object a line, plain or compressed by gzip: what a device reported, or a published state {&quot;device_states&quot;: [...]}, with &quot;time&quot; and &quot;session&quot;: &quot;start&quot; where known.</source>
-        <translation>Sagt zu jedem Geldschein, was aus ihm wurde und warum: jeden Filter, der Einspruch erhob, mit den Zeilen, die zählten, und dem, was die Ablehnung aufhebt, oder was mit dem Gerät los war. Ein Sitzungsprotokoll hat in jeder Zeile ein JSON-Objekt und darf mit gzip komprimiert sein: was ein Gerät gemeldet hat, oder einen veröffentlichten Zustand {&quot;device_states&quot;: [...]}, mit &quot;time&quot; und &quot;session&quot;: &quot;start&quot;, soweit bekannt.</translation>
+        <translation>Sagt zu jedem Schein, was aus ihm wurde und warum: jeden Filter, der Einspruch erhob, mit den Zeilen, die zählten, und dem, was die Ablehnung aufhebt, oder was mit dem Gerät los war. Ein Sitzungsprotokoll hat in jeder Zeile ein JSON-Objekt und darf mit gzip komprimiert sein: was ein Gerät gemeldet hat, oder einen veröffentlichten Zustand {&quot;device_states&quot;: [...]}, mit &quot;time&quot; und &quot;session&quot;: &quot;start&quot;, soweit bekannt.</translation>
     </message>
     <message>
         <source>What happened in a session log, event by event.</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Notes</source>
-        <translation>Geldscheine</translation>
+        <translation>Scheine</translation>
     </message>
     <message>
         <source>Number</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>None: every note is accepted.</source>
-        <translation>Keine: Jeder Geldschein wird angenommen.</translation>
+        <translation>Keine: Jeder Schein wird zugelassen.</translation>
     </message>
     <message>
         <source>log and filters cannot both come from standard input</source>
@@ -237,7 +237,7 @@
     </message>
     <message>
         <source>Changes what it is told to, and what a device needs whose model or interface changes; every other byte stays. What would leave new errors is refused. A file that cannot be written whole is left as it was.</source>
-        <translation>Ändert, was angegeben ist, und was ein Gerät braucht, dessen Modell oder Schnittstelle sich ändert; jedes andere Byte bleibt. Was neue Fehler hinterließe, wird nicht geschrieben. Eine Datei, die nicht vollständig geschrieben werden kann, bleibt, wie sie war.</translation>
+        <translation>Ändert, was angegeben ist, und was ein Gerät braucht, dessen Modell oder Anschluss sich ändert; jedes andere Byte bleibt. Was neue Fehler hinterließe, wird nicht geschrieben. Eine Datei, die nicht vollständig geschrieben werden kann, bleibt, wie sie war.</translation>
     </message>
     <message>
         <source>Removes settings, so that their defaults apply.</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>note</source>
-        <translation>Geldschein</translation>
+        <translation>Schein</translation>
     </message>
     <message>
         <source>Currency</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>%1: %2 is not set: not for a device of this model and interface</source>
-        <translation>%1: %2 ist nicht gesetzt: nicht für ein Gerät mit diesem Modell und dieser Schnittstelle</translation>
+        <translation>%1: %2 ist nicht gesetzt: nicht für ein Gerät mit diesem Modell und diesem Anschluss</translation>
     </message>
     <message>
         <source>%1: %2 is missing: the built-in default is &quot;%3&quot;, AcceptorSettings has &quot;%4&quot;</source>
@@ -461,13 +461,13 @@
     </message>
     <message>
         <source>Tells every note of the logs that A accepts and B refuses, or the reverse, why, and what each refused in all. A and B are filters or settings, told apart by what they hold. Both judge what happened: what would have followed another verdict, a log does not say. The exit code is 1 when they differ.</source>
-        <translation>Nennt jeden Geldschein der Protokolle, den A annimmt und B ablehnt oder umgekehrt, dazu den Grund und was A und B insgesamt abgelehnt haben. A und B sind Filter oder Einstellungen, unterschieden nach ihrem Inhalt. Beide urteilen über das, was geschehen ist: Was auf eine andere Entscheidung gefolgt wäre, sagt ein Protokoll nicht. Der Rückgabewert ist 1, wenn sie sich unterscheiden.</translation>
+        <translation>Nennt jeden Schein der Protokolle, den A zulässt und B ablehnt oder umgekehrt, dazu den Grund und was A und B insgesamt abgelehnt haben. A und B sind Filter oder Einstellungen, unterschieden nach ihrem Inhalt. Beide urteilen über das, was geschehen ist: Was auf eine andere Entscheidung gefolgt wäre, sagt ein Protokoll nicht. Der Rückgabewert ist 1, wenn sie sich unterscheiden.</translation>
     </message>
     <message numerus="yes">
         <source>%n notes (%1)</source>
         <translation>
-            <numerusform>%n Geldschein (%1)</numerusform>
-            <numerusform>%n Geldscheine (%1)</numerusform>
+            <numerusform>%n Schein (%1)</numerusform>
+            <numerusform>%n Scheine (%1)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -848,7 +848,7 @@
     </message>
     <message>
         <source>The device says of its cash: %1</source>
-        <translation>Das Gerät meldet zu seinem Geldbestand: %1</translation>
+        <translation>Das Gerät meldet zu seinem Geld: %1</translation>
     </message>
     <message>
         <source>Where the money is: what lies in each cassette and channel.</source>
@@ -864,7 +864,7 @@
     </message>
     <message>
         <source>%1: notes before the first time, left out: %2</source>
-        <translation>%1: Geldscheine vor der ersten Zeitangabe, ausgelassen: %2</translation>
+        <translation>%1: Scheine vor der ersten Zeitangabe, ausgelassen: %2</translation>
     </message>
     <message>
         <source>%1: no line has a time: nothing can be selected by it</source>
@@ -919,11 +919,11 @@
     </message>
     <message>
         <source>Only notes of that face value.</source>
-        <translation>Nur Geldscheine dieses Nennwerts.</translation>
+        <translation>Nur Scheine dieses Nennwerts.</translation>
     </message>
     <message>
         <source>Only notes of which that became: refused, taken, stuck, rejected, returned or unknown.</source>
-        <translation>Nur Geldscheine mit diesem Ausgang: refused, taken, stuck, rejected, returned oder unknown.</translation>
+        <translation>Nur Scheine mit diesem Ausgang: refused, taken, stuck, rejected, returned oder unknown.</translation>
     </message>
     <message>
         <source>Show times in UTC.</source>
@@ -979,7 +979,7 @@
     </message>
     <message>
         <source>Stuck</source>
-        <translation>Festsitzend</translation>
+        <translation>Stecken geblieben</translation>
     </message>
     <message>
         <source>What was the matter:</source>
@@ -1088,8 +1088,8 @@
     <message numerus="yes">
         <source>%1: the cassette was collected, with %n notes</source>
         <translation>
-            <numerusform>%1: Kassette geleert, mit %n Geldschein</numerusform>
-            <numerusform>%1: Kassette geleert, mit %n Geldscheinen</numerusform>
+            <numerusform>%1: Kassette geleert, mit %n Schein</numerusform>
+            <numerusform>%1: Kassette geleert, mit %n Scheinen</numerusform>
         </translation>
     </message>
     <message>
@@ -1114,7 +1114,7 @@
     </message>
     <message>
         <source>&quot;%1&quot;: expected a month, as 2026-11, that has begun</source>
-        <translation>&quot;%1&quot;: Monat erwartet, der begonnen hat, etwa 2026-11</translation>
+        <translation>&quot;%1&quot;: ein bereits begonnener Monat erwartet, etwa 2026-11</translation>
     </message>
     <message>
         <source>%1: expected a time, as 90m, 48h, 3d or 2w</source>
@@ -1385,7 +1385,7 @@
     </message>
     <message>
         <source>Reading...</source>
-        <translation>Wird gelesen ...</translation>
+        <translation>Wird gelesen...</translation>
     </message>
     <message>
         <source>As of %1.</source>

@@ -138,7 +138,7 @@
     </message>
     <message>
         <source>Input money</source>
-        <translation>Bitte Geldscheine einführen</translation>
+        <translation>Bitte Scheine einführen</translation>
     </message>
     <message>
         <source>Input coin</source>

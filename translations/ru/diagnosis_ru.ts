@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>&quot;%1&quot;: expected GROUP/KEY</source>
-        <translation>&quot;%1&quot;: ожидается ГРУППА/КЛЮЧ</translation>
+        <translation>&quot;%1&quot;: ожидается GROUP/KEY</translation>
     </message>
     <message>
         <source>out of its range %1 to %2</source>
@@ -1110,10 +1110,6 @@
         <translation>не учитывается</translation>
     </message>
     <message>
-        <source>the filter cannot hold %1 attempts (&quot;denom&quot; %2)</source>
-        <translation>фильтр не вмещает число попыток %1 (&quot;denom&quot; %2)</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no model of the catalogue</source>
         <translation>&quot;%1&quot; нет среди моделей каталога</translation>
     </message>
@@ -1893,6 +1889,14 @@
     <message>
         <source>no translations for language &quot;%1&quot;; there are: %2</source>
         <translation>нет переводов для языка «%1»; есть: %2</translation>
+    </message>
+    <message>
+        <source>the filter cannot hold %1 attempts (&quot;denom&quot; %2): it takes %3</source>
+        <translation>фильтр не вмещает число попыток %1 (&quot;denom&quot; %2): возьмёт %3</translation>
+    </message>
+    <message>
+        <source>the filter cannot hold the sum %1: it takes %2</source>
+        <translation>фильтр не вмещает сумму %1: возьмёт %2</translation>
     </message>
 </context>
 </TS>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Commands (velmo help COMMAND tells more):</source>
-        <translation>Команды (подробнее: velmo help КОМАНДА):</translation>
+        <translation>Команды (подробнее: velmo help COMMAND):</translation>
     </message>
     <message>
         <source>Usage:</source>
