@@ -167,8 +167,8 @@ public:
     /// element without "group" is skipped.
     void setList(const QVariantList& list);
 
-    /// The formatted map. It shows the devices with an index below the device count, without
-    /// TCP endpoint, terminal identifier and protocol parameters.
+    /// The formatted map. It shows the devices with an index from 0 to below the device count,
+    /// without TCP endpoint, terminal identifier and protocol parameters.
     QVariantMap toFormattedMap() const;
 
     /// Applies a formatted map, then deletes every device with an index not below the device

@@ -43,7 +43,8 @@ namespace DRouteMap {
 /// lacks a key is left out.
 VELMOLIB_EXPORT QList<DRouteMapItem> fromJson(const QString& json);
 
-/// Writes a route map as indented JSON, keys in ascending order. Currency codes are ASCII.
+/// Writes a route map as indented JSON, keys in ascending order. A currency code that is not ASCII
+/// does not read back.
 VELMOLIB_EXPORT QString toJson(const QList<DRouteMapItem>& rows);
 
 } // namespace DRouteMap

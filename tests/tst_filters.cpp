@@ -131,6 +131,8 @@ private Q_SLOTS:
         filter->setParams({{"attempts"_s, null}});
         QVERIFY(accept->property("acceptAll").toBool());
         QCOMPARE(filter->property("attempts").toInt(), 90);
+        filter->setParams({{"attempts"_s, "200"_s}});
+        QCOMPARE(filter->property("attempts").toInt(), -56);
         QCOMPARE(log.texts().mid(4, 2),
                  QStringList({"debug: Setting property foo to 1"_s,
                               "warning: Property foo does not exists"_s}));

@@ -36,7 +36,8 @@ public:
     virtual FilterResult validate();
 
     /// Sets the properties that @p params names; Qt converts the values, and one that does not
-    /// convert leaves its property as it was. Logs each entry, and a warning for a name that is no
+    /// convert leaves its property as it was. A number beyond the range of its property wraps
+    /// around: 200 attempts become -56. Logs each entry, and a warning for a name that is no
     /// property.
     /// @return this filter
     virtual AbstractFilter* setParams(const QVariantMap& params);

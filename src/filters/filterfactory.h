@@ -31,9 +31,10 @@ public:
     static AbstractFilter* createFilter(const QString& name, const QVariantMap& params);
 
     /// New filters that the process's configuration (AcceptorSettings) implies, in the order in
-    /// which the service asks them. They are the caller's, who gives them to a FilterChain or
-    /// deletes them, and belong to the calling thread. The configuration is read without a lock:
-    /// the caller sees to it that no other thread changes it meanwhile.
+    /// which the service asks them; of one that was never set that is an accept filter that accepts
+    /// all. They are the caller's, who gives them to a FilterChain or deletes them, and belong to
+    /// the calling thread. The configuration is read without a lock: the caller sees to it that no
+    /// other thread changes it meanwhile.
     static QList<AbstractFilter*> createFilters();
 
     /// The same of a configuration that need not be the process's, so that it may be called from
