@@ -251,7 +251,7 @@
     </message>
     <message>
         <source>Please call the staff before you leave. Insert no more money.</source>
-        <translation>Bitte rufen Sie das Personal, bevor Sie gehen. Bitte kein weiteres Geld einwerfen.</translation>
+        <translation>Bitte werfen Sie kein Geld mehr ein und rufen Sie das Personal, bevor Sie gehen.</translation>
     </message>
     <message>
         <source>Please call the staff before you leave.</source>
