@@ -33,9 +33,12 @@ class Failed(Exception):
 
 
 def free_port():
-    with socket.socket() as probe:
-        probe.bind(("127.0.0.1", 0))
-        return probe.getsockname()[1]
+    """Below those that the system gives to connections, of which one would take it while a broker is away."""
+    while True:
+        port = random.randrange(10000, 32000)
+        with socket.socket() as probe:
+            if probe.connect_ex(("127.0.0.1", port)) != 0:
+                return port
 
 
 def wait_until(what, done, seconds=30, pause=0.05):
