@@ -20,6 +20,8 @@ import time
 
 import paho.mqtt.client as mqtt
 
+from fleet.world import free_port
+
 DOCS = os.path.join(os.path.dirname(__file__), "..", "docs", "fleet")
 NOT_AUTHORIZED, TOO_LARGE = 0x87, 0x95
 MANY = 3000  # messages, more than the broker keeps for a client unless told to
@@ -35,12 +37,6 @@ def wait_until(what, done, seconds=20):
     while not done():
         check(f"still not after {seconds} s: {what}", time.monotonic() < end)
         time.sleep(0.05)
-
-
-def free_port():
-    with socket.socket() as probe:
-        probe.bind(("127.0.0.1", 0))
-        return probe.getsockname()[1]
 
 
 def run(*command):

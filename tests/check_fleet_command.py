@@ -8,7 +8,6 @@ Usage: check_fleet_command.py VELMO    (needs mosquitto and paho-mqtt; without t
 
 import json
 import os
-import shutil
 import socket
 import subprocess
 import sys
@@ -16,11 +15,8 @@ import tempfile
 import threading
 import time
 
-MOSQUITTO = shutil.which("mosquitto", path=os.environ["PATH"] + ":/usr/sbin")
-try:
-    import paho.mqtt.client as mqtt
-except ImportError:
-    mqtt = None
+from fleet.world import MOSQUITTO, free_port, mqtt
+
 if not (MOSQUITTO and mqtt):
     print("check_fleet_command.py: skipped, since mosquitto or python3-paho-mqtt is not installed")
     sys.exit(77)
@@ -49,9 +45,7 @@ def status(part, parts, kiosks, **rest):
 
 class Fleet:
     def __init__(self, folder):
-        with socket.socket() as probe:
-            probe.bind(("127.0.0.1", 0))
-            self.port = probe.getsockname()[1]
+        self.port = free_port()
         config = os.path.join(folder, "mosquitto.conf")
         self.rights = os.path.join(folder, "rights")
         self.allow("topic readwrite #")

@@ -19,6 +19,7 @@ import time
 import paho.mqtt.client as mqtt
 
 from check_page import Browser
+from fleet.world import free_port
 
 MOSQUITTO = shutil.which("mosquitto", path=os.environ["PATH"] + ":/usr/sbin")
 HOSTILE = "<img src=x onerror=hit=1>"
@@ -37,12 +38,6 @@ return {title: document.title, state: document.getElementById('state').textConte
         told: document.elementFromPoint(100, document.getElementById('state').getBoundingClientRect().top + 5)?.id === 'state',
         made: document.querySelectorAll('img, b:not(#counts b), script').length, hit: typeof hit};
 """
-
-
-def free_port():
-    with socket.socket() as probe:
-        probe.bind(("127.0.0.1", 0))
-        return probe.getsockname()[1]
 
 
 def require(condition, what):
