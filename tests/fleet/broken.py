@@ -10,8 +10,10 @@ import os
 import re
 import shutil
 import signal
+import socket
 import sqlite3
 import subprocess
+import threading
 import time
 
 import paho.mqtt.client as mqtt
@@ -244,6 +246,56 @@ def check_away(world):
         fleet.send("mute")
         wait_until("one is heard again", lambda: fleet.told("mute")["condition"] != "silent")
     stays.stop()
+
+
+class Road:
+    """From a worker to the broker and back; what it sends can be held up."""
+
+    def __init__(self, broker):
+        self.broker = broker
+        self.listener = socket.create_server(("127.0.0.1", 0))
+        self.port = self.listener.getsockname()[1]
+        self.sent, self.is_free = b"", threading.Event()
+        self.is_free.set()
+        threading.Thread(target=self.serve, daemon=True).start()
+
+    def serve(self):
+        worker = self.listener.accept()[0]
+        broker = socket.create_connection(("127.0.0.1", self.broker.port))
+        threading.Thread(target=self.carry, args=(broker, worker.sendall), daemon=True).start()
+        self.carry(worker, lambda data: self.send(broker, data))
+
+    def send(self, broker, data):
+        self.sent += data
+        self.is_free.wait()
+        broker.sendall(data)
+
+    @staticmethod
+    def carry(origin, send):
+        with contextlib.suppress(OSError):
+            while data := origin.recv(1 << 16):
+                send(data)
+
+
+def check_overtaken(world):
+    """What one of two said of a kiosk comes after what the other has said since, and has told the first."""
+    fleet = Fleet(world, silent=3)
+    road = Road(world.broker)
+    fleet.workers([], ["--broker", f"127.0.0.1:{road.port}", "--silent", "9"])
+    fleet.send("mute")
+    fleet.check("before")
+    filters = f"{fleet.root}/+/summary".encode()
+    known = road.sent.count(filters)
+    fleet.settle(fleet.client.publish("velmo-fleet/none/status", b"", 1))  # a worker is gone: they read what it said
+    wait_until("they read", lambda: road.sent.count(filters) > known)
+    time.sleep(0.3)
+    road.is_free.clear()
+    fleet.send("mute")
+    fleet.wait_for("mute", "silent")
+    time.sleep(0.5)
+    road.is_free.set()
+    wait_until("the late word comes", lambda: fleet.told("mute")["condition"] != "silent")
+    fleet.wait_for("mute", "silent")
 
 
 def check_older_store(world):
@@ -487,6 +539,6 @@ def check_status(world):
     wait_until("its status is removed", lambda: fleet.statuses[worker.name] is None)
 
 
-CHECKS = [check_silence, check_away, check_older_store, check_forgetting, check_rights, check_poison,
+CHECKS = [check_silence, check_away, check_overtaken, check_older_store, check_forgetting, check_rights, check_poison,
           check_flood, check_partitions, check_sizes, check_wills, check_scrapped, check_left, check_status,
           check_topics, check_clocks, check_options]

@@ -178,7 +178,7 @@ class Play:
         def still_heard():
             self.publish_all(awake)
             return [kiosk for kiosk in silenced if self.fleet.told(kiosk).get("condition") != "silent"]
-        wait_until(lambda: f"they are silent: {still_heard()[:5]}", lambda: not still_heard(),
+        wait_until(lambda: f"they are silent: {[(kiosk, self.fleet.told(kiosk)) for kiosk in still_heard()[:3]]}", lambda: not still_heard(),
                    3 * self.fleet.silent + 60, self.fleet.silent / 6)
         self.fleet.check("after all deaths", silenced, self.fleet.silent)
         print(f"{len(self.kiosks)} summaries as they should be, {len(silenced)} silent", flush=True)

@@ -25,6 +25,7 @@ struct Kiosk
     qint64 heardAt = KioskSummary::noTime; ///< the same in milliseconds since 1970, if it was heard
     bool wasTold = false; ///< before what the broker has was read anew
     bool isWaiting = false; ///< to be published
+    bool isSent = false; ///< so that it is not known whether what the broker tells is older
     bool isClockWrong = false;
 
     bool isTold() const { return atBroker == hash(summary.text); }

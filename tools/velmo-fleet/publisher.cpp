@@ -7,6 +7,9 @@
 
 #include <QDateTime>
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 
 constexpr int mostSent = 800; // summaries without an acknowledgement
@@ -29,6 +32,22 @@ void Publisher::reset()
 {
     m_sent.clear();
     m_refused.clear();
+    m_waiting.erase(std::remove_if(m_waiting.begin(), m_waiting.end(),
+                                   [this](const QString& name) {
+                                       Kiosk* const kiosk = m_kiosks.find(name);
+                                       if (kiosk)
+                                           kiosk->isWaiting = false;
+                                       return kiosk;
+                                   }),
+                    m_waiting.end());
+}
+
+void Publisher::markSent()
+{
+    for (const Sent& sent : std::as_const(m_sent)) {
+        if (Kiosk* const kiosk = m_kiosks.find(sent.kiosk))
+            kiosk->isSent = true;
+    }
 }
 
 void Publisher::add(const QString& name, Kiosk& kiosk)
@@ -72,6 +91,8 @@ void Publisher::send(const QString& name, Kiosk* kiosk)
     }
     m_metrics.published.Increment();
     m_sent.insert(message, {name, kiosk ? Kiosk::hash(kiosk->summary.text) : 0});
+    if (kiosk)
+        kiosk->isSent = true;
     if (kiosk && kiosk->summary.time != KioskSummary::noTime && !kiosk->isSilent()) {
         const qint64 age = QDateTime::currentMSecsSinceEpoch() - kiosk->summary.time;
         m_metrics.latency.Observe(double(std::max<qint64>(age, 0)) / 1000);

@@ -24,8 +24,12 @@ public:
     Publisher(const KioskTopic& summaries, int part, Kiosks& kiosks, BrokerConnection& broker,
               Metrics& metrics, LogLimit& log);
 
-    /// There is a new connection: nothing is known of what the broker has.
+    /// There is a new connection: nothing is known of what the broker has. What was to be sent is
+    /// to be added again, unless the broker has it; only what is taken out still waits.
     void reset();
+
+    /// Marks those kiosks as sent of which it does not know whether the broker has the summary.
+    void markSent();
 
     /// The kiosk's summary is to be sent, unless the broker has it.
     void add(const QString& name, Kiosk& kiosk);

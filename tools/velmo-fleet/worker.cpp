@@ -157,7 +157,9 @@ void Worker::startGathering()
     m_kiosks.forEach([](const QString&, Kiosk& kiosk) {
         kiosk.wasTold = kiosk.isTold();
         kiosk.atBroker = 0;
+        kiosk.isSent = false;
     });
+    m_publisher.markSent();
 }
 
 void Worker::endGathering()

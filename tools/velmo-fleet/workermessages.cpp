@@ -90,9 +90,14 @@ void Worker::takeStatus(const QString& name, const QByteArray& payload, bool isR
 
 void Worker::takeSummary(const QString& name, const QByteArray& payload, bool /*isRetained*/)
 {
-    if (payload.isEmpty())
+    // One that was under way while this worker stopped reading them may be older than its own.
+    if (payload.isEmpty() || !m_isGathering)
         return;
     Kiosk* kiosk = m_kiosks.find(name);
+    if (kiosk && kiosk->isSent) {
+        kiosk->atBroker = 0; // it is sent once more
+        return;
+    }
     const quint64 hash = Kiosk::hash(payload);
     const auto told = [&payload] {
         return KioskSummary(QByteArray(payload.constData(), payload.size())); // a copy to keep
