@@ -196,7 +196,9 @@ void Worker::tell(const QString& name, const KioskSummary& summary, quint64 mess
 {
     Kiosk& kiosk = m_kiosks.set(name, summary);
     kiosk.message = message;
-    m_publisher.add(name, kiosk);
+    // Of one that is silent by what the broker had kept, a newer state may be on its way.
+    if (m_isListening || !kiosk.isSilent())
+        m_publisher.add(name, kiosk);
     if (m_history)
         m_history->record(kiosk.record(name, state));
 }
