@@ -707,6 +707,10 @@ private Q_SLOTS:
             texts,
             QStringList({"0 100 100 0 9.9 7.7-13.8 "_s, "-1 0 216 500 21.6 10.2-17.6 "_s,
                          "1 500 50 0 0.0 - Its level has not fallen in the last two weeks."_s}));
+        for (const History::Due& each : History(place).due(start + 2 * day + hour)) {
+            QVERIFY(!each.earliest && !each.latest);
+            QCOMPARE(each.cannotSay, "Its level has not been told for more than a day."_s);
+        }
         {
             HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
             recorder.record(record("k1"_s, start + 2, 1, Condition::Silent, {"silent"_s}));
