@@ -210,6 +210,12 @@ private Q_SLOTS:
         QCOMPARE(due.out, "due: 0, later: 0, cannot say: 0\n"_s);
         QCOMPARE(due.exitCode, 0);
 
+        // A silence is noticed after it began, which the summary tells.
+        FleetKiosk kiosk{"k1"_s, KioskSummary::OutOfOrder, now, now - 5 * hour, {}, true};
+        QCOMPARE(FleetMemory(place).since(kiosk)->began, now - 5 * hour);
+        kiosk.since = now - hour;
+        QCOMPARE(FleetMemory(place).since(kiosk)->began, now - 4 * hour);
+
         for (const QString& question : {"--due=2w"_s, "--availability"_s}) {
             const VelmoRun mistyped =
                 velmo(QStringList{"fleet"_s, question, "--kiosk"_s, "k3"_s} + history);
