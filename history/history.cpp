@@ -148,9 +148,11 @@ QHash<QString, History::Availability> History::availability(const QDate& month, 
     const auto add = [&](const QSqlQuery& row) {
         const KioskSummary::Condition condition = conditionOf(row.value(1));
         const qint64 time = row.value(2).toLongLong();
-        if (condition == KioskSummary::Unknown || time <= 0)
+        if (time <= 0)
             return;
         Availability& kiosk = kiosks[row.value(0).toString()];
+        if (condition == KioskSummary::Unknown)
+            return;
         kiosk.known += time;
         if (condition == KioskSummary::Silent)
             kiosk.silent += time;

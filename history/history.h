@@ -97,7 +97,8 @@ public:
     std::vector<FaultSpan> faults(const QString& kiosk) const;
     std::vector<Collection> collections(const QString& kiosk) const;
 
-    /// Of each kiosk of which something is known of the month, of the local time.
+    /// Of each kiosk of which there is a condition in the month, of the local time; one that is
+    /// unknown is not known.
     QHash<QString, Availability> availability(const QDate& month, qint64 now) const;
 
     /// Every channel that dispenses and every cassette of kiosks that were not forgotten, those due

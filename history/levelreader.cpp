@@ -55,7 +55,7 @@ std::vector<History::Due> LevelReader::due()
     readDevices();
     // However much is remembered of before, only the rows of the two weeks are read.
     QSqlQuery& row = m_database.run(
-        QStringLiteral("SELECT kiosk, device, thread, channel, denomination, currency, count,"
+        QStringLiteral("SELECT kiosk, device, thread, channel, denomination, currency, count, hour,"
                        " (SELECT %1 FROM levels WHERE levels.kiosk = channels.kiosk"
                        " AND levels.device = channels.device AND levels.thread = channels.thread"
                        " AND levels.channel = channels.channel"
@@ -80,12 +80,16 @@ std::vector<History::Due> LevelReader::due()
         due.denomination = row.value(4).toInt();
         due.currency = row.value(5).toString();
         due.level = row.value(6).toLongLong();
-        forecast(due, m_devices.value(keyOf(row)), hoursOf(row.value(7).toString()));
-        // What was used since nobody knows.
-        if (!row.value(8).isNull() && row.value(8).toLongLong() < m_now - HistoryTime::day) {
+        forecast(due, m_devices.value(keyOf(row)), hoursOf(row.value(8).toString()));
+        // What was used since nobody knows. Of every day on which a level is told there is a row.
+        const bool isSilent =
+            !row.value(9).isNull() && row.value(9).toLongLong() < m_now - HistoryTime::day;
+        if (isSilent || row.value(7).toLongLong() < m_now - 2 * HistoryTime::day) {
             due.earliest.reset();
             due.latest.reset();
-            due.cannotSay = Diagnosis::tr("The kiosk has been silent for more than a day.");
+            due.cannotSay = isSilent
+                ? Diagnosis::tr("The kiosk has been silent for more than a day.")
+                : Diagnosis::tr("Its level has not been told for more than a day.");
         }
         m_due.push_back(due);
     }

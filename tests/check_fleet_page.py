@@ -161,11 +161,12 @@ def check_requests(fleet):
 
 
 def check_table(page, fleet):
-    fleet.publish({"north-k2": {"stacker_full": True}, "north-k10": {"stacker_present": False}, "south-k1": {"halt": True},
+    fleet.publish({"north-k2": {"stacker_full": True}, "north-k10": {"stacker_present": False}, "south-k1": {"enabled": False, "halt": True},
                    "fine-k1": {}, HOSTILE: {"error_critical": True, "error_text": HOSTILE_TEXT}})
     seen = page.until("all are there", lambda seen: len(seen["names"]) == 4)
     require(seen["names"] == [HOSTILE, "north-k2", "north-k10", "south-k1"], f"names in natural order: {seen['names']}")
     require(SHOWN_TEXT in seen["faults"][0], seen["faults"][0])
+    require("halted" in seen["faults"][3].splitlines()[0], f"the worst fault is not first: {seen['faults'][3]}")
     require((seen["made"], seen["hit"]) == (2, "undefined"), f"texts from outside were taken as HTML: {seen}")
     require("4 faulty" in seen["counts"] and "1 fine" in seen["counts"], str(seen["counts"]))
     require(seen["title"] == "(4) Kiosks" and seen["state"].startswith("As of ") and seen["old"] == "", str(seen))

@@ -210,6 +210,19 @@ private Q_SLOTS:
         QCOMPARE(due.out, "due: 0, later: 0, cannot say: 0\n"_s);
         QCOMPARE(due.exitCode, 0);
 
+        // A silence is noticed after it began, which the summary tells.
+        FleetKiosk kiosk{"k1"_s, KioskSummary::OutOfOrder, now, now - 5 * hour, {}, true};
+        QCOMPARE(FleetMemory(place).since(kiosk)->began, now - 5 * hour);
+        kiosk.since = now - hour;
+        QCOMPARE(FleetMemory(place).since(kiosk)->began, now - 4 * hour);
+
+        for (const QString& question : {"--due=2w"_s, "--availability"_s}) {
+            const VelmoRun mistyped =
+                velmo(QStringList{"fleet"_s, question, "--kiosk"_s, "k3"_s} + history);
+            QCOMPARE(mistyped.err, "velmo: no kiosk has such a name and region\n"_s);
+            QCOMPARE(mistyped.exitCode, 2);
+        }
+
         recorder.reset(); // what is told may be of long ago
         const QList<QStringList> questions{{"fleet"_s, "history"_s, "k1"_s},
                                            {"fleet"_s, "--due"_s, "2w"_s},

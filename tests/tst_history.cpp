@@ -593,10 +593,11 @@ private Q_SLOTS:
                                        QStringList{"b"_s, "a"_s}.mid(int(message % 2))));
             }
             recorder.record(record("k2"_s, begin + 15 * day, 1, Condition::Fine));
+            recorder.record(record("k3"_s, begin - day, 1, Condition::Unknown));
         }
         const History history(place);
         const auto now = history.now(end + 3 * day);
-        QCOMPARE(now.size(), 2);
+        QCOMPARE(now.size(), 3);
         QCOMPARE(now["k1"_s].since, end + 2 * day);
         QCOMPARE(now["k1"_s].condition, Condition::Faulty);
         QCOMPARE(now["k1"_s].timesThisMonth, 1);
@@ -607,6 +608,7 @@ private Q_SLOTS:
         QCOMPARE(october["k1"_s].inService, 2 * day + (end - begin - 16 * day));
         QCOMPARE(october["k1"_s].known, october["k1"_s].inService + 6 * day);
         QCOMPARE(october["k2"_s].known, end - begin - 15 * day);
+        QVERIFY(october.contains("k3"_s) && october["k3"_s].known == 0);
         QCOMPARE(history.availability(month, begin + 17 * day)["k2"_s].inService, 2 * day);
         QVERIFY(history.availability(month.addMonths(2), end + 3 * day).isEmpty());
     }
@@ -707,6 +709,10 @@ private Q_SLOTS:
             texts,
             QStringList({"0 100 100 0 9.9 7.7-13.8 "_s, "-1 0 216 500 21.6 10.2-17.6 "_s,
                          "1 500 50 0 0.0 - Its level has not fallen in the last two weeks."_s}));
+        for (const History::Due& each : History(place).due(start + 2 * day + hour)) {
+            QVERIFY(!each.earliest && !each.latest);
+            QCOMPARE(each.cannotSay, "Its level has not been told for more than a day."_s);
+        }
         {
             HistoryRecorder recorder(place, "1/1"_s, "w1"_s);
             recorder.record(record("k1"_s, start + 2, 1, Condition::Silent, {"silent"_s}));

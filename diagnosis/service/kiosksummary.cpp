@@ -20,6 +20,18 @@ namespace {
 
 constexpr const char* conditions[] = {"unknown", "silent", "out_of_order", "faulty", "fine"};
 
+constexpr const char* reasons[] = {"unreadable",      "silent",       "gone",     "no_devices",
+                                   "halted",          "error",        "state",    "offline",
+                                   "stacker_missing", "stacker_full", "disabled", "too_large"};
+
+// How bad a fault is; one that is not known here comes last.
+int rankOf(const KioskFault& fault)
+{
+    return int(std::find_if(std::begin(reasons), std::end(reasons),
+                            [&](const char* each) { return fault.reason == QLatin1String(each); })
+               - std::begin(reasons));
+}
+
 qint64 timeOf(const QDateTime& time)
 {
     return time.isValid() ? time.toMSecsSinceEpoch() : KioskSummary::noTime;
@@ -96,6 +108,21 @@ JsonText KioskFault::cause() const
     const auto number = [](int of) { return of == noDevice ? JsonText::null() : JsonText(of); };
     return JsonText::object(
         {{"device", number(device)}, {"thread", number(thread)}, {"reason", reason}});
+}
+
+QStringList KioskFault::knownReasons()
+{
+    QStringList keys;
+    for (const char* const reason : reasons)
+        keys += QLatin1String(reason);
+    return keys;
+}
+
+void KioskFault::sort(std::vector<KioskFault>& faults)
+{
+    std::stable_sort(faults.begin(), faults.end(), [](const KioskFault& a, const KioskFault& b) {
+        return rankOf(a) < rankOf(b);
+    });
 }
 
 JsonText KioskSummary::momentText(std::optional<qint64> time)

@@ -23,6 +23,9 @@ struct KioskFault
     QString text; ///< a sentence
 
     JsonText cause() const; ///< an object of what is for programs
+
+    static QStringList knownReasons(); ///< worst first
+    static void sort(std::vector<KioskFault>& faults); ///< worst first
 };
 
 /// What those who watch a fleet are told of a kiosk: what its service published, and whether it

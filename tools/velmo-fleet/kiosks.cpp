@@ -139,6 +139,8 @@ QByteArray Kiosks::json(bool all) const
         const KioskSummary& summary = kiosk->summary;
         if (!all && summary.condition == KioskSummary::Fine)
             continue;
+        std::vector<KioskFault> faults = summary.faults;
+        KioskFault::sort(faults);
         kiosks += (kiosks.isEmpty() ? "" : ",")
             + JsonText::object(
                       {{"kiosk", kiosk.key()},
@@ -146,8 +148,8 @@ QByteArray Kiosks::json(bool all) const
                        {"condition", QString(QLatin1String(KioskSummary::name(summary.condition)))},
                        {"time", KioskSummary::momentText(summary.time)},
                        {"since", KioskSummary::momentText(summary.since)},
-                       {"faults", JsonText::list(summary.faults, textOf)},
-                       {"causes", JsonText::list(summary.faults, causeOf)}});
+                       {"faults", JsonText::list(faults, textOf)},
+                       {"causes", JsonText::list(faults, causeOf)}});
     }
     return "\"counts\":{" + counts + "},\"kiosks\":[" + kiosks + ']';
 }

@@ -134,7 +134,7 @@ QStringList candidatesFor(Kind kind, const QStringList& operands = {}, const QSt
     case Kind::Condition:
         return conditionKeys();
     case Kind::Reason:
-        return reasonKeys();
+        return KioskFault::knownReasons();
     case Kind::Count:
         return FleetTable::countKeys();
     case Kind::Number:

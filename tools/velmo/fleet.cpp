@@ -11,22 +11,10 @@
 
 namespace {
 
-constexpr const char* reasons[] = {"unreadable",      "silent",       "gone",     "no_devices",
-                                   "halted",          "error",        "state",    "offline",
-                                   "stacker_missing", "stacker_full", "disabled", "too_large"};
-
 constexpr const char* conditionTexts[] = {
     QT_TRANSLATE_NOOP("Velmo", "unknown"), QT_TRANSLATE_NOOP("Velmo", "silent"),
     QT_TRANSLATE_NOOP("Velmo", "out of order"), QT_TRANSLATE_NOOP("Velmo", "faulty"),
     QT_TRANSLATE_NOOP("Velmo", "fine")};
-
-// How bad a fault is; one that is not known here comes last.
-int rankOf(const KioskFault& fault)
-{
-    return int(std::find_if(std::begin(reasons), std::end(reasons),
-                            [&](const char* each) { return fault.reason == QLatin1String(each); })
-               - std::begin(reasons));
-}
 
 // A summary without its devices, of which nothing is shown and which are the most of it: the
 // members before and behind them. No text within can look like one of these keys, since it has its
@@ -107,14 +95,6 @@ bool isNaturallyLess(const QString& left, const QString& right)
     return isSame ? left < right : l == left.size(); // k07 and k7
 }
 
-QStringList reasonKeys()
-{
-    QStringList keys;
-    for (const char* const reason : reasons)
-        keys += QLatin1String(reason);
-    return keys;
-}
-
 QStringList conditionKeys()
 {
     QStringList keys;
@@ -142,9 +122,7 @@ void Fleet::take(const QString& kiosk, const QByteArray& summary)
         told.time = read.time;
         told.since = read.since;
         told.faults = std::move(read.faults);
-        std::stable_sort(
-            told.faults.begin(), told.faults.end(),
-            [](const KioskFault& a, const KioskFault& b) { return rankOf(a) < rankOf(b); });
+        KioskFault::sort(told.faults);
         told.isReadable = true;
     } catch (const Fault& fault) {
         told.faults = {{KioskFault::noDevice, KioskFault::noDevice, QStringLiteral("unreadable"),
@@ -168,7 +146,7 @@ int Fleet::unreadable() const
 }
 
 FleetSelection::FleetSelection(const GivenOptions& arguments)
-    : m_reasons(checked(arguments, options::reason, reasonKeys()))
+    : m_reasons(checked(arguments, options::reason, KioskFault::knownReasons()))
     , m_regions(arguments.values(options::region))
 {
     const QStringList names = arguments.values(options::kiosk);

@@ -27,8 +27,7 @@ struct FleetKiosk
 /// Whether one name comes before another one as people count: k2 before k10.
 bool isNaturallyLess(const QString& left, const QString& right);
 
-/// The reasons that faults have, worst first, and the conditions, as programs know them.
-QStringList reasonKeys();
+/// The conditions, worst first, as programs know them.
 QStringList conditionKeys();
 
 /// A condition in the language that is shown.

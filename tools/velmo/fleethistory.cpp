@@ -43,6 +43,17 @@ qint64 now()
     return QDateTime::currentMSecsSinceEpoch();
 }
 
+// Throws Fault where the selection has none of the kiosks: a name that is mistyped is no answer.
+void requireKiosk(const History& history, const FleetSelection& selection)
+{
+    const QStringList kiosks = history.now(now()).keys();
+    if (!selection.isAll()
+        && std::none_of(kiosks.begin(), kiosks.end(),
+                        [&](const QString& kiosk) { return selection.hasName(kiosk); })) {
+        throw Fault{Velmo::tr("no kiosk has such a name and region")};
+    }
+}
+
 // One thing that was so for a while, or happened.
 struct Event
 {
@@ -265,6 +276,8 @@ int tellAvailability(const Arguments& arguments, const FleetSelection& selection
         rows.push_back({kiosk.key(), *kiosk});
         all += *kiosk;
     }
+    if (rows.empty())
+        requireKiosk(history, selection);
     std::sort(rows.begin(), rows.end(), [](const Row& a, const Row& b) {
         return a.share() != b.share() ? a.share() < b.share() : isNaturallyLess(a.kiosk, b.kiosk);
     });
@@ -308,7 +321,9 @@ int tellAvailability(const Arguments& arguments, const FleetSelection& selection
           + QLatin1Char('\n')
           + wrapped(Velmo::tr("%1: shares of the time for which the condition is known; not known: "
                               "share of the month up to now.")
-                        .arg(month.toString(QStringLiteral("yyyy-MM"))),
+                            .arg(month.toString(QStringLiteral("yyyy-MM")))
+                        + QLatin1Char(' ')
+                        + Velmo::tr("While no worker ran, kiosks count as in the condition before."),
                     0, outputWidth()));
     return codeOf(history);
 }
@@ -351,6 +366,8 @@ int tellDue(const Arguments& arguments, const FleetSelection& selection)
         }
     }
     const int found = int(due.size());
+    if (found + later + unsaid == 0)
+        requireKiosk(history, selection);
     if (isJson) {
         print(QString::fromUtf8(lines
                                 + JsonText::object({{"kind", QStringLiteral("summary")},

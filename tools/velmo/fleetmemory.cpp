@@ -42,11 +42,14 @@ void FleetMemory::refresh()
 
 std::optional<FleetMemory::Since> FleetMemory::since(const FleetKiosk& kiosk) const
 {
-    // The history may be behind what the broker has.
+    const bool isTold = kiosk.since != KioskSummary::noTime;
+    // The history may be behind what the broker has. In it a silence begins when it is noticed, by
+    // the summary when the kiosk was heard of last.
     const auto known = m_now.constFind(kiosk.name);
     if (known != m_now.constEnd() && known->condition == kiosk.condition)
-        return Since{known->since, known->timesThisMonth};
-    if (kiosk.since != KioskSummary::noTime)
+        return Since{isTold ? qMin(known->since, kiosk.since) : known->since,
+                     known->timesThisMonth};
+    if (isTold)
         return Since{kiosk.since, 0};
     return {};
 }

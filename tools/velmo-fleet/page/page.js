@@ -92,11 +92,13 @@ function tellState() {
     document.title = (isPast ? "(?) " : data ? `(${number(toSee)}) ` : "") + texts.kiosks;
 }
 
-// Since when a kiosk is as it is, by the history where that knows it.
+// Since when a kiosk is as it is, by the history where that knows it. In that a silence begins when it is noticed, by the
+// summary when the kiosk was heard of last.
 function sinceOf(kiosk) {
     const known = present.now && Object.hasOwn(present.now, kiosk.kiosk) ? present.now[kiosk.kiosk] : null;
     const isSame = known && known.condition === kiosk.condition;
-    return {time: isSame ? known.since : kiosk.since, times: isSame ? known.times : 0};
+    const times = [isSame ? known.since : null, kiosk.since].filter(Boolean).sort();
+    return {time: times[0], times: isSame ? known.times : 0};
 }
 
 const timeOrder = (left, right) => (left ? Date.parse(left) : Infinity) - (right ? Date.parse(right) : Infinity) || 0;
