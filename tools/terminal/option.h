@@ -99,10 +99,9 @@ private:
     const QCommandLineParser& m_parser;
 };
 
-/// The options that several programs have: help, and those of a connection to a broker.
+/// The options of a connection to a broker.
 namespace options {
 
-constexpr Option help{"help", "h", Value(), QT_TRANSLATE_NOOP("Velmo", "Print this help.")};
 constexpr Option broker{"broker", nullptr, Value("HOST:PORT", Kind::Text),
                         QT_TRANSLATE_NOOP("Velmo", "The broker; localhost:1883 without it.")};
 constexpr Option passwordFile{"password-file", nullptr, Value("FILE", Kind::File),

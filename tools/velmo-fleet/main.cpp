@@ -4,7 +4,6 @@
 #include "historyrecorder.h"
 #include "terminal/option.h"
 #include "terminal/output.h"
-#include "terminal/table.h"
 #include "text/fault.h"
 #include "webserver.h"
 #include "worker.h"
@@ -64,12 +63,10 @@ constexpr Option language{
     "lang", nullptr, Value("LANG", Kind::Language),
     QT_TRANSLATE_NOOP("Velmo",
                       "The language of the summaries, as \"ru\", in place of the system's.")};
-constexpr Option version{"version", "v", Value(),
-                         QT_TRANSLATE_NOOP("Velmo", "Print the version of the program.")};
 // In the order of the help.
 const Option* const every[] = {
-    &broker,  &states,  &summaries,    &wills, &status,  &name,   &partition, &silent, &forgetAfter,
-    &history, &metrics, &passwordFile, &tlsCa, &tlsCert, &tlsKey, &language,  &help,   &version};
+    &broker,      &states,  &summaries, &wills,        &status, &name,    &partition, &silent,
+    &forgetAfter, &history, &metrics,   &passwordFile, &tlsCa,  &tlsCert, &tlsKey,    &language};
 
 } // namespace options
 
@@ -106,45 +103,27 @@ WorkerOptions workerOptions(const GivenOptions& given)
     return worker;
 }
 
-QString helpText()
-{
-    QList<QStringList> rows;
-    for (const Option* const option : options::every) {
-        QString text = Velmo::tr(option->help);
-        if (option->usual) {
-            text = Velmo::tr("%1; %2 without it.")
-                       .arg(text.chopped(1), QString::fromLatin1(option->usual));
-        }
-        rows += QStringList{option->usage(), text};
-    }
-    return Velmo::tr("Usage:") + QStringLiteral(" velmo-fleet [OPTION]...\n\n")
-        + wrapped(Velmo::tr("Makes summaries of what kiosks publish at an MQTT broker."))
-        + QLatin1Char('\n') + Velmo::tr("Options:") + QLatin1Char('\n') + formatList(rows);
-}
-
 void run()
 {
     loadAskedLanguage(options::language);
     QCommandLineParser parser;
-    for (const Option* const option : options::every)
-        parser.addOption(option->forParser());
-    const bool isSound = parser.parse(QCoreApplication::arguments());
-    const QString unknown = parser.unknownOptionNames().value(0);
-    if (!unknown.isEmpty()) {
-        throw Fault{Velmo::tr("unknown option %1")
-                        .arg(QString(unknown.size() == 1 ? 1 : 2, QLatin1Char('-')) + unknown)};
+    parser.setApplicationDescription(
+        Velmo::tr("Makes summaries of what kiosks publish at an MQTT broker."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    for (const Option* const option : options::every) {
+        QCommandLineOption known = option->forParser();
+        if (option->usual) {
+            known.setDescription(
+                Velmo::tr("%1; %2 without it.")
+                    .arg(known.description().chopped(1), QString::fromLatin1(option->usual)));
+        }
+        parser.addOption(known);
     }
-    if (!isSound)
+    if (!parser.parse(QCoreApplication::arguments()))
         throw Fault{parser.errorText()};
+    parser.process(QCoreApplication::arguments()); // --help and --version
     const GivenOptions given(parser);
-    if (given.isSet(options::help)) {
-        print(helpText());
-        return;
-    }
-    if (given.isSet(options::version)) {
-        print(QStringLiteral("velmo-fleet " VERSION "\n"));
-        return;
-    }
     for (const Option* const option : options::every)
         given.requireValue(*option);
     if (!parser.positionalArguments().isEmpty())

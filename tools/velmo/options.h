@@ -9,6 +9,7 @@
 /// Every option, under one name and with one meaning in every command.
 namespace options {
 
+constexpr Option help{"help", "h", Value(), QT_TRANSLATE_NOOP("Velmo", "Print this help.")};
 constexpr Option language{
     "lang", nullptr, Value("LANG", Kind::Language),
     QT_TRANSLATE_NOOP("Velmo", "The language of the texts, as \"ru\", in place of the system's.")};
