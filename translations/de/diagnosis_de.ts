@@ -1862,5 +1862,9 @@
         <source>the filter cannot hold the sum %1: it takes %2</source>
         <translation>der Filter fasst die Summe %1 nicht: es gilt %2</translation>
     </message>
+    <message>
+        <source>Its level has not been told for more than a day.</source>
+        <translation>Der Bestand ist seit mehr als einem Tag nicht gemeldet worden.</translation>
+    </message>
 </context>
 </TS>

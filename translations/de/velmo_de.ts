@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumente:</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Diese Hilfe mit den Optionen von Qt ausgeben.</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Diese Hilfe ausgeben.</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Die Version ausgeben.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Nach &quot;%1&quot; fehlt ein Wert.</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Nach &quot;%1&quot; wird kein Wert erwartet.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Unbekannte Option &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Unbekannte Optionen: %1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[Optionen]</translation>
+    </message>
+</context>
+<context>
     <name>Velmo</name>
     <message>
         <source>Options:</source>
@@ -1969,6 +2016,10 @@ Ctrl+O opens one.</source>
     <message>
         <source>%1: is no regular file</source>
         <translation>%1: ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>While no worker ran, kiosks count as in the condition before.</source>
+        <translation>Solange kein Worker lief, zählen Kioske als in dem Zustand davor.</translation>
     </message>
 </context>
 </TS>

@@ -1898,5 +1898,9 @@
         <source>the filter cannot hold the sum %1: it takes %2</source>
         <translation>фильтр не вмещает сумму %1: возьмёт %2</translation>
     </message>
+    <message>
+        <source>Its level has not been told for more than a day.</source>
+        <translation>Остаток не сообщался больше суток.</translation>
+    </message>
 </context>
 </TS>

@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en">
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Arguments:</source>
+        <translation>Аргументы:</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Показать эту справку с параметрами Qt.</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Показать эту справку.</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Показать версию.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>После &quot;%1&quot; нет значения.</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Параметры:</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>После &quot;%1&quot; значение не ожидается.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Неизвестный параметр &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Неизвестные параметры: %1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Вызов: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[параметры]</translation>
+    </message>
+</context>
+<context>
     <name>Velmo</name>
     <message>
         <source>Options:</source>
@@ -1987,6 +2034,10 @@ Ctrl+O opens one.</source>
     <message>
         <source>%1: is no regular file</source>
         <translation>%1: это не обычный файл</translation>
+    </message>
+    <message>
+        <source>While no worker ran, kiosks count as in the condition before.</source>
+        <translation>Пока ни один обработчик не работал, считается прежнее состояние терминалов.</translation>
     </message>
 </context>
 </TS>
