@@ -91,8 +91,11 @@ void Publisher::send(const QString& name, Kiosk* kiosk)
     }
     m_metrics.published.Increment();
     m_sent.insert(message, {name, kiosk ? Kiosk::hash(kiosk->summary.text) : 0});
-    if (kiosk)
+    if (kiosk) {
         kiosk->isSent = true;
+        kiosk->sent = message;
+        kiosk->atBroker = 0; // what it had is replaced, or will be
+    }
     if (kiosk && kiosk->summary.time != KioskSummary::noTime && !kiosk->isSilent()) {
         const qint64 age = QDateTime::currentMSecsSinceEpoch() - kiosk->summary.time;
         m_metrics.latency.Observe(double(std::max<qint64>(age, 0)) / 1000);
@@ -109,7 +112,7 @@ bool Publisher::acknowledge(int message, const QString& refusal)
     Kiosk* const kiosk = m_kiosks.find(sent.kiosk);
     if (refusal.isEmpty()) {
         m_metrics.acknowledged.Increment();
-        if (kiosk)
+        if (kiosk && kiosk->sent == message)
             kiosk->atBroker = sent.hash;
         return true;
     }
