@@ -71,6 +71,10 @@ void Worker::take(const QString& topic, const QByteArray& payload, bool isRetain
 void Worker::takeStatus(const QString& name, const QByteArray& payload, bool isRetained)
 {
     const bool isGone = payload.isEmpty() || WorkerStatus::read(payload).isGone;
+    // What a worker that ends had in hand may be older than what this one has published; so may be
+    // what this one had on a connection before.
+    if (isGone && !isRetained)
+        m_mustVerify = true;
     if (name == m_options.name) {
         // A broker that crashed may have read a store from before.
         if (payload == m_lastStatus || isGone)
@@ -82,9 +86,6 @@ void Worker::takeStatus(const QString& name, const QByteArray& payload, bool isR
             m_log.warn(QStringLiteral("worker"),
                        Velmo::tr("another worker has the same --name, \"%1\"").arg(name));
         }
-    } else if (!isRetained) {
-        // What a worker that ends had in hand may be older than what this one has published.
-        m_mustVerify = m_mustVerify || isGone;
     }
 }
 
