@@ -19,6 +19,7 @@ constexpr seconds forgettingPause{3600};
 constexpr seconds droppedKnownAfter{20}; // mosquitto tells of it every ten
 constexpr quint32 statusExpiry = 86400; // seconds
 constexpr qint64 day = 86400000; // milliseconds
+constexpr int mostLeft = 100000; // kiosks whose names are kept
 
 // Now, in milliseconds since 1970; not finer, so that workers agree.
 qint64 wholeSecond()
@@ -225,6 +226,9 @@ void Worker::loseSight(const QString& name, KioskSummary::Condition condition, c
 void Worker::forget(const QString& name)
 {
     m_kiosks.remove(name);
+    if (m_left.size() >= mostLeft)
+        m_left.clear();
+    m_left.insert(name);
     m_publisher.takeOut(name);
     m_metrics.forgotten.Increment();
     if (m_history)

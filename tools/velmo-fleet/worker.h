@@ -116,6 +116,7 @@ private:
     Clock::time_point m_lastRetained; // when something came that the broker had kept
     QSet<QString> m_retained; // kiosks of which it has something
     bool m_mustVerify = false; // whether the summaries there are those of this worker
+    QSet<QString> m_left; // kiosks of which the broker may have a summary still, or again
     qint64 m_droppedKnown = 0;
     std::chrono::seconds m_dropPause{10};
     Clock::time_point m_nextGathering;

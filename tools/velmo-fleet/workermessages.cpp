@@ -95,6 +95,10 @@ void Worker::takeSummary(const QString& name, const QByteArray& payload, bool /*
     if (payload.isEmpty() || !m_isGathering)
         return;
     Kiosk* kiosk = m_kiosks.find(name);
+    if (!kiosk && m_left.contains(name)) {
+        m_publisher.takeOut(name); // the broker was told so before, or never
+        return;
+    }
     if (kiosk && kiosk->isSent) {
         kiosk->atBroker = 0; // it is sent once more
         return;
@@ -142,6 +146,8 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
         return;
     }
     Kiosk* kiosk = m_kiosks.find(name);
+    if (!kiosk)
+        m_left.remove(name);
     const quint64 message = Kiosk::hash(payload);
     const bool isKnown = kiosk && kiosk->message == message;
     if (kiosk && !isRetained)
