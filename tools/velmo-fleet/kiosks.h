@@ -24,6 +24,7 @@ struct Kiosk
     SilenceWatch::Duration heardOf{0}; ///< when it last said something
     qint64 heardAt = KioskSummary::noTime; ///< the same in milliseconds since 1970, if it was heard
     bool wasTold = false; ///< before what the broker has was read anew
+    bool isHere = true; ///< its state has come since there is a connection
     int sent = 0; ///< the message in which the broker was sent a summary last
     bool isWaiting = false; ///< to be published
     bool isSent = false; ///< so that it is not known whether what the broker tells is older

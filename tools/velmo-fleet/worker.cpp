@@ -155,7 +155,8 @@ void Worker::startGathering()
     m_mustVerify = false;
     m_lastRetained = Clock::now();
     m_retained.clear();
-    m_kiosks.forEach([](const QString&, Kiosk& kiosk) {
+    m_kiosks.forEach([this](const QString&, Kiosk& kiosk) {
+        kiosk.isHere = kiosk.isHere && m_isListening;
         kiosk.wasTold = kiosk.isTold();
         kiosk.atBroker = 0;
         kiosk.isSent = false;

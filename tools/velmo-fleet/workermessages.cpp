@@ -92,9 +92,15 @@ void Worker::takeStatus(const QString& name, const QByteArray& payload, bool isR
 void Worker::takeSummary(const QString& name, const QByteArray& payload, bool /*isRetained*/)
 {
     // One that was under way while this worker stopped reading them may be older than its own.
-    if (payload.isEmpty() || !m_isGathering)
+    if (!m_isGathering)
         return;
     Kiosk* kiosk = m_kiosks.find(name);
+    if (payload.isEmpty()) {
+        // Another worker heard that the kiosk left, just before this one would have.
+        if (kiosk && !kiosk->isHere && !m_isListening)
+            forget(name);
+        return;
+    }
     if (!kiosk && m_left.contains(name)) {
         m_publisher.takeOut(name); // the broker was told so before, or never
         return;
@@ -111,6 +117,7 @@ void Worker::takeSummary(const QString& name, const QByteArray& payload, bool /*
         if (!kiosk) {
             kiosk = &m_kiosks.set(name, told());
             kiosk->heardOf = m_silence.now();
+            kiosk->isHere = false;
         } else if (hash != Kiosk::hash(kiosk->summary.text)) {
             adoptSilence(name, told());
             kiosk = m_kiosks.find(name);
@@ -146,7 +153,9 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
         return;
     }
     Kiosk* kiosk = m_kiosks.find(name);
-    if (!kiosk)
+    if (kiosk)
+        kiosk->isHere = true;
+    else
         m_left.remove(name);
     const quint64 message = Kiosk::hash(payload);
     const bool isKnown = kiosk && kiosk->message == message;
