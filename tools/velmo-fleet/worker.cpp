@@ -151,17 +151,17 @@ void Worker::followConnection()
 
 void Worker::startGathering()
 {
-    m_isGathering = true;
     m_mustVerify = false;
     m_lastRetained = Clock::now();
     m_retained.clear();
     m_kiosks.forEach([this](const QString&, Kiosk& kiosk) {
         kiosk.isHere = kiosk.isHere && m_isListening;
-        kiosk.wasTold = kiosk.isTold();
+        kiosk.wasTold = kiosk.isTold() || (m_isGathering && kiosk.wasTold); // if that did not end
         kiosk.atBroker = 0;
         kiosk.isSent = false;
     });
     m_publisher.markSent();
+    m_isGathering = true;
 }
 
 void Worker::endGathering()
@@ -198,6 +198,7 @@ void Worker::tell(const QString& name, const KioskSummary& summary, quint64 mess
 {
     Kiosk& kiosk = m_kiosks.set(name, summary);
     kiosk.message = message;
+    kiosk.wasTold = false;
     // Of one that is silent by what the broker had kept, a newer state may be on its way.
     if (m_isListening || !kiosk.isSilent())
         m_publisher.add(name, kiosk);
