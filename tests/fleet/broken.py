@@ -7,6 +7,7 @@ import datetime
 import glob
 import json
 import os
+import queue
 import re
 import shutil
 import signal
@@ -249,31 +250,61 @@ def check_away(world):
 
 
 class Road:
-    """From a worker to the broker and back; what it sends can be held up."""
+    """From a worker to the broker and back; what it sends on a connection can be held up."""
 
     def __init__(self, broker):
         self.broker = broker
         self.listener = socket.create_server(("127.0.0.1", 0))
         self.port = self.listener.getsockname()[1]
-        self.sent, self.is_free = b"", threading.Event()
-        self.is_free.set()
+        self.sent, self.connections, self.held_after = b"", 0, None
         threading.Thread(target=self.serve, daemon=True).start()
 
     def serve(self):
-        worker = self.listener.accept()[0]
-        broker = socket.create_connection(("127.0.0.1", self.broker.port))
-        threading.Thread(target=self.carry, args=(broker, worker.sendall), daemon=True).start()
-        self.carry(worker, lambda data: self.send(broker, data))
+        while True:
+            self.worker = self.listener.accept()[0]
+            self.end = socket.create_connection(("127.0.0.1", self.broker.port))
+            self.is_free, waiting = threading.Event(), queue.Queue()
+            self.is_free.set()
 
-    def send(self, broker, data):
-        self.sent += data
-        self.is_free.wait()
-        broker.sendall(data)
+            def put(data, waiting=waiting):
+                self.sent += data
+                waiting.put(data)
+            for work in ((self.carry, self.end.recv, self.worker.sendall), (self.carry, self.worker.recv, put),
+                         (self.send, self.end, self.is_free, waiting)):
+                threading.Thread(target=work[0], args=work[1:], daemon=True).start()
+            self.connections += 1
+
+    def send(self, broker, is_free, waiting):
+        with contextlib.suppress(OSError):
+            while data := waiting.get():
+                is_free.wait()
+                if self.held_after and self.held_after in data:
+                    length = data.index(self.held_after) + len(self.held_after)
+                    broker.sendall(data[:length])
+                    data, self.held_after = data[length:], None
+                    is_free.clear()
+                    is_free.wait()
+                broker.sendall(data)
+
+    def hold(self, what, act):
+        """What the worker sends from now on, until it has sent that, and longer."""
+        self.is_free.clear()
+        before = self.sent.count(what)
+        act()
+        wait_until(f"it sends {what}", lambda: self.sent.count(what) > before)
+
+    def break_off(self, *ends):
+        """The worker connects again."""
+        before = self.connections
+        for end in ends or (self.worker, self.end):
+            with contextlib.suppress(OSError):
+                end.shutdown(socket.SHUT_RDWR)
+        wait_until("it connects again", lambda: self.connections > before)
 
     @staticmethod
-    def carry(origin, send):
+    def carry(receive, send):
         with contextlib.suppress(OSError):
-            while data := origin.recv(1 << 16):
+            while data := receive(1 << 16):
                 send(data)
 
 
@@ -296,6 +327,94 @@ def check_overtaken(world):
     road.is_free.set()
     wait_until("the late word comes", lambda: fleet.told("mute")["condition"] != "silent")
     fleet.wait_for("mute", "silent")
+
+
+def check_late(world):
+    """What a worker sent comes late, or never."""
+    fleet, road = Fleet(world), Road(world.broker)
+    worker = Worker(fleet, "--broker", f"127.0.0.1:{road.port}")
+    state = fleet.state()
+    fleet.send("k", state)
+    fleet.send("leaves")
+    fleet.check("before")
+    wait_until("that is known", lambda: worker.count("summaries_acknowledged_total") == 2)
+    road.hold(b'"reason":"gone"', lambda: fleet.send("k", b"gone", "will", retain=False))
+    fleet.send("k", state)
+    time.sleep(0.3)
+    road.is_free.set()
+    fleet.check("it says the same as before its end")
+    road.hold(b"/k/summary", lambda: fleet.send("k"))
+    before, is_free = road.end, road.is_free
+    road.break_off(road.worker)
+    worker.wait_ready()
+    fleet.send("k")
+    fleet.check("on another connection")
+    is_free.set()
+    before.shutdown(socket.SHUT_RDWR)
+    time.sleep(0.5)
+    fleet.check("after what was sent on the one before")
+    road.hold(b"/leaves/summary", lambda: fleet.send("leaves", b""))
+    road.end.close()
+    road.break_off()
+    worker.wait_ready()
+    fleet.check("what took it out was lost")
+
+
+def check_leaving(world):
+    """Who leaves at a bad moment does not come back."""
+    fleet, road = Fleet(world), Road(world.broker)
+    stays = Worker(fleet)
+    fleet.publish_all(["stays", "k1", "k2", "k3"])
+    fleet.check("before")
+
+    def leave(kiosk):
+        fleet.send(kiosk, b"")
+        wait_until("its summary is gone", lambda: kiosk not in fleet.summaries)
+    road.held_after = f"{fleet.root}/+/summary\x05".encode()
+    other = Worker(fleet, "--broker", f"127.0.0.1:{road.port}", wait=False)
+    wait_until("it begins to read", lambda: road.connections == 1 and not road.is_free.is_set())
+    time.sleep(0.3)
+    leave("k1")
+    road.is_free.set()
+    other.wait_ready()
+    hold(other.count("kiosks") == 3, "known when one left:", other.page())
+    road.hold(b"/k2/summary", lambda: fleet.send("k2"))
+    other.signal(signal.SIGSTOP)
+    leave("k2")
+    road.is_free.set()
+    wait_until("the other's word comes late", lambda: "k2" in fleet.summaries)
+    other.kill()
+    road.end.shutdown(socket.SHUT_RDWR)
+    wait_until("it is taken out", lambda: fleet.summaries.keys() == {"stays", "k3"})
+    time.sleep(3)  # until that is read
+    stays.signal(signal.SIGSTOP)
+    time.sleep(1.2)
+    fleet.send("k3", b"")
+    fleet.settle(fleet.client.publish("velmo-fleet/none/status", b"", 1))
+    stays.signal(signal.SIGCONT)
+    time.sleep(3)
+    fleet.check("after that")
+    hold(stays.count("kiosks") == 1, "known in the end:", stays.page())
+
+
+def check_broken_off(world):
+    """Who fell silent while one of two was away stays so where the connection breaks while that one reads."""
+    fleet, road = Fleet(world, silent=3), Road(world.broker)
+    fleet.workers([], ["--broker", f"127.0.0.1:{road.port}", "--silent", "60"])
+    fleet.send("mute")
+    fleet.check("before")
+    road.held_after = b"MQTT"
+    road.break_off()
+    fleet.send("mute")
+    fleet.wait_for("mute", "silent")
+    road.held_after = b"\x82"  # the first subscription
+    road.is_free.set()
+    wait_until("it would read", lambda: road.held_after is None and not road.is_free.is_set())
+    time.sleep(0.5)
+    road.break_off()
+    for _ in range(40):
+        hold(fleet.told("mute")["condition"] == "silent", fleet.told("mute"))
+        time.sleep(0.1)
 
 
 def check_older_store(world):
@@ -539,6 +658,6 @@ def check_status(world):
     wait_until("its status is removed", lambda: fleet.statuses[worker.name] is None)
 
 
-CHECKS = [check_silence, check_away, check_overtaken, check_older_store, check_forgetting, check_rights, check_poison,
-          check_flood, check_partitions, check_sizes, check_wills, check_scrapped, check_left, check_status,
+CHECKS = [check_silence, check_away, check_overtaken, check_late, check_leaving, check_broken_off, check_older_store,
+          check_forgetting, check_rights, check_poison, check_flood, check_partitions, check_sizes, check_wills, check_scrapped, check_left, check_status,
           check_topics, check_clocks, check_options]
