@@ -131,6 +131,11 @@ def check_sizes(world):
             fleet.send(f"big{number}", fleet.state(json.dumps(devices)))
             fleet.wait_for(f"big{number}", "out_of_order", "too_large")
         hold(worker.count("reconnects_total") <= (limit.startswith("message")), limit, worker.said())
+        fleet.send("big", b"gone", "will", retain=False)
+        fleet.wait_for("big", "silent", "gone")
+        fleet.restart([worker])
+        time.sleep(1)
+        hold(fleet.told("big")["condition"] == "silent", "a silent one that was cut:", fleet.told("big"))
         fleet.publish_all(["big", "big0", "big1", "big2"])
         fleet.check(limit)
 

@@ -72,7 +72,7 @@ private:
     void takeWill(const QString& name, const QByteArray& payload, bool isRetained);
     void takeStatus(const QString& name, const QByteArray& payload, bool isRetained);
     void adoptSilence(const QString& name, const KioskSummary& told);
-    static bool isSilenceAfter(const QString& name, const KioskSummary& state,
+    static bool isSilenceAfter(const QString& name, KioskSummary state,
                                const KioskSummary& silence);
     void hear(Kiosk& kiosk);
     void judgeClock(const QString& name);

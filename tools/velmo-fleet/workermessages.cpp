@@ -198,13 +198,15 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
 }
 
 // Whether the kiosk fell silent after just that state.
-bool Worker::isSilenceAfter(const QString& name, const KioskSummary& state,
-                            const KioskSummary& silence)
+bool Worker::isSilenceAfter(const QString& name, KioskSummary state, const KioskSummary& silence)
 {
-    return silence.text
-        == KioskSummary::withoutState(state, name, KioskSummary::Silent, silence.faults[0],
-                                      silence.since)
-               .text;
+    const auto isAfter = [&] {
+        return silence.text
+            == KioskSummary::withoutState(state, name, KioskSummary::Silent, silence.faults[0],
+                                          silence.since)
+                   .text;
+    };
+    return isAfter() || (state.cutTo(state.text.size(), name) && isAfter()); // the broker's limit
 }
 
 void Worker::takeWill(const QString& name, const QByteArray& payload, bool isRetained)
