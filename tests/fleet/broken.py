@@ -367,7 +367,8 @@ def check_late(world):
 
 def check_leaving(world):
     """Who leaves at a bad moment does not come back."""
-    fleet, road = Fleet(world), Road(world.broker)
+    fleet = Fleet(world, Broker(world))  # where no other worker ends, after which these would read
+    road = Road(fleet.broker)
     stays = Worker(fleet)
     fleet.publish_all(["stays", "k1", "k2", "k3"])
     fleet.check("before")
