@@ -665,5 +665,5 @@ def check_status(world):
 
 
 CHECKS = [check_silence, check_away, check_overtaken, check_late, check_leaving, check_broken_off, check_older_store,
-          check_forgetting, check_rights, check_poison, check_flood, check_partitions, check_sizes, check_wills, check_scrapped, check_left, check_status,
-          check_topics, check_clocks, check_options]
+          check_forgetting, check_rights, check_poison, check_flood, check_partitions, check_sizes, check_wills,
+          check_scrapped, check_left, check_status, check_topics, check_clocks, check_options]

@@ -47,9 +47,9 @@ qint64 now()
 void requireKiosk(const History& history, const FleetSelection& selection)
 {
     const QStringList kiosks = history.now(now()).keys();
-    if (!selection.isAll()
-        && std::none_of(kiosks.begin(), kiosks.end(),
-                        [&](const QString& kiosk) { return selection.hasName(kiosk); })) {
+    if (!selection.isAll() && std::none_of(kiosks.begin(), kiosks.end(), [&](const QString& kiosk) {
+            return selection.hasName(kiosk);
+        })) {
         throw Fault{Velmo::tr("no kiosk has such a name and region")};
     }
 }
@@ -315,16 +315,17 @@ int tellAvailability(const Arguments& arguments, const FleetSelection& selection
         add(row.kiosk, row.of, whole);
     add(Velmo::tr("all together"), all, wholeOfAll);
     const QString right(QLatin1Char('>'));
-    print(formatTable({Velmo::tr("Kiosk"), right + Velmo::tr("In service, %"),
-                       right + Velmo::tr("Silent, %"), right + Velmo::tr("Not known, %")},
-                      cells)
-          + QLatin1Char('\n')
-          + wrapped(Velmo::tr("%1: shares of the time for which the condition is known; not known: "
-                              "share of the month up to now.")
-                            .arg(month.toString(QStringLiteral("yyyy-MM")))
-                        + QLatin1Char(' ')
-                        + Velmo::tr("While no worker ran, kiosks count as in the condition before."),
-                    0, outputWidth()));
+    print(
+        formatTable({Velmo::tr("Kiosk"), right + Velmo::tr("In service, %"),
+                     right + Velmo::tr("Silent, %"), right + Velmo::tr("Not known, %")},
+                    cells)
+        + QLatin1Char('\n')
+        + wrapped(Velmo::tr("%1: shares of the time for which the condition is known; not known: "
+                            "share of the month up to now.")
+                          .arg(month.toString(QStringLiteral("yyyy-MM")))
+                      + QLatin1Char(' ')
+                      + Velmo::tr("While no worker ran, kiosks count as in the condition before."),
+                  0, outputWidth()));
     return codeOf(history);
 }
 
