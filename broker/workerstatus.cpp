@@ -36,6 +36,7 @@ QByteArray WorkerStatus::json() const
                              {"part", part},
                              {"parts", parts},
                              {"kiosks", kiosks},
+                             {"changes", changes},
                              {"ready", isReady},
                              {"version", QStringLiteral(VERSION)},
                              {"since", since},

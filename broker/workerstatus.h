@@ -22,6 +22,7 @@ struct WorkerStatus
     bool isGone =
         false; ///< nothing more is known then: the broker tells it of a worker it has lost
     int kiosks = 0; ///< summaries of its part
+    int changes = 0; ///< kiosks that came or left since it began; not read
     bool isReady = false; ///< it has read all that the broker had retained
     QString since; ///< when it began, as JSON has it
     QStringList faults; ///< sentences

@@ -427,13 +427,14 @@ def check_older_store(world):
     """Who was silent is known still where a broker that crashed had not saved him."""
     fleet = Fleet(world, Broker(world), 2)
     workers = fleet.workers([], [])
-    fleet.send("saved")
+    fleet.publish_all(["saved", "leaves"])
     fleet.check("before")
-    wait_until("both tell of one kiosk", lambda: all(
-        (fleet.statuses.get(worker.name) or {}).get("kiosks") == 1 for worker in workers))
+    wait_until("both tell of the kiosks", lambda: all(
+        (fleet.statuses.get(worker.name) or {}).get("kiosks") == 2 for worker in workers))
     time.sleep(2)
     store = os.path.join(fleet.broker.folder, "mosquitto.db")
     shutil.copy(store, store + ".old")
+    fleet.send("leaves", b"")
     fleet.send("mute")
     fleet.wait_for("mute", "silent", "silent")
     time.sleep(2)  # for the status
@@ -442,7 +443,8 @@ def check_older_store(world):
     fleet.summaries.clear()
     fleet.broker.start()
     fleet.wait_for("mute", "silent", "silent")
-    fleet.send("saved", b"")  # who leaves meanwhile is gone still
+    for kiosk in ("saved", "leaves"):
+        fleet.send(kiosk, b"")  # who leaves meanwhile is gone still
     wait_until("one has left", lambda: fleet.summaries.keys() == {"mute"})
 
 

@@ -76,8 +76,10 @@ Kiosk& Kiosks::set(const QString& name, const KioskSummary& summary)
 {
     const auto known = m_kiosks.find(name);
     count(summary, 1);
-    if (known == m_kiosks.end())
+    if (known == m_kiosks.end()) {
+        ++m_changes;
         return *m_kiosks.insert(name, Kiosk{summary});
+    }
     count(known->summary, -1);
     known->summary = summary;
     return *known;
@@ -103,6 +105,7 @@ void Kiosks::remove(const QString& name)
     const auto known = m_kiosks.find(name);
     if (known == m_kiosks.end())
         return;
+    ++m_changes;
     setClockWrong(*known, false);
     count(known->summary, -1);
     m_kiosks.erase(known);

@@ -68,6 +68,9 @@ public:
 
     int size() const { return int(m_kiosks.size()); }
 
+    /// How many have come and left.
+    int changes() const { return m_changes; }
+
     /// The names of those for which @p isWanted.
     template <typename Condition>
     std::vector<QString> namesOf(Condition isWanted) const
@@ -97,5 +100,6 @@ private:
 
     Metrics& m_metrics;
     QHash<QString, Kiosk> m_kiosks;
+    int m_changes = 0;
     int m_counts[KioskSummary::Fine + 1] = {};
 };

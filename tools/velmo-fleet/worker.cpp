@@ -333,6 +333,7 @@ WorkerStatus Worker::status() const
     status.part = m_options.part.number();
     status.parts = m_options.part.count();
     status.kiosks = m_kiosks.size();
+    status.changes = m_kiosks.changes();
     status.isReady = m_isListening;
     status.since = m_begin;
     status.faults = faults();
