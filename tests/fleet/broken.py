@@ -261,7 +261,7 @@ class Road:
         self.broker = broker
         self.listener = socket.create_server(("127.0.0.1", 0))
         self.port = self.listener.getsockname()[1]
-        self.sent, self.connections, self.held_after = b"", 0, None
+        self.sent, self.connections, self.held_after, self.late_after = b"", 0, None, 0
         threading.Thread(target=self.serve, daemon=True).start()
 
     def serve(self):
@@ -274,10 +274,17 @@ class Road:
             def put(data, waiting=waiting):
                 self.sent += data
                 waiting.put(data)
-            for work in ((self.carry, self.end.recv, self.worker.sendall), (self.carry, self.worker.recv, put),
-                         (self.send, self.end, self.is_free, waiting)):
+            for work in ((self.carry, self.end.recv, lambda data, worker=self.worker: self.bring(worker, data)),
+                         (self.carry, self.worker.recv, put), (self.send, self.end, self.is_free, waiting)):
                 threading.Thread(target=work[0], args=work[1:], daemon=True).start()
             self.connections += 1
+
+    def bring(self, worker, data):
+        if self.late_after:
+            self.late_after -= min(len(data), self.late_after)
+            if self.late_after == 0:
+                time.sleep(3)
+        worker.sendall(data)
 
     def send(self, broker, is_free, waiting):
         with contextlib.suppress(OSError):
@@ -421,6 +428,24 @@ def check_broken_off(world):
     for _ in range(40):
         hold(fleet.told("mute")["condition"] == "silent", fleet.told("mute"))
         time.sleep(0.1)
+
+
+def check_slow(world):
+    """What the broker has comes with a pause: it has not ended before."""
+    fleet, road = Fleet(world), Road(world.broker)
+    worker = Worker(fleet, "--broker", f"127.0.0.1:{road.port}")
+    kiosks = [f"k{number}" for number in range(1500)]  # more than are under way at once
+    fleet.publish_all(kiosks)
+    fleet.check("before")
+    time.sleep(1.5)  # for the status
+    road.late_after = sum(len(summary) for summary in fleet.summaries.values()) * 9 // 10
+    road.break_off()
+    wait_until("it waits", lambda: road.late_after == 0)
+    time.sleep(2.5)
+    hold(not worker.is_ready(), "it is ready before it has read all")
+    worker.wait_ready()
+    fleet.check("after that")
+    hold(worker.count("forgotten_total") == 0, "forgotten:", worker.count("forgotten_total"))
 
 
 def check_older_store(world):
@@ -666,6 +691,6 @@ def check_status(world):
     wait_until("its status is removed", lambda: fleet.statuses[worker.name] is None)
 
 
-CHECKS = [check_silence, check_away, check_overtaken, check_late, check_leaving, check_broken_off, check_older_store,
+CHECKS = [check_silence, check_away, check_overtaken, check_late, check_leaving, check_broken_off, check_slow, check_older_store,
           check_forgetting, check_rights, check_poison, check_flood, check_partitions, check_sizes, check_wills,
           check_scrapped, check_left, check_status, check_topics, check_clocks, check_options]

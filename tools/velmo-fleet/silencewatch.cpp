@@ -9,7 +9,11 @@ using std::chrono::seconds;
 
 namespace {
 
-constexpr seconds longestProbe{1}; // of a broker that does not stand still
+// Of a broker that does not stand still. One that is always slow says who is silent, too: within a
+// quarter of the time, what is left of it is long enough for a kiosk to be heard.
+constexpr seconds shortestPatience{1};
+constexpr seconds longestPatience{30};
+
 constexpr seconds longestGrace{60}; // for kiosks to come back
 
 } // namespace
@@ -42,7 +46,7 @@ void SilenceWatch::acknowledge(int message)
         return;
     m_probe = 0;
     const Duration passed = m_last - m_probeSentAt;
-    if (passed < longestProbe) {
+    if (passed < std::clamp<Duration>(m_time / 4, shortestPatience, longestPatience)) {
         m_probed = m_probeSent;
     } else {
         m_now -= passed;

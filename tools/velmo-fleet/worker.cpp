@@ -105,7 +105,7 @@ void Worker::turnEverySecond()
     m_metrics.dropped.Increment(double(m_broker.dropped()) - m_metrics.dropped.Value());
     if (!m_broker.isSubscribed())
         return;
-    if (m_isGathering && Clock::now() - m_lastRetained > quiet)
+    if (m_isGathering && hasGathered())
         endGathering();
     if (m_isListening) {
         lookForSilence();
@@ -153,6 +153,8 @@ void Worker::startGathering()
 {
     m_mustVerify = false;
     m_lastRetained = Clock::now();
+    m_endProbe = 0;
+    m_isEndProbed = false;
     m_retained.clear();
     m_kiosks.forEach([this](const QString&, Kiosk& kiosk) {
         kiosk.isHere = kiosk.isHere && m_isListening;
@@ -162,6 +164,14 @@ void Worker::startGathering()
     });
     m_publisher.markSent();
     m_isGathering = true;
+}
+
+// When nothing has come for a while although the broker answers.
+bool Worker::hasGathered()
+{
+    if (m_endProbe == 0 && Clock::now() - m_lastRetained > quiet)
+        m_endProbe = publishStatus(/*isProbe=*/true);
+    return m_isEndProbed;
 }
 
 void Worker::endGathering()
@@ -250,8 +260,10 @@ void Worker::lookForSilence()
     const auto doubtful = m_kiosks.namesOf([this](const QString&, const Kiosk& kiosk) {
         return !kiosk.isSilent() && m_silence.mayBeSilent(kiosk.heardOf);
     });
-    if (!doubtful.empty())
-        publishStatus(/*isProbe=*/true);
+    if (doubtful.empty())
+        return;
+    if (const int message = publishStatus(/*isProbe=*/true))
+        m_silence.sendProbe(message);
 }
 
 // The broker gives an empty state back, and with that the kiosk is forgotten.
@@ -287,18 +299,18 @@ void Worker::lookForGone()
         QDateTime::currentMSecsSinceEpoch());
 }
 
-void Worker::publishStatus(bool isProbe)
+// Returns the message's number, 0 for none.
+int Worker::publishStatus(bool isProbe)
 {
     const QByteArray text = status().json();
     if (!isProbe && text == m_status && Clock::now() < m_nextStatus)
-        return;
+        return 0;
     const int message = m_broker.publish(m_options.status.of(m_options.name), text, statusExpiry);
     if (message <= 0)
-        return;
+        return 0;
     m_status = m_lastStatus = text;
     m_nextStatus = Clock::now() + statusPause;
-    if (isProbe)
-        m_silence.sendProbe(message);
+    return message;
 }
 
 void Worker::acknowledge(int message, const QString& refusal)
@@ -309,6 +321,10 @@ void Worker::acknowledge(int message, const QString& refusal)
                    Velmo::tr("the broker does not take what is published: %1").arg(refusal));
     }
     m_silence.acknowledge(message);
+    if (message == m_endProbe) {
+        m_isEndProbed = true;
+        m_nextSecond = Clock::now();
+    }
 }
 
 QStringList Worker::faults() const

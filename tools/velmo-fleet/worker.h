@@ -64,6 +64,7 @@ private:
     void turnEverySecond();
     void followConnection();
     void startGathering();
+    bool hasGathered();
     void endGathering();
 
     void take(const QString& topic, const QByteArray& payload, bool isRetained);
@@ -87,7 +88,7 @@ private:
     void lookForForgotten();
     void lookForGone();
 
-    void publishStatus(bool isProbe = false);
+    int publishStatus(bool isProbe = false);
     void acknowledge(int message, const QString& refusal);
     WorkerStatus status() const;
     QStringList faults() const;
@@ -114,6 +115,8 @@ private:
     bool m_isListening = false; // all of it has come since there is a connection
     bool m_isStoreNew = true; // the broker has nothing of this worker from before
     Clock::time_point m_lastRetained; // when something came that the broker had kept
+    int m_endProbe = 0; // a message that it was sent since then; 0 for none
+    bool m_isEndProbed = false; // whether it has that
     QSet<QString> m_retained; // kiosks of which it has something
     bool m_mustVerify = false; // whether the summaries there are those of this worker
     QSet<QString> m_left; // kiosks of which the broker may have a summary still, or again

@@ -32,8 +32,11 @@ bool isName(const QString& name)
 
 void Worker::take(const QString& topic, const QByteArray& payload, bool isRetained)
 {
-    if (isRetained)
+    if (isRetained) {
         m_lastRetained = Clock::now();
+        m_endProbe = 0;
+        m_isEndProbed = false;
+    }
     struct Road
     {
         const KioskTopic& pattern;
