@@ -129,7 +129,7 @@ private Q_SLOTS:
         QVERIFY(!watch.isSilent(watch.now()));
         watch.restart();
         QVERIFY(!watch.isSilent(heardOf));
-        pass(18);
+        pass(14);
         QVERIFY(!watch.mayBeSilent(heardOf));
     }
 
