@@ -691,6 +691,7 @@ def check_status(world):
     wait_until("its status is removed", lambda: fleet.statuses[worker.name] is None)
 
 
-CHECKS = [check_silence, check_away, check_overtaken, check_late, check_leaving, check_broken_off, check_slow, check_older_store,
-          check_forgetting, check_rights, check_poison, check_flood, check_partitions, check_sizes, check_wills,
-          check_scrapped, check_left, check_status, check_topics, check_clocks, check_options]
+# Those that take longest begin first.
+CHECKS = [check_silence, check_forgetting, check_rights, check_away, check_left, check_partitions, check_leaving,
+          check_sizes, check_older_store, check_broken_off, check_overtaken, check_slow, check_scrapped, check_status,
+          check_poison, check_wills, check_late, check_topics, check_flood, check_clocks, check_options]
