@@ -315,17 +315,17 @@ int tellAvailability(const Arguments& arguments, const FleetSelection& selection
         add(row.kiosk, row.of, whole);
     add(Velmo::tr("all together"), all, wholeOfAll);
     const QString right(QLatin1Char('>'));
-    print(
-        formatTable({Velmo::tr("Kiosk"), right + Velmo::tr("In service, %"),
-                     right + Velmo::tr("Silent, %"), right + Velmo::tr("Not known, %")},
-                    cells)
-        + QLatin1Char('\n')
-        + wrapped(Velmo::tr("%1: shares of the time for which the condition is known; not known: "
-                            "share of the month up to now.")
-                          .arg(month.toString(QStringLiteral("yyyy-MM")))
-                      + QLatin1Char(' ')
-                      + Velmo::tr("While no worker ran, kiosks count as in the condition before."),
-                  0, outputWidth()));
+    print(formatTable({Velmo::tr("Kiosk"), right + Velmo::tr("In service, %"),
+                       right + Velmo::tr("Silent, %"), right + Velmo::tr("Not known, %")},
+                      cells)
+          + QLatin1Char('\n')
+          + wrapped(Velmo::tr("%1: shares of the time for which the condition is known; not known: "
+                              "share of the month up to now.")
+                            .arg(month.toString(QStringLiteral("yyyy-MM")))
+                        + QLatin1Char(' ')
+                        + Velmo::tr("While no worker ran or had a connection, kiosks count as in "
+                                    "the condition before."),
+                    0, outputWidth()));
     return codeOf(history);
 }
 

@@ -2018,8 +2018,8 @@ Ctrl+O opens one.</source>
         <translation>%1: ist keine gewöhnliche Datei</translation>
     </message>
     <message>
-        <source>While no worker ran, kiosks count as in the condition before.</source>
-        <translation>Solange kein Worker lief, zählen Kioske als in dem Zustand davor.</translation>
+        <source>While no worker ran or had a connection, kiosks count as in the condition before.</source>
+        <translation>Solange kein Worker lief oder Verbindung hatte, zählen Kioske als in dem Zustand davor.</translation>
     </message>
 </context>
 </TS>

@@ -2036,8 +2036,8 @@ Ctrl+O opens one.</source>
         <translation>%1: это не обычный файл</translation>
     </message>
     <message>
-        <source>While no worker ran, kiosks count as in the condition before.</source>
-        <translation>Пока ни один обработчик не работал, считается прежнее состояние терминалов.</translation>
+        <source>While no worker ran or had a connection, kiosks count as in the condition before.</source>
+        <translation>Пока ни один обработчик не работал или не было связи с брокером, считается прежнее состояние терминалов.</translation>
     </message>
 </context>
 </TS>
