@@ -104,10 +104,6 @@ void Worker::takeSummary(const QString& name, const QByteArray& payload, bool /*
             forget(name);
         return;
     }
-    if (!kiosk && m_left.contains(name)) {
-        m_publisher.takeOut(name); // the broker was told so before, or never
-        return;
-    }
     if (kiosk && kiosk->isSent) {
         kiosk->atBroker = 0; // it is sent once more
         return;
@@ -158,8 +154,7 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
     Kiosk* kiosk = m_kiosks.find(name);
     if (kiosk)
         kiosk->isHere = true;
-    else
-        m_left.remove(name);
+    m_left.remove(name);
     const quint64 message = Kiosk::hash(payload);
     const bool isKnown = kiosk && kiosk->message == message;
     if (kiosk && !isRetained)
