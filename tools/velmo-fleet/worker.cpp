@@ -157,12 +157,12 @@ void Worker::startGathering()
     m_isEndProbed = false;
     m_retained.clear();
     m_kiosks.forEach([this](const QString&, Kiosk& kiosk) {
-        kiosk.isHere = kiosk.isHere && m_isListening;
+        kiosk.isStateRead = m_isListening;
         kiosk.wasTold = kiosk.isTold() || (m_isGathering && kiosk.wasTold); // if that did not end
         kiosk.atBroker = 0;
-        kiosk.isSent = false;
+        if (!m_publisher.isUnderWay(kiosk))
+            kiosk.sent = 0;
     });
-    m_publisher.markSent();
     m_isGathering = true;
 }
 
