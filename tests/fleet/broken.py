@@ -410,6 +410,24 @@ def check_leaving(world):
     hold(stays.count("kiosks") == 1, "known in the end:", stays.page())
 
 
+def check_returning(world):
+    """Who left the fleet, came back while one of two workers was away and fell silent stays so."""
+    fleet, road = Fleet(world, silent=3), Road(world.broker)
+    fleet.workers([], ["--broker", f"127.0.0.1:{road.port}", "--silent", "60"])
+    fleet.send("mute")
+    fleet.check("before")
+    fleet.send("mute", b"")
+    fleet.check("it has left")
+    road.held_after = b"MQTT"
+    road.break_off()
+    fleet.send("mute")
+    fleet.wait_for("mute", "silent")
+    road.is_free.set()
+    for _ in range(40):
+        hold(fleet.told("mute").get("condition") == "silent", fleet.told("mute"))
+        time.sleep(0.1)
+
+
 def check_broken_off(world):
     """Who fell silent while one of two was away stays so where the connection breaks while that one reads."""
     fleet, road = Fleet(world, silent=3), Road(world.broker)
@@ -693,5 +711,5 @@ def check_status(world):
 
 # Those that take longest begin first.
 CHECKS = [check_silence, check_forgetting, check_rights, check_away, check_left, check_partitions, check_leaving,
-          check_sizes, check_older_store, check_broken_off, check_overtaken, check_slow, check_scrapped, check_status,
-          check_poison, check_wills, check_late, check_topics, check_flood, check_clocks, check_options]
+          check_sizes, check_older_store, check_broken_off, check_returning, check_overtaken, check_slow, check_scrapped,
+          check_status, check_poison, check_wills, check_late, check_topics, check_flood, check_clocks, check_options]

@@ -23,11 +23,10 @@ struct Kiosk
     quint64 atBroker = 0; ///< hash of the summary that the broker has; 0 while that is not known
     SilenceWatch::Duration heardOf{0}; ///< when it last said something
     qint64 heardAt = KioskSummary::noTime; ///< the same in milliseconds since 1970, if it was heard
-    bool wasTold = false; ///< before what the broker has was read anew
-    bool isHere = true; ///< its state has come since there is a connection
-    int sent = 0; ///< the message in which the broker was sent a summary last
+    bool wasTold = false; ///< isTold() before what the broker has was read anew
+    bool isStateRead = true; ///< on the present connection
+    int sent = 0; ///< the last message with its summary; 0 for none since summaries are read anew
     bool isWaiting = false; ///< to be published
-    bool isSent = false; ///< so that it is not known whether what the broker tells is older
     bool isClockWrong = false;
 
     bool isTold() const { return atBroker == hash(summary.text); }

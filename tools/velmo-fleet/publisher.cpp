@@ -8,7 +8,6 @@
 #include <QDateTime>
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -40,14 +39,6 @@ void Publisher::reset()
                                        return kiosk;
                                    }),
                     m_waiting.end());
-}
-
-void Publisher::markSent()
-{
-    for (const Sent& sent : std::as_const(m_sent)) {
-        if (Kiosk* const kiosk = m_kiosks.find(sent.kiosk))
-            kiosk->isSent = true;
-    }
 }
 
 void Publisher::add(const QString& name, Kiosk& kiosk)
@@ -92,7 +83,6 @@ void Publisher::send(const QString& name, Kiosk* kiosk)
     m_metrics.published.Increment();
     m_sent.insert(message, {name, kiosk ? Kiosk::hash(kiosk->summary.text) : 0});
     if (kiosk) {
-        kiosk->isSent = true;
         kiosk->sent = message;
         kiosk->atBroker = 0; // what it had is replaced, or will be
     }

@@ -28,8 +28,8 @@ public:
     /// to be added again, unless the broker has it; only what is taken out still waits.
     void reset();
 
-    /// Marks those kiosks as sent of which it does not know whether the broker has the summary.
-    void markSent();
+    /// Whether the broker has not acknowledged the summary that it was sent last.
+    bool isUnderWay(const Kiosk& kiosk) const { return m_sent.contains(kiosk.sent); }
 
     /// The kiosk's summary is to be sent, unless the broker has it.
     void add(const QString& name, Kiosk& kiosk);

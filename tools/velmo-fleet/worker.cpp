@@ -157,12 +157,12 @@ void Worker::startGathering()
     m_isEndProbed = false;
     m_retained.clear();
     m_kiosks.forEach([this](const QString&, Kiosk& kiosk) {
-        kiosk.isHere = kiosk.isHere && m_isListening;
+        kiosk.isStateRead = m_isListening;
         kiosk.wasTold = kiosk.isTold() || (m_isGathering && kiosk.wasTold); // if that did not end
         kiosk.atBroker = 0;
-        kiosk.isSent = false;
+        if (!m_publisher.isUnderWay(kiosk))
+            kiosk.sent = 0;
     });
-    m_publisher.markSent();
     m_isGathering = true;
 }
 
@@ -178,15 +178,17 @@ void Worker::endGathering()
 {
     m_isGathering = false;
     m_broker.unsubscribe(m_options.summaries.filter(m_options.part.number()));
+    // What is known of a kiosk of which the broker has nothing is published again, unless the
+    // broker has what was there before: then the kiosk was taken out of the fleet meanwhile. Of one
+    // that left, and has no state again, the broker has a summary that came late or was not taken
+    // out.
+    const auto gone = m_kiosks.namesOf([this](const QString& name, const Kiosk&) {
+        return m_left.contains(name)
+            || (!m_isListening && !m_isStoreNew && !m_retained.contains(name));
+    });
+    for (const QString& name : gone)
+        forget(name);
     if (!m_isListening) {
-        // What is known of a kiosk of which the broker has nothing is published again, unless the
-        // broker has what was there before: then the kiosk was taken out of the fleet meanwhile.
-        if (!m_isStoreNew) {
-            const auto gone = m_kiosks.namesOf(
-                [this](const QString& name, const Kiosk&) { return !m_retained.contains(name); });
-            for (const QString& name : gone)
-                forget(name);
-        }
         // Where the broker has nothing at all its store may be lost; where the topic tells the
         // part a name says nothing of it.
         const bool isTold =

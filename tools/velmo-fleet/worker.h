@@ -119,7 +119,7 @@ private:
     bool m_isEndProbed = false; // whether it has that
     QSet<QString> m_retained; // kiosks of which it has something
     bool m_mustVerify = false; // whether the summaries there are those of this worker
-    QSet<QString> m_left; // kiosks of which the broker may have a summary still, or again
+    QSet<QString> m_left; // kiosks that left the fleet, and of which no state has come since
     qint64 m_droppedKnown = 0;
     std::chrono::seconds m_dropPause{10};
     Clock::time_point m_nextGathering;

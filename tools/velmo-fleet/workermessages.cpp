@@ -100,16 +100,12 @@ void Worker::takeSummary(const QString& name, const QByteArray& payload, bool /*
     Kiosk* kiosk = m_kiosks.find(name);
     if (payload.isEmpty()) {
         // Another worker heard that the kiosk left, just before this one would have.
-        if (kiosk && !kiosk->isHere && !m_isListening)
+        if (kiosk && !kiosk->isStateRead)
             forget(name);
         return;
     }
-    if (!kiosk && m_left.contains(name)) {
-        m_publisher.takeOut(name); // the broker was told so before, or never
-        return;
-    }
-    if (kiosk && kiosk->isSent) {
-        kiosk->atBroker = 0; // it is sent once more
+    if (kiosk && kiosk->sent != 0) {
+        kiosk->atBroker = 0; // what came may be older than what was sent: that is sent once more
         return;
     }
     const quint64 hash = Kiosk::hash(payload);
@@ -120,7 +116,7 @@ void Worker::takeSummary(const QString& name, const QByteArray& payload, bool /*
         if (!kiosk) {
             kiosk = &m_kiosks.set(name, told());
             kiosk->heardOf = m_silence.now();
-            kiosk->isHere = false;
+            kiosk->isStateRead = false;
         } else if (hash != Kiosk::hash(kiosk->summary.text)) {
             adoptSilence(name, told());
             kiosk = m_kiosks.find(name);
@@ -157,9 +153,8 @@ void Worker::takeState(const QString& name, const QByteArray& payload, bool isRe
     }
     Kiosk* kiosk = m_kiosks.find(name);
     if (kiosk)
-        kiosk->isHere = true;
-    else
-        m_left.remove(name);
+        kiosk->isStateRead = true;
+    m_left.remove(name);
     const quint64 message = Kiosk::hash(payload);
     const bool isKnown = kiosk && kiosk->message == message;
     if (kiosk && !isRetained)
