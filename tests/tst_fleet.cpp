@@ -122,6 +122,10 @@ private Q_SLOTS:
         QVERIFY(!watch.mayBeSilent(heardOf));
         pass(21);
         QVERIFY(watch.mayBeSilent(heardOf));
+        watch.sendProbe(1); // on a connection that is lost
+        watch.turn(now, false);
+        watch.acknowledge(1); // of another message
+        QVERIFY(!watch.isSilent(heardOf));
         watch.sendProbe(3);
         pass(4); // it is slow
         watch.acknowledge(3);

@@ -711,5 +711,6 @@ def check_status(world):
 
 # Those that take longest begin first.
 CHECKS = [check_silence, check_forgetting, check_rights, check_away, check_left, check_partitions, check_leaving,
-          check_sizes, check_older_store, check_broken_off, check_returning, check_overtaken, check_slow, check_scrapped,
-          check_status, check_poison, check_wills, check_late, check_topics, check_flood, check_clocks, check_options]
+          check_sizes, check_older_store, check_broken_off, check_returning, check_overtaken, check_slow,
+          check_scrapped, check_status, check_poison, check_wills, check_late, check_topics, check_flood, check_clocks,
+          check_options]

@@ -178,8 +178,8 @@ class Play:
         def still_heard():
             self.publish_all(awake)
             return [kiosk for kiosk in silenced if self.fleet.told(kiosk).get("condition") != "silent"]
-        wait_until(lambda: f"they are silent: {[(kiosk, self.fleet.told(kiosk)) for kiosk in still_heard()[:3]]}", lambda: not still_heard(),
-                   3 * self.fleet.silent + 60, self.fleet.silent / 6)
+        wait_until(lambda: f"they are silent: {[(kiosk, self.fleet.told(kiosk)) for kiosk in still_heard()[:3]]}",
+                   lambda: not still_heard(), 3 * self.fleet.silent + 60, self.fleet.silent / 6)
         self.fleet.check("after all deaths", silenced, self.fleet.silent)
         print(f"{len(self.kiosks)} summaries as they should be, {len(silenced)} silent", flush=True)
         self.present = {kiosk: "silent" if kiosk in silenced else self.conditions[self.newest[kiosk]]

@@ -23,6 +23,8 @@ void SilenceWatch::turn(Clock::time_point now, bool isListening)
     const Duration passed = now - m_last;
     if (isListening && passed <= longestTurn)
         m_now += passed;
+    if (!isListening)
+        m_probe = 0; // its number may be that of another message on the next connection
     m_last = now;
 }
 
