@@ -727,7 +727,7 @@ private Q_SLOTS:
         }
         const qint64 grown = (residentPages() - before) * 4096;
         qInfo() << "grown by" << grown << "bytes";
-        QVERIFY2(grown < 20'000'000LL * PATIENCE, qPrintable(QString::number(grown)));
+        QVERIFY2(grown < 10'000'000LL * PATIENCE, qPrintable(QString::number(grown)));
         QCOMPARE(kiosk.warnings(), QStringList());
     }
 
