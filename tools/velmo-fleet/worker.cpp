@@ -152,9 +152,7 @@ void Worker::followConnection()
 void Worker::startGathering()
 {
     m_mustVerify = false;
-    m_lastRetained = Clock::now();
-    m_endProbe = 0;
-    m_isEndProbed = false;
+    waitForRetained();
     m_retained.clear();
     m_kiosks.forEach([this](const QString&, Kiosk& kiosk) {
         kiosk.isStateRead = m_isListening;
@@ -164,6 +162,14 @@ void Worker::startGathering()
             kiosk.sent = 0;
     });
     m_isGathering = true;
+}
+
+// More may come: what was known of the end is so no longer.
+void Worker::waitForRetained()
+{
+    m_lastRetained = Clock::now();
+    m_endProbe = 0;
+    m_isEndProbed = false;
 }
 
 // When nothing has come for a while although the broker answers.

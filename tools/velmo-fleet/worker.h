@@ -64,6 +64,7 @@ private:
     void turnEverySecond();
     void followConnection();
     void startGathering();
+    void waitForRetained();
     bool hasGathered();
     void endGathering();
 

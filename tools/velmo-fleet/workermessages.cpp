@@ -32,11 +32,8 @@ bool isName(const QString& name)
 
 void Worker::take(const QString& topic, const QByteArray& payload, bool isRetained)
 {
-    if (isRetained) {
-        m_lastRetained = Clock::now();
-        m_endProbe = 0;
-        m_isEndProbed = false;
-    }
+    if (isRetained)
+        waitForRetained();
     struct Road
     {
         const KioskTopic& pattern;

@@ -92,16 +92,16 @@ function tellState() {
     document.title = (isPast ? "(?) " : data ? `(${number(toSee)}) ` : "") + texts.kiosks;
 }
 
-// Since when a kiosk is as it is, by the history where that knows it. In that a silence begins when it is noticed, by the
-// summary when the kiosk was heard of last.
+const timeOrder = (left, right) => (left ? Date.parse(left) : Infinity) - (right ? Date.parse(right) : Infinity) || 0;
+
+// Since when a kiosk is as it is, by the history where that knows it. In that a silence begins when it is noticed, by
+// the summary when the kiosk was heard of last.
 function sinceOf(kiosk) {
     const known = present.now && Object.hasOwn(present.now, kiosk.kiosk) ? present.now[kiosk.kiosk] : null;
     const isSame = known && known.condition === kiosk.condition;
-    const times = [isSame ? known.since : null, kiosk.since].filter(Boolean).sort();
-    return {time: times[0], times: isSame ? known.times : 0};
+    return {time: [isSame ? known.since : null, kiosk.since].sort(timeOrder)[0], times: isSame ? known.times : 0};
 }
 
-const timeOrder = (left, right) => (left ? Date.parse(left) : Infinity) - (right ? Date.parse(right) : Infinity) || 0;
 const byName = (left, right) => collator.compare(left.kiosk, right.kiosk) || (left.kiosk < right.kiosk ? -1 : 1);
 const orders = {
     condition: (left, right) => conditions.indexOf(left.condition) - conditions.indexOf(right.condition),
