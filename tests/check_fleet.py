@@ -11,24 +11,12 @@ check of tests/fleet/broken.py without "check_".
 """
 
 import argparse
-import concurrent.futures
 import random
 import sys
 import tempfile
-import time
 
+from checks import run_all
 from fleet.world import MOSQUITTO, World, end_all, mqtt
-
-
-def run(world, check):
-    begin = time.monotonic()
-    try:
-        check(world)
-        print(f"{check.__name__}: as it should be, {time.monotonic() - begin:.1f} s", flush=True)
-        return True
-    except Exception as failure:
-        print(f"{check.__name__}: {failure if str(failure) else repr(failure)}", file=sys.stderr, flush=True)
-        return False
 
 
 def main():
@@ -56,10 +44,9 @@ def main():
         try:
             world = World(folder, given.bin, given.quick, given.seed)
             if given.measure:
-                return 0 if run(world, measure) else 1
-            with concurrent.futures.ThreadPoolExecutor(5) as pool:  # they mostly wait
-                done = list(pool.map(lambda check: run(world, check), checks))
-            return 0 if all(done) else 1
+                checks = [measure]
+            # They mostly wait.
+            return 0 if run_all({check.__name__: check for check in checks}, world, at_once=5) else 1
         finally:
             end_all()
 

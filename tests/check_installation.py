@@ -10,7 +10,6 @@ that program anew with the packages of FOLDER, of a release, and keeps both in t
 """
 
 import argparse
-import concurrent.futures
 import contextlib
 import glob
 import os
@@ -18,8 +17,8 @@ import shlex
 import shutil
 import subprocess
 import sys
-import time
 
+from checks import run_all
 from packages.root import Root, field, names
 
 SOURCE = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
@@ -153,17 +152,6 @@ def make_baseline(debs):
             print("Keeping", shutil.copy(path, BASELINE))
 
 
-def run(name, check, debs):
-    begin = time.monotonic()
-    try:
-        check(debs)
-        print(f"{name}: as it should be, {time.monotonic() - begin:.1f} s", flush=True)
-        return True
-    except Exception as failure:  # of one, which says nothing of the others
-        print(f"{name}: {failure}", file=sys.stderr, flush=True)
-        return False
-
-
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("folder")
@@ -183,9 +171,7 @@ def main():
     if field(Debs(BASELINE).stanzas["libvelmolib5"], "Architecture") == field(debs.stanzas["libvelmolib5"], "Architecture"):
         checks["upgrade"] = check_upgrade
     checks["service"] = check_service
-    with concurrent.futures.ThreadPoolExecutor(4) as pool:  # they wait for the disk
-        passed = list(pool.map(lambda name: run(name, checks[name], debs), checks))
-    return 0 if all(passed) else 1
+    return 0 if run_all(checks, debs, at_once=4) else 1  # they wait for the disk
 
 
 sys.exit(main())

@@ -319,14 +319,28 @@ class Road:
             while data := receive(1 << 16):
                 send(data)
 
+    def options(self):
+        return ["--broker", f"127.0.0.1:{self.port}"]
+
+
+def mute_of_two(world, patience):
+    """A fleet of one kiosk, and the road of the second of its two workers, which is so patient."""
+    fleet, road = Fleet(world, silent=3), Road(world.broker)
+    fleet.workers([], [*road.options(), "--silent", str(patience)])
+    fleet.send("mute")
+    fleet.check("before")
+    return fleet, road
+
+
+def stays_silent(fleet):
+    for _ in range(40):
+        hold(fleet.told("mute").get("condition") == "silent", fleet.told("mute"))
+        time.sleep(0.1)
+
 
 def check_overtaken(world):
     """What one of two said of a kiosk comes after what the other has said since, and has told the first."""
-    fleet = Fleet(world, silent=3)
-    road = Road(world.broker)
-    fleet.workers([], ["--broker", f"127.0.0.1:{road.port}", "--silent", "9"])
-    fleet.send("mute")
-    fleet.check("before")
+    fleet, road = mute_of_two(world, 9)
     filters = f"{fleet.root}/+/summary".encode()
     known = road.sent.count(filters)
     fleet.settle(fleet.client.publish("velmo-fleet/none/status", b"", 1))  # a worker is gone: they read what it said
@@ -344,7 +358,7 @@ def check_overtaken(world):
 def check_late(world):
     """What a worker sent comes late, or never."""
     fleet, road = Fleet(world), Road(world.broker)
-    worker = Worker(fleet, "--broker", f"127.0.0.1:{road.port}")
+    worker = Worker(fleet, *road.options())
     state = fleet.state()
     fleet.send("k", state)
     fleet.send("leaves")
@@ -384,7 +398,7 @@ def check_leaving(world):
         fleet.send(kiosk, b"")
         wait_until("its summary is gone", lambda: kiosk not in fleet.summaries)
     road.held_after = f"{fleet.root}/+/summary\x05".encode()
-    other = Worker(fleet, "--broker", f"127.0.0.1:{road.port}", wait=False)
+    other = Worker(fleet, *road.options(), wait=False)
     wait_until("it begins to read", lambda: road.connections == 1 and not road.is_free.is_set())
     time.sleep(0.3)
     leave("k1")
@@ -412,10 +426,7 @@ def check_leaving(world):
 
 def check_returning(world):
     """Who left the fleet, came back while one of two workers was away and fell silent stays so."""
-    fleet, road = Fleet(world, silent=3), Road(world.broker)
-    fleet.workers([], ["--broker", f"127.0.0.1:{road.port}", "--silent", "60"])
-    fleet.send("mute")
-    fleet.check("before")
+    fleet, road = mute_of_two(world, 60)
     fleet.send("mute", b"")
     fleet.check("it has left")
     road.held_after = b"MQTT"
@@ -423,17 +434,12 @@ def check_returning(world):
     fleet.send("mute")
     fleet.wait_for("mute", "silent")
     road.is_free.set()
-    for _ in range(40):
-        hold(fleet.told("mute").get("condition") == "silent", fleet.told("mute"))
-        time.sleep(0.1)
+    stays_silent(fleet)
 
 
 def check_broken_off(world):
     """Who fell silent while one of two was away stays so where the connection breaks while that one reads."""
-    fleet, road = Fleet(world, silent=3), Road(world.broker)
-    fleet.workers([], ["--broker", f"127.0.0.1:{road.port}", "--silent", "60"])
-    fleet.send("mute")
-    fleet.check("before")
+    fleet, road = mute_of_two(world, 60)
     road.held_after = b"MQTT"
     road.break_off()
     fleet.send("mute")
@@ -443,15 +449,13 @@ def check_broken_off(world):
     wait_until("it would read", lambda: road.held_after is None and not road.is_free.is_set())
     time.sleep(0.5)
     road.break_off()
-    for _ in range(40):
-        hold(fleet.told("mute")["condition"] == "silent", fleet.told("mute"))
-        time.sleep(0.1)
+    stays_silent(fleet)
 
 
 def check_slow(world):
     """What the broker has comes with a pause: it has not ended before."""
     fleet, road = Fleet(world), Road(world.broker)
-    worker = Worker(fleet, "--broker", f"127.0.0.1:{road.port}")
+    worker = Worker(fleet, *road.options())
     kiosks = [f"k{number}" for number in range(1500)]  # more than are under way at once
     fleet.publish_all(kiosks)
     fleet.check("before")
